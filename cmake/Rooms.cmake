@@ -1,0 +1,94 @@
+# A room is one folder of sources and one target. Its LINKS are the whole list of what it may
+# include: a room that does not link Qt Widgets cannot include <QWidget> by accident.
+#
+#   plinkett_room(oid LINKS base ttbasic Qt5::Gui)
+#
+# All *.cpp of the folder belong to the room (sub-folders are rooms of their own). Of the platform
+# files only those of the target system are built.
+function(plinkett_room name)
+  cmake_parse_arguments(ROOM "" "" "LINKS;EXTRA_SOURCES" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp
+       ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  plinkett_drop_other_platform(sources)
+  add_library(${name} STATIC ${sources} ${ROOM_EXTRA_SOURCES})
+  target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  target_link_libraries(${name} PUBLIC ${ROOM_LINKS} PRIVATE plinkett_warnings)
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+endfunction()
+
+# A program: plinkett_program(plinkett-cli LINKS build oid). Its sources are the folder's *.cpp.
+function(plinkett_program name)
+  cmake_parse_arguments(PROGRAM "" "" "LINKS;SOURCES" ${ARGN})
+  if(NOT PROGRAM_SOURCES)
+    file(GLOB PROGRAM_SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  endif()
+  add_executable(${name} ${PROGRAM_SOURCES})
+  target_link_libraries(${name} PRIVATE ${PROGRAM_LINKS} plinkett_warnings)
+endfunction()
+
+# All *.cpp of a test folder as one GoogleTest program; every test is a ctest test of its own.
+#   plinkett_tests(oid_tests LINKS oid)
+function(plinkett_tests name)
+  cmake_parse_arguments(TESTS "" "TIMEOUT" "LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  plinkett_drop_other_platform(sources)
+  add_executable(${name} ${sources})
+  target_link_libraries(${name} PRIVATE ${TESTS_LINKS} test_helpers GTest::gmock GTest::gtest_main
+                                        plinkett_warnings)
+  plinkett_test_folder(${name})
+  if(NOT TESTS_TIMEOUT)
+    set(TESTS_TIMEOUT 300)
+  endif()
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
+                       PROPERTIES TIMEOUT ${TESTS_TIMEOUT} ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()
+
+# One Qt Test class with its own main (QTEST_MAIN): plinkett_widget_test(NumEditTest LINKS qtsync)
+# builds NumEditTest.cpp and runs it on the offscreen platform.
+function(plinkett_widget_test name)
+  cmake_parse_arguments(TEST "" "TIMEOUT" "LINKS" ${ARGN})
+  add_executable(${name} ${name}.cpp)
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  target_link_libraries(${name} PRIVATE ${TEST_LINKS} test_helpers Qt5::Test plinkett_warnings)
+  plinkett_test_folder(${name})
+  if(NOT TEST_TIMEOUT)
+    set(TEST_TIMEOUT 300)
+  endif()
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${TEST_TIMEOUT}
+                       ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()
+
+# Test programs live beside, not among, the programs that authors use; they know where the source
+# tree is (cases, golden files) and where the programs under test are.
+function(plinkett_test_folder name)
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
+  target_compile_definitions(${name} PRIVATE
+    PLINKETT_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
+    PLINKETT_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+endfunction()
+
+# A measuring program, built only by name or by the target "bench"; never part of a test run.
+function(plinkett_bench name)
+  cmake_parse_arguments(BENCH "" "" "LINKS;SOURCES" ${ARGN})
+  if(NOT BENCH_SOURCES)
+    set(BENCH_SOURCES ${name}.cpp)
+  endif()
+  add_executable(${name} EXCLUDE_FROM_ALL ${BENCH_SOURCES})
+  target_link_libraries(${name} PRIVATE ${BENCH_LINKS} plinkett_warnings)
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
+  target_compile_definitions(${name} PRIVATE PLINKETT_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+  set_target_properties(${name} PROPERTIES AUTOMOC ON
+                        RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bench)
+  add_dependencies(bench ${name})
+endfunction()
+
+function(plinkett_drop_other_platform sources)
+  if(WIN32)
+    list(FILTER ${sources} EXCLUDE REGEX "Posix\\.cpp$")
+  else()
+    list(FILTER ${sources} EXCLUDE REGEX "Windows\\.cpp$")
+  endif()
+  set(${sources} ${${sources}} PARENT_SCOPE)
+endfunction()

@@ -1,0 +1,6 @@
+# PLINKETT_SANITIZE names the sanitizers; everything we build and link gets them.
+if(PLINKETT_SANITIZE)
+  add_compile_options(-fsanitize=${PLINKETT_SANITIZE} -fno-omit-frame-pointer
+                      -fno-sanitize-recover=undefined)
+  add_link_options(-fsanitize=${PLINKETT_SANITIZE})
+endif()
