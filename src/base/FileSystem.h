@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-// Files by UTF-8 path. Paths are kept with the backslash as separator on every system; each function
-// here hands them to the system in its native form.
+// Files by UTF-8 path. Paths are kept with the backslash as separator on every system; each
+// function here hands them to the system in its native form.
 namespace FileSystem {
 
 // Always the backslash, on every system.

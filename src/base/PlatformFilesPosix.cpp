@@ -1,0 +1,188 @@
+#include "base/PlatformFiles.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <fcntl.h>
+#include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Platform {
+
+namespace {
+
+// The file that a path names in the end, so that replacing it leaves symbolic links alone. A link
+// to a file that is not there yet is followed as well.
+std::string resolveLinks(std::string path)
+{
+    constexpr int kMostLinks = 40;  // as many as Linux follows
+    for (int i = 0; i < kMostLinks; ++i) {
+        char link[PATH_MAX];
+        const ssize_t length = readlink(path.c_str(), link, sizeof link);
+        if (length < 0) {
+            break;
+        }
+        std::string next(link, static_cast<size_t>(length));
+        const size_t slash = path.rfind('/');
+        if (next[0] != '/' && slash != std::string::npos) {
+            next.insert(0, path, 0, slash + 1);
+        }
+        path = std::move(next);
+    }
+    return path;
+}
+
+// The permissions that a file made by fopen would get.
+mode_t newFileMode()
+{
+    const mode_t mask = umask(0);
+    umask(mask);
+    return 0666 & ~mask;
+}
+
+void flushFolder(const std::string& file)
+{
+    const size_t slash = file.rfind('/');
+    const std::string folder = slash == std::string::npos ? "." : file.substr(0, slash + 1);
+    const int handle = open(folder.c_str(), O_RDONLY | O_DIRECTORY);
+    if (handle >= 0) {
+        fsync(handle);  // best effort: not every file system can flush a folder
+        close(handle);
+    }
+}
+
+struct CloseFile
+{
+    void operator()(FILE* file) const { fclose(file); }
+};
+
+bool copyStream(FILE* from, FILE* to)
+{
+    constexpr size_t kBlock = 1 << 16;
+    const std::unique_ptr<char[]> block(new char[kBlock]);
+    size_t count;
+    while ((count = fread(block.get(), 1, kBlock, from)) > 0) {
+        if (fwrite(block.get(), 1, count, to) != count) {
+            return false;
+        }
+    }
+    return ferror(from) == 0;
+}
+
+}  // namespace
+
+std::string nativePath(const std::string& path)
+{
+    std::string native = path;
+    std::replace(native.begin(), native.end(), '\\', '/');
+    return native;
+}
+
+FILE* openFile(const std::string& path, const std::string& mode)
+{
+    FILE* file = fopen(nativePath(path).c_str(), (mode + "e").c_str());  // not for child processes
+    struct stat status = {};
+    if (file != nullptr && fstat(fileno(file), &status) == 0 && S_ISDIR(status.st_mode)) {
+        fclose(file);  // a folder opens for reading here, but there is nothing to read
+        errno = EISDIR;
+        return nullptr;
+    }
+    return file;
+}
+
+bool fileExists(const std::string& path)
+{
+    struct stat status = {};
+    return stat(nativePath(path).c_str(), &status) == 0;
+}
+
+bool removeFile(const std::string& path)
+{
+    return unlink(nativePath(path).c_str()) == 0;
+}
+
+bool createDirectory(const std::string& path)
+{
+    const std::string native = nativePath(path);
+    struct stat status = {};
+    return mkdir(native.c_str(), 0777) == 0 ||
+           (stat(native.c_str(), &status) == 0 && S_ISDIR(status.st_mode));
+}
+
+bool copyFile(const std::string& source, const std::string& destination)
+{
+    const std::unique_ptr<FILE, CloseFile> from(openFile(source, "rb"));
+    if (from == nullptr) {
+        return false;
+    }
+    FileReplacement to(destination);
+    return to.file() != nullptr && copyStream(from.get(), to.file()) && to.commit();
+}
+
+int changeDirectory(const std::string& path)
+{
+    return chdir(nativePath(path).c_str());
+}
+
+std::string currentDirectory()
+{
+    char buffer[2048];
+    return getcwd(buffer, sizeof buffer) != nullptr ? buffer : std::string();
+}
+
+FileReplacement::FileReplacement(const std::string& path) : target(resolveLinks(nativePath(path)))
+{
+    struct stat status = {};
+    const bool exists = stat(target.c_str(), &status) == 0;
+    if (target.empty() ||
+        (exists && (S_ISDIR(status.st_mode) || access(target.c_str(), W_OK) != 0))) {
+        return;  // what cannot be written is not replaced either
+    }
+    if (exists && !S_ISREG(status.st_mode)) {
+        stream = fopen(target.c_str(), "wbe");  // a device or pipe is written to, never replaced
+        return;
+    }
+    temporary = target + ".XXXXXX";
+    const int handle = mkostemp(temporary.data(), O_CLOEXEC);
+    if (handle < 0) {
+        temporary.clear();
+        return;
+    }
+    fchmod(handle, exists ? status.st_mode & 07777 : newFileMode());
+    stream = fdopen(handle, "wb");
+}
+
+FileReplacement::~FileReplacement()
+{
+    if (stream != nullptr) {
+        fclose(stream);
+    }
+    if (!temporary.empty()) {
+        unlink(temporary.c_str());
+    }
+}
+
+bool FileReplacement::commit()
+{
+    if (stream == nullptr) {
+        return false;
+    }
+    const bool isReplacement = !temporary.empty();
+    bool complete = ferror(stream) == 0 && fflush(stream) == 0;
+    complete = complete && (!isReplacement || fsync(fileno(stream)) == 0);
+    complete = fclose(stream) == 0 && complete;
+    stream = nullptr;
+    if (!isReplacement || !complete) {
+        return complete;
+    }
+    if (rename(temporary.c_str(), target.c_str()) != 0) {
+        return false;
+    }
+    temporary.clear();
+    flushFolder(target);
+    return true;
+}
+
+}  // namespace Platform

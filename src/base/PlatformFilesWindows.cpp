@@ -1,0 +1,129 @@
+#include "base/PlatformFiles.h"
+
+#include "base/TextHelpers.h"
+
+#include <direct.h>
+#include <io.h>
+#include <windows.h>
+
+namespace Platform {
+
+std::string nativePath(const std::string& path)
+{
+    return path;
+}
+
+FILE* openFile(const std::string& path, const std::string& mode)
+{
+    return _wfopen(fromUtf8(path).c_str(), fromUtf8(mode + "N").c_str());  // not for children
+}
+
+bool fileExists(const std::string& path)
+{
+    return GetFileAttributesW(fromUtf8(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+bool removeFile(const std::string& path)
+{
+    return DeleteFileW(fromUtf8(path).c_str()) != 0;
+}
+
+bool createDirectory(const std::string& path)
+{
+    const std::wstring wide = fromUtf8(path);
+    if (CreateDirectoryW(wide.c_str(), nullptr) != 0) {
+        return true;
+    }
+    const DWORD attributes = GetFileAttributesW(wide.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+bool copyFile(const std::string& source, const std::string& destination)
+{
+    // Copied beside the destination first: a drive that fills up leaves no half file under the
+    // name.
+    const std::wstring target = fromUtf8(destination);
+    const std::wstring partial = target + L".part";
+    constexpr DWORD kReplaceForCertain = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    if (CopyFileW(fromUtf8(source).c_str(), partial.c_str(), FALSE) != 0 &&
+        MoveFileExW(partial.c_str(), target.c_str(), kReplaceForCertain) != 0) {
+        return true;
+    }
+    DeleteFileW(partial.c_str());
+    return false;
+}
+
+int changeDirectory(const std::string& path)
+{
+    return _chdir(path.c_str());
+}
+
+std::string currentDirectory()
+{
+    char buffer[2048];
+    return _getcwd(buffer, sizeof buffer) != nullptr ? buffer : std::string();
+}
+
+// The file that a path names in the end, with symbolic links followed; the path itself when it
+// names nothing yet.
+static std::wstring resolveLinks(const std::wstring& path)
+{
+    const HANDLE file = CreateFileW(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return path;
+    }
+    wchar_t resolved[32768];
+    const DWORD length = GetFinalPathNameByHandleW(file, resolved, 32768, FILE_NAME_NORMALIZED);
+    CloseHandle(file);
+    return length > 0 && length < 32768 ? std::wstring(resolved, length) : path;
+}
+
+FileReplacement::FileReplacement(const std::string& path)
+    : target(toUtf8(resolveLinks(fromUtf8(path)).c_str()))
+{
+    const DWORD attributes = GetFileAttributesW(fromUtf8(target).c_str());
+    constexpr DWORD kNotWritable = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY;
+    if (target.empty() ||
+        (attributes != INVALID_FILE_ATTRIBUTES && (attributes & kNotWritable) != 0)) {
+        return;
+    }
+    temporary = target + "." + std::to_string(GetCurrentProcessId()) + ".tmp";
+    stream = openFile(temporary, "wb");
+    if (stream == nullptr) {
+        temporary.clear();
+    }
+}
+
+FileReplacement::~FileReplacement()
+{
+    if (stream != nullptr) {
+        fclose(stream);
+    }
+    if (!temporary.empty()) {
+        removeFile(temporary);
+    }
+}
+
+bool FileReplacement::commit()
+{
+    if (stream == nullptr) {
+        return false;
+    }
+    bool complete = ferror(stream) == 0 && fflush(stream) == 0 && _commit(_fileno(stream)) == 0;
+    complete = fclose(stream) == 0 && complete;
+    stream = nullptr;
+    const std::wstring from = fromUtf8(temporary);
+    const std::wstring to = fromUtf8(target);
+    // ReplaceFileW keeps the permissions of the file that it replaces; it wants one to be there.
+    complete =
+        complete &&
+        (fileExists(target) ? ReplaceFileW(to.c_str(), from.c_str(), nullptr, 0, nullptr, nullptr)
+                            : MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH)) != 0;
+    if (complete) {
+        temporary.clear();
+    }
+    return complete;
+}
+
+}  // namespace Platform

@@ -1,0 +1,119 @@
+#include "base/TextHelpers.h"
+
+#include <algorithm>
+#include <cctype>
+
+bool isSpace(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+bool isReadableAscii(char c)
+{
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
+}
+
+bool isNumber(const std::string& text)
+{
+    return !text.empty() && text[0] >= '0' && text[0] <= '9';
+}
+
+const char* skipWhite(const char* text)
+{
+    while (isSpace(*text)) {
+        ++text;
+    }
+    return text;
+}
+
+const char* skipChars(const char* text)
+{
+    while (*text != '\0' && !isSpace(*text)) {
+        ++text;
+    }
+    return text;
+}
+
+std::string peekString(const char* text)
+{
+    return parseString(text);
+}
+
+std::string parseString(const char*& text)
+{
+    const char* const begin = skipWhite(text);
+    text = skipChars(begin);
+    return {begin, text};
+}
+
+int parseInt(const char*& text)
+{
+    return toInt(parseString(text).c_str());
+}
+
+double parseFlt(const char*& text)
+{
+    return toDouble(parseString(text).c_str());
+}
+
+// The C library lowers by locale; in the "C" locale, which every text of ours means, only A to Z.
+std::string toLower(std::string text)
+{
+    for (char& c : text) {
+        if (c >= 'A' && c <= 'Z') {
+            c = static_cast<char>(c - 'A' + 'a');
+        }
+    }
+    return text;
+}
+
+std::string replaceNonAscii(std::string text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return !isReadableAscii(c); }, '_');
+    return text;
+}
+
+bool strReplace(std::string& text, const std::string& search, const std::string& replacement)
+{
+    if (search.empty()) {
+        return false;
+    }
+    std::string result;
+    size_t done = 0;
+    for (size_t found = text.find(search); found != std::string::npos;
+         found = text.find(search, done)) {
+        result.append(text, done, found - done);
+        result += replacement;
+        done = found + search.size();
+    }
+    if (done == 0) {
+        return false;
+    }
+    result.append(text, done, std::string::npos);
+    text = std::move(result);
+    return true;
+}
+
+int SplitStringKeepQuotes(const std::string& text, std::vector<std::string>& out, bool removeQuotes)
+{
+    if (text.empty()) {
+        return 0;
+    }
+    out.clear();
+    for (size_t i = 0; i < text.size();) {
+        if (isSpace(text[i])) {
+            ++i;
+            continue;
+        }
+        const size_t begin = i;
+        bool inQuotes = false;
+        for (; i < text.size() && (inQuotes || !isSpace(text[i])); ++i) {
+            inQuotes ^= text[i] == '"';
+        }
+        const bool quoted = i - begin > 2 && text[begin] == '"' && text[i - 1] == '"';
+        const size_t cut = removeQuotes && quoted ? 1 : 0;
+        out.push_back(text.substr(begin + cut, i - begin - 2 * cut));
+    }
+    return static_cast<int>(out.size());
+}

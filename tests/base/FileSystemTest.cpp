@@ -1,0 +1,215 @@
+#include "base/FileSystem.h"
+
+#include "base/PlatformFiles.h"
+#include "tests/helpers/TemporaryFolder.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace fs = std::filesystem;
+
+TEST(Paths, TheSeparatorIsTheBackslashEverywhere)
+{
+    EXPECT_EQ(FileSystem::directorySeparator, '\\');
+}
+
+TEST(Paths, TheLastBackslashWinsOverALaterSlash)
+{
+    EXPECT_EQ(FileSystem::getDirectoryOfPath("a/b\\c/d"), "a/b");
+    EXPECT_EQ(FileSystem::getFilenameOfPath("a/b\\c/d"), "c/d");
+}
+
+TEST(Paths, ASlashSeparatesWhereThereIsNoBackslash)
+{
+    EXPECT_EQ(FileSystem::getDirectoryOfPath("/home/a/book.oidpro"), "/home/a");
+    EXPECT_EQ(FileSystem::getFilenameOfPath("/home/a/book.oidpro"), "book.oidpro");
+    EXPECT_EQ(FileSystem::getDirectoryOfPath("/book"), "");
+}
+
+TEST(Paths, APlainNameLiesInThePoint)
+{
+    EXPECT_EQ(FileSystem::getDirectoryOfPath("book.oidpro"), ".");
+    EXPECT_EQ(FileSystem::getDirectoryOfPath(""), ".");
+    EXPECT_EQ(FileSystem::getFilenameOfPath("book.oidpro"), "book.oidpro");
+}
+
+TEST(Paths, TheExtensionIsCutAtTheLastDotOfTheWholePath)
+{
+    EXPECT_EQ(FileSystem::trimFileExtension("C:\\my.dir\\file"), "C:\\my");
+    EXPECT_EQ(FileSystem::trimFileExtension("book.tar.gz"), "book.tar");
+    EXPECT_EQ(FileSystem::trimFileExtension("book"), "book");
+}
+
+TEST(Files, AreOpenedByBackslashAndByNonAsciiNames)
+{
+    const TemporaryFolder folder;
+    FILE* file = FileSystem::myfopen(folder.path() + "\\Müh.txt", "wb");
+    ASSERT_NE(file, nullptr);
+    fputs("moo", file);
+    fclose(file);
+    EXPECT_EQ(readFile(folder.file("Müh.txt")), "moo");
+    EXPECT_EQ(FileSystem::myfopen(folder.file("none.txt"), "rb"), nullptr);
+}
+
+TEST(Files, AFolderDoesNotOpenAsAFile)
+{
+    const TemporaryFolder folder;
+    EXPECT_EQ(FileSystem::myfopen(folder.path(), "rb"), nullptr);
+}
+
+TEST(Files, ExistAsFilesAndAsFolders)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("a"), "");
+    EXPECT_TRUE(FileSystem::doesFileExist(folder.path()));
+    EXPECT_TRUE(FileSystem::doesFileExist(folder.path() + "\\a"));
+    EXPECT_FALSE(FileSystem::doesFileExist(folder.file("b")));
+    EXPECT_FALSE(FileSystem::doesFileExist(""));
+}
+
+TEST(Files, AreCopiedOverWhatIsThere)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("a"), std::string(200000, 'x'));
+    writeFile(folder.file("b"), "old");
+    EXPECT_TRUE(FileSystem::copyFileContent(folder.path() + "\\a", folder.path() + "\\b"));
+    EXPECT_EQ(readFile(folder.file("b")), std::string(200000, 'x'));
+    EXPECT_EQ(folder.listing(), "a b");
+}
+
+TEST(Files, AFailedCopyLeavesTheDestinationAsItWas)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("b"), "old");
+    EXPECT_FALSE(FileSystem::copyFileContent(folder.file("none"), folder.file("b")));
+    EXPECT_EQ(readFile(folder.file("b")), "old");
+    EXPECT_FALSE(FileSystem::copyFileContent(folder.file("b"), folder.file("none/c")));
+    EXPECT_EQ(folder.listing(), "b");
+}
+
+TEST(Files, AreDeletedOnce)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("a"), "");
+    EXPECT_TRUE(FileSystem::deleteFile(folder.path() + "\\a"));
+    EXPECT_FALSE(FileSystem::deleteFile(folder.file("a")));
+}
+
+TEST(Folders, AreCreatedUnlessAFileIsInTheWay)
+{
+    const TemporaryFolder folder;
+    EXPECT_TRUE(FileSystem::createDirectory(folder.path() + "\\audio"));
+    EXPECT_TRUE(FileSystem::createDirectory(folder.file("audio")));
+    writeFile(folder.file("file"), "");
+    EXPECT_FALSE(FileSystem::createDirectory(folder.file("file")));
+    EXPECT_FALSE(FileSystem::createDirectory(folder.file("none/audio")));
+}
+
+TEST(Folders, TheCurrentOneIsChangedAndTold)
+{
+    const TemporaryFolder folder;
+    const std::string before = FileSystem::getCurrentDirectory();
+    EXPECT_NE(FileSystem::setCurrentDirectory(folder.file("none")), 0);
+    EXPECT_EQ(FileSystem::getCurrentDirectory(), before);
+    ASSERT_TRUE(FileSystem::createDirectory(folder.file("a b")));
+    EXPECT_EQ(FileSystem::setCurrentDirectory(folder.path() + "\\a b"), 0);
+    EXPECT_EQ(FileSystem::getCurrentDirectory(), fs::canonical(folder.file("a b")).string());
+    EXPECT_EQ(FileSystem::setCurrentDirectory(before), 0);
+}
+
+TEST(Folders, TheProgramKnowsItsOwn)
+{
+    EXPECT_TRUE(FileSystem::doesFileExist(FileSystem::exeDirectory() + "/base_tests"));
+}
+
+TEST(RunningACommand, GivesItsExitCode)
+{
+    EXPECT_EQ(FileSystem::execCommand("sh -c \"exit 7\"", true, true), 7);
+    EXPECT_EQ(FileSystem::execCommand("true", false, false), 0);
+}
+
+TEST(RunningACommand, GivesTwoWhenItCannotStart)
+{
+    EXPECT_EQ(FileSystem::execCommand("no-such-program-here x", true, true), 2);
+    EXPECT_EQ(FileSystem::execCommand("", true, true), 2);
+}
+
+TEST(RunningACommand, ShowsOnlyWhatIsAskedFor)
+{
+    const auto shown = [](bool output, bool errors) {
+        testing::internal::CaptureStdout();
+        testing::internal::CaptureStderr();
+        FileSystem::execCommand("sh -c \"echo out; echo err >&2\"", output, errors);
+        return testing::internal::GetCapturedStdout() + testing::internal::GetCapturedStderr();
+    };
+    EXPECT_EQ(shown(true, true), "out\nerr\n");
+    EXPECT_EQ(shown(true, false), "out\n");
+    EXPECT_EQ(shown(false, true), "err\n");
+    EXPECT_EQ(shown(false, false), "");
+}
+
+TEST(ReplacingAFile, HappensAtTheCommitAndNotBefore)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("book"), "old");
+    Platform::FileReplacement replacement(folder.path() + "\\book");
+    ASSERT_NE(replacement.file(), nullptr);
+    fputs("new", replacement.file());
+    EXPECT_EQ(readFile(folder.file("book")), "old");
+    EXPECT_TRUE(replacement.commit());
+    EXPECT_EQ(readFile(folder.file("book")), "new");
+    EXPECT_EQ(folder.listing(), "book");
+}
+
+TEST(ReplacingAFile, WithoutACommitLeavesTheOldOne)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("book"), "old");
+    {
+        Platform::FileReplacement replacement(folder.file("book"));
+        fputs("new", replacement.file());
+    }
+    EXPECT_EQ(readFile(folder.file("book")), "old");
+    EXPECT_EQ(folder.listing(), "book");
+}
+
+TEST(ReplacingAFile, KeepsASymbolicLinkAndThePermissions)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("book"), "old");
+    fs::permissions(folder.file("book"), fs::perms(0640));
+    fs::create_symlink("book", folder.file("link"));
+    Platform::FileReplacement replacement(folder.file("link"));
+    fputs("new", replacement.file());
+    EXPECT_TRUE(replacement.commit());
+    EXPECT_TRUE(fs::is_symlink(folder.file("link")));
+    EXPECT_EQ(readFile(folder.file("book")), "new");
+    EXPECT_EQ(fs::status(folder.file("book")).permissions(), fs::perms(0640));
+}
+
+TEST(ReplacingAFile, GoesThroughALinkToAFileThatIsNotThereYet)
+{
+    const TemporaryFolder folder;
+    fs::create_symlink("book", folder.file("link"));
+    Platform::FileReplacement replacement(folder.file("link"));
+    EXPECT_TRUE(replacement.commit());
+    EXPECT_EQ(folder.listing(), "book link");
+    EXPECT_TRUE(fs::is_symlink(folder.file("link")));
+}
+
+TEST(ReplacingAFile, CannotReplaceAFolderOrReachIntoAMissingOne)
+{
+    const TemporaryFolder folder;
+    EXPECT_EQ(Platform::FileReplacement(folder.path()).file(), nullptr);
+    EXPECT_EQ(Platform::FileReplacement(folder.file("none/book")).file(), nullptr);
+    EXPECT_EQ(Platform::FileReplacement("").file(), nullptr);
+    EXPECT_EQ(folder.listing(), "");
+}
+
+TEST(ReplacingAFile, OnAFullDiskFailsAtTheCommit)
+{
+    Platform::FileReplacement full("/dev/full");
+    ASSERT_NE(full.file(), nullptr);
+    fputs("new", full.file());
+    EXPECT_FALSE(full.commit());
+}
