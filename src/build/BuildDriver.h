@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+
+#include "build/SoundFiles.h"
+
+class ProcessRunner;
+namespace Oid {
+class OidProject;
+}
+
+// Our own assembler, for machines without tttool: plinkett-cli beside the running program.
+std::string builtInAssembler();
+
+struct BuildOptions
+{
+    SpeechProgress speechProgress;
+    std::string assembler = builtInAssembler();  // path of a program that knows "assemble FILE"
+};
+
+// One build, from the project in memory to its game file: numbers for new areas, the compiled
+// script, the YAML file, the audio files, and the start of the assembler, which is not waited for.
+// The runner shows all messages and runs the outside programs; on a return after the compilation
+// mi_printf is back at standard output.
+// True when no step failed; whether the assembler succeeds, the runner knows when it has ended.
+bool buildGame(Oid::OidProject& project, bool debugMode, ProcessRunner& runner,
+               const BuildOptions& options = {});

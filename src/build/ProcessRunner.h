@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "base/PrintFunction.h"
+
+// The door through which the build starts outside programs and shows what happens. The console
+// widget is one, the command line has another (TerminalRunner).
+class ProcessRunner
+{
+public:
+    virtual ~ProcessRunner() = default;
+
+    // Starts one program, given as UTF-8 words as OutsideProgram reads them, and shows its output
+    // as it arrives. False when a program is still running or when this one cannot be started (then
+    // that is shown). With wait it returns when the program has ended.
+    virtual bool run(const std::string& commandLine, bool wait) = 0;
+    // Of the last program that has ended; -1 when it crashed or did not start.
+    virtual int exitCode() const = 0;
+
+    // Shows a text; a line appears when it is complete.
+    virtual void echo(const char* text) = 0;
+    // A print function whose texts are shown here.
+    virtual PrintFunction printFunction() = 0;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+class ProcessRunner;
+namespace Oid {
+class OidProject;
+}
+
+// Speech: an audio file beside the game for every text that the script says.
+
+// Told before each new text, and once at the end, how many of the new texts are done; texts whose
+// audio file exists already do not count. False cancels.
+using SpeechProgress = std::function<bool(int done, int total)>;
+
+enum class SpeechOutcome {
+    complete,    // every text has its audio file
+    incomplete,  // at least one has none; each was named in the console
+    cancelled
+};
+
+// The folder of the audio files, in our form of a path: "900-audio" beside the project file.
+std::string audioFolder(const Oid::OidProject& project);
+
+// Makes the missing audio files of a compiled project: a WAV file by Text2Speech.exe, from it an
+// OGG file by ffmpeg.exe, waiting for each. Puts the folders of the two tools that are shipped
+// with the program in front of PATH, once.
+// Throws std::out_of_range when a text names a voice that is not declared.
+SpeechOutcome createSoundFiles(const Oid::OidProject& project, ProcessRunner& runner,
+                               const SpeechProgress& progress = {});
