@@ -132,18 +132,18 @@ std::string currentDirectory()
     return getcwd(buffer, sizeof buffer) != nullptr ? buffer : std::string();
 }
 
-FileReplacement::FileReplacement(const std::string& path) : target(resolveLinks(nativePath(path)))
+FileReplacement::FileReplacement(const std::string& path) : target(nativePath(path))
 {
     struct stat status = {};
     const bool exists = stat(target.c_str(), &status) == 0;
-    if (target.empty() ||
-        (exists && (S_ISDIR(status.st_mode) || access(target.c_str(), W_OK) != 0))) {
+    if (target.empty() || (exists && access(target.c_str(), W_OK) != 0)) {
         return;  // what cannot be written is not replaced either
     }
     if (exists && !S_ISREG(status.st_mode)) {
-        stream = fopen(target.c_str(), "wbe");  // a device or pipe is written to, never replaced
+        stream = openFile(target, "wb");  // a device or pipe is written to, never replaced
         return;
     }
+    target = resolveLinks(target);
     temporary = target + ".XXXXXX";
     const int handle = mkostemp(temporary.data(), O_CLOEXEC);
     if (handle < 0) {

@@ -206,6 +206,21 @@ TEST(ReplacingAFile, CannotReplaceAFolderOrReachIntoAMissingOne)
     EXPECT_EQ(folder.listing(), "");
 }
 
+TEST(ReplacingAFile, WritesToAPipeAsItStands)
+{
+    testing::internal::CaptureStdout();
+    {
+        FILE* const pipe = popen("cat", "w");
+        ASSERT_NE(pipe, nullptr);
+        Platform::FileReplacement replacement("/proc/self/fd/" + std::to_string(fileno(pipe)));
+        ASSERT_NE(replacement.file(), nullptr);
+        fputs("new", replacement.file());
+        EXPECT_TRUE(replacement.commit());
+        pclose(pipe);
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "new");
+}
+
 TEST(ReplacingAFile, OnAFullDiskFailsAtTheCommit)
 {
     Platform::FileReplacement full("/dev/full");
