@@ -1,0 +1,25 @@
+#pragma once
+
+#include "base/PrintFunction.h"
+
+#include <string>
+
+// The built-in assembler: turns the YAML description of a game into the pen's game file.
+namespace gme {
+
+struct AssembleOptions
+{
+    std::string yamlFile;  // UTF-8 path; audio is looked up from its folder
+    std::string gameFile;  // UTF-8 path; empty: beside the YAML file, its extension made ".gme"
+    bool withDate = true;  // today's date (UTC) in the header, else the fixed text 19700101
+};
+
+// Writes the game file and brings the codes file beside the YAML file up to date: both, or on an
+// error neither. Every error and warning is one line through print ("Error: 950-Zoo.yaml line 7:
+// ..."). True when the game file was written, also with warnings.
+bool assemble(const AssembleOptions& options, PrintFunction print);
+
+// The path that an empty gameFile stands for: "900-v1.2.yaml" gives "900-v1.2.gme".
+std::string gameFileFor(const std::string& yamlFile);
+
+}  // namespace gme
