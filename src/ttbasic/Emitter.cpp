@@ -1,0 +1,54 @@
+#include "base/TextHelpers.h"
+#include "ttbasic/Numbers.h"
+#include "ttbasic/ttbasic.h"
+
+void ttbasic::updateIfPrefix()
+{
+    ifPrefix = kCommandStart;
+    for (const std::string& condition : conditions) {
+        ifPrefix += condition;
+        ifPrefix += " ? ";
+    }
+}
+
+// Each command is a step of its own and jumps to the next one.
+void ttbasic::asmCmd(const std::string& command)
+{
+    const std::string label = nextLabel();
+    emit(ifPrefix + "J(" + label + ")    " + asmDbg() + command);
+    emitFallThrough("J(" + label + ")  ");
+    asmLabel(label);
+}
+
+std::string ttbasic::asmDbg()
+{
+    return {};
+}
+
+// Opens the next step or, with the name of a sub, its script.
+void ttbasic::asmLabel(const std::string& name)
+{
+    emit("    " + name + ":");
+}
+
+// One line of code.
+void ttbasic::emit(const std::string& line)
+{
+    code += line;
+    code += "\r\n";
+}
+
+std::string ttbasic::nextLabel()
+{
+    increase(labelCounter);
+    return "asm" + itostr(labelCounter);
+}
+
+// When the conditions of the line before do not hold, the pen still has to go on with the next
+// step.
+void ttbasic::emitFallThrough(const std::string& jump)
+{
+    if (ifPrefix.find('?') != std::string::npos) {
+        emit(kCommandStart + jump + "$rnd += " + randomSummand());
+    }
+}

@@ -1,0 +1,165 @@
+#include "ttbasic/ExpressionParser.h"
+
+#include <deque>
+#include <string_view>
+
+namespace {
+
+struct Association
+{
+    const char* op;
+    int precedence;
+    int associativity;
+};
+
+// Intended: "&" and "|" bind tighter than the comparisons, so a == 1 & b == 2 reads as
+// (a == (1 & b)) == 2.
+constexpr Association assocs[] = {
+    {"+", 2, LEFT_ASSOC},  {"-", 2, LEFT_ASSOC},  {"*", 5, LEFT_ASSOC},  {"/", 5, LEFT_ASSOC},
+    {"%", 5, LEFT_ASSOC},  {"&", 1, LEFT_ASSOC},  {"|", 1, LEFT_ASSOC},  {"<", 0, LEFT_ASSOC},
+    {">", 0, LEFT_ASSOC},  {"<=", 0, LEFT_ASSOC}, {">=", 0, LEFT_ASSOC}, {"==", 0, LEFT_ASSOC},
+    {"!=", 0, LEFT_ASSOC},
+};
+
+constexpr std::string_view kOperatorCharacters = "+-*/<>=%&|!";
+
+std::map<std::string, std::pair<int, int>> makeOpmap()
+{
+    std::map<std::string, std::pair<int, int>> map;
+    for (const Association& row : assocs) {
+        map[row.op] = {row.precedence, row.associativity};
+    }
+    return map;
+}
+
+// "=" and "!" are operators only so that "==" and "!=" can grow from them.
+bool isHalfOperator(const std::string& token)
+{
+    return token == "=" || token == "!";
+}
+
+using Tokens = std::vector<std::string>;
+using OperatorStack = std::deque<std::string>;
+
+void moveTop(OperatorStack& operators, Tokens& postfix)
+{
+    postfix.push_back(std::move(operators.back()));
+    operators.pop_back();
+}
+
+// Takes the stack down to the "(" that a ")" closes. False when there is none.
+bool closeParenthesis(OperatorStack& operators, Tokens& postfix)
+{
+    while (!operators.empty() && operators.back() != "(") {
+        moveTop(operators, postfix);
+    }
+    if (operators.empty()) {
+        return false;
+    }
+    operators.pop_back();
+    return true;
+}
+
+}  // namespace
+
+const std::map<std::string, std::pair<int, int>> opmap = makeOpmap();
+
+bool expression_parser::isParenthesis(const std::string& token) const
+{
+    return token == "(" || token == ")";
+}
+
+bool expression_parser::isOperator(const std::string& token) const
+{
+    if (token.size() == 1) {
+        return kOperatorCharacters.find(token[0]) != std::string_view::npos;
+    }
+    return token == "<=" || token == ">=" || token == "==" || token == "!=";
+}
+
+bool expression_parser::isAssociative(const std::string& token, int assoc) const
+{
+    return opmap.at(token).second == assoc;
+}
+
+int expression_parser::cmpPrecedence(const std::string& a, const std::string& b) const
+{
+    return opmap.at(a).first - opmap.at(b).first;
+}
+
+// Intended: operators that follow each other grow together, across blanks too, and whatever comes
+// of it is kept: x * -2 gives x, *- and 2. There is no sign in front of a number.
+std::vector<std::string> expression_parser::getExpressionTokens(const std::string& expression) const
+{
+    std::vector<std::string> tokens;
+    std::string operand;
+    const auto endOperand = [&] {
+        if (!operand.empty()) {
+            tokens.push_back(std::move(operand));
+            operand.clear();
+        }
+    };
+    for (const char c : expression) {
+        const std::string s(1, c);
+        if (isOperator(s)) {
+            endOperand();
+            if (!tokens.empty() && isOperator(tokens.back())) {
+                tokens.back() += s;
+            } else {
+                tokens.push_back(s);
+            }
+        } else if (isParenthesis(s)) {
+            endOperand();
+            tokens.push_back(s);
+        } else if (c == ' ') {
+            endOperand();
+        } else {
+            operand += c;
+        }
+    }
+    endOperand();
+    return tokens;
+}
+
+bool expression_parser::infixToRPN(const std::vector<std::string>& tokens,
+                                   std::vector<std::string>& out) const
+{
+    OperatorStack operators;
+    Tokens postfix;
+    for (const std::string& token : tokens) {
+        if (isHalfOperator(token)) {
+            return false;
+        }
+        if (isOperator(token)) {
+            while (!operators.empty() && isDueBefore(token, operators.back())) {
+                moveTop(operators, postfix);
+            }
+            operators.push_back(token);
+        } else if (token == "(") {
+            operators.push_back(token);
+        } else if (token == ")") {
+            if (!closeParenthesis(operators, postfix)) {
+                return false;
+            }
+        } else {
+            postfix.push_back(token);
+        }
+    }
+    while (!operators.empty()) {
+        if (isParenthesis(operators.back())) {
+            return false;
+        }
+        moveTop(operators, postfix);
+    }
+    out = std::move(postfix);
+    return true;
+}
+
+bool expression_parser::isDueBefore(const std::string& token, const std::string& top) const
+{
+    if (!isOperator(top)) {
+        return false;
+    }
+    const int difference = cmpPrecedence(token, top);
+    return difference < 0 || (difference == 0 && isAssociative(token, LEFT_ASSOC));
+}

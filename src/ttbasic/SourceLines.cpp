@@ -1,0 +1,54 @@
+#include "ttbasic/SourceLines.h"
+
+#include <cstring>
+
+#include "base/TextHelpers.h"
+
+namespace {
+
+char* continuation = nullptr;
+
+void removeTrailingWhite(char* line)
+{
+    char* end = line + std::strlen(line);
+    while (end != line && isSpace(end[-1])) {
+        --end;
+    }
+    *end = '\0';
+}
+
+}  // namespace
+
+char* nextLine(char* text)
+{
+    char* line = text != nullptr ? text : continuation;
+    continuation = nullptr;  // at the end there is nothing to go on with
+    if (line == nullptr || *line == '\0') {
+        return nullptr;
+    }
+    char* end = std::strchr(line, '\n');
+    if (end == nullptr) {
+        return line;
+    }
+    *end = '\0';
+    continuation = end + 1;
+    if (end != line && end[-1] == '\r') {
+        end[-1] = '\0';
+    }
+    return line;
+}
+
+void CutComment(char* line, char marker, bool respectQuotes)
+{
+    removeTrailingWhite(line);
+    bool insideQuotes = false;
+    for (char* c = line; *c != '\0'; ++c) {
+        if (*c == marker && !(respectQuotes && insideQuotes)) {
+            *c = '\0';
+            return;
+        }
+        if (*c == '"') {
+            insideQuotes = !insideQuotes;
+        }
+    }
+}

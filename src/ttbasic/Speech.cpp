@@ -1,0 +1,149 @@
+#include "base/TextHelpers.h"
+#include "ttbasic/ttbasic.h"
+
+namespace {
+
+const char* const kVoiceSyntax = "syntax is: VOICE name_of_voice [LANG de/en/es/..] [SPEED 1..5] "
+                                 "[PITCH 1..5] [SEX m/f]";
+const char* const kSaySyntax = "Syntax is: SAY \"text\" _or_ SAY voice_name \"text1\" "
+                               "[\"text 2\"] [...].";
+const char* const kWelcomeName = "_welcome_message_text";
+
+std::string audioName(const std::string& voice, const std::string& text)
+{
+    return replaceNonAscii("say_" + voice + "_" + text);
+}
+
+std::vector<std::string> wordsOf(const std::string& text)
+{
+    std::vector<std::string> words;
+    SplitStringKeepQuotes(text, words, true);
+    return words;
+}
+
+}  // namespace
+
+bool ttbasic::doVoice(const std::string& rest)
+{
+    const std::vector<std::string> words = wordsOf(rest);
+    VOICE voice;
+    bool malformed = words.size() % 2 == 0;
+    for (size_t i = 1; i + 1 < words.size(); i += 2) {
+        if (!setVoiceOption(voice, toLower(words[i]), toLower(words[i + 1]), malformed)) {
+            return false;
+        }
+    }
+    if (malformed) {
+        return error(kVoiceSyntax);
+    }
+    if (!voices.emplace(words[0], voice).second) {
+        return error("voice " + words[0] + " is aleady defined.");
+    }
+    return true;
+}
+
+bool ttbasic::setVoiceOption(VOICE& voice, const std::string& keyword, const std::string& value,
+                             bool& malformed)
+{
+    if (keyword == "lang") {
+        voice.language = value;
+    } else if (keyword == "age") {
+        return setVoiceNumber(voice.age, value, "voice age must be in range 1..99");
+    } else if (keyword == "speed") {
+        return setVoiceNumber(voice.speed, value, "voice speed must be in range 1..5");
+    } else if (keyword == "pitch") {
+        return setVoiceNumber(voice.pitch, value, "voice pitch must be in range 1..5");
+    } else if (keyword == "sex") {
+        return setVoiceSex(voice, value);
+    } else {
+        malformed = true;
+    }
+    return true;
+}
+
+// Intended: speed and pitch go up to 99 although their messages speak of 5.
+bool ttbasic::setVoiceNumber(int& number, const std::string& value, const char* rangeMessage)
+{
+    number = toInt(value.c_str());
+    return (number >= 1 && number <= 99) || error(rangeMessage);
+}
+
+bool ttbasic::setVoiceSex(VOICE& voice, const std::string& value)
+{
+    voice.female = value == "f";
+    return voice.female || value == "m" || error("sex only supports 'm' and 'f'.");
+}
+
+bool ttbasic::doSay(const std::string& rest)
+{
+    std::vector<std::string> words = wordsOf(rest);
+    if (words.empty()) {
+        return error("No argument given. What to play?");
+    }
+    std::string voice = currentVoice;
+    if (words.size() >= 2 && !chooseVoice(words, voice)) {
+        return false;
+    }
+    std::string names;
+    for (const std::string& text : words) {
+        if (text.empty()) {
+            return error("Found an empty string to say.");
+        }
+        const std::string name = audioName(voice, text);
+        talkTexts[name] = {voice, text};
+        names += (names.empty() ? "" : ", ") + name;
+    }
+    asmSay(names);
+    return true;
+}
+
+// Takes the voice's name from the front of the words. Intended: the name is lowered, so only voices
+// declared in lower case can be chosen.
+bool ttbasic::chooseVoice(std::vector<std::string>& words, std::string& voice)
+{
+    voice = toLower(words.front());
+    if (voices.count(voice) == 0) {
+        std::string defined;
+        for (const auto& [name, properties] : voices) {
+            defined += name + "\n";
+        }
+        return error("The voice " + voice + " is not defined, yet.\ndefined are:\n" + defined +
+                     kSaySyntax);
+    }
+    words.erase(words.begin());
+    return true;
+}
+
+void ttbasic::asmSay(const std::string& names)
+{
+    asmCmd("P(" + names + ")");
+}
+
+std::string ttbasic::prepareWelcomeMessage(const std::string& text)
+{
+    if (talkTexts.count(kWelcomeName) == 0) {
+        talkTexts[kWelcomeName] = {welcomeVoice(), text + ". Start."};
+    }
+    return kWelcomeName;
+}
+
+// The first voice that speaks something else than English is the language of the book.
+std::string ttbasic::welcomeVoice() const
+{
+    for (const auto& [name, voice] : voices) {
+        if (voice.language != "en") {
+            return name;
+        }
+    }
+    return "adam";
+}
+
+std::vector<std::string> ttbasic::usedOidNames() const
+{
+    std::vector<std::string> names;
+    names.reserve(labels.size());
+    for (const auto& [name, definitions] : labels) {
+        names.push_back(name);
+    }
+    return names;
+}

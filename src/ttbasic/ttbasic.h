@@ -1,0 +1,173 @@
+#pragma once
+
+#include <cstdio>
+#include <deque>
+#include <list>
+#include <map>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "base/PrintFunction.h"
+
+// The compiler of the script language: it turns the author's script into the "scripts:" section of
+// the game description and collects what has to be spoken.
+//
+//   ttbasic script;
+//   script.source = "sub cow\nsay \"Moo\"\nend sub\n";
+//   if (compileScript(script, false)) { text = script.yaml(900, "Farm"); }
+//
+// parse throws StackUnderflow; compileScript (CompileScript.h) reports it as an error of the
+// script.
+class ttbasic
+{
+public:
+    // A synthetic voice that can say texts.
+    struct VOICE
+    {
+        std::string language = "en";
+        bool female = false;
+        int age = 30;
+        int speed = 3;
+        int pitch = 3;
+    };
+
+    // A text that has to be spoken, without its quotes, and the name of the voice that speaks it.
+    struct TALKTEXT
+    {
+        std::string voice;
+        std::string text;
+    };
+
+    // A select statement: the register that it looks at, and for each case value the line that
+    // declared it.
+    struct SELECTCASE
+    {
+        std::string name;
+        std::map<int, int> cases;
+    };
+
+    // An expression needs an operand that is not there.
+    struct StackUnderflow : std::runtime_error
+    {
+        StackUnderflow() : std::runtime_error("Stack underflow") {}
+    };
+
+    // --- For those who have a script -------------------------------------------------------------
+    ttbasic();
+    // A fresh compiler without source; the voices adam and eve are there.
+    void clear();
+    // Append to the source. Reading an open file always succeeds; a file that cannot be opened is
+    // reported and gives false.
+    bool read(FILE* file);
+    bool read(const std::string& fileName);
+    // Compiles the source. All errors are listed; false when there were any. With debugMode the pen
+    // says the number of each line before it carries the line out. Throws StackUnderflow.
+    bool parse(bool debugMode);
+    // The game description up to (not including) the table of codes. Each call draws a random
+    // number; the first one adds the welcome message to talkTexts.
+    std::string yaml(int productId, const std::string& productName);
+    // The names of all subs, which are the areas that the script reacts to, in ascending order.
+    std::vector<std::string> usedOidNames() const;
+
+    // The function that all compilers print their errors with.
+    static void redirectPrintfTo(PrintFunction function);
+    static PrintFunction myprintf;
+
+    // --- Lines and errors ------------------------------------------------------------------------
+    // Compiles one line without comments.
+    bool parseCommand(const char* line);
+    // Reports an error of the current line. Always false, so that a statement can end with it.
+    bool error(const std::string& message);
+    // What each line of code of the current block begins with.
+    void updateIfPrefix();
+
+    // --- Statements: true, or the result of error ------------------------------------------------
+    bool doAssign(const std::string& left, const std::string& right);
+    bool doIf(const std::string& condition);
+    bool doElse();
+    bool doEndif();
+    bool doEndselect();
+    bool doSelect(const std::string& word);
+    bool doCase(int value);
+    bool doDefaultCase();
+    bool doSub(const std::string& name);
+    bool doEndSub();
+    bool doGoto(const std::string& name);
+    bool doVoice(const std::string& rest);
+    bool doSay(const std::string& rest);
+
+    // --- Expressions on a stack of registers -----------------------------------------------------
+    // Leaves the value in one more register on the stack.
+    bool parseExpression(const std::string& text);
+    void asmPush(const std::string& value);
+    // The name of the top register. Throws StackUnderflow.
+    std::string asmPeek() const;
+    // As asmPeek, and takes the register from the stack.
+    std::string asmPop();
+
+    // --- Emitters --------------------------------------------------------------------------------
+    void asmCmd(const std::string& command);
+    // Applies an operator of the game description to a register.
+    void asmOperator(const std::string& target, const std::string& op, const std::string& operand);
+    void asmGoto(const std::string& name);
+    void asmLabel(const std::string& name);
+    void asmSay(const std::string& names);
+    // What stands in front of each generated command in order to find errors: nothing.
+    static std::string asmDbg();
+    // Records the welcome message (once) and returns its audio name.
+    std::string prepareWelcomeMessage(const std::string& text);
+
+    // --- Data ------------------------------------------------------------------------------------
+    std::string source;
+    std::string lastError;
+    std::deque<SELECTCASE> selects;  // innermost at the back; never popped
+    int lineNumber = 0;              // of the line being compiled, from 1
+    std::string ifPrefix;
+    std::list<std::string> conditions;  // of the open blocks, outermost first
+    std::deque<std::string> stack;      // of registers, top at the back
+    std::string code;                   // the "scripts:" section so far
+    bool debug = false;
+    int labelCounter = 0;    // of the last generated label "asm" + number
+    std::string currentSub;  // empty outside subs
+    int ifDepth = 0;
+    std::map<std::string, int> labels;  // every sub and how often it is defined
+    std::set<std::string> variables;    // every register, with its "$"
+    std::map<int, std::string> gotos;   // the target of the goto on each line
+    std::string currentVoice;
+    std::map<std::string, VOICE> voices;
+    std::map<std::string, TALKTEXT> talkTexts;  // by audio name
+
+private:
+    bool compileLine(char* line);
+    void announceLine();
+    bool checkGotos();
+    bool checkLabels();
+
+    static std::string conditionOfDefault(const SELECTCASE& select);
+
+    // What a command line begins with when no block is open.
+    static constexpr const char* kCommandStart = "        - ";
+    void emit(const std::string& line);
+    std::string nextLabel();
+    void emitFallThrough(const std::string& jump);
+    void emitToken(const std::string& token);
+    void applyOperator(const std::string& op);
+    void compareRegisters(const std::string& target, const std::string& op,
+                          const std::string& operand);
+
+    bool setVoiceOption(VOICE& voice, const std::string& keyword, const std::string& value,
+                        bool& malformed);
+    bool setVoiceNumber(int& number, const std::string& value, const char* rangeMessage);
+    bool setVoiceSex(VOICE& voice, const std::string& value);
+    bool chooseVoice(std::vector<std::string>& words, std::string& voice);
+    std::string welcomeVoice() const;
+
+    std::string yamlRegisters() const;
+    std::string yamlVoices() const;
+    std::string yamlTalkTexts() const;
+};
+
+// As the inside of a text in single quotes wants it: each "'" twice.
+std::string escapeYamlString(const std::string& text);
