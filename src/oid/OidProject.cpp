@@ -7,12 +7,14 @@ namespace Oid {
 
 OidProject::OidProject() : print(defaultPrintf()) {}
 
-OidProject::OidProject(OidProject&& other)
+// NOLINTNEXTLINE(performance-noexcept-move-constructor)
+OidProject::OidProject(OidProject&& other) : OidProject()
 {
     *this = std::move(other);
 }
 
 // Texts and number are copied, so the source keeps its file names; what is large is moved.
+// NOLINTNEXTLINE(performance-noexcept-move-constructor)
 OidProject& OidProject::operator=(OidProject&& other)
 {
     productName = other.productName;
@@ -20,6 +22,7 @@ OidProject& OidProject::operator=(OidProject&& other)
     projectPath = other.projectPath;
     pictures = std::move(other.pictures);
     oids = std::move(other.oids);
+    compiler = std::move(other.compiler);
     print = other.print;
     return *this;
 }
@@ -32,6 +35,7 @@ void OidProject::clear()
 void OidProject::redirectPrintf(PrintFunction function)
 {
     print = function != nullptr ? function : defaultPrintf();
+    ttbasic::redirectPrintfTo(print);
 }
 
 // The names are plain concatenations: nothing in a product name is escaped or cleaned.

@@ -6,6 +6,7 @@
 
 #include "base/PrintFunction.h"
 #include "oid/OidPixels.h"
+#include "ttbasic/ttbasic.h"
 
 // One authoring project in memory: a product, its pictures with their areas, the OID of every area
 // name, and the script.
@@ -97,6 +98,7 @@ public:
     std::string projectPath;  // of the project file, set by open and save
     std::vector<PICTURE> pictures;
     std::map<std::string, OID> oids;  // by area name
+    ttbasic compiler;                 // holds the script
     PrintFunction print;              // every message of the model goes through it
 
 private:
