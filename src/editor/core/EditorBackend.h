@@ -1,0 +1,122 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "editor/core/Buffer.h"
+#include "editor/core/CaseChange.h"
+#include "editor/core/Selection.h"
+
+namespace KVTextEditor {
+
+// One snapshot: the selection and the whole text, lines joined with LF, tabs not expanded.
+struct UNDO_STATE
+{
+    SELECTION selection;
+    std::u16string text;
+};
+
+// The editing logic: applies keys, mouse gestures, pastes and commands to a buffer and to the
+// selection, keeps whole-text snapshots for undo, and colours the text. It knows nothing of
+// drawing and reports no errors: positions are clamped, and lines that something is written to are
+// created.
+template <class CELL>
+class EditorBackend
+{
+public:
+    using BUFFER = Buffer<CELL>;
+    using LINE = Line<CELL>;
+    // Stores a role in a cell. Colouring calls it for every cell whose role changes, from several
+    // threads for different lines.
+    using CELL_WRITER = void (*)(CELL& cell, COLORINDEX role);
+    using KEYWORD_TABLE = std::vector<std::map<std::u16string, COLORINDEX>>;
+
+    // The buffer stays the caller's.
+    explicit EditorBackend(BUFFER* text = nullptr) : buffer(text) {}
+
+    // Caret
+    LINE& current_line();
+    CARET snap_to_position(CARET caret) const;
+    void move_cursor(int dy, int dx);
+    CARET start_of_word(CARET caret) const;
+    CARET end_of_word(CARET caret) const;
+
+    // Mouse
+    void mouse_click(CARET caret, bool extend, bool block);
+    void mouse_doubleclick(CARET caret);
+
+    // Typing and deleting
+    void key_any(char16_t ch, bool overwrite);
+    void key_enter();
+    void key_delete();
+    void delete_selected_range();
+
+    // Commands on the selection
+    void paste(const BUFFER& block_buffer, bool as_block);
+    void indent();
+    void indent_negative();
+    void transform(const SELECTION& range, CHARACTER_FUNCTION fn);
+    BUFFER get_selected_text() const;
+
+    // Search; both leave the caret alone when they find nothing. find_next tries the caret's own
+    // position first and does not wrap around.
+    bool find_matching_brace(CARET& caret) const;
+    bool find_next(const std::u16string& text, CARET& caret) const;
+
+    // Undo
+    void push_undo_state();
+    void undo();
+    void redo();
+    bool can_undo() const { return !undo_states.empty(); }
+    bool can_redo() const { return !redo_states.empty(); }
+    void undo_get_state(UNDO_STATE& state) const;
+    void undo_from_state(const UNDO_STATE& state);
+
+    // Colouring
+    bool is_dirty() const;  // a line changed since it was coloured
+    // Colours the changed lines from first_line to last_line; last_line < 0 is the last line.
+    void colorize(CELL_WRITER fn, int first_line, int last_line);
+    // Gives a run of cells a role.
+    void colorize(CARET from, CARET to, COLORINDEX role, CELL_WRITER fn);
+    // Rebuilds keyword_table after a change of the keywords.
+    // Intended: without clear the words of earlier rules keep their colours.
+    void keywords_update_hashtable(bool clear);
+    // The demonstration rules; the second keyword class is empty.
+    void init_keywords_cpp();
+
+    SELECTION selection;
+    std::int32_t tab_width = 4;
+
+    // Rules of colouring
+    std::set<std::u16string> keywords_class1;
+    std::set<std::u16string> keywords_class2;
+    std::set<std::pair<char16_t, char16_t>> string_delimiters;  // opening, closing
+    std::set<std::u16string> line_comments;
+    KEYWORD_TABLE keyword_table;  // by the keyword's first character
+
+    std::int32_t undo_limit = 100 * 1024 * 1024;
+    bool dirty = false;  // an operation changed text or selection; nothing here clears it
+    BUFFER* buffer;
+    std::deque<UNDO_STATE> undo_states;
+    std::deque<UNDO_STATE> redo_states;
+    std::int64_t undo_bytes = 0;  // what undo_states is charged with
+};
+
+extern template class EditorBackend<EdChar>;
+
+// The writer that the editor passes to colorize.
+void write_cell_color(EdChar& cell, COLORINDEX role);
+
+// What a new editor starts with: init_keywords_cpp and the two words "foo" and "bar".
+void set_new_editor_rules(EditorBackend<EdChar>& editor);
+
+// Comments, keywords and voice parameters of the script language, on top of what a new editor
+// starts with. No line is marked changed.
+void set_script_rules(EditorBackend<EdChar>& editor);
+
+}  // namespace KVTextEditor
