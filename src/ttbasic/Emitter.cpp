@@ -15,7 +15,7 @@ void ttbasic::updateIfPrefix()
 void ttbasic::asmCmd(const std::string& command)
 {
     const std::string label = nextLabel();
-    emit(ifPrefix + "J(" + label + ")    " + asmDbg() + command);
+    emitLine(ifPrefix + "J(" + label + ")    " + asmDbg() + command);
     emitFallThrough("J(" + label + ")  ");
     asmLabel(label);
 }
@@ -28,11 +28,11 @@ std::string ttbasic::asmDbg()
 // Opens the next step or, with the name of a sub, its script.
 void ttbasic::asmLabel(const std::string& name)
 {
-    emit("    " + name + ":");
+    emitLine("    " + name + ":");
 }
 
 // One line of code.
-void ttbasic::emit(const std::string& line)
+void ttbasic::emitLine(const std::string& line)
 {
     code += line;
     code += "\r\n";
@@ -49,6 +49,6 @@ std::string ttbasic::nextLabel()
 void ttbasic::emitFallThrough(const std::string& jump)
 {
     if (ifPrefix.find('?') != std::string::npos) {
-        emit(kCommandStart + jump + "$rnd += " + randomSummand());
+        emitLine(kCommandStart + jump + "$rnd += " + randomSummand());
     }
 }

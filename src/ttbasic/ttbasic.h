@@ -149,7 +149,7 @@ private:
 
     // What a command line begins with when no block is open.
     static constexpr const char* kCommandStart = "        - ";
-    void emit(const std::string& line);
+    void emitLine(const std::string& line);
     std::string nextLabel();
     void emitFallThrough(const std::string& jump);
     void emitToken(const std::string& token);
