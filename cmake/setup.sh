@@ -7,7 +7,7 @@ build_packages=(
 )
 run_packages=(espeak-ng ffmpeg)
 test_packages=(
-    libgtest-dev libgmock-dev
+    libgtest-dev libgmock-dev locales
     libtiff-tools imagemagick
 )
 
