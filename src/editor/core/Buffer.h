@@ -55,9 +55,6 @@ public:
     Line<CELL>& line_to_colour(int i) { return lines[i]; }
 
 private:
-    void set_text(const char16_t* text, std::size_t size);
-    void erase_all_lines();
-
     std::vector<Line<CELL>> lines;
     LineRange touched;  // outside it no line is changed
 };

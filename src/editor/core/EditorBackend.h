@@ -105,6 +105,45 @@ public:
     std::deque<UNDO_STATE> undo_states;
     std::deque<UNDO_STATE> redo_states;
     std::int64_t undo_bytes = 0;  // what undo_states is charged with
+
+private:
+    struct LINE_PART
+    {
+        int column;
+        int count;
+    };
+
+    // Reading through this never adds a line.
+    const BUFFER& text() const { return *buffer; }
+    int tab_stop() const { return tab_width > 1 ? tab_width : 1; }
+    bool is_line_of_text(int line) const { return line >= 0 && line < buffer->line_count(); }
+    int line_in_text(int line) const;
+    CARET clamp_to_text(CARET caret) const;
+
+    void move_left(int dx);
+    void move_to_previous_line();
+    void move_right(int dx);
+
+    void key_backspace();
+    void type_character(char16_t ch, bool overwrite);
+    void type_into_line(int index, int column, CELL cell, bool overwrite);
+    int split_line(int index, int column);
+
+    void join_with_next_line(int index);
+    void delete_in_zero_width_block();
+    void delete_block();
+    void delete_stream();
+    void delete_within_line();
+
+    void paste_stream(const BUFFER& pasted);
+    void paste_further_lines(const BUFFER& pasted);
+    void paste_block(const BUFFER& pasted);
+
+    static LINE_PART part_of_line(const SELECTION& range, int line);
+
+    void colorize_line(CELL_WRITER fn, LINE& line) const;
+    int colour_run_at(const LINE& line, int column, COLORINDEX& role) const;
+    static int string_length(const LINE& line, int column, char16_t close);
 };
 
 extern template class EditorBackend<EdChar>;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -83,7 +84,9 @@ public:
 private:
     void grow(int n);
     void terminate();
-    int tab_count() const;
+    bool tabs_are_expanded(int width) const;
+    void refresh_fillers();
+    void expand_tabs(int width, std::int64_t tabs);
 
     std::unique_ptr<CELL[]> cells;  // allocated + 1 cells, or none
     int used = 0;

@@ -12,8 +12,7 @@ public:
 
     void clear() { from = to = 0; }
     void include(int first, int end);
-    // Leaves out lines at the ends of the run.
-    void narrow(int first, int end);
+    void dropBefore(int line) { from = line; }
 
     void linesInserted(int at, int n);
     void linesErased(int first, int n);

@@ -1,0 +1,156 @@
+#include "editor/core/Buffer.h"
+
+#include <algorithm>
+
+#include "editor/core/Saturate.h"
+
+namespace KVTextEditor {
+
+template <class CELL>
+Buffer<CELL>::Buffer() : lines(1)
+{}
+
+template <class CELL>
+Line<CELL>& Buffer<CELL>::line(int i)
+{
+    if (i < 0) {
+        static thread_local Line<CELL> nowhere;
+        nowhere = Line<CELL>();
+        return nowhere;
+    }
+    if (i >= line_count()) {
+        lines.resize(static_cast<std::size_t>(i) + 1);
+    }
+    touched.include(i, i + 1);
+    return lines[i];
+}
+
+template <class CELL>
+const Line<CELL>& Buffer<CELL>::line(int i) const
+{
+    static const Line<CELL> outside;
+    return i >= 0 && i < line_count() ? lines[i] : outside;
+}
+
+template <class CELL>
+int Buffer<CELL>::width() const
+{
+    int widest = 0;
+    for (const Line<CELL>& line : lines) {
+        widest = std::max(widest, line.length());
+    }
+    return widest;
+}
+
+template <class CELL>
+void Buffer<CELL>::erase_lines(int first, int n)
+{
+    if (first < 0 || first >= line_count() || n == 0) {
+        return;
+    }
+    const int rest = line_count() - first;
+    const int erased = n < 0 ? rest : std::min(n, rest);
+    lines.erase(lines.begin() + first, lines.begin() + first + erased);
+    touched.linesErased(first, erased);
+}
+
+template <class CELL>
+void Buffer<CELL>::insert_rows(int at, int n)
+{
+    if (at < 0 || n <= 0) {
+        return;
+    }
+    if (at >= line_count()) {
+        lines.resize(static_cast<std::size_t>(at) + n);
+        return;
+    }
+    lines.insert(lines.begin() + at, n, Line<CELL>());
+    touched.linesInserted(at, n);
+}
+
+template <class CELL>
+int Buffer<CELL>::block_height() const
+{
+    int height = line_count();
+    while (height > 1 && line(height - 1).length() == 0) {
+        --height;
+    }
+    return std::max(height, 1);
+}
+
+template <class CELL>
+void Buffer<CELL>::insert_block(const Buffer& block, int row, int col)
+{
+    const int height = block.block_height();
+    const int columns = block.width();
+    const std::vector<CELL> blanks(columns, CELL{u' ', kPlainRole});
+    for (int i = 0; i < height; ++i) {
+        const int target = saturating_add(row, i);
+        const bool belowText = target >= line_count();
+        if (target < 0 || col < 0 || (belowText && columns == 0)) {
+            continue;
+        }
+        const Line<CELL>& source = block.line(i);
+        line(target).insert(col, blanks.data(), columns);
+        line(target).overwrite(col, source.begin(), source.length());
+    }
+}
+
+template <class CELL>
+void Buffer<CELL>::tabs_insert(int width)
+{
+    for (Line<CELL>& line : lines) {
+        line.tabs_insert(width);
+    }
+    touched.include(0, line_count());
+}
+
+template <class CELL>
+void Buffer<CELL>::tabs_remove()
+{
+    for (Line<CELL>& line : lines) {
+        line.tabs_remove();
+    }
+    touched.include(0, line_count());
+}
+
+template <class CELL>
+bool Buffer<CELL>::has_changed_line()
+{
+    for (int i = touched.first(); i < touched.end(); ++i) {
+        if (lines[i].changed) {
+            touched.dropBefore(i);
+            return true;
+        }
+    }
+    touched.clear();
+    return false;
+}
+
+template <class CELL>
+std::vector<int> Buffer<CELL>::changed_lines(int first, int last) const
+{
+    std::vector<int> found;
+    const int end = std::min(saturating_add(last, 1), touched.end());
+    for (int i = std::max(first, touched.first()); i < end; ++i) {
+        if (lines[i].changed) {
+            found.push_back(i);
+        }
+    }
+    return found;
+}
+
+template Buffer<EdChar>::Buffer();
+template Line<EdChar>& Buffer<EdChar>::line(int);
+template const Line<EdChar>& Buffer<EdChar>::line(int) const;
+template int Buffer<EdChar>::width() const;
+template void Buffer<EdChar>::erase_lines(int, int);
+template void Buffer<EdChar>::insert_rows(int, int);
+template int Buffer<EdChar>::block_height() const;
+template void Buffer<EdChar>::insert_block(const Buffer&, int, int);
+template void Buffer<EdChar>::tabs_insert(int);
+template void Buffer<EdChar>::tabs_remove();
+template bool Buffer<EdChar>::has_changed_line();
+template std::vector<int> Buffer<EdChar>::changed_lines(int, int) const;
+
+}  // namespace KVTextEditor

@@ -1,0 +1,67 @@
+#include "editor/core/EditorBackend.h"
+
+namespace KVTextEditor {
+
+namespace {
+
+constexpr std::size_t kCodeUnits = 65536;
+
+void enterKeywords(EditorBackend<EdChar>::KEYWORD_TABLE& table,
+                   const std::set<std::u16string>& keywords, COLORINDEX role)
+{
+    for (const std::u16string& keyword : keywords) {
+        if (!keyword.empty()) {
+            table[keyword.front()][keyword] = role;
+        }
+    }
+}
+
+}  // namespace
+
+template <class CELL>
+void EditorBackend<CELL>::keywords_update_hashtable(bool clear)
+{
+    keyword_table.resize(kCodeUnits);
+    if (clear) {
+        for (auto& entry : keyword_table) {
+            entry.clear();
+        }
+    }
+    enterKeywords(keyword_table, keywords_class1, kKeywordRole);
+    enterKeywords(keyword_table, keywords_class2, kSecondKeywordRole);
+}
+
+template <class CELL>
+void EditorBackend<CELL>::init_keywords_cpp()
+{
+    keywords_class1 = {u"#include", u"#if",      u"#ifdef", u"#else",  u"#elif",  u"#endif",
+                       u"defined",  u"for",      u"while",  u"do",     u"if",     u"goto",
+                       u"select",   u"case",     u"int",    u"double", u"float",  u"short",
+                       u"char",     u"unsigned", u"signed", u"bool",   u"wchar_t"};
+    keywords_class2.clear();
+    string_delimiters = {{u'"', u'"'}, {u'\'', u'\''}};
+    line_comments = {u"//"};
+    keywords_update_hashtable(true);
+}
+
+void set_new_editor_rules(EditorBackend<EdChar>& editor)
+{
+    editor.init_keywords_cpp();
+    editor.keywords_class2 = {u"foo", u"bar"};
+    editor.keywords_update_hashtable(false);
+}
+
+void set_script_rules(EditorBackend<EdChar>& editor)
+{
+    editor.line_comments = {u"'", u"#"};
+    editor.keywords_class1 = {u"end",    u"if",     u"else",      u"endif", u"sub",
+                              u"endsub", u"select", u"endselect", u"case",  u"default",
+                              u"voice",  u"say",    u"goto"};
+    editor.keywords_class2 = {u"lang", u"age", u"pitch", u"speed", u"sex"};
+    editor.keywords_update_hashtable(false);
+}
+
+template void EditorBackend<EdChar>::keywords_update_hashtable(bool);
+template void EditorBackend<EdChar>::init_keywords_cpp();
+
+}  // namespace KVTextEditor

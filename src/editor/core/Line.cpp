@@ -1,0 +1,278 @@
+#include "editor/core/Line.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <utility>
+
+namespace KVTextEditor {
+
+namespace {
+
+int checkedLength(std::int64_t cells)
+{
+    if (cells > std::numeric_limits<int>::max()) {
+        throw std::bad_array_new_length();
+    }
+    return static_cast<int>(cells);
+}
+
+}  // namespace
+
+template <class CELL>
+Line<CELL>::Line(const Line& other) : bookmark(other.bookmark), changed(other.changed)
+{
+    alloc(other.used);
+    std::copy(other.begin(), other.end(), cells.get());
+    used = other.used;
+}
+
+template <class CELL>
+Line<CELL>& Line<CELL>::operator=(const Line& other)
+{
+    if (this != &other) {
+        *this = Line(other);
+    }
+    return *this;
+}
+
+template <class CELL>
+Line<CELL>::Line(Line&& other) noexcept
+    : bookmark(other.bookmark),
+      changed(other.changed),
+      cells(std::move(other.cells)),
+      used(std::exchange(other.used, 0)),
+      allocated(std::exchange(other.allocated, 0))
+{}
+
+template <class CELL>
+Line<CELL>& Line<CELL>::operator=(Line&& other) noexcept
+{
+    bookmark = other.bookmark;
+    changed = other.changed;
+    std::swap(cells, other.cells);
+    std::swap(used, other.used);
+    std::swap(allocated, other.allocated);
+    return *this;
+}
+
+template <class CELL>
+const CELL& Line<CELL>::at(int pos) const
+{
+    static const CELL outside;
+    return pos >= 0 && pos < used ? cells[pos] : outside;
+}
+
+template <class CELL>
+bool Line<CELL>::is_filler_at(int pos) const
+{
+    return pos >= 0 && pos < used && cells[pos].ch == kFiller;
+}
+
+template <class CELL>
+bool Line<CELL>::is_string_at(const std::u16string& text, int pos) const
+{
+    if (pos < 0 || pos > used || text.size() > static_cast<std::size_t>(used - pos)) {
+        return false;
+    }
+    const auto sameCharacter = [](char16_t c, const CELL& cell) { return c == cell.ch; };
+    return std::equal(text.begin(), text.end(), begin() + pos, sameCharacter);
+}
+
+template <class CELL>
+BLOCKTYPE Line<CELL>::get_blocktype_at(int pos) const
+{
+    return pos >= 0 && pos < used ? blocktype_of(cells[pos].ch) : BLOCKTYPE_NONE;
+}
+
+template <class CELL>
+int Line<CELL>::indentation() const
+{
+    const auto isText = [](const CELL& cell) {
+        return cell.ch != kFiller && cell.ch != u' ' && cell.ch != u'\t';
+    };
+    return static_cast<int>(std::find_if(begin(), end(), isText) - begin());
+}
+
+template <class CELL>
+Line<CELL> Line<CELL>::substr(int pos, int n) const
+{
+    Line part;
+    if (pos >= 0 && pos < used) {
+        const int rest = used - pos;
+        part.overwrite(0, begin() + pos, n < 0 ? rest : std::min(n, rest));
+    }
+    return part;
+}
+
+template <class CELL>
+void Line<CELL>::alloc(int n)
+{
+    if (n <= allocated) {
+        return;
+    }
+    auto grown = std::make_unique<CELL[]>(static_cast<std::size_t>(n) + 1);
+    std::copy(begin(), end(), grown.get());
+    cells = std::move(grown);
+    allocated = n;
+}
+
+template <class CELL>
+void Line<CELL>::clear()
+{
+    cells.reset();
+    used = 0;
+    allocated = 0;
+    changed = false;
+}
+
+template <class CELL>
+void Line<CELL>::empty()
+{
+    used = 0;
+    changed = false;
+    terminate();
+}
+
+template <class CELL>
+void Line<CELL>::set(const char16_t* text, int n)
+{
+    empty();
+    if (n == -1) {
+        n = checkedLength(std::char_traits<char16_t>::length(text));
+    }
+    if (n <= 0) {
+        return;
+    }
+    changed = true;
+    grow(n);
+    for (int i = 0; i < n; ++i) {
+        cells[i].ch = text[i];
+    }
+}
+
+template <class CELL>
+void Line<CELL>::insert_gap(int pos, int n)
+{
+    if (pos < 0 || n <= 0) {
+        return;
+    }
+    changed = true;
+    const int padding = std::max(pos - used, 0);
+    const int tail = used - std::min(pos, used);
+    alloc(checkedLength(std::int64_t{used} + padding + n));
+    grow(used + padding + n);
+    std::fill_n(cells.get() + pos - padding, padding, CELL{u' ', kPlainRole});
+    std::move_backward(cells.get() + pos, cells.get() + pos + tail, cells.get() + used);
+    std::fill_n(cells.get() + pos, n, CELL{});
+}
+
+template <class CELL>
+void Line<CELL>::overwrite(int pos, const CELL* src, int n)
+{
+    if (pos < 0 || n < 0) {
+        return;
+    }
+    changed = true;
+    const int end = checkedLength(std::int64_t{pos} + n);
+    if (end > used) {
+        grow(end);
+    }
+    std::copy_n(src, n, cells.get() + pos);
+}
+
+template <class CELL>
+void Line<CELL>::insert(int pos, const CELL* src, int n)
+{
+    insert_gap(pos, n);
+    overwrite(pos, src, n);
+}
+
+template <class CELL>
+bool Line<CELL>::erase(int pos, int n)
+{
+    if (pos < 0 || pos >= used || n == 0 || n < -1) {
+        return false;
+    }
+    const int rest = used - pos;
+    const int removed = n == -1 ? rest : std::min(n, rest);
+    std::copy(begin() + pos + removed, begin() + used, cells.get() + pos);
+    used -= removed;
+    changed = true;
+    terminate();
+    return true;
+}
+
+template <class CELL>
+void Line<CELL>::append(const Line& other)
+{
+    if (this == &other) {
+        append(Line(other));
+        return;
+    }
+    insert(used, other.begin(), other.used);
+}
+
+template <class CELL>
+bool Line<CELL>::transform(int pos, int n, CHARACTER_FUNCTION fn)
+{
+    if (pos < 0) {
+        return false;
+    }
+    changed = true;
+    if (fn == nullptr) {
+        return false;
+    }
+    const int end = n < 0 || n > used - pos ? used : pos + n;
+    bool transformed = false;
+    for (int i = pos; i < end; ++i) {
+        if (cells[i].ch != kFiller) {
+            cells[i] = {fn(cells[i].ch), kPlainRole};
+            transformed = true;
+        }
+    }
+    return transformed;
+}
+
+// Lengthens the line to n cells; the new ones are plain fillers, whatever stood there before.
+template <class CELL>
+void Line<CELL>::grow(int n)
+{
+    alloc(n);
+    std::fill_n(cells.get() + used, n - used, CELL{});
+    used = n;
+    terminate();
+}
+
+template <class CELL>
+void Line<CELL>::terminate()
+{
+    if (cells) {
+        cells[used] = CELL{};
+    }
+}
+
+template Line<EdChar>::Line(const Line&);
+template Line<EdChar>& Line<EdChar>::operator=(const Line&);
+template Line<EdChar>::Line(Line&&) noexcept;
+template Line<EdChar>& Line<EdChar>::operator=(Line&&) noexcept;
+template const EdChar& Line<EdChar>::at(int) const;
+template bool Line<EdChar>::is_filler_at(int) const;
+template bool Line<EdChar>::is_string_at(const std::u16string&, int) const;
+template BLOCKTYPE Line<EdChar>::get_blocktype_at(int) const;
+template int Line<EdChar>::indentation() const;
+template Line<EdChar> Line<EdChar>::substr(int, int) const;
+template void Line<EdChar>::alloc(int);
+template void Line<EdChar>::clear();
+template void Line<EdChar>::empty();
+template void Line<EdChar>::set(const char16_t*, int);
+template void Line<EdChar>::insert_gap(int, int);
+template void Line<EdChar>::overwrite(int, const EdChar*, int);
+template void Line<EdChar>::insert(int, const EdChar*, int);
+template bool Line<EdChar>::erase(int, int);
+template void Line<EdChar>::append(const Line&);
+template bool Line<EdChar>::transform(int, int, CHARACTER_FUNCTION);
+template void Line<EdChar>::grow(int);
+template void Line<EdChar>::terminate();
+
+}  // namespace KVTextEditor

@@ -1,0 +1,114 @@
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <utility>
+
+#include "editor/core/Line.h"
+
+namespace KVTextEditor {
+
+namespace {
+
+template <class CELL>
+bool isTab(const CELL& cell)
+{
+    return cell.ch == u'\t';
+}
+
+template <class CELL>
+bool isFiller(const CELL& cell)
+{
+    return cell.ch == kFiller;
+}
+
+// The number of fillers behind a tab in this column.
+int fillersBehind(int column, int width)
+{
+    return width - column % width - 1;
+}
+
+}  // namespace
+
+template <class CELL>
+void Line<CELL>::tabs_insert(int width)
+{
+    width = std::max(width, 1);
+    if (tabs_are_expanded(width)) {
+        refresh_fillers();
+        return;
+    }
+    tabs_remove();
+    const auto tabs = std::count_if(begin(), end(), isTab<CELL>);
+    if (tabs > 0) {
+        expand_tabs(width, tabs);
+    }
+}
+
+template <class CELL>
+void Line<CELL>::tabs_remove()
+{
+    if (used == 0) {
+        return;
+    }
+    changed = true;
+    used = static_cast<int>(std::remove_if(cells.get(), cells.get() + used, isFiller<CELL>) -
+                            cells.get());
+    terminate();
+}
+
+template <class CELL>
+bool Line<CELL>::tabs_are_expanded(int width) const
+{
+    for (int column = 0; column < used; ++column) {
+        if (cells[column].ch == kFiller) {
+            return false;
+        }
+        if (cells[column].ch != u'\t') {
+            continue;
+        }
+        for (int fillers = fillersBehind(column, width); fillers > 0; --fillers) {
+            if (!is_filler_at(++column)) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+// Leaves a line whose tabs are expanded as if its fillers had been made anew.
+template <class CELL>
+void Line<CELL>::refresh_fillers()
+{
+    changed = changed || used > 0;
+    std::replace_if(cells.get(), cells.get() + used, isFiller<CELL>, CELL{});
+}
+
+// Copies the cells into a new row instead of opening a gap at each tab: a line of many tabs takes
+// one pass.
+template <class CELL>
+void Line<CELL>::expand_tabs(int width, std::int64_t tabs)
+{
+    const std::int64_t room = used + (std::int64_t{width} - 1) * tabs;
+    if (room > std::numeric_limits<int>::max()) {
+        throw std::bad_array_new_length();
+    }
+    Line expanded;
+    expanded.alloc(std::max(static_cast<int>(room), allocated));
+    int column = 0;
+    for (const CELL& cell : *this) {
+        expanded.cells[column] = cell;
+        column += isTab(cell) ? 1 + fillersBehind(column, width) : 1;
+    }
+    expanded.used = column;
+    std::swap(cells, expanded.cells);
+    std::swap(used, expanded.used);
+    std::swap(allocated, expanded.allocated);
+}
+
+template void Line<EdChar>::tabs_insert(int);
+template void Line<EdChar>::tabs_remove();
+template bool Line<EdChar>::tabs_are_expanded(int) const;
+template void Line<EdChar>::refresh_fillers();
+template void Line<EdChar>::expand_tabs(int, std::int64_t);
+
+}  // namespace KVTextEditor

@@ -1,0 +1,45 @@
+#include <algorithm>
+
+#include "editor/core/EditorBackend.h"
+
+namespace KVTextEditor {
+
+// The cells of a line between the two carets of a normalised selection; a count of -1 runs to the
+// line's end.
+template <class CELL>
+typename EditorBackend<CELL>::LINE_PART EditorBackend<CELL>::part_of_line(const SELECTION& range,
+                                                                          int line)
+{
+    if (range.block || range.start.line == range.end.line) {
+        return {range.start.column, range.width()};
+    }
+    if (line == range.start.line) {
+        return {range.start.column, -1};
+    }
+    return {0, line == range.end.line ? std::max(range.end.column, 0) : -1};
+}
+
+template <class CELL>
+typename EditorBackend<CELL>::BUFFER EditorBackend<CELL>::get_selected_text() const
+{
+    BUFFER selected;
+    if (!selection.has_range()) {
+        return selected;
+    }
+    const SELECTION range = selection.normalized();
+    const int height = range.height();
+    selected.insert_rows(0, height - 1);
+    for (int i = 0; i < height; ++i) {
+        const int line = range.start.line + i;
+        const LINE_PART part = part_of_line(range, line);
+        selected.line(i) = text().line(line).substr(part.column, part.count);
+    }
+    selected.tabs_remove();
+    return selected;
+}
+
+template typename EditorBackend<EdChar>::LINE_PART
+EditorBackend<EdChar>::part_of_line(const SELECTION&, int);
+template typename EditorBackend<EdChar>::BUFFER EditorBackend<EdChar>::get_selected_text() const;
+
+}  // namespace KVTextEditor
