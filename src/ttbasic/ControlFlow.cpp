@@ -135,7 +135,7 @@ bool ttbasic::doGoto(const std::string& name)
 void ttbasic::asmGoto(const std::string& name)
 {
     const std::string label = nextLabel();
-    emitLine(ifPrefix + "J(" + name + ")   $rnd += " + randomSummand());
+    emitCommand("J(" + name + ")   $rnd += " + randomSummand());
     emitFallThrough("J(" + label + ")  ");
     asmLabel(label);
 }

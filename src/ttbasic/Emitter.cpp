@@ -15,7 +15,7 @@ void ttbasic::updateIfPrefix()
 void ttbasic::asmCmd(const std::string& command)
 {
     const std::string label = nextLabel();
-    emitLine(ifPrefix + "J(" + label + ")    " + asmDbg() + command);
+    emitCommand("J(" + label + ")    " + asmDbg() + command);
     emitFallThrough("J(" + label + ")  ");
     asmLabel(label);
 }
@@ -31,11 +31,28 @@ void ttbasic::asmLabel(const std::string& name)
     emitLine("    " + name + ":");
 }
 
-// One line of code.
 void ttbasic::emitLine(const std::string& line)
 {
-    code += line;
-    code += "\r\n";
+    if (!isTooLarge()) {
+        code += line;
+        code += "\r\n";
+    }
+}
+
+// A command that the pen carries out only when the conditions of all open blocks hold.
+void ttbasic::emitCommand(const std::string& command)
+{
+    if (!isTooLarge()) {
+        code += ifPrefix;
+        emitLine(command);
+    }
+}
+
+// Every line of nested blocks repeats all their conditions, so a short script can ask for more code
+// than the machine has memory.
+bool ttbasic::isTooLarge() const
+{
+    return code.size() > codeLimit;
 }
 
 std::string ttbasic::nextLabel()

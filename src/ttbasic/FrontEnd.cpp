@@ -11,7 +11,7 @@ PrintFunction ttbasic::myprintf = printToStandardOutput;
 
 void ttbasic::redirectPrintfTo(PrintFunction function)
 {
-    myprintf = function;
+    myprintf = function != nullptr ? function : printToStandardOutput;
 }
 
 ttbasic::ttbasic()
@@ -79,6 +79,9 @@ bool ttbasic::parse(bool debugMode)
         increase(lineNumber);
         if (!compileLine(line)) {
             failed = true;
+        }
+        if (isTooLarge()) {
+            return error("The script becomes too large");
         }
     }
     return !failed && checkGotos() && checkLabels();

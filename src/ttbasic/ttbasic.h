@@ -71,7 +71,7 @@ public:
     // The names of all subs, which are the areas that the script reacts to, in ascending order.
     std::vector<std::string> usedOidNames() const;
 
-    // The function that all compilers print their errors with.
+    // The function that all compilers print their errors with; null is standard output.
     static void redirectPrintfTo(PrintFunction function);
     static PrintFunction myprintf;
 
@@ -138,6 +138,7 @@ public:
     std::string currentVoice;
     std::map<std::string, VOICE> voices;
     std::map<std::string, TALKTEXT> talkTexts;  // by audio name
+    size_t codeLimit = size_t(1) << 30;         // bytes; a script with more code is an error
 
 private:
     bool compileLine(char* line);
@@ -150,6 +151,8 @@ private:
     // What a command line begins with when no block is open.
     static constexpr const char* kCommandStart = "        - ";
     void emitLine(const std::string& line);
+    void emitCommand(const std::string& command);
+    bool isTooLarge() const;
     std::string nextLabel();
     void emitFallThrough(const std::string& jump);
     void emitToken(const std::string& token);
