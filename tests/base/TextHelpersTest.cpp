@@ -1,6 +1,7 @@
 #include "base/TextHelpers.h"
 
-#include <clocale>
+#include "tests/helpers/GermanLocale.h"
+
 #include <gmock/gmock.h>
 #include <limits>
 
@@ -118,14 +119,10 @@ TEST(Numbers, DecimalsAreReadAsTheLibraryReadsThem)
 
 TEST(Numbers, HaveAPointWhateverTheLocale)
 {
-    const std::string previous = setlocale(LC_ALL, nullptr);
-    for (const char* name : {"de_DE.UTF-8", "fr_FR.UTF-8", "C.UTF-8"}) {
-        if (setlocale(LC_ALL, name) != nullptr) {
-            EXPECT_EQ(toDouble("1.5"), 1.5) << name;
-            EXPECT_EQ(formatFixed(1.5, 2), "1.50") << name;
-        }
-    }
-    setlocale(LC_ALL, previous.c_str());
+    const GermanLocale german("UTF-8");
+    EXPECT_EQ(toDouble("1.5"), 1.5);
+    EXPECT_EQ(toDouble("1,5"), 1.0);
+    EXPECT_EQ(formatFixed(1.5, 2), "1.50");
 }
 
 TEST(Numbers, AreFormattedWithDecimalsAndWidth)
