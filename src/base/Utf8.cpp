@@ -26,28 +26,6 @@ int followers(unsigned char first)
     return first >= 0xF0 && first <= 0xF4 ? 3 : -1;
 }
 
-// Takes one character off the front. False when it is malformed, longer than it needs to be or
-// beyond the last code point.
-bool takeCharacter(std::string_view& bytes, char32_t& character)
-{
-    static constexpr char32_t smallest[] = {0, 0x80, 0x800, 0x10000};
-    const auto first = static_cast<unsigned char>(bytes[0]);
-    const int more = followers(first);
-    if (more < 0 || bytes.size() <= static_cast<size_t>(more)) {
-        return false;
-    }
-    character = more == 0 ? first : first & (0x3FU >> more);
-    for (int i = 1; i <= more; ++i) {
-        const auto next = static_cast<unsigned char>(bytes[static_cast<size_t>(i)]);
-        if (!isContinuation(next)) {
-            return false;
-        }
-        character = character << 6 | (next & 0x3FU);
-    }
-    bytes.remove_prefix(static_cast<size_t>(more) + 1);
-    return character >= smallest[more] && character <= kLastCodePoint;
-}
-
 // Where wide characters have 16 bits, one beyond that range takes two.
 void appendWide(std::wstring& text, char32_t character)
 {
@@ -98,6 +76,26 @@ void appendUtf8(std::string& bytes, char32_t c)
 }
 
 }  // namespace
+
+bool takeCharacter(std::string_view& bytes, char32_t& character)
+{
+    static constexpr char32_t smallest[] = {0, 0x80, 0x800, 0x10000};
+    const auto first = static_cast<unsigned char>(bytes[0]);
+    const int more = followers(first);
+    if (more < 0 || bytes.size() <= static_cast<size_t>(more)) {
+        return false;
+    }
+    character = more == 0 ? first : first & (0x3FU >> more);
+    for (int i = 1; i <= more; ++i) {
+        const auto next = static_cast<unsigned char>(bytes[static_cast<size_t>(i)]);
+        if (!isContinuation(next)) {
+            return false;
+        }
+        character = character << 6 | (next & 0x3FU);
+    }
+    bytes.remove_prefix(static_cast<size_t>(more) + 1);
+    return character >= smallest[more] && character <= kLastCodePoint;
+}
 
 std::string encode(std::wstring_view text)
 {

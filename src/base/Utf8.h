@@ -10,5 +10,8 @@ namespace Utf8 {
 std::string encode(std::wstring_view text);
 // False when the bytes are no UTF-8; then out is not touched.
 bool decode(std::string_view bytes, std::wstring& out);
+// Takes one character off the front. False when it is malformed, longer than it needs to be or
+// beyond the last code point; bytes must not be empty.
+bool takeCharacter(std::string_view& bytes, char32_t& character);
 
 }  // namespace Utf8
