@@ -1,0 +1,110 @@
+#include "gme/YamlLines.h"
+
+#include "gme/YamlLine.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace gme {
+
+namespace {
+
+// What is left without comments is far below this for the largest game that can be built.
+constexpr size_t kLargestYaml = 16U << 20;
+// The parser counts bytes where the limit for a key is 1024 characters; a key longer than this is
+// handed over in the explicit form, which has no limit.
+constexpr size_t kLongestPlainKey = 1000;
+
+class YamlPreparation
+{
+public:
+    YamlPreparation(PreparedYaml& prepared, Messages& allMessages)
+        : out(prepared), messages(allMessages)
+    {}
+
+    void take(std::string_view sourceLine);
+
+private:
+    void remember(const YamlLine& line, std::string_view sourceLine);
+    void refuse(const std::string& reason, std::string_view sourceLine);
+    void append(const YamlLine& line, std::string_view sourceLine);
+
+    PreparedYaml& out;
+    Messages& messages;
+    int lineNumber = 0;
+    size_t openKeyColumn = YamlLine::kNone;  // of an explicit key that waits for its value
+    std::string section;                     // the last key at column 0
+};
+
+void YamlPreparation::take(std::string_view sourceLine)
+{
+    ++lineNumber;
+    const YamlLine line = readYamlLine(sourceLine, openKeyColumn);
+    if (!line.refusal.empty()) {
+        refuse(line.refusal, sourceLine);
+    }
+    remember(line, sourceLine);
+    append(line, sourceLine);
+}
+
+void YamlPreparation::remember(const YamlLine& line, std::string_view sourceLine)
+{
+    if (line.length == 0) {
+        return;
+    }
+    openKeyColumn = line.explicitKeyColumn;
+    if (line.keyColumn == 0 && line.keyLength > 0) {
+        section = sourceLine.substr(0, line.keyLength);
+    }
+}
+
+void YamlPreparation::refuse(const std::string& reason, std::string_view sourceLine)
+{
+    const bool isInSection = !section.empty() && !sourceLine.empty() && sourceLine[0] == ' ';
+    const size_t begin = std::min(sourceLine.find_first_not_of(" \t"), sourceLine.size());
+    messages.error(lineNumber, (isInSection ? section + ": " : std::string()) + reason + ": " +
+                                   quoted(std::string(sourceLine.substr(begin))));
+}
+
+void YamlPreparation::append(const YamlLine& line, std::string_view sourceLine)
+{
+    const std::string_view content = sourceLine.substr(0, line.length);
+    const bool isLongKey = line.keyLength > kLongestPlainKey &&
+                           content.find_first_not_of(' ') == line.keyColumn &&
+                           line.explicitKeyColumn == YamlLine::kNone;
+    if (!isLongKey) {
+        out.text.append(content).append(1, '\n');
+        return;
+    }
+    const std::string indent(line.keyColumn, ' ');
+    out.text.append(indent + "? ").append(content.substr(line.keyColumn, line.keyLength));
+    out.text.append("\n" + indent).append(content.substr(line.colon)).append("\n");
+    const auto lines = static_cast<int>(out.insertedLines.size());
+    out.insertedLines.push_back(lineNumber + lines + 1);
+}
+
+}  // namespace
+
+int PreparedYaml::fileLine(int line) const
+{
+    const auto later = std::upper_bound(insertedLines.begin(), insertedLines.end(), line);
+    return line - static_cast<int>(later - insertedLines.begin());
+}
+
+bool prepareYaml(const std::string& source, PreparedYaml& prepared, Messages& messages)
+{
+    YamlPreparation preparation(prepared, messages);
+    std::string_view rest = source;
+    while (!rest.empty()) {
+        const size_t end = std::min(rest.find('\n'), rest.size());
+        preparation.take(rest.substr(0, end));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+        if (prepared.text.size() > kLargestYaml) {
+            messages.error(0, "more than 16 MiB of YAML besides its comments");
+            return false;
+        }
+    }
+    return !messages.hasErrors();
+}
+
+}  // namespace gme
