@@ -1,0 +1,123 @@
+#include "gme/CodesFile.h"
+
+#include "base/PlatformFiles.h"
+#include "gme/CodesReader.h"
+#include "gme/CodesText.h"
+#include "gme/SourceText.h"
+#include "gme/YamlMapping.h"
+
+#include <algorithm>
+
+namespace gme {
+
+namespace {
+
+void readContent(const YamlNode& root, GivenCodes& codes, Messages& messages)
+{
+    YamlMapping values;
+    if (root.kind == YamlNode::Kind::Mapping) {
+        values = lastValues(root, [&messages](const YamlNode& earlier, const YamlNode& last) {
+            if (!isSameValue(earlier, last)) {
+                messages.warning(last.keyLine, last.key + " replaces the value of line " +
+                                                   std::to_string(earlier.keyLine));
+            }
+        });
+    }
+    const auto section = values.find("scriptcodes");
+    if (section == values.end()) {
+        messages.error(0, "the codes file has no scriptcodes");
+        return;
+    }
+    readScriptCodes(*section->second, codes.names, messages);
+    const auto special = [&values](const char* name) {
+        const auto found = values.find(name);
+        return found == values.end() ? nullptr : found->second;
+    };
+    codes.replay = readSpecialCode(special("replay"), messages);
+    codes.stop = readSpecialCode(special("stop"), messages);
+}
+
+bool isSameCode(const std::optional<GivenCode>& one, const std::optional<GivenCode>& other)
+{
+    return one.has_value() == other.has_value() && (!one || one->code == other->code);
+}
+
+bool isSameContent(const GivenCodes& one, const GivenCodes& other)
+{
+    const auto isSameEntry = [](const auto& left, const auto& right) {
+        return left.first == right.first && left.second.code == right.second.code;
+    };
+    return isSameCode(one.replay, other.replay) && isSameCode(one.stop, other.stop) &&
+           std::equal(one.names.begin(), one.names.end(), other.names.begin(), other.names.end(),
+                      isSameEntry);
+}
+
+}  // namespace
+
+bool CodesFile::read(Messages& messages)
+{
+    exists = Platform::fileExists(path);
+    if (!exists) {
+        return true;
+    }
+    if (!readBytes(path, oldBytes, messages)) {
+        return false;
+    }
+    std::string text = oldBytes;
+    PreparedYaml yaml;
+    YamlNode root;
+    if (makeText(text, messages) && prepareYaml(text, yaml, messages) &&
+        readYamlTree(yaml, root, messages)) {
+        readContent(root, known, messages);
+    }
+    return !messages.hasErrors();
+}
+
+// Scripts whose code stands in the YAML file need no entry, nor do those whose name is their code.
+GivenCodes CodesFile::newContent(const Description& description, const Codes& codes) const
+{
+    GivenCodes content;
+    for (const auto& [name, code] : codes.scripts) {
+        const bool isFixed = numericName(name) == code || description.codes.names.count(name) > 0;
+        if (!isFixed) {
+            content.names[name] = {code, 0};
+        }
+    }
+    if (!description.codes.replay) {
+        content.replay = GivenCode{codes.replay, 0};
+    }
+    if (!description.codes.stop) {
+        content.stop = GivenCode{codes.stop, 0};
+    }
+    return content;
+}
+
+bool CodesFile::update(const Description& description, const Codes& codes) const
+{
+    const GivenCodes content = newContent(description, codes);
+    if (content.names.empty() && !content.replay && !content.stop) {
+        return !exists || Platform::removeFile(path);
+    }
+    if (exists && isSameContent(content, known)) {
+        return true;
+    }
+    return write(codesText(content));
+}
+
+void CodesFile::restore() const
+{
+    if (exists) {
+        write(oldBytes);
+    } else {
+        Platform::removeFile(path);
+    }
+}
+
+bool CodesFile::write(const std::string& bytes) const
+{
+    Platform::FileReplacement file(path);
+    return file.file() != nullptr &&
+           fwrite(bytes.data(), 1, bytes.size(), file.file()) == bytes.size() && file.commit();
+}
+
+}  // namespace gme
