@@ -1,0 +1,70 @@
+#include "gme/Media.h"
+
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace gme {
+
+namespace {
+
+constexpr size_t kMostFiles = 65536;
+
+bool isFile(const std::string& path)
+{
+    std::error_code ignored;
+    return fs::is_regular_file(fs::u8path(path), ignored);
+}
+
+std::string listOf(const std::vector<std::string>& names)
+{
+    std::string list = names[0];
+    for (size_t i = 1; i < names.size(); ++i) {
+        list += (i + 1 < names.size() ? ", " : " and ") + names[i];
+    }
+    return list;
+}
+
+}  // namespace
+
+void Media::findFiles(const MediaPath& mediaPath, Messages& messages)
+{
+    if (indexes.size() > kMostFiles) {
+        messages.error(0, "the game has more than 65536 audio files");
+        return;
+    }
+    uint16_t index = 0;
+    for (auto& [name, place] : indexes) {
+        place = index++;
+        findFile(name, mediaPath, messages);
+    }
+}
+
+void Media::findFile(const std::string& name, const MediaPath& mediaPath, Messages& messages)
+{
+    const std::vector<std::string> candidates = mediaPath.candidates(name);
+    std::vector<std::string> existing;
+    for (const std::string& candidate : candidates) {
+        if (isFile(mediaPath.fullPath(candidate))) {
+            existing.push_back(candidate);
+        }
+    }
+    if (existing.empty()) {
+        messages.error(0, "no audio file for " + name + ": there is none of " + listOf(candidates));
+        return;
+    }
+    if (existing.size() > 1) {
+        messages.error(0, "more than one audio file for " + name + ": " + listOf(existing));
+        return;
+    }
+    const std::string path = mediaPath.fullPath(existing[0]);
+    std::error_code problem;
+    const uintmax_t size = fs::file_size(fs::u8path(path), problem);
+    if (problem) {
+        messages.error(0, "the audio file " + existing[0] + " cannot be read");
+        return;
+    }
+    found.push_back({path, size});
+}
+
+}  // namespace gme
