@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -17,6 +18,10 @@ bool removeFile(const std::string& path);
 bool createDirectory(const std::string& path);
 // Overwrites; the copy appears under its name only when it is complete.
 bool copyFile(const std::string& source, const std::string& destination);
+
+// fseek and ftell for files of any size; the origin is SEEK_SET, SEEK_CUR or SEEK_END. The new
+// position, or -1 when it cannot be reached.
+std::int64_t seekFile(FILE* file, std::int64_t offset, int origin);
 
 int changeDirectory(const std::string& path);
 std::string currentDirectory();

@@ -121,6 +121,11 @@ bool copyFile(const std::string& source, const std::string& destination)
     return to.file() != nullptr && copyStream(from.get(), to.file()) && to.commit();
 }
 
+std::int64_t seekFile(FILE* file, std::int64_t offset, int origin)
+{
+    return fseeko(file, static_cast<off_t>(offset), origin) == 0 ? ftello(file) : -1;
+}
+
 int changeDirectory(const std::string& path)
 {
     return chdir(nativePath(path).c_str());

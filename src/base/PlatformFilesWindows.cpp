@@ -53,6 +53,11 @@ bool copyFile(const std::string& source, const std::string& destination)
     return false;
 }
 
+std::int64_t seekFile(FILE* file, std::int64_t offset, int origin)
+{
+    return _fseeki64(file, offset, origin) == 0 ? _ftelli64(file) : -1;
+}
+
 int changeDirectory(const std::string& path)
 {
     return _chdir(path.c_str());
