@@ -10,8 +10,7 @@ int pnpoly(const std::vector<PNT>& points, const PNT& point)
     for (std::size_t i = 0, j = points.size() - 1; i < points.size(); j = i++) {
         const PNT& a = points[i];
         const PNT& b = points[j];
-        if ((a.y > point.y) != (b.y > point.y) &&
-            (b.x - a.x) * (point.y - a.y) / (b.y - a.y) + a.x > point.x) {
+        if ((a.y > point.y) != (b.y > point.y) && crossingX(a, b, point.y) > point.x) {
             inside = 1 - inside;
         }
     }

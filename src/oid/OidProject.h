@@ -20,6 +20,13 @@ struct PNT
     double y = 0;
 };
 
+// The x at which the edge between two vertices crosses the height y. Only for edges with one end
+// above y and one not above it. Print images rely on this very rounding.
+inline double crossingX(const PNT& vertex, const PNT& previous, double y)
+{
+    return (previous.x - vertex.x) * (y - vertex.y) / (previous.y - vertex.y) + vertex.x;
+}
+
 // Even-odd crossing test, 1 when the ring contains the point. Points on an edge fall on one side;
 // there is no tolerance.
 int pnpoly(const std::vector<PNT>& points, const PNT& point);
