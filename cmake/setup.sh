@@ -3,12 +3,12 @@
 
 build_packages=(
     cmake ninja-build g++
-    qtbase5-dev libyaml-cpp-dev libtiff-dev zlib1g-dev
+    qtbase5-dev libyaml-cpp-dev pkg-config libtiff-dev libdeflate-dev
 )
 run_packages=(espeak-ng ffmpeg)
 test_packages=(
     libgtest-dev libgmock-dev locales
-    libtiff-tools imagemagick
+    libtiff-tools imagemagick qt5-image-formats-plugins
 )
 
 # install_packages NAME...: installs the Debian packages that are missing; quiet when none is.

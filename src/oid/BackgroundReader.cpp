@@ -1,0 +1,88 @@
+#include "oid/BackgroundReader.h"
+
+#include <QImageReader>
+#include <QString>
+
+#include "base/PlatformFiles.h"
+#include "base/PlatformMemory.h"
+#include "oid/PrintImage.h"
+
+namespace {
+
+// Collects what Qt's decoders warn about on this thread while it lives.
+class DecoderWarnings
+{
+public:
+    DecoderWarnings() : previous(qInstallMessageHandler(collect)), outer(current)
+    {
+        forward = previous;
+        current = this;
+    }
+    ~DecoderWarnings()
+    {
+        current = outer;
+        qInstallMessageHandler(previous);
+    }
+    DecoderWarnings(const DecoderWarnings&) = delete;
+    DecoderWarnings& operator=(const DecoderWarnings&) = delete;
+
+    // Other warnings, on odd headers or colour profiles, leave the pixels alone.
+    bool tellOfDamage() const
+    {
+        return text.contains(QLatin1String("Corrupt JPEG data")) ||
+               text.contains(QLatin1String("Premature end"));
+    }
+
+private:
+    static void collect(QtMsgType type, const QMessageLogContext& context, const QString& message)
+    {
+        if (current != nullptr) {
+            current->text += message + QLatin1Char('\n');
+        } else if (forward != nullptr) {
+            forward(type, context, message);
+        }
+    }
+
+    static thread_local DecoderWarnings* current;
+    static QtMessageHandler forward;
+
+    QtMessageHandler previous;
+    DecoderWarnings* outer;
+    QString text;
+};
+
+thread_local DecoderWarnings* DecoderWarnings::current = nullptr;
+QtMessageHandler DecoderWarnings::forward = nullptr;
+
+// Half of what there is: decoders need room besides, and other programs run too.
+bool fitsMemory(const QImageReader& reader)
+{
+    const QSize size = reader.size();
+    if (!size.isValid()) {
+        return true;  // the decoder will tell
+    }
+    const std::uint64_t pixels =
+        static_cast<std::uint64_t>(size.width()) * static_cast<std::uint64_t>(size.height());
+    return pixels * sizeof(QRgb) <= Platform::availableMemory() / 2;
+}
+
+}  // namespace
+
+bool readBackground(const std::string& path, QImage& image)
+{
+    const DecoderWarnings warnings;
+    QImageReader reader(QString::fromStdString(Platform::nativePath(path)));
+    if (!fitsMemory(reader)) {
+        mi_printf("Error: The image '%s' is too large for the memory\n", path.c_str());
+        return false;
+    }
+    if (!reader.read(&image)) {
+        mi_printf("Error: Can't read the image '%s'\n", path.c_str());
+        return false;
+    }
+    if (warnings.tellOfDamage()) {
+        mi_printf("Error: The image '%s' is damaged\n", path.c_str());
+        return false;
+    }
+    return true;
+}

@@ -1,0 +1,72 @@
+#include "oid/PageBackground.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cstdint>
+
+#include "oid/BackgroundReader.h"
+
+namespace {
+
+// Beyond it the painter draws nothing: it counts pixels in 16 bits.
+constexpr int kPainterRange = 32767;
+
+// An image of a tile that only has memory for the rows of one band, of which it must not be touched
+// outside. So the painter works with the coordinates of the page: moved to the band's own it would
+// round differently. The address of the tile's first pixel is computed as a number, because no
+// array reaches there.
+QImage tileWithOneBand(QRgb* rows, int firstRow, const QRect& tile, int pageWidth)
+{
+    const std::int64_t bytesPerRow = std::int64_t{pageWidth} * sizeof(QRgb);
+    const std::int64_t offset = (tile.top() - std::int64_t{firstRow}) * bytesPerRow +
+                                tile.left() * std::int64_t{sizeof(QRgb)};
+    const std::uintptr_t origin =
+        reinterpret_cast<std::uintptr_t>(rows) + static_cast<std::uintptr_t>(offset);
+    return QImage(reinterpret_cast<uchar*>(origin), tile.width(), tile.height(),
+                  static_cast<int>(bytesPerRow), QImage::Format_RGB32);
+}
+
+}  // namespace
+
+bool PageBackground::load(const std::string& path)
+{
+    return readBackground(path, picture);
+}
+
+void PageBackground::fitInto(const PageGeometry& page)
+{
+    pageWidth = page.width;
+    pageHeight = page.height;
+    const double factor = std::min(static_cast<double>(page.height) / picture.height(),
+                                   static_cast<double>(page.width) / picture.width());
+    const double width = picture.width() * factor;
+    const double height = picture.height() * factor;
+    target = QRect(0, 0, static_cast<int>(width), static_cast<int>(height));
+    percent = 100 / width;
+}
+
+void PageBackground::drawRows(QRgb* rows, int firstRow, int rowCount) const
+{
+    std::fill_n(rows, static_cast<std::size_t>(pageWidth) * static_cast<std::size_t>(rowCount),
+                qRgb(255, 255, 255));
+    if (std::max(pageWidth, pageHeight) <= kPainterRange) {
+        drawTile(rows, firstRow, rowCount, QRect(0, 0, pageWidth, pageHeight));
+        return;
+    }
+    const int top = firstRow / kTileEdge * kTileEdge;
+    for (int left = 0; left < pageWidth; left += kTileEdge) {
+        const QRect tile(left, top, kTileEdge, kTileEdge);
+        drawTile(rows, firstRow, rowCount, tile.intersected(QRect(0, 0, pageWidth, pageHeight)));
+    }
+}
+
+void PageBackground::drawTile(QRgb* rows, int firstRow, int rowCount, const QRect& tile) const
+{
+    QImage canvas = tileWithOneBand(rows, firstRow, tile, pageWidth);
+    QPainter painter(&canvas);
+    painter.setClipRect(0, firstRow - tile.top(), tile.width(), rowCount);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.translate(-tile.topLeft());
+    painter.drawImage(target, picture);
+}
