@@ -119,7 +119,7 @@ bool Buffer<CELL>::has_changed_line()
 {
     for (int i = touched.first(); i < touched.end(); ++i) {
         if (lines[i].changed) {
-            touched.dropBefore(i);
+            touched.exclude(0, i);
             return true;
         }
     }
@@ -140,17 +140,12 @@ std::vector<int> Buffer<CELL>::changed_lines(int first, int last) const
     return found;
 }
 
-template Buffer<EdChar>::Buffer();
-template Line<EdChar>& Buffer<EdChar>::line(int);
-template const Line<EdChar>& Buffer<EdChar>::line(int) const;
-template int Buffer<EdChar>::width() const;
-template void Buffer<EdChar>::erase_lines(int, int);
-template void Buffer<EdChar>::insert_rows(int, int);
-template int Buffer<EdChar>::block_height() const;
-template void Buffer<EdChar>::insert_block(const Buffer&, int, int);
-template void Buffer<EdChar>::tabs_insert(int);
-template void Buffer<EdChar>::tabs_remove();
-template bool Buffer<EdChar>::has_changed_line();
-template std::vector<int> Buffer<EdChar>::changed_lines(int, int) const;
+template <class CELL>
+void Buffer<CELL>::forget_changes(int first, int last)
+{
+    touched.exclude(first, saturating_add(last, 1));
+}
+
+template class Buffer<EdChar>;
 
 }  // namespace KVTextEditor

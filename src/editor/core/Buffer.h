@@ -50,6 +50,8 @@ public:
     bool has_changed_line();
     // Among the lines first to last, in ascending order.
     std::vector<int> changed_lines(int first, int last) const;
+    // To be called when none of these lines is changed any more.
+    void forget_changes(int first, int last);
     // The line at an index inside the text, without growing or remembering anything; different
     // lines may be coloured by different threads.
     Line<CELL>& line_to_colour(int i) { return lines[i]; }

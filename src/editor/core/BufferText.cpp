@@ -25,14 +25,30 @@ int breakLength(const char16_t* text)
 // Appends what is part of the text: no character 0, whether it is a filler or comes from a
 // separator.
 template <class ITERATOR, class CHARACTER>
-void appendCharacters(char16_t*& out, ITERATOR first, ITERATOR end, CHARACTER characterOf)
+void appendCharacters(std::u16string& text, ITERATOR first, ITERATOR end, CHARACTER characterOf)
 {
+    const std::size_t before = text.size();
+    text.resize(before + (end - first));
+    char16_t* out = text.data() + before;
     for (; first != end; ++first) {
         const char16_t c = characterOf(*first);
-        if (c != kFiller) {
-            *out++ = c;
-        }
+        *out = c;
+        out += c != kFiller ? 1 : 0;
     }
+    text.resize(out - text.data());
+}
+
+// Puts a text into a line of an earlier content. The line keeps its storage when that fits, which
+// makes undo cheap: most lines are as long as before.
+template <class CELL>
+void refill(Line<CELL>& line, const char16_t* text, int n)
+{
+    constexpr int kSpareCells = 4;
+    if (line.capacity() < n || line.capacity() > n + kSpareCells) {
+        line.clear();
+    }
+    line.bookmark = false;
+    line.set(text, n);
 }
 
 }  // namespace
@@ -40,20 +56,18 @@ void appendCharacters(char16_t*& out, ITERATOR first, ITERATOR end, CHARACTER ch
 template <class CELL>
 void Buffer<CELL>::set_text(const char16_t* text)
 {
-    lines.clear();
-    touched.clear();
-    if (text == nullptr) {
-        return;
-    }
-    for (;;) {
+    int count = 0;
+    while (text != nullptr) {
         const char16_t* end = endOfLine(text);
-        lines.emplace_back().set(text, static_cast<int>(end - text));
-        if (*end == 0) {
-            break;
+        if (count == line_count()) {
+            lines.emplace_back();
         }
-        text = end + breakLength(end);
+        refill(lines[count++], text, static_cast<int>(end - text));
+        text = *end == 0 ? nullptr : end + breakLength(end);
     }
-    touched.include(0, line_count());
+    lines.resize(count);
+    touched.clear();
+    touched.include(0, count);
 }
 
 template <class CELL>
@@ -77,15 +91,15 @@ void Buffer<CELL>::get_all_text(const std::u16string& separator, std::u16string&
     for (const Line<CELL>& line : lines) {
         size += line.length();
     }
-    text.resize(size);
-    char16_t* out = text.data();
+    text.clear();
+    text.reserve(size);
     for (const Line<CELL>& line : lines) {
         if (&line != &lines.front()) {
-            appendCharacters(out, separator.begin(), separator.end(), [](char16_t c) { return c; });
+            appendCharacters(text, separator.begin(), separator.end(),
+                             [](char16_t c) { return c; });
         }
-        appendCharacters(out, line.begin(), line.end(), [](const CELL& cell) { return cell.ch; });
+        appendCharacters(text, line.begin(), line.end(), [](const CELL& cell) { return cell.ch; });
     }
-    text.resize(out - text.data());
 }
 
 template void Buffer<EdChar>::set_text(const char16_t*);

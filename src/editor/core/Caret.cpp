@@ -7,19 +7,6 @@
 namespace KVTextEditor {
 
 template <class CELL>
-typename EditorBackend<CELL>::LINE& EditorBackend<CELL>::current_line()
-{
-    return buffer->line(selection.end.line);
-}
-
-// The nearest line of the text.
-template <class CELL>
-int EditorBackend<CELL>::line_in_text(int line) const
-{
-    return std::max(std::min(line, buffer->line_count() - 1), 0);
-}
-
-template <class CELL>
 CARET EditorBackend<CELL>::snap_to_position(CARET caret) const
 {
     caret.line = line_in_text(caret.line);
@@ -108,8 +95,6 @@ void EditorBackend<CELL>::move_right(int dx)
     } while (line.is_filler_at(caret.column));
 }
 
-template typename EditorBackend<EdChar>::LINE& EditorBackend<EdChar>::current_line();
-template int EditorBackend<EdChar>::line_in_text(int) const;
 template CARET EditorBackend<EdChar>::snap_to_position(CARET) const;
 template void EditorBackend<EdChar>::move_cursor(int, int);
 template void EditorBackend<EdChar>::move_left(int);

@@ -1,48 +1,36 @@
 #include "editor/core/CharClass.h"
 
-#include <array>
-
-#include "editor/core/EdChar.h"
+#include <string_view>
 
 namespace KVTextEditor {
 
 namespace {
 
+constexpr std::u16string_view kWhitespace(u"\0\t \r\n", 5);  // with the filler cell
 // Intended: the degree sign counts as an operator.
-constexpr char16_t kOperators[] = u"+-*/\\=(){}[]<>|^\u00B0!%&?,;.:@~";
-constexpr std::size_t kOperatorTableSize = 256;
+constexpr std::u16string_view kOperators = u"+-*/\\=(){}[]<>|^\u00B0!%&?,;.:@~";
+constexpr std::u16string_view kQuotes = u"'\"";
 
-constexpr std::array<bool, kOperatorTableSize> operatorTable()
+constexpr BLOCKTYPES blocktypes()
 {
-    std::array<bool, kOperatorTableSize> table{};
-    for (const char16_t* c = kOperators; *c != 0; ++c) {
-        table[*c] = true;
+    BLOCKTYPES types{};
+    for (BLOCKTYPE& type : types) {
+        type = BLOCKTYPE_WORD;
     }
-    return table;
+    for (const char16_t c : kQuotes) {
+        types[c] = BLOCKTYPE_QUOTE;
+    }
+    for (const char16_t c : kOperators) {
+        types[c] = BLOCKTYPE_OPERATOR;
+    }
+    for (const char16_t c : kWhitespace) {
+        types[c] = BLOCKTYPE_WHITESPACE;
+    }
+    return types;
 }
 
 }  // namespace
 
-bool is_char_whitespace(char16_t c)
-{
-    return c == kFiller || c == u'\t' || c == u' ' || c == u'\r' || c == u'\n';
-}
-
-bool is_char_operator(char16_t c)
-{
-    static constexpr std::array<bool, kOperatorTableSize> table = operatorTable();
-    return c < kOperatorTableSize && table[c];
-}
-
-BLOCKTYPE blocktype_of(char16_t c)
-{
-    if (is_char_whitespace(c)) {
-        return BLOCKTYPE_WHITESPACE;
-    }
-    if (is_char_operator(c)) {
-        return BLOCKTYPE_OPERATOR;
-    }
-    return c == u'\'' || c == u'"' ? BLOCKTYPE_QUOTE : BLOCKTYPE_WORD;
-}
+const BLOCKTYPES kBlocktypes = blocktypes();
 
 }  // namespace KVTextEditor

@@ -1,12 +1,11 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
+
+#include "editor/core/EdChar.h"
+
 namespace KVTextEditor {
-
-// Filler cell, tab, blank, CR and LF.
-bool is_char_whitespace(char16_t c);
-
-// The 27 operators of the editor; the degree sign is one of them.
-bool is_char_operator(char16_t c);
 
 // What kind of run a character belongs to.
 enum BLOCKTYPE {
@@ -17,6 +16,26 @@ enum BLOCKTYPE {
     BLOCKTYPE_QUOTE = 5,
 };
 
-BLOCKTYPE blocktype_of(char16_t c);
+// All characters from here on are word characters.
+constexpr std::size_t kWordsOnlyFrom = 256;
+using BLOCKTYPES = std::array<BLOCKTYPE, kWordsOnlyFrom>;
+extern const BLOCKTYPES kBlocktypes;
+
+inline BLOCKTYPE blocktype_of(char16_t c)
+{
+    return c < kWordsOnlyFrom ? kBlocktypes[c] : BLOCKTYPE_WORD;
+}
+
+// Filler cell, tab, blank, CR and LF.
+inline bool is_char_whitespace(char16_t c)
+{
+    return blocktype_of(c) == BLOCKTYPE_WHITESPACE;
+}
+
+// The 27 operators of the editor; the degree sign is one of them.
+inline bool is_char_operator(char16_t c)
+{
+    return blocktype_of(c) == BLOCKTYPE_OPERATOR;
+}
 
 }  // namespace KVTextEditor

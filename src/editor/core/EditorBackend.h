@@ -140,10 +140,6 @@ private:
     void paste_block(const BUFFER& pasted);
 
     static LINE_PART part_of_line(const SELECTION& range, int line);
-
-    void colorize_line(CELL_WRITER fn, LINE& line) const;
-    int colour_run_at(const LINE& line, int column, COLORINDEX& role) const;
-    static int string_length(const LINE& line, int column, char16_t close);
 };
 
 extern template class EditorBackend<EdChar>;

@@ -145,10 +145,10 @@ void Line<CELL>::set(const char16_t* text, int n)
         return;
     }
     changed = true;
-    grow(n);
-    for (int i = 0; i < n; ++i) {
-        cells[i].ch = text[i];
-    }
+    alloc(n);
+    used = n;
+    std::transform(text, text + n, cells.get(), [](char16_t c) { return CELL{c, kPlainRole}; });
+    terminate();
 }
 
 template <class CELL>
@@ -252,27 +252,6 @@ void Line<CELL>::terminate()
     }
 }
 
-template Line<EdChar>::Line(const Line&);
-template Line<EdChar>& Line<EdChar>::operator=(const Line&);
-template Line<EdChar>::Line(Line&&) noexcept;
-template Line<EdChar>& Line<EdChar>::operator=(Line&&) noexcept;
-template const EdChar& Line<EdChar>::at(int) const;
-template bool Line<EdChar>::is_filler_at(int) const;
-template bool Line<EdChar>::is_string_at(const std::u16string&, int) const;
-template BLOCKTYPE Line<EdChar>::get_blocktype_at(int) const;
-template int Line<EdChar>::indentation() const;
-template Line<EdChar> Line<EdChar>::substr(int, int) const;
-template void Line<EdChar>::alloc(int);
-template void Line<EdChar>::clear();
-template void Line<EdChar>::empty();
-template void Line<EdChar>::set(const char16_t*, int);
-template void Line<EdChar>::insert_gap(int, int);
-template void Line<EdChar>::overwrite(int, const EdChar*, int);
-template void Line<EdChar>::insert(int, const EdChar*, int);
-template bool Line<EdChar>::erase(int, int);
-template void Line<EdChar>::append(const Line&);
-template bool Line<EdChar>::transform(int, int, CHARACTER_FUNCTION);
-template void Line<EdChar>::grow(int);
-template void Line<EdChar>::terminate();
+template class Line<EdChar>;
 
 }  // namespace KVTextEditor

@@ -18,6 +18,16 @@ void LineRange::include(int first, int end)
     to = std::max(to, end);
 }
 
+void LineRange::exclude(int first, int end)
+{
+    if (first <= from) {
+        from = std::max(from, end);
+    }
+    if (end >= to) {
+        to = std::min(to, first);
+    }
+}
+
 void LineRange::linesInserted(int at, int n)
 {
     if (at < to) {

@@ -12,7 +12,8 @@ public:
 
     void clear() { from = to = 0; }
     void include(int first, int end);
-    void dropBefore(int line) { from = line; }
+    // Leaves these lines out where they stand at an end of the run.
+    void exclude(int first, int end);
 
     void linesInserted(int at, int n);
     void linesErased(int first, int n);
