@@ -42,6 +42,16 @@ mode_t newFileMode()
     return 0666 & ~mask;
 }
 
+// A pattern for mkostemp in the same folder. The name is cut where it would become too long.
+std::string temporaryNameBeside(const std::string& file)
+{
+    constexpr size_t kLongestName = 255;  // bytes, on every usual file system
+    const std::string pattern = ".XXXXXX";
+    const size_t slash = file.rfind('/');
+    const size_t start = slash == std::string::npos ? 0 : slash + 1;
+    return file.substr(0, start + kLongestName - pattern.size()) + pattern;
+}
+
 void flushFolder(const std::string& file)
 {
     const size_t slash = file.rfind('/');
@@ -149,7 +159,7 @@ FileReplacement::FileReplacement(const std::string& path) : target(nativePath(pa
         return;
     }
     target = resolveLinks(target);
-    temporary = target + ".XXXXXX";
+    temporary = temporaryNameBeside(target);
     const int handle = mkostemp(temporary.data(), O_CLOEXEC);
     if (handle < 0) {
         temporary.clear();

@@ -38,14 +38,35 @@ bool createDirectory(const std::string& path)
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+// The names beside a file that writing it uses for a while, cut where they would become too long.
+static std::wstring temporaryNameBeside(const std::wstring& file, const std::wstring& suffix)
+{
+    constexpr size_t kLongestName = 255;  // characters
+    const size_t separator = file.find_last_of(L"\\/");
+    const size_t start = separator == std::wstring::npos ? 0 : separator + 1;
+    return file.substr(0, start + kLongestName - suffix.size()) + suffix;
+}
+
+static bool flushFile(const std::wstring& path)
+{
+    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return false;
+    }
+    const bool flushed = FlushFileBuffers(file) != 0;
+    CloseHandle(file);
+    return flushed;
+}
+
 bool copyFile(const std::string& source, const std::string& destination)
 {
     // Copied beside the destination first: a drive that fills up leaves no half file under the
     // name.
     const std::wstring target = fromUtf8(destination);
-    const std::wstring partial = target + L".part";
+    const std::wstring partial = temporaryNameBeside(target, L".part");
     constexpr DWORD kReplaceForCertain = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    if (CopyFileW(fromUtf8(source).c_str(), partial.c_str(), FALSE) != 0 &&
+    if (CopyFileW(fromUtf8(source).c_str(), partial.c_str(), FALSE) != 0 && flushFile(partial) &&
         MoveFileExW(partial.c_str(), target.c_str(), kReplaceForCertain) != 0) {
         return true;
     }
@@ -93,7 +114,8 @@ FileReplacement::FileReplacement(const std::string& path)
         (attributes != INVALID_FILE_ATTRIBUTES && (attributes & kNotWritable) != 0)) {
         return;
     }
-    temporary = target + "." + std::to_string(GetCurrentProcessId()) + ".tmp";
+    const std::wstring suffix = L"." + std::to_wstring(GetCurrentProcessId()) + L".tmp";
+    temporary = toUtf8(temporaryNameBeside(fromUtf8(target), suffix).c_str());
     stream = openFile(temporary, "wb");
     if (stream == nullptr) {
         temporary.clear();

@@ -148,6 +148,18 @@ TEST(RunningACommand, ShowsOnlyWhatIsAskedFor)
     EXPECT_EQ(shown(false, false), "");
 }
 
+TEST(ReplacingAFile, WorksForAFileWithTheLongestNameThereIs)
+{
+    const TemporaryFolder folder;
+    const std::string name(255, 'x');
+    Platform::FileReplacement replacement(folder.file(name));
+    ASSERT_NE(replacement.file(), nullptr);
+    fputs("moo", replacement.file());
+    EXPECT_TRUE(replacement.commit());
+    EXPECT_EQ(readFile(folder.file(name)), "moo");
+    EXPECT_EQ(folder.listing(), name);
+}
+
 TEST(ReplacingAFile, HappensAtTheCommitAndNotBefore)
 {
     const TemporaryFolder folder;
