@@ -1,0 +1,25 @@
+#include "tests/helpers/Environment.h"
+
+#include "base/FileSystem.h"
+#include "base/PlatformProcess.h"
+
+ChangedVariable::ChangedVariable(const std::string& variable, const std::string& value)
+    : name(variable), before(Platform::environmentVariable(variable))
+{
+    Platform::setEnvironmentVariable(name, value);
+}
+
+ChangedVariable::~ChangedVariable()
+{
+    Platform::setEnvironmentVariable(name, before);
+}
+
+ChangedFolder::ChangedFolder(const std::string& path) : before(FileSystem::getCurrentDirectory())
+{
+    FileSystem::setCurrentDirectory(path);
+}
+
+ChangedFolder::~ChangedFolder()
+{
+    FileSystem::setCurrentDirectory(before);
+}

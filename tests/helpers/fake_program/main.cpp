@@ -1,0 +1,106 @@
+// A stand-in for any outside program. A test puts it into a folder under the name of the program
+// (see FakeProgram.h), and beside it NAME.plan, which says line by line what it does:
+//
+//   print TEXT      a line on standard output       error TEXT   a line on standard error
+//   flood BYTES     lines of "y" on standard output longline BYTES   the same without line ends
+//   write N TEXT    TEXT into the file that argument N names (from 1; negative: from the end)
+//   await FILE      goes on when FILE exists        hang         never ends
+//   crash           aborts                          exit N       ends with status N
+//
+// Every call adds its arguments, one to a line, and an empty line to NAME.calls.
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+void record(const std::string& file, const Words& arguments)
+{
+    std::ofstream calls(file, std::ios::app | std::ios::binary);
+    for (const std::string& argument : arguments) {
+        calls << argument << '\n';
+    }
+    calls << '\n';
+}
+
+void flood(long long bytes, const char* unit)
+{
+    std::string block;
+    while (block.size() < 65536) {
+        block += unit;
+    }
+    for (; bytes > 0; bytes -= static_cast<long long>(block.size())) {
+        fwrite(block.data(), 1, block.size(), stdout);
+    }
+}
+
+void pauseBriefly()
+{
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+}
+
+void await(const std::string& file)
+{
+    while (!std::ifstream(file)) {
+        pauseBriefly();
+    }
+}
+
+void writeInto(const Words& arguments, const std::string& numberAndText)
+{
+    const std::size_t blank = numberAndText.find(' ');
+    const int number = std::stoi(numberAndText.substr(0, blank));
+    const int count = static_cast<int>(arguments.size());
+    const int index = number < 0 ? count + number : number - 1;
+    std::ofstream(arguments.at(static_cast<std::size_t>(index)), std::ios::binary)
+        << numberAndText.substr(blank + 1);
+}
+
+void carryOut(const std::string& action, const std::string& rest, const Words& arguments)
+{
+    if (action == "print") {
+        printf("%s\n", rest.c_str());
+    } else if (action == "error") {
+        fprintf(stderr, "%s\n", rest.c_str());
+    } else if (action == "flood") {
+        flood(std::stoll(rest), "y\n");
+    } else if (action == "longline") {
+        flood(std::stoll(rest), "y");
+    } else if (action == "write") {
+        writeInto(arguments, rest);
+    } else if (action == "await") {
+        await(rest);
+    } else if (action == "hang") {
+        for (;;) {
+            pauseBriefly();
+        }
+    } else if (action == "crash") {
+        std::abort();
+    } else if (action == "exit") {
+        std::exit(std::stoi(rest));
+    }
+    fflush(stdout);
+}
+
+}  // namespace
+
+int main(int count, char** words)
+{
+    const Words arguments(words + 1, words + count);
+    const std::string self = words[0];  // a full path: who starts it has looked it up on PATH
+    record(self + ".calls", arguments);
+    std::ifstream plan(self + ".plan");
+    for (std::string line; std::getline(plan, line);) {
+        const std::size_t blank = line.find(' ');
+        const std::string rest = blank == std::string::npos ? "" : line.substr(blank + 1);
+        carryOut(line.substr(0, blank), rest, arguments);
+    }
+    return 0;
+}
