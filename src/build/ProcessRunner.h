@@ -1,7 +1,6 @@
 #pragma once
 
-#include <string>
-
+#include "base/KVString.h"
 #include "base/PrintFunction.h"
 
 // The door through which the build starts outside programs and shows what happens. The console
@@ -11,10 +10,10 @@ class ProcessRunner
 public:
     virtual ~ProcessRunner() = default;
 
-    // Starts one program, given as UTF-8 words as OutsideProgram reads them, and shows its output
-    // as it arrives. False when a program is still running or when this one cannot be started (then
-    // that is shown). With wait it returns when the program has ended.
-    virtual bool run(const std::string& commandLine, bool wait) = 0;
+    // Starts one program, its words as OutsideProgram reads them, and shows its output as it
+    // arrives. False when a program is still running or when this one cannot be started (then that
+    // is shown). With wait it returns when the program has ended.
+    virtual bool exec(const KVString& commandLine, bool wait) = 0;
     // Of the last program that has ended; -1 when it crashed or did not start.
     virtual int exitCode() const = 0;
 
