@@ -11,15 +11,9 @@ namespace {
 constexpr int kFirstAssignedOid = 1001;
 
 // Behind all numbers in use. Intended: gaps are never filled again.
-int firstFreeNumber(const std::map<std::string, OidProject::OID>& oids)
+int behind(int next, int usedOid)
 {
-    int next = kFirstAssignedOid;
-    for (const auto& entry : oids) {
-        if (entry.second.oid >= next) {
-            next = numberAfter(entry.second.oid);
-        }
-    }
-    return next;
+    return usedOid >= next ? numberAfter(usedOid) : next;
 }
 
 }  // namespace
@@ -38,7 +32,11 @@ int numberAfter(int oid)
 // back when it is used again.
 void OidProject::updateUsedOIDs()
 {
-    int next = firstFreeNumber(oids);
+    int next = kFirstAssignedOid;
+    for (auto& entry : oids) {
+        next = behind(next, entry.second.oid);
+        entry.second = tableEntry(entry.second.oid);
+    }
     for (const PICTURE& picture : pictures) {
         for (const POLY& area : picture.polys) {
             if (oids.try_emplace(area.name, tableEntry(next)).second) {
@@ -46,9 +44,6 @@ void OidProject::updateUsedOIDs()
                 next = numberAfter(next);
             }
         }
-    }
-    for (auto& entry : oids) {
-        entry.second = tableEntry(entry.second.oid);
     }
 }
 

@@ -1,5 +1,5 @@
 #include <string_view>
-#include <unordered_set>
+#include <unordered_map>
 
 #include "oid/OidProject.h"
 
@@ -9,39 +9,36 @@ namespace {
 
 constexpr int kLargestReadableOid = 15000;  // of the pen
 
-// Names are looked up in sets: projects may have a hundred thousand areas.
-using Names = std::unordered_set<std::string_view>;
-
-Names areaNames(const std::vector<PICTURE>& pictures)
-{
-    Names names;
-    for (const PICTURE& picture : pictures) {
-        for (const POLY& area : picture.polys) {
-            names.insert(area.name);
-        }
-    }
-    return names;
-}
-
 }  // namespace
 
+// One look at each name: projects may have a hundred thousand areas and as many subs.
 bool OidProject::checkSanity() const
 {
     const std::vector<std::string> scriptNames = compiler.usedOidNames();
-    const Names drawn = areaNames(pictures);
+    std::unordered_map<std::string_view, bool> drawn;  // script name, whether an area carries it
+    drawn.reserve(scriptNames.size());
     for (const std::string& name : scriptNames) {
-        if (drawn.count(name) == 0) {
+        drawn.emplace(name, false);
+    }
+    std::vector<const POLY*> withoutSub;
+    for (const PICTURE& picture : pictures) {
+        for (const POLY& area : picture.polys) {
+            const auto name = drawn.find(area.name);
+            if (name != drawn.end()) {
+                name->second = true;
+            } else {
+                withoutSub.push_back(&area);
+            }
+        }
+    }
+
+    for (const std::string& name : scriptNames) {
+        if (!drawn[name]) {
             print("!!! Warning: Used OID '%s' in script, but not in the image\n", name.c_str());
         }
     }
-    const Names scripted(scriptNames.begin(), scriptNames.end());
-    for (const PICTURE& picture : pictures) {
-        for (const POLY& area : picture.polys) {
-            if (scripted.count(area.name) == 0) {
-                print("!!! Warning: Used OID '%s' in image, but not in the script\n",
-                      area.name.c_str());
-            }
-        }
+    for (const POLY* area : withoutSub) {
+        print("!!! Warning: Used OID '%s' in image, but not in the script\n", area->name.c_str());
     }
     for (const auto& entry : oids) {
         if (entry.second.oid > kLargestReadableOid) {
