@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/helpers/CommaLocale.h"
+#include "tests/helpers/GermanLocale.h"
 #include "tests/oid/Builders.h"
 
 // What the loader does with each keyword and with broken lines.
@@ -450,7 +450,7 @@ TEST(ProjectReader, LineNumbersOfMoreThanFourDigitsPushTheText)
 
 TEST(ProjectReader, NumbersHaveThePointWhateverTheLocale)
 {
-    const CommaLocale locale;
+    const GermanLocale german("UTF-8");
     EXPECT_EQ(areasOf(Loaded("POLY a\n1.5 2,5\nEND\n").project), "0: a 10000 (1.5,2)\n");
 }
 

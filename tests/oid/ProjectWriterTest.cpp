@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/helpers/CommaLocale.h"
+#include "tests/helpers/GermanLocale.h"
 #include "tests/oid/Builders.h"
 
 namespace fs = std::filesystem;
@@ -113,7 +113,7 @@ TEST(ProjectWriter, HugeNumbersAreWrittenInFull)
 
 TEST(ProjectWriter, NumbersHaveThePointWhateverTheLocale)
 {
-    const CommaLocale locale;
+    const GermanLocale german("UTF-8");
     EXPECT_EQ(savedPoint(1.5, 2.25), "        1.50     2.25\r\n");
 }
 
