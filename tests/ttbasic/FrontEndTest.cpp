@@ -235,14 +235,34 @@ TEST(Reading, AppendsTheFileToTheSource)
     EXPECT_EQ(script.source, text + text);
 }
 
-TEST(Reading, KeepsEveryByte)
+TEST(Reading, KeepsEveryByteButZero)
 {
     const TemporaryFolder folder;
-    const std::string text("\xEF\xBB\xBF a\0b\r\n\n\xFF", 11);
+    const std::string text = "\xEF\xBB\xBF a\x01\v\r\n\n\x80\xFF\r";
     writeFile(folder.file("a.txt"), text);
     ttbasic script;
     script.read(folder.file("a.txt"));
     EXPECT_EQ(script.source, text);
+}
+
+TEST(Reading, LosesWhatFollowsAZeroByteOnItsLine)
+{
+    using namespace std::string_literals;
+    const TemporaryFolder folder;
+    writeFile(folder.file("a.txt"), "sub cow\0 calf\r\nsay moo\n\0end sub\nend\0"s);
+    ttbasic script;
+    script.read(folder.file("a.txt"));
+    EXPECT_EQ(script.source, "sub cowsay moo\nend");
+}
+
+TEST(Reading, ALineIsReadInPiecesOf1022Characters)
+{
+    const TemporaryFolder folder;
+    const std::string piece(1021, 'x');
+    writeFile(folder.file("a.txt"), piece + '\0' + "seen" + '\0' + "lost\nnext");
+    ttbasic script;
+    script.read(folder.file("a.txt"));
+    EXPECT_EQ(script.source, piece + "seennext");
 }
 
 TEST(Reading, GoesOnWhereAnOpenFileStands)
