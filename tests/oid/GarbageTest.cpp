@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kFiles = 300;
+constexpr int kFiles = 120;
 
 class Garbage
 {
