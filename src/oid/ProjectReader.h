@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdio>
+#include <string_view>
 
 #include "oid/OidProject.h"
 
@@ -34,7 +35,7 @@ private:
 
     struct Keyword
     {
-        const char* word;
+        std::string_view word;
         void (ProjectReader::*read)(const char*& text);
     };
     static const Keyword kKeywords[];
