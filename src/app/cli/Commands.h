@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "app/cli/Arguments.h"
+
+enum ExitStatus {
+    kFine = 0,
+    kFailed = 1,  // the project cannot be opened or has errors, or a file cannot be written
+    kUsageError = 2
+};
+
+struct Command
+{
+    const char* name;
+    const char* operand;  // every command has one: "PROJECT"
+    const char* summary;
+    std::vector<Option> options;
+    int (*run)(const Arguments& arguments);  // returns the exit status
+};
+
+Command checkCommand();
+Command yamlCommand();
+Command saveCommand();
+Command printCommand();
+Command tileCommand();
+
+// Reports what is wrong with the command line on standard error and returns kUsageError.
+int usageError(const std::string& message);

@@ -1,0 +1,50 @@
+#include <optional>
+
+#include "app/cli/Commands.h"
+#include "oid/OidProject.h"
+#include "oid/PrintImage.h"
+
+namespace {
+
+// All of them, even when one fails: the author gets all messages and as many images as possible.
+bool printPictures(Oid::OidProject& project, int first, int last)
+{
+    bool complete = true;
+    for (int n = first; n <= last; ++n) {
+        complete = makeImage(n, project) && complete;
+    }
+    return complete;
+}
+
+int print(const Arguments& arguments)
+{
+    std::optional<int> chosen;
+    if (arguments.has("--picture")) {
+        chosen = wholeNumber(arguments.value("--picture"), 0);
+        if (!chosen) {
+            return usageError("N must be the number of a picture, not '" +
+                              arguments.value("--picture") + "'");
+        }
+    }
+    Oid::OidProject project;
+    if (!project.open(arguments.operands[0])) {
+        return kFailed;
+    }
+    const int last = static_cast<int>(project.pictures.size()) - 1;
+    if (chosen && *chosen > last) {
+        return usageError("there is no picture " + std::to_string(*chosen) + ", the last is " +
+                          std::to_string(last));
+    }
+    return printPictures(project, chosen.value_or(0), chosen.value_or(last)) ? kFine : kFailed;
+}
+
+}  // namespace
+
+Command printCommand()
+{
+    return {"print",
+            "PROJECT",
+            "Makes the print images of all pictures, beside the project.",
+            {{"--picture", "N", "only this picture, counted from 0"}},
+            print};
+}

@@ -1,0 +1,125 @@
+#include <gmock/gmock.h>
+
+#include "tests/cli/RunCli.h"
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace {
+
+std::string usageError(const std::string& message)
+{
+    return "status 2\nstderr: plinkett-cli: " + message + "\nTry 'plinkett-cli --help'.\n";
+}
+
+}  // namespace
+
+TEST(Usage, HelpNamesEveryCommandOnStandardOutput)
+{
+    const CliRun run = cli({"--help"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_THAT(run.out, StartsWith("Usage: plinkett-cli COMMAND ARGUMENTS\n"));
+    for (const char* usage :
+         {"\n  check PROJECT [--debug]\n", "\n  yaml PROJECT [--debug] [-o FILE]\n",
+          "\n  save PROJECT -o FILE\n", "\n  print PROJECT [--picture N]\n",
+          "\n  tile OID -o FILE [--size PIXELS]\n"}) {
+        EXPECT_THAT(run.out, HasSubstr(usage));
+    }
+}
+
+TEST(Usage, HelpOfOneCommandNeedsNothingElse)
+{
+    EXPECT_EQ(resultOf(cli({"save", "--help"})),
+              "status 0\n"
+              "Usage: plinkett-cli\n"
+              "  save PROJECT -o FILE\n"
+              "      Reads the project and writes it again, as the window saves it.\n"
+              "      -o FILE         the file to write\n"
+              "\n");
+}
+
+TEST(Usage, VersionNamesProgramAndNumber)
+{
+    const CliRun run = cli({"--version"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.out, testing::MatchesRegex("plinkett-cli [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+}
+
+TEST(Usage, ACommandIsNeeded)
+{
+    EXPECT_EQ(resultOf(cli({})), usageError("which command?"));
+}
+
+TEST(Usage, UnknownCommandsAreNamed)
+{
+    EXPECT_EQ(resultOf(cli({"chekc", "a"})), usageError("unknown command 'chekc'"));
+    EXPECT_EQ(resultOf(cli({""})), usageError("unknown command ''"));
+    EXPECT_EQ(resultOf(cli({"--debug"})), usageError("unknown command '--debug'"));
+}
+
+TEST(Usage, UnknownOptionsAreNamed)
+{
+    EXPECT_EQ(resultOf(cli({"check", "a", "--picture", "1"})),
+              usageError("unknown option '--picture'"));
+    EXPECT_EQ(resultOf(cli({"tile", "-5", "-o", "x"})), usageError("unknown option '-5'"));
+}
+
+TEST(Usage, AnOptionWithoutItsValueIsNamed)
+{
+    EXPECT_EQ(resultOf(cli({"yaml", "a", "-o"})), usageError("option '-o' needs FILE"));
+    EXPECT_EQ(resultOf(cli({"tile", "5", "--size"})), usageError("option '--size' needs PIXELS"));
+}
+
+TEST(Usage, RequiredOptionsAreAskedFor)
+{
+    EXPECT_EQ(resultOf(cli({"save", "a"})), usageError("option '-o' is missing"));
+    EXPECT_EQ(resultOf(cli({"tile", "5"})), usageError("option '-o' is missing"));
+}
+
+TEST(Usage, TheProjectIsAskedFor)
+{
+    EXPECT_EQ(resultOf(cli({"check"})), usageError("check needs PROJECT"));
+    EXPECT_EQ(resultOf(cli({"check", "--debug"})), usageError("check needs PROJECT"));
+    EXPECT_EQ(resultOf(cli({"tile", "-o", "x"})), usageError("tile needs OID"));
+}
+
+TEST(Usage, OneProjectIsEnough)
+{
+    EXPECT_EQ(resultOf(cli({"check", "a", "b"})), usageError("unexpected argument 'b'"));
+}
+
+TEST(Usage, BehindTwoDashesEverythingIsAnOperand)
+{
+    EXPECT_EQ(resultOf(cli({"check", "--", "--debug"})),
+              "status 1\nError: Can't open file '--debug'\n");
+    EXPECT_EQ(resultOf(cli({"check", "--", "--help"})),
+              "status 1\nError: Can't open file '--help'\n");
+}
+
+TEST(Usage, TheNumberOfAPictureIsANumberFromZero)
+{
+    for (const char* number : {"-1", "x", "1x", "", " 1", "99999999999"}) {
+        EXPECT_EQ(
+            resultOf(cli({"print", "a", "--picture", number})),
+            usageError("N must be the number of a picture, not '" + std::string(number) + "'"));
+    }
+}
+
+TEST(Usage, TilesExistForTheOidsWithADotPattern)
+{
+    for (const char* oid : {"16384", "x", "99999999999", "1.5"}) {
+        EXPECT_EQ(
+            resultOf(cli({"tile", oid, "-o", "x"})),
+            usageError("OID must be a number from 0 to 16383, not '" + std::string(oid) + "'"));
+    }
+}
+
+TEST(Usage, TilesHaveASizeThatFitsIntoMemory)
+{
+    for (const char* size : {"0", "-1", "16385", "big"}) {
+        EXPECT_EQ(
+            resultOf(cli({"tile", "5", "-o", "x", "--size", size})),
+            usageError("PIXELS must be a number from 1 to 16384, not '" + std::string(size) + "'"));
+    }
+}
