@@ -1,0 +1,86 @@
+#pragma once
+
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QTimer>
+
+#include <cstdarg>
+#include <functional>
+
+#include "base/KVString.h"
+#include "build/OutsideProgram.h"
+#include "build/ProcessRunner.h"
+#include "build/console/GatheredOutput.h"
+
+// The console: shows text line by line, runs one outside program at a time and shows what it
+// prints, and is where redirected printf output goes. It remembers a generous but limited number of
+// lines. Only for the GUI thread.
+class KVQtStdoutWidget : public QPlainTextEdit, public ProcessRunner
+{
+    Q_OBJECT
+
+public:
+    // The newest console is the target of redirected printf output.
+    explicit KVQtStdoutWidget(QWidget* parent = nullptr);
+    ~KVQtStdoutWidget() override;
+
+    // --- Outside programs ---
+    bool exec(const KVString& commandLine, bool wait) override;
+    // Kills the running program, if any; its end is then reported as that of any other. Always
+    // true.
+    bool stopExecution();
+    bool isRunning() const { return m_running; }
+    int exitCode() const override { return m_exitCode; }
+    // Called about ten times a second while exec waits; it may call stopExecution.
+    void setWhileWaiting(std::function<void()> step);
+
+    // --- Text ---
+    // A text without a line feed at its end waits for the rest of its line, or for a flush.
+    void echo(const KVString& text);
+    void echo(const char* text) override;
+    // Bytes as Latin-1, up to the first zero byte.
+    void echo(const QByteArray& bytes);
+    void appendEcho(const QString& text);
+    // Shows what waits as a new paragraph (an empty one when nothing waits), at once.
+    void flush();
+    // The text, centred in a box of "#" of that many columns; a longer text widens its line.
+    void echoBoxed(const KVString& text, int width);
+
+    // --- The target of redirected printf output ---
+    // As printf; without a console the text is dropped.
+    static int redirectPrintf(const char* format, ...);
+    static int vaprintf(const char* format, va_list arguments);
+    void useThisWidgetForRedirectedPrintf();
+    // Makes this console the target.
+    PrintFunction printFunction() override;
+
+signals:
+    // Intended: a program that crashed gives two of them, one for the crash and one for its end.
+    void executionFinished();
+
+public slots:
+    void onExecutionFinished(int exitCode);
+
+private:
+    void connectProcess();
+    void chooseFont();
+    void receiveOutput(const QByteArray& chunk);
+    void showOutputWhenDue();
+    void showOutput();
+    void processFinished(int exitCode, QProcess::ExitStatus status);
+    void processFailed(QProcess::ProcessError error);
+    void endWith(int exitCode);
+    void forgetOldText();
+
+    QProcess m_process;
+    QString m_pending;       // echoed, not shown yet
+    int m_exitCode = 0;      // of the last program that has ended; -1 after an error
+    bool m_running = false;  // from exec until the end or an error
+
+    OutsideProgram m_program{m_process};
+    std::function<void()> m_whileWaiting;
+    GatheredOutput m_output;
+    QTimer m_showLater;
+
+    static KVQtStdoutWidget* m_pRedirectPrintf;
+};
