@@ -1,0 +1,10 @@
+#include "base/PlatformKeys.h"
+
+namespace Platform {
+
+std::optional<bool> insertKeyToggled()
+{
+    return std::nullopt;
+}
+
+}  // namespace Platform

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace KVTextEditor {
+
+// Replaces the first occurrence of a text again and again until there is none left. The result is
+// that of starting again at the beginning after each replacement, found in one pass: what lies
+// before a replacement holds no occurrence, so the next one ends behind that place.
+// Intended: a replacement that contains the search text never ends; the caller runs the pass in
+// pieces and decides when it is enough.
+class ReplaceAll
+{
+public:
+    enum State { running, finished, tooLarge };
+
+    // The search text is not empty.
+    ReplaceAll(const std::u16string& text, std::u16string search, std::u16string replacement);
+
+    // Goes on for so many characters.
+    State run(std::size_t characters);
+    // The whole text as it is now, finished or not.
+    std::u16string text() const;
+
+    // The pass stops when the text is longer; in characters, 1 GB unless changed.
+    std::size_t limit = std::size_t(1) << 29;
+
+private:
+    bool searchEndsHere() const;
+
+    std::u16string search;
+    std::u16string reversedReplacement;
+    std::u16string done;  // holds no occurrence
+    std::u16string rest;  // reversed: its last character comes next
+};
+
+}  // namespace KVTextEditor

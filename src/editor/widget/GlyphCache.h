@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QHash>
+#include <QImage>
+
+#include <array>
+#include <vector>
+
+// The shapes of the characters, each drawn once: a stencil of one cell that says how much of each
+// pixel the character covers. One stencil serves all colours.
+class GlyphCache
+{
+public:
+    enum Half { left = 0, right = 1 };
+
+    // The cell in device pixels, and how many of them make one pixel of the font.
+    void set_font(const QFont& font, QSize cell, qreal ratio);
+    QSize cell() const { return cell_size; }
+    qreal ratio() const { return pixel_ratio; }
+
+    // Draws a code unit into the cell whose top left pixel is (x, y) of a 32-bit canvas. What does
+    // not fit into the cell is cut off, and so is what lies outside the canvas.
+    void draw(QImage& canvas, int x, int y, char16_t ch, QRgb color, QRgb background);
+    // One half of a character that is a surrogate pair and so takes two cells.
+    void draw_pair(QImage& canvas, int x, int y, char16_t high, char16_t low, Half half, QRgb color,
+                   QRgb background);
+
+private:
+    QImage make_stencil(const QString& text, int shift) const;
+
+    QFont font;
+    QSize cell_size;
+    qreal pixel_ratio = 1;
+    int baseline = 0;              // device pixels below the cell's top
+    std::vector<QImage> stencils;  // by code unit; null until first drawn
+    QHash<uint, std::array<QImage, 2>> pair_stencils;
+};

@@ -1,0 +1,317 @@
+// Keys: the map of the keyboard, and typed characters.
+#include "base/PlatformKeys.h"
+#include "editor/widget/KVQtHighlightEditCtrlInlay.h"
+
+#include "editor/widget/KVQtFindDialog.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+
+#include <algorithm>
+
+namespace {
+
+constexpr char16_t kEscape = 27;
+constexpr char16_t kTab = 9;
+constexpr char16_t kDelete = 127;  // what some systems send with Control and Backspace
+
+// What a key press types: one character, which may be a surrogate pair.
+std::u16string typed_text(const QKeyEvent& event)
+{
+    // Intended: the decimal key of the keypad types a point, also where it bears a comma.
+    if (event.key() == Qt::Key_Comma && event.modifiers().testFlag(Qt::KeypadModifier)) {
+        return u".";
+    }
+    const QString text = event.text();
+    const bool pair = text.size() > 1 && text[0].isHighSurrogate() && text[1].isLowSurrogate();
+    return text.left(pair ? 2 : 1).toStdU16String();
+}
+
+}  // namespace
+
+void KVQtHighlightEditCtrlInlay::keyPressEvent(QKeyEvent* event)
+{
+    store_modifiers(event->modifiers());
+    if (ProcessKeyDown(event->key())) {
+        return;
+    }
+    if (event->key() == Qt::Key_Backtab) {
+        shift_held = true;
+        OnChar(kTab);
+        return;
+    }
+    const std::u16string typed = typed_text(*event);
+    for (const char16_t ch : typed) {
+        OnChar(ch);
+    }
+    event->setAccepted(!typed.empty());
+}
+
+void KVQtHighlightEditCtrlInlay::keyReleaseEvent(QKeyEvent* event)
+{
+    store_modifiers(event->modifiers());
+}
+
+void KVQtHighlightEditCtrlInlay::store_modifiers(Qt::KeyboardModifiers modifiers)
+{
+    shift_held = modifiers.testFlag(Qt::ShiftModifier);
+    control_held = modifiers.testFlag(Qt::ControlModifier);
+    alt_held = modifiers.testFlag(Qt::AltModifier);
+    if (dragging) {
+        update_cursor();
+    }
+}
+
+// Composed characters: dead keys, the compose key, input methods of non-Latin scripts.
+void KVQtHighlightEditCtrlInlay::inputMethodEvent(QInputMethodEvent* event)
+{
+    store_modifiers(Qt::NoModifier);
+    for (const QChar ch : event->commitString()) {
+        OnChar(ch.unicode());
+    }
+    event->accept();
+}
+
+QVariant KVQtHighlightEditCtrlInlay::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    switch (query) {
+    case Qt::ImEnabled:
+        return true;
+    case Qt::ImCursorRectangle:
+        return caret_rectangle();
+    case Qt::ImFont:
+        return font();
+    default:
+        return QWidget::inputMethodQuery(query);
+    }
+}
+
+bool KVQtHighlightEditCtrlInlay::ProcessKeyDown(int key)
+{
+    if (key == Qt::Key_Control || key == Qt::Key_Alt) {
+        return false;
+    }
+    // Control with Alt is AltGr on some systems: it types.
+    const bool handled = move_by_key(key) || process_function_key(key) ||
+                         (control_held && !alt_held && process_control_key(key));
+    if (handled) {
+        EnsureVisible(editor.selection.end);
+        UpdateAllViews();
+    }
+    return handled;
+}
+
+bool KVQtHighlightEditCtrlInlay::move_by_key(int key)
+{
+    const int page = std::max(1, GetVisibleSize().height() - 1);
+    switch (key) {
+    case Qt::Key_Up:
+        move_caret(-1, 0);
+        return true;
+    case Qt::Key_Down:
+        move_caret(1, 0);
+        return true;
+    case Qt::Key_Left:
+        move_caret(0, -1);
+        return true;
+    case Qt::Key_Right:
+        move_caret(0, 1);
+        return true;
+    case Qt::Key_PageUp:
+        move_caret(-page, 0);
+        return true;
+    case Qt::Key_PageDown:
+        move_caret(page, 0);
+        return true;
+    case Qt::Key_Home:
+        move_home();
+        return true;
+    case Qt::Key_End:
+        move_end();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void KVQtHighlightEditCtrlInlay::move_caret(int dy, int dx)
+{
+    SELECTION& selection = editor.selection;
+    if (shift_held) {
+        begin_movement();
+    } else {
+        selection.active = false;
+        selection.block = false;
+        if (selection.has_range()) {
+            // The arrow only ends the selection, at the end that it points to.
+            selection.normalize();
+            const CARET caret = dx > 0 || dy > 0 ? selection.end : selection.start;
+            selection.start = selection.end = caret;
+            return;
+        }
+    }
+    if (control_held && dx != 0) {
+        move_by_word(dx > 0);
+    } else {
+        editor.move_cursor(dy, dx);
+    }
+}
+
+void KVQtHighlightEditCtrlInlay::move_by_word(bool right)
+{
+    SELECTION& selection = editor.selection;
+    if (right) {
+        selection.end = editor.end_of_word(selection.end);
+    } else {
+        if (selection.end.column > 0) {
+            --selection.end.column;
+        }
+        selection.end = editor.start_of_word(selection.end);
+    }
+    if (!selection.active) {
+        selection.start = selection.end;
+    }
+}
+
+void KVQtHighlightEditCtrlInlay::begin_movement()
+{
+    if (shift_held) {
+        editor.selection.active = true;
+        editor.selection.block = alt_held;
+    }
+}
+
+void KVQtHighlightEditCtrlInlay::finish_movement()
+{
+    if (!shift_held) {
+        editor.selection.stop_selecting();
+    }
+}
+
+void KVQtHighlightEditCtrlInlay::move_home()
+{
+    begin_movement();
+    CARET& caret = editor.selection.end;
+    const BUFFER& text = buffer;
+    const int indentation = text.line(caret.line).indentation();
+    caret.column = caret.column == indentation ? 0 : indentation;
+    finish_movement();
+}
+
+void KVQtHighlightEditCtrlInlay::move_end()
+{
+    begin_movement();
+    CARET& caret = editor.selection.end;
+    const BUFFER& text = buffer;
+    caret.column = text.line(caret.line).length();
+    finish_movement();
+}
+
+bool KVQtHighlightEditCtrlInlay::process_function_key(int key)
+{
+    switch (key) {
+    case Qt::Key_Delete:
+        editor.push_undo_state();
+        editor.key_delete();
+        return true;
+    case Qt::Key_Insert:
+        if (control_held) {
+            OnEditCopy();
+        } else if (!shift_held && !alt_held) {
+            overwrite = !overwrite;
+        }
+        return true;
+    case Qt::Key_F2:
+        if (control_held) {
+            OnViewToggleBookmark();
+        } else if (shift_held) {
+            GotoPrevBookmark();
+        } else {
+            GotoNextBookmark();
+        }
+        return true;
+    case Qt::Key_F3:
+        if (control_held) {
+            SetFindStringFromSelection();
+        } else {
+            find_dialog->set_backwards(shift_held);
+        }
+        DoFindNext(true);
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool KVQtHighlightEditCtrlInlay::process_control_key(int key)
+{
+    switch (key) {
+    case Qt::Key_A:
+        OnEditSelectAll();
+        return true;
+    case Qt::Key_C:
+        OnEditCopy();
+        return true;
+    case Qt::Key_X:
+        OnEditCut();
+        return true;
+    case Qt::Key_V:
+        OnEditPaste();
+        return true;
+    case Qt::Key_Z:
+        OnEditUndo();
+        return true;
+    case Qt::Key_Y:
+        OnEditRedo();
+        return true;
+    case Qt::Key_F:
+        ShowFindDialog(false);
+        return true;
+    case Qt::Key_H:
+        ShowFindDialog(true);
+        return true;
+    case Qt::Key_U:
+        change_case(shift_held ? KVTextEditor::transform_to_upper
+                               : KVTextEditor::transform_to_lower);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void KVQtHighlightEditCtrlInlay::change_case(KVTextEditor::CHARACTER_FUNCTION fn)
+{
+    editor.push_undo_state();
+    editor.transform(editor.selection, fn);
+}
+
+void KVQtHighlightEditCtrlInlay::OnChar(char16_t ch)
+{
+    if ((ch < u' ' && control_held) || ch == kDelete) {
+        return;
+    }
+    // A run of letters and digits is undone in one step.
+    if (ch < u'0' || !editor.can_undo()) {
+        editor.push_undo_state();
+    }
+    const SELECTION& selection = editor.selection;
+    if (ch == kTab && !selection.block && (selection.height() > 1 || shift_held)) {
+        if (shift_held) {
+            editor.indent_negative();
+        } else {
+            editor.indent();
+        }
+    } else {
+        if (ch == kEscape) {
+            end_gesture();
+        }
+        editor.key_any(ch, is_overwrite_mode());
+    }
+    EnsureVisible(editor.selection.end);
+    UpdateAllViews();
+}
+
+bool KVQtHighlightEditCtrlInlay::is_overwrite_mode() const
+{
+    return Platform::insertKeyToggled().value_or(overwrite);
+}

@@ -1,0 +1,137 @@
+// Where the text stands in the window: fonts, scrolling, points and cells.
+#include "editor/widget/KVQtHighlightEditCtrlInlay.h"
+
+#include <QAbstractScrollArea>
+#include <QFontMetrics>
+#include <QResizeEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+void KVQtHighlightEditCtrlInlay::SetFont(const QString& family, int pointSize)
+{
+    QFont font(family, pointSize);
+    font.setStyleHint(QFont::Monospace);  // where the family is missing, another of fixed pitch
+    font.setFixedPitch(true);
+    font.setKerning(false);
+    setFont(font);
+
+    constexpr char16_t kFirst = 20, kLast = 126;
+    const QFontMetrics metrics(font);
+    cell_width = 4;  // at least
+    for (char16_t c = kFirst; c <= kLast; ++c) {
+        cell_width = std::max(cell_width, metrics.horizontalAdvance(QChar(c)));
+    }
+    cell_height = std::max(1, metrics.lineSpacing());
+    glyphs.set_font(font, QSize(), 0);  // made anew for the ratio of the next frame
+    update_scroll_bars();
+    update();
+}
+
+void KVQtHighlightEditCtrlInlay::UpdateAllViews()
+{
+    note_width();
+    if (editor.is_dirty()) {
+        editor.colorize(KVTextEditor::write_cell_color, 0, -1);
+    }
+    update_scroll_bars();
+    caret_visible = true;
+    update();
+    updateMicroFocus();
+}
+
+// Lines grow where they change, so only those are looked at; a text that becomes narrower keeps its
+// width until it is set as a whole.
+void KVQtHighlightEditCtrlInlay::note_width()
+{
+    const BUFFER& text = buffer;
+    for (const int line : text.changed_lines(0, text.line_count() - 1)) {
+        text_width = std::max(text_width, text.line(line).length());
+    }
+}
+
+void KVQtHighlightEditCtrlInlay::update_scroll_bars()
+{
+    const QSize visible = GetVisibleSize();
+    const int caretColumn = editor.selection.end.column;  // of a rectangle, maybe beyond the text
+    const int columns = std::max(text_width, caretColumn) + 1;
+    const int lines = buffer.line_count();
+
+    QScrollBar* const vertical = area->verticalScrollBar();
+    vertical->setRange(0, std::max(0, lines - visible.height()) * cell_height);
+    vertical->setSingleStep(cell_height);
+    vertical->setPageStep(std::max(1, visible.height()) * cell_height);
+
+    QScrollBar* const horizontal = area->horizontalScrollBar();
+    horizontal->setRange(0, std::max(0, columns - visible.width()) * cell_width);
+    horizontal->setSingleStep(cell_width);
+    horizontal->setPageStep(std::max(1, visible.width()) * cell_width);
+}
+
+void KVQtHighlightEditCtrlInlay::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    update_scroll_bars();
+}
+
+int KVQtHighlightEditCtrlInlay::first_visible_line() const
+{
+    return area->verticalScrollBar()->value() / cell_height;
+}
+
+int KVQtHighlightEditCtrlInlay::first_visible_column() const
+{
+    return area->horizontalScrollBar()->value() / cell_width;
+}
+
+QSize KVQtHighlightEditCtrlInlay::GetVisibleSize() const
+{
+    return {std::max(width() - gutter_width(), 0) / cell_width, height() / cell_height};
+}
+
+void KVQtHighlightEditCtrlInlay::ScrollBy(int columns, int lines)
+{
+    QScrollBar* const horizontal = area->horizontalScrollBar();
+    QScrollBar* const vertical = area->verticalScrollBar();
+    horizontal->setValue(horizontal->value() + columns * cell_width);
+    vertical->setValue(vertical->value() + lines * cell_height);
+}
+
+// How far a range of cells has to move so that the position lies in it.
+static int distance_into_view(int position, int first, int count)
+{
+    if (position < first) {
+        return position - first;
+    }
+    return std::max(0, position - (first + std::max(count, 1) - 1));
+}
+
+void KVQtHighlightEditCtrlInlay::EnsureVisible(CARET caret, bool centre)
+{
+    note_width();
+    update_scroll_bars();  // the text may have grown
+    const QSize visible = GetVisibleSize();
+    int lines = distance_into_view(caret.line, first_visible_line(), visible.height());
+    if (lines != 0 && centre) {
+        lines = caret.line - visible.height() / 2 - first_visible_line();
+    }
+    // A caret behind a line's last cell needs a cell of its own.
+    const int columns = distance_into_view(caret.column, first_visible_column(), visible.width());
+    ScrollBy(columns, lines);
+}
+
+KVTextEditor::CARET KVQtHighlightEditCtrlInlay::FromPoint(QPoint point, bool free) const
+{
+    const int gutter = gutter_width();
+    CARET caret;
+    caret.line = (first_visible_line() * cell_height + point.y()) / cell_height;
+    if (point.x() >= gutter) {
+        caret.column = (cell_width / 2 + point.x() + first_visible_column() * cell_width - gutter) /
+                       cell_width;
+    }
+    if (!free) {
+        return editor.snap_to_position(caret);
+    }
+    caret.line = std::clamp(caret.line, 0, buffer.line_count() - 1);
+    return caret;
+}

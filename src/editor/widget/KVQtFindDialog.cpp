@@ -1,0 +1,88 @@
+#include "editor/widget/KVQtFindDialog.h"
+
+#include "qtsync/KVQt.h"
+#include "qtsync/KVQtSync.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+KVQtFindDialog::KVQtFindDialog(QWidget* parent)
+    : QDialog(parent),
+      txFind(new QLineEdit(this)),
+      txReplace(new QLineEdit(this)),
+      btFind(new QPushButton(tr("&Find"), this)),
+      btReplace(new QPushButton(tr("&Replace"), this)),
+      btReplaceAll(new QPushButton(tr("Replace &All"), this)),
+      chBackwards(new QCheckBox(tr("Search &backwards"), this)),
+      lbReplace(new QLabel(tr("Replace with:"), this))
+{
+    setWindowTitle(tr("Find and replace"));
+    setObjectName("KVQtFindDialog");
+    txFind->setObjectName("txFind");
+    txReplace->setObjectName("txReplace");
+    btFind->setObjectName("btFind");
+    btReplace->setObjectName("btReplace");
+    btReplaceAll->setObjectName("btReplaceAll");
+    chBackwards->setObjectName("chBackwards");
+
+    QLabel* const lbFind = new QLabel(tr("Find &what:"), this);
+    lbFind->setBuddy(txFind);
+    lbReplace->setBuddy(txReplace);
+    btFind->setDefault(true);
+
+    QGridLayout* const grid = new QGridLayout(this);
+    grid->addWidget(lbFind, 0, 0);
+    grid->addWidget(txFind, 0, 1);
+    grid->addWidget(btFind, 0, 2);
+    grid->addWidget(lbReplace, 1, 0);
+    grid->addWidget(txReplace, 1, 1);
+    grid->addWidget(btReplace, 1, 2);
+    grid->addWidget(chBackwards, 2, 1);
+    grid->addWidget(btReplaceAll, 2, 2);
+    grid->setRowStretch(3, 1);
+}
+
+void KVQtFindDialog::open_for(bool replace)
+{
+    lbReplace->setVisible(replace);
+    txReplace->setVisible(replace);
+    txReplace->setEnabled(replace);
+    btReplace->setVisible(replace);
+    btReplaceAll->setVisible(replace);
+    show();
+    raise();
+    activateWindow();
+    txFind->setFocus();
+    txFind->selectAll();
+}
+
+QString KVQtFindDialog::find_text() const
+{
+    return KVQt::getS(txFind);
+}
+
+void KVQtFindDialog::set_find_text(const QString& text)
+{
+    txFind->setText(text);
+}
+
+QString KVQtFindDialog::replace_text() const
+{
+    return KVQt::getS(txReplace);
+}
+
+bool KVQtFindDialog::backwards() const
+{
+    int checked = 0;
+    KVQtSync sync(KVQtSync::FromWidgets);
+    sync.syncI(checked, chBackwards);
+    return checked == 1;
+}
+
+void KVQtFindDialog::set_backwards(bool backwards)
+{
+    KVQt::setI(backwards ? 1 : 0, chBackwards);
+}

@@ -1,0 +1,91 @@
+#include "editor/widget/KVQtHighlightEditCtrlInlay.h"
+
+#include "editor/widget/KVQtFindDialog.h"
+
+#include <QAbstractScrollArea>
+#include <QPushButton>
+
+KVQtHighlightEditCtrlInlay::KVQtHighlightEditCtrlInlay(QAbstractScrollArea* scrollArea)
+    : QWidget(scrollArea->viewport()),
+      editor(&buffer),
+      area(scrollArea),
+      find_dialog(new KVQtFindDialog(this))
+{
+    setObjectName("inlay");
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::IBeamCursor);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_InputMethodEnabled);
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    KVTextEditor::set_new_editor_rules(editor);
+    SetFont("Consolas", 11);
+
+    using Self = KVQtHighlightEditCtrlInlay;
+    connect(find_dialog->btFind, &QPushButton::clicked, this, &Self::OnEditFindNext);
+    connect(find_dialog->btReplace, &QPushButton::clicked, this, &Self::OnEditDoReplace);
+    connect(find_dialog->btReplaceAll, &QPushButton::clicked, this, &Self::OnEditReplaceAll);
+    connect(this, &QWidget::customContextMenuRequested, this, &Self::ShowContextMenu);
+
+    constexpr int kBlinkTime = 500;  // ms
+    connect(&blink_timer, &QTimer::timeout, this, &Self::blink);
+    blink_timer.start(kBlinkTime);
+}
+
+KVQtHighlightEditCtrlInlay::~KVQtHighlightEditCtrlInlay() = default;
+
+QString KVQtHighlightEditCtrlInlay::text() const
+{
+    return QString::fromStdU16String(buffer.get_all_text(u"\r\n"));
+}
+
+void KVQtHighlightEditCtrlInlay::setText(const QString& text)
+{
+    // Intended: the charge of the undo states, undo_bytes, stays as it is.
+    editor.undo_states.clear();
+    editor.redo_states.clear();
+    editor.selection.set(0, 0);
+    buffer.set_text(text.toStdU16String());
+    buffer.tabs_insert(editor.tab_width);
+    text_width = buffer.width();
+    UpdateAllViews();
+}
+
+void KVQtHighlightEditCtrlInlay::OnEditUndo()
+{
+    undo_or_redo(&BACKEND::undo);
+}
+
+void KVQtHighlightEditCtrlInlay::OnEditRedo()
+{
+    undo_or_redo(&BACKEND::redo);
+}
+
+void KVQtHighlightEditCtrlInlay::undo_or_redo(void (BACKEND::*step)())
+{
+    (editor.*step)();
+    text_width = buffer.width();
+    EnsureVisible(editor.selection.end);
+    UpdateAllViews();
+}
+
+void KVQtHighlightEditCtrlInlay::OnEditSelectAll()
+{
+    const BUFFER& text = buffer;
+    const int last = text.line_count() - 1;
+    editor.selection.stop_selecting();
+    editor.selection.start = {0, 0};
+    editor.selection.end = {last, text.line(last).length()};
+    UpdateAllViews();
+}
+
+void KVQtHighlightEditCtrlInlay::blink()
+{
+    if (hasFocus()) {
+        caret_visible = !caret_visible;
+        only_caret = true;
+        repaint(caret_rectangle());
+        only_caret = false;
+    } else if (area->hasFocus()) {
+        setFocus();
+    }
+}

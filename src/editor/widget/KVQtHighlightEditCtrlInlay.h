@@ -1,0 +1,173 @@
+#pragma once
+
+#include "editor/core/EditorBackend.h"
+#include "editor/widget/EditorOptions.h"
+#include "editor/widget/GlyphCache.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class KVQtFindDialog;
+class QAbstractScrollArea;
+class QMimeData;
+
+// The surface of the code editor: it draws a grid of cells with line numbers in front, and turns
+// keys and mouse gestures into calls of the editing logic. It owns the text. Each command ends with
+// UpdateAllViews.
+class KVQtHighlightEditCtrlInlay : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using CARET = KVTextEditor::CARET;
+    using SELECTION = KVTextEditor::SELECTION;
+    using BUFFER = KVTextEditor::Buffer<KVTextEditor::EdChar>;
+    using BACKEND = KVTextEditor::EditorBackend<KVTextEditor::EdChar>;
+
+    // The scroll area shows the surface in its viewport, and its scroll bars scroll the text.
+    explicit KVQtHighlightEditCtrlInlay(QAbstractScrollArea* scrollArea);
+    ~KVQtHighlightEditCtrlInlay() override;
+
+    BUFFER buffer;
+    BACKEND editor;
+    EditorOptions options;
+
+    // The whole text, its lines joined with CR LF. Setting it ends undo and redo.
+    QString text() const;
+    void setText(const QString& text);
+
+    void SetFont(const QString& family, int pointSize);
+
+    // --- the view (InlayView.cpp) ---
+    // Colours what has changed and repaints; ends every command.
+    void UpdateAllViews();
+    // Scrolls until the cell is in view, to the middle of the height when centre is set and it was
+    // out of view.
+    void EnsureVisible(CARET caret, bool centre = false);
+    void ScrollBy(int columns, int lines);
+    QSize GetVisibleSize() const;  // whole columns and lines
+    // The cell at a point of the viewport: snapped to the text, or with free only to its lines.
+    CARET FromPoint(QPoint point, bool free = false) const;
+    int first_visible_line() const;
+    int first_visible_column() const;
+    int gutter_width() const;  // pixels
+    int char_width() const { return cell_width; }
+    int line_height() const { return cell_height; }
+
+    // --- bookmarks (InlayBookmarks.cpp) ---
+    void ToggleBookmark(int line);
+    void GotoNextBookmark();
+    void GotoPrevBookmark();
+
+    // --- clipboard and drag-and-drop of text (InlayClipboard.cpp) ---
+    // The format that marks the text on the clipboard as a rectangle.
+    static const char* const kRectangleFormat;
+    static QString SelectedText(const BUFFER& selected);
+
+public slots:
+    void OnEditUndo();
+    void OnEditRedo();
+    void OnEditSelectAll();
+    void OnEditCopy();
+    void OnEditCut();
+    void OnEditPaste();
+    void OnEditFind();
+    void OnEditReplace();
+    void OnEditFindNext();
+    void OnEditFindPrevious();
+    void OnEditDoReplace();
+    void OnEditReplaceAll();
+    void OnViewToggleBookmark();
+    void ShowContextMenu(const QPoint& point);
+
+protected:
+    // May rewrite what is searched for and what takes its place.
+    virtual void FindPrepareSearchString(QString& text);
+    virtual void FindPrepareReplaceString(QString& text);
+
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    // Tab is a key like any other here.
+    bool focusNextPrevChild(bool /*next*/) override { return false; }
+
+private:
+    // --- keys (InlayKeys.cpp) ---
+    void store_modifiers(Qt::KeyboardModifiers modifiers);
+    bool ProcessKeyDown(int key);
+    bool process_control_key(int key);
+    bool process_function_key(int key);
+    bool move_by_key(int key);
+    void move_caret(int dy, int dx);
+    void move_by_word(bool right);
+    void move_home();
+    void move_end();
+    void begin_movement();
+    void finish_movement();
+    void OnChar(char16_t ch);
+    bool is_overwrite_mode() const;
+    void change_case(KVTextEditor::CHARACTER_FUNCTION fn);
+
+    // --- mouse (InlayMouse.cpp) ---
+    void OnLButtonDown(QPoint point);
+    void OnLButtonDblClk(QPoint point);
+    void start_drag_and_drop(CARET caret);
+    void extend_line_selection(CARET caret);
+    void drop_selection();
+    CARET drop_position_without(const SELECTION& removed) const;
+    void end_gesture();
+    void update_cursor();
+
+    // --- find and replace (InlaySearch.cpp) ---
+    void ShowFindDialog(bool replace);
+    void SetFindStringFromSelection();
+    bool DoFindNext(bool wrap);
+    bool find_forward(const std::u16string& text, bool wrap, CARET& found) const;
+    bool find_backward(const std::u16string& text, bool wrap, CARET& found) const;
+    bool replace_all_in(std::u16string& text);
+
+    void goto_bookmark(int step);
+    void go_to(CARET caret);
+    void undo_or_redo(void (BACKEND::*step)());
+
+    // --- painting (InlayPainting.cpp) ---
+    void draw_canvas();
+    void draw_caret(QPainter& painter) const;
+    int gutter_digits() const;
+    QRect caret_rectangle() const;
+
+    void update_scroll_bars();
+    void note_width();
+    void blink();
+
+    QAbstractScrollArea* area;
+    KVQtFindDialog* find_dialog;
+    QTimer blink_timer;
+    GlyphCache glyphs;
+    QImage canvas;  // the frame that was drawn last, without its caret
+    int cell_width = 1;
+    int cell_height = 1;
+    int text_width = 0;  // cells of the longest line, or more
+
+    bool caret_visible = true;
+    bool only_caret = false;  // the frame being painted differs from the last by its caret at most
+    bool shift_held = false;
+    bool control_held = false;
+    bool alt_held = false;
+    bool overwrite = false;  // where the system keeps no state of the Insert key
+
+    bool button_held = false;
+    bool selecting_lines = false;  // a selection that began in the gutter
+    bool dragging = false;         // the selection is on its way to another place
+    CARET press_position;
+    CARET drop_position;
+};

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "editor/core/EditorBackend.h"
+#include "editor/widget/EditorOptions.h"
+#include "editor/widget/GlyphCache.h"
+
+#include <QImage>
+
+#include <array>
+
+// The part of the text that is drawn.
+struct TextView
+{
+    int first_line = 0;
+    int first_column = 0;
+    int lines = 0;
+    int columns = 0;
+    int gutter_digits = 0;  // places of the line numbers
+    int text_left = 0;      // device pixels in front of the text
+};
+
+// Draws one frame of the text into a 32-bit canvas, cell by cell and without a painter: a frame has
+// thousands of cells, and each costs no more than its pixels.
+class TextPainter
+{
+public:
+    using BACKEND = KVTextEditor::EditorBackend<KVTextEditor::EdChar>;
+    using LINE = KVTextEditor::Line<KVTextEditor::EdChar>;
+    using CARET = KVTextEditor::CARET;
+
+    TextPainter(QImage& canvas, GlyphCache& glyphs, const EditorOptions& options,
+                const BACKEND& editor, const TextView& view);
+    void draw();
+
+private:
+    enum Ground { plain, selected, bracket };
+    static constexpr int kGrounds = 3;
+    static constexpr int kRoles = 8;
+
+    void prepare_colors();
+    void find_brackets();
+    void draw_line(int row);
+    void draw_gutter(int row);
+    void draw_bookmark(int y);
+    Ground ground_at(CARET caret) const;
+    void draw_cell(int x, int y, const LINE& cells, int column, Ground ground);
+    void fill(int x, int y, QSize size, QRgb color);
+    const QRgb& color_of(KVTextEditor::COLORINDEX role, Ground ground) const;
+
+    QImage& canvas;
+    GlyphCache& glyphs;
+    const EditorOptions& options;
+    const BACKEND& editor;
+    TextView view;
+    KVTextEditor::SELECTION selection;  // normalized
+    bool has_selection;
+    CARET brackets[2] = {{-1, -1}, {-1, -1}};
+    std::array<QRgb, kGrounds> grounds{};
+    std::array<std::array<QRgb, kRoles>, kGrounds> colors{};
+};
