@@ -23,7 +23,7 @@ bool ttbasic::doElse()
     }
     conditions.back().back() = '0';  // "$ifexp1 == 1" becomes "$ifexp1 == 0"
     updateIfPrefix();
-    emitLine("        # (" + conditions.back() + ")");
+    emitLine({"        # (", conditions.back(), ")"});
     return true;
 }
 
@@ -79,7 +79,7 @@ bool ttbasic::doDefaultCase()
     // Intended: without an open case this reports its error and the statement goes on all the same.
     doEndif();
     const std::string condition = conditionOfDefault(selects.back());
-    emitLine("        # default -> if " + condition);
+    emitLine({"        # default -> if ", condition});
     return doIf(condition);
 }
 
@@ -117,7 +117,7 @@ bool ttbasic::doEndSub()
     }
     currentSub.clear();
     // Intended: the sub's name is gone by now, so the comment ends with a blank.
-    emitLine(kCommandStart + ("$rnd += " + randomSummand()) + " # end sub " + currentSub);
+    emitLine({kCommandStart, "$rnd += ", randomSummand(), " # end sub ", currentSub});
     if (!conditions.empty()) {
         return error("if without endif in this sub");
     }
@@ -135,7 +135,7 @@ bool ttbasic::doGoto(const std::string& name)
 void ttbasic::asmGoto(const std::string& name)
 {
     const std::string label = nextLabel();
-    emitCommand("J(" + name + ")   $rnd += " + randomSummand());
-    emitFallThrough("J(" + label + ")  ");
+    emitCommand({"J(", name, ")   $rnd += ", randomSummand()});
+    emitFallThrough("", label);
     asmLabel(label);
 }

@@ -15,8 +15,8 @@ void ttbasic::updateIfPrefix()
 void ttbasic::asmCmd(const std::string& command)
 {
     const std::string label = nextLabel();
-    emitCommand("J(" + label + ")    " + asmDbg() + command);
-    emitFallThrough("J(" + label + ")  ");
+    emitCommand({"J(", label, ")    ", asmDbg(), command});
+    emitFallThrough("", label);
     asmLabel(label);
 }
 
@@ -28,23 +28,25 @@ std::string ttbasic::asmDbg()
 // Opens the next step or, with the name of a sub, its script.
 void ttbasic::asmLabel(const std::string& name)
 {
-    emitLine("    " + name + ":");
+    emitLine({"    ", name, ":"});
 }
 
-void ttbasic::emitLine(const std::string& line)
+void ttbasic::emitLine(Pieces pieces)
 {
     if (!isTooLarge()) {
-        code += line;
+        for (const std::string_view piece : pieces) {
+            code += piece;
+        }
         code += "\r\n";
     }
 }
 
 // A command that the pen carries out only when the conditions of all open blocks hold.
-void ttbasic::emitCommand(const std::string& command)
+void ttbasic::emitCommand(Pieces pieces)
 {
     if (!isTooLarge()) {
         code += ifPrefix;
-        emitLine(command);
+        emitLine(pieces);
     }
 }
 
@@ -63,9 +65,9 @@ std::string ttbasic::nextLabel()
 
 // When the conditions of the line before do not hold, the pen still has to go on with the next
 // step.
-void ttbasic::emitFallThrough(const std::string& jump)
+void ttbasic::emitFallThrough(std::string_view condition, const std::string& label)
 {
     if (ifPrefix.find('?') != std::string::npos) {
-        emitLine(kCommandStart + jump + "$rnd += " + randomSummand());
+        emitLine({kCommandStart, condition, "J(", label, ")  $rnd += ", randomSummand()});
     }
 }

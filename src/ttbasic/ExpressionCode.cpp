@@ -126,8 +126,8 @@ void ttbasic::compareRegisters(const std::string& target, const std::string& op,
                                const std::string& operand)
 {
     const std::string label = nextLabel();
-    emitCommand(target + " " + op + " " + operand + " ? J(" + label + ")  " + target + " := 1");
-    emitCommand("$_zero == 0 ?     J(" + label + ")  " + target + " := 0");
-    emitFallThrough("$_zero == 0 ? J(" + label + ")  ");
+    emitCommand({target, " ", op, " ", operand, " ? J(", label, ")  ", target, " := 1"});
+    emitCommand({"$_zero == 0 ?     J(", label, ")  ", target, " := 0"});
+    emitFallThrough("$_zero == 0 ? ", label);
     asmLabel(label);
 }

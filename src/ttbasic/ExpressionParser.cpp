@@ -22,6 +22,8 @@ constexpr Association assocs[] = {
 };
 
 constexpr std::string_view kOperatorCharacters = "+-*/<>=%&|!";
+constexpr std::string_view kBeforeEquals = "<>=!";
+constexpr size_t kNone = std::string_view::npos;
 
 std::map<std::string, std::pair<int, int>> makeOpmap()
 {
@@ -72,9 +74,9 @@ bool expression_parser::isParenthesis(const std::string& token) const
 bool expression_parser::isOperator(const std::string& token) const
 {
     if (token.size() == 1) {
-        return kOperatorCharacters.find(token[0]) != std::string_view::npos;
+        return kOperatorCharacters.find(token[0]) != kNone;
     }
-    return token == "<=" || token == ">=" || token == "==" || token == "!=";
+    return token.size() == 2 && token[1] == '=' && kBeforeEquals.find(token[0]) != kNone;
 }
 
 bool expression_parser::isAssociative(const std::string& token, int assoc) const

@@ -96,9 +96,7 @@ bool ttbasic::compileLine(char* line)
     if (*line == '\0') {
         return true;
     }
-    code += "        # ";
-    code += skipWhite(line);
-    code += "\r\n";
+    emitLine({"        # ", skipWhite(line)});
     return parseCommand(line) || error("Syntax Error");
 }
 

@@ -22,7 +22,11 @@ std::string ttbasic::yaml(int productId, const std::string& productName)
     text += "comment:    \"" + productName + "\"\r\n";
     text += "media-path: \"" + id + "-audio/%s\"\r\n";  // "%s" is for the assembler
     text += "welcome:   " + prepareWelcomeMessage(productName) + "\r\n";
-    return text + yamlRegisters() + code + yamlVoices() + yamlTalkTexts();
+    text += yamlRegisters();
+    const std::string speech = yamlVoices() + yamlTalkTexts();
+    text.reserve(text.size() + code.size() + speech.size());
+    text += code;
+    return text += speech;
 }
 
 std::string ttbasic::yamlRegisters() const

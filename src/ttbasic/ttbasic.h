@@ -2,11 +2,13 @@
 
 #include <cstdio>
 #include <deque>
+#include <initializer_list>
 #include <list>
 #include <map>
 #include <set>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/PrintFunction.h"
@@ -150,11 +152,13 @@ private:
 
     // What a command line begins with when no block is open.
     static constexpr const char* kCommandStart = "        - ";
-    void emitLine(const std::string& line);
-    void emitCommand(const std::string& command);
+    // The pieces of one line; they are joined only in the code itself.
+    using Pieces = std::initializer_list<std::string_view>;
+    void emitLine(Pieces pieces);
+    void emitCommand(Pieces pieces);
     bool isTooLarge() const;
     std::string nextLabel();
-    void emitFallThrough(const std::string& jump);
+    void emitFallThrough(std::string_view condition, const std::string& label);
     void emitToken(const std::string& token);
     void applyOperator(const std::string& op);
     void compareRegisters(const std::string& target, const std::string& op,
