@@ -9,7 +9,6 @@
 
 class KVQtFindDialog;
 class QAbstractScrollArea;
-class QMimeData;
 
 // The surface of the code editor: it draws a grid of cells with line numbers in front, and turns
 // keys and mouse gestures into calls of the editing logic. It owns the text. Each command ends with
@@ -85,7 +84,6 @@ protected:
     virtual void FindPrepareSearchString(QString& text);
     virtual void FindPrepareReplaceString(QString& text);
 
-    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
