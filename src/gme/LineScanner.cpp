@@ -138,7 +138,8 @@ bool LineScanner::readDigits(unsigned base, uint16_t& number)
         return fail("a digit");
     }
     if (isLarge) {
-        large.emplace_back(text.substr(begin, at - begin));
+        const size_t prefix = base == 10 ? 0 : 2;  // "0x" or "0o"
+        large.emplace_back(text.substr(begin - prefix, at - begin + prefix));
     }
     number = static_cast<uint16_t>(value);
     return true;

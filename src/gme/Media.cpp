@@ -60,11 +60,7 @@ void Media::findFile(const std::string& name, const MediaPath& mediaPath, Messag
     const std::string path = mediaPath.fullPath(existing[0]);
     std::error_code problem;
     const uintmax_t size = fs::file_size(fs::u8path(path), problem);
-    if (problem) {
-        messages.error(0, "the audio file " + existing[0] + " cannot be read");
-        return;
-    }
-    found.push_back({path, size});
+    found.push_back({path, problem ? 0 : size});  // a vanished file is noticed when it is read
 }
 
 }  // namespace gme

@@ -82,21 +82,17 @@ bool checkCharacters(std::string_view text, Messages& messages)
 bool readBytes(const std::string& path, std::string& bytes, Messages& messages)
 {
     const std::unique_ptr<FILE, CloseFile> file(FileSystem::myfopen(path, "rb"));
-    if (file == nullptr) {
-        messages.error(0, "the file cannot be opened");
-        return false;
-    }
     bytes.clear();
     std::vector<char> block(1 << 16);
     size_t count = 0;
-    while ((count = fread(block.data(), 1, block.size(), file.get())) > 0) {
+    while (file != nullptr && (count = fread(block.data(), 1, block.size(), file.get())) > 0) {
         bytes.append(block.data(), count);
         if (bytes.size() > kLargestSource) {
             messages.error(0, "the file is larger than 256 MiB");
             return false;
         }
     }
-    if (ferror(file.get()) != 0) {
+    if (file == nullptr || ferror(file.get()) != 0) {
         messages.error(0, "the file cannot be read");
         return false;
     }

@@ -98,6 +98,9 @@ bool LineReader::readIndicators()
         ++at;
         skipBlanks();
     }
+    if (result.explicitKeyColumn != YamlLine::kNone) {
+        refuse("a name is empty");
+    }
     return true;
 }
 
@@ -144,6 +147,9 @@ bool LineReader::readEscape()
     if (at < line.size() && kEscapes.find(line[at]) == std::string_view::npos) {
         refuse("an unknown character follows a backslash in double quotes");
         return false;
+    }
+    if (at < line.size() && (line[at] == 'N' || line[at] == '_')) {
+        result.misreadEscapes.push_back(at);
     }
     return true;
 }

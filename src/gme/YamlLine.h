@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace gme {
 
@@ -15,7 +16,9 @@ struct YamlLine
     size_t keyLength = 0;              // in bytes
     size_t colon = 0;                  // behind that key
     size_t explicitKeyColumn = kNone;  // of a "?"
-    std::string refusal;               // why the line is not supported; empty when it is
+    // Places behind a backslash where the escapes N and _ stand; the parser takes them wrongly.
+    std::vector<size_t> misreadEscapes;
+    std::string refusal;  // why the line is not supported; empty when it is
 };
 
 // Reads the form of a line without its line end. openKeyColumn is the column of the "?" in the line

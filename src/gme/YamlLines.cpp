@@ -15,6 +15,16 @@ constexpr size_t kLargestYaml = 16U << 20;
 // handed over in the explicit form, which has no limit.
 constexpr size_t kLongestPlainKey = 1000;
 
+// The line with the escapes that the parser misreads in a form that it reads right.
+std::string withPlainEscapes(const YamlLine& line, std::string_view content)
+{
+    std::string text(content);
+    for (auto at = line.misreadEscapes.rbegin(); at != line.misreadEscapes.rend(); ++at) {
+        text.replace(*at, 1, text[*at] == 'N' ? "u0085" : "u00A0");
+    }
+    return text;
+}
+
 class YamlPreparation
 {
 public:
@@ -68,17 +78,17 @@ void YamlPreparation::refuse(const std::string& reason, std::string_view sourceL
 
 void YamlPreparation::append(const YamlLine& line, std::string_view sourceLine)
 {
-    const std::string_view content = sourceLine.substr(0, line.length);
+    const std::string content = withPlainEscapes(line, sourceLine.substr(0, line.length));
     const bool isLongKey = line.keyLength > kLongestPlainKey &&
                            content.find_first_not_of(' ') == line.keyColumn &&
-                           line.explicitKeyColumn == YamlLine::kNone;
+                           line.explicitKeyColumn == YamlLine::kNone && line.misreadEscapes.empty();
     if (!isLongKey) {
         out.text.append(content).append(1, '\n');
         return;
     }
     const std::string indent(line.keyColumn, ' ');
-    out.text.append(indent + "? ").append(content.substr(line.keyColumn, line.keyLength));
-    out.text.append("\n" + indent).append(content.substr(line.colon)).append("\n");
+    out.text += indent + "? " + content.substr(line.keyColumn, line.keyLength) + "\n";
+    out.text += indent + content.substr(line.colon) + "\n";
     const auto lines = static_cast<int>(out.insertedLines.size());
     out.insertedLines.push_back(lineNumber + lines + 1);
 }

@@ -113,8 +113,7 @@ bool readWholeNumber(const YamlNode& node, uint32_t largest, uint32_t& number, s
     const std::string_view text = node.text;
     const bool isNegative = isNumber && text[0] == '-';
     if (!isNumber || !isDigits(text.substr(isNegative ? 1 : 0), "0123456789")) {
-        problem = node.isScalar() ? quoted(node.text) + " is no whole number"
-                                  : std::string("a whole number is expected, not a list");
+        problem = quoted(node.isScalar() ? node.text : "[...]") + " is no whole number";
         return false;
     }
     uint64_t value = 0;
@@ -123,8 +122,7 @@ bool readWholeNumber(const YamlNode& node, uint32_t largest, uint32_t& number, s
             std::min<uint64_t>(value * 10 + static_cast<uint64_t>(digit - '0'), UINT32_MAX + 1ULL);
     }
     if (value > largest || (isNegative && value != 0)) {
-        problem = "is out of range: 0 to " + std::to_string(largest);
-        problem.insert(0, quoted(node.text) + " ");
+        problem = quoted(node.text) + " is out of range: 0 to " + std::to_string(largest);
         return false;
     }
     number = static_cast<uint32_t>(value);

@@ -1,5 +1,7 @@
 #include "gme/YamlTreeBuilder.h"
 
+#include <algorithm>
+
 namespace gme {
 
 namespace {
@@ -22,12 +24,14 @@ void YamlTreeBuilder::OnDocumentStart(const YAML::Mark& mark)
 void YamlTreeBuilder::OnNull(const YAML::Mark& mark, YAML::anchor_t /*anchor*/)
 {
     YamlNode node = nodeAt(mark, YamlNode::Kind::Plain);
+    std::string spelling;
+    for (const char* word : {"null", "Null", "NULL", "~"}) {
+        spelling = standsAt(mark, word) ? word : spelling;
+    }
     if (expectsKey()) {
-        for (const char* spelling : {"null", "Null", "NULL", "~"}) {
-            if (standsAt(mark, spelling)) {
-                node.text = spelling;
-            }
-        }
+        node.text = spelling;
+    } else if (spelling.empty()) {
+        node.line = lineBefore(mark);
     }
     add(mark, std::move(node));
 }
@@ -126,9 +130,6 @@ void YamlTreeBuilder::add(const YAML::Mark& mark, YamlNode node)
 
 void YamlTreeBuilder::setKey(const YAML::Mark& mark, const YamlNode& node)
 {
-    if (node.text.empty() && node.kind == YamlNode::Kind::Plain) {
-        throw RefusedYaml(mark, "a name is empty");
-    }
     if (node.text == "<<") {
         throw RefusedYaml(mark, "the name << has a special meaning in YAML and is not supported");
     }
@@ -142,6 +143,16 @@ bool YamlTreeBuilder::standsAt(const YAML::Mark& mark, std::string_view text) co
 {
     const auto position = static_cast<size_t>(mark.pos);
     return position <= yaml.text.size() && yaml.text.compare(position, text.size(), text) == 0;
+}
+
+// The line of the text before a mark: where nothing stands, the parser marks what comes next.
+int YamlTreeBuilder::lineBefore(const YAML::Mark& mark) const
+{
+    const std::string_view before(yaml.text.data(), static_cast<size_t>(mark.pos));
+    const size_t end = before.find_last_not_of(" \n");
+    const auto lineEnds =
+        std::count(before.begin() + static_cast<std::ptrdiff_t>(end + 1), before.end(), '\n');
+    return yaml.fileLine(mark.line + 1 - static_cast<int>(lineEnds));
 }
 
 bool YamlTreeBuilder::expectsKey() const

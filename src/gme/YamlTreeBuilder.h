@@ -54,6 +54,7 @@ private:
     void setKey(const YAML::Mark& mark, const YamlNode& node);
     void checkListPlace(const YAML::Mark& mark, YAML::EmitterStyle::value style) const;
     bool standsAt(const YAML::Mark& mark, std::string_view text) const;
+    int lineBefore(const YAML::Mark& mark) const;
     bool expectsKey() const;
     YamlNode nodeAt(const YAML::Mark& mark, YamlNode::Kind kind) const;
 
