@@ -1,0 +1,203 @@
+// Assembled games, played: the states after each tap are in tests/gme/vectors/simulation.json.
+#include "gme/Description.h"
+#include "gme/LineParser.h"
+#include "gme/Registers.h"
+#include "gme/SourceText.h"
+#include "tests/gme/GameFolder.h"
+#include "tests/gme/PenSimulator.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <set>
+#include <yaml-cpp/yaml.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// What the names in a YAML file are in its game file.
+class GameNames
+{
+public:
+    explicit GameNames(const std::string& yamlFile);
+
+    std::string nonZeroRegisters(const PenSimulator& pen) const;
+    std::string plays(const std::vector<std::vector<unsigned>>& media) const;
+
+private:
+    void note(const gme::Operand& operand);
+    void note(const gme::Register& reg);
+    void note(const gme::ScriptLine& line);
+
+    std::map<std::string, gme::Register> byName;
+    std::set<std::string> audio;
+    gme::Registers registers;
+};
+
+GameNames::GameNames(const std::string& yamlFile)
+{
+    gme::Messages messages(yamlFile, nullptr);
+    std::string text;
+    gme::PreparedYaml yaml;
+    gme::YamlNode root;
+    gme::Description description;
+    if (gme::readBytes(yamlFile, text, messages) && gme::makeText(text, messages) &&
+        gme::prepareYaml(text, yaml, messages) && gme::readYamlTree(yaml, root, messages)) {
+        gme::readDescription(root, description, messages);
+    }
+    for (const auto& [name, script] : description.scripts) {
+        for (const gme::SourceLine& source : script.lines) {
+            gme::ScriptLine line;
+            gme::parseScriptLine(source.text, line);
+            note(line);
+        }
+    }
+    std::vector<gme::InitialValue> values;
+    gme::parseInit(description.init.text, values);
+    for (const gme::InitialValue& value : values) {
+        registers.noteInitialValue(value);
+        note(value.reg);
+    }
+    std::vector<std::string> welcome;
+    gme::parsePlayList(description.welcome.at(0).text, welcome);
+    audio.insert(welcome.begin(), welcome.end());
+    registers.assignNumbers();
+}
+
+void GameNames::note(const gme::ScriptLine& line)
+{
+    for (const gme::Condition& condition : line.conditions) {
+        note(condition.left);
+        note(condition.right);
+    }
+    for (const gme::Command& command : line.commands) {
+        if (command.hasTarget) {
+            note(command.target);
+        }
+        note(command.value);
+    }
+    registers.noteUseIn(line);
+    audio.insert(line.playList.begin(), line.playList.end());
+}
+
+void GameNames::note(const gme::Operand& operand)
+{
+    if (operand.isRegister) {
+        note(operand.reg);
+    }
+}
+
+void GameNames::note(const gme::Register& reg)
+{
+    byName["$" + (reg.name.empty() ? std::to_string(reg.number) : reg.name)] = reg;
+}
+
+std::string GameNames::nonZeroRegisters(const PenSimulator& pen) const
+{
+    std::string text;
+    for (const auto& [name, reg] : byName) {
+        const unsigned value = pen.registerValue(registers.numberOf(reg));
+        text += value != 0 ? name + "=" + std::to_string(value) + " " : "";
+    }
+    return text;
+}
+
+std::string GameNames::plays(const std::vector<std::vector<unsigned>>& media) const
+{
+    const std::vector<std::string> names(audio.begin(), audio.end());
+    std::string text;
+    for (const std::vector<unsigned>& files : media) {
+        text += "[ ";
+        for (const unsigned index : files) {
+            text += names.at(index) + " ";
+        }
+        text += "] ";
+    }
+    return text;
+}
+
+// The same texts from what is expected.
+std::string expectedRegisters(const YAML::Node& tap)
+{
+    std::map<std::string, std::string> sorted;
+    for (const auto& entry : tap["registers"]) {
+        sorted[entry.first.as<std::string>()] = entry.second.as<std::string>();
+    }
+    std::string text;
+    for (const auto& [name, value] : sorted) {
+        text += name + "=" + value + " ";
+    }
+    return text;
+}
+
+std::string expectedPlays(const YAML::Node& tap)
+{
+    std::string text;
+    for (const YAML::Node& files : tap["plays"]) {
+        text += "[ ";
+        for (const YAML::Node& name : files) {
+            text += name.as<std::string>() + " ";
+        }
+        text += "] ";
+    }
+    return text;
+}
+
+fs::path vectors()
+{
+    return fs::path(PLINKETT_SOURCE_DIR) / "tests/gme/vectors";
+}
+
+// Assembles a vector in a copy, so that nothing is written into the source tree.
+class PlayedVector : public testing::TestWithParam<std::string>
+{
+protected:
+    PlayedVector()
+    {
+        fs::copy(vectors() / GetParam(), copy.file(GetParam()), fs::copy_options::recursive);
+        fs::copy(vectors() / "audio", copy.file("audio"), fs::copy_options::recursive);
+        for (const fs::directory_entry& entry : fs::directory_iterator(copy.file(GetParam()))) {
+            if (entry.path().filename().string()[0] != 'e' && entry.path().extension() == ".yaml") {
+                yaml = entry.path().string();
+            }
+        }
+    }
+
+    YAML::Node taps() const
+    {
+        for (const YAML::Node& entry : YAML::LoadFile((vectors() / "simulation.json").string())) {
+            if (entry["vector"].as<std::string>() == GetParam()) {
+                return entry["taps"];
+            }
+        }
+        return {};
+    }
+
+    TemporaryFolder copy;
+    std::string yaml;
+};
+
+}  // namespace
+
+TEST_P(PlayedVector, ShowsTheExpectedRegistersAndSoundsAfterEveryTap)
+{
+    const Assembled assembled = assembleFile(yaml);
+    ASSERT_TRUE(assembled.ok);
+    const GameNames names(yaml);
+    PenSimulator pen(assembled.game);
+
+    ASSERT_GT(taps().size(), 0U);
+    for (const YAML::Node& tap : taps()) {
+        SCOPED_TRACE(tap["name"].as<std::string>());
+        EXPECT_TRUE(pen.tap(tap["code"].as<uint32_t>()));
+        EXPECT_EQ(names.nonZeroRegisters(pen), expectedRegisters(tap));
+        EXPECT_EQ(names.plays(pen.takePlays()), expectedPlays(tap));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Vectors, PlayedVector,
+                         testing::Values("v01-first", "v02-operators", "v03-registers",
+                                         "v14-simulation"),
+                         [](const testing::TestParamInfo<std::string>& vector) {
+                             return vector.param.substr(0, 3);
+                         });
