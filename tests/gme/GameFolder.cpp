@@ -66,7 +66,9 @@ Assembled assembleFile(const std::string& yamlFile)
 
 std::string readIfThere(const std::string& path)
 {
-    return std::filesystem::exists(std::filesystem::u8path(path)) ? readFile(path) : std::string();
+    std::error_code ignored;  // a path that cannot exist
+    const bool isThere = std::filesystem::exists(std::filesystem::u8path(path), ignored);
+    return isThere ? readFile(path) : std::string();
 }
 
 std::string withoutComments(const std::string& text)
