@@ -23,7 +23,8 @@ TEST(Usage, HelpNamesEveryCommandOnStandardOutput)
     for (const char* usage :
          {"\n  check PROJECT [--debug]\n", "\n  yaml PROJECT [--debug] [-o FILE]\n",
           "\n  save PROJECT -o FILE\n", "\n  print PROJECT [--picture N]\n",
-          "\n  tile OID -o FILE [--size PIXELS]\n"}) {
+          "\n  tile OID -o FILE [--size PIXELS]\n",
+          "\n  assemble FILE.yaml [OUT.gme] [-o OUT.gme] [--no-date]\n"}) {
         EXPECT_THAT(run.out, HasSubstr(usage));
     }
 }

@@ -18,6 +18,8 @@ struct Command
     const char* summary;
     std::vector<Option> options;
     int (*run)(const Arguments& arguments);  // returns the exit status
+    std::size_t mostOperands = 1;
+    ExitStatus usageErrorStatus = kUsageError;
 };
 
 Command checkCommand();
@@ -25,6 +27,7 @@ Command yamlCommand();
 Command saveCommand();
 Command printCommand();
 Command tileCommand();
+Command assembleCommand();
 
 // Reports what is wrong with the command line on standard error and returns kUsageError.
 int usageError(const std::string& message);

@@ -20,7 +20,8 @@ constexpr char kFootline[] =
 
 std::vector<Command> commands()
 {
-    return {checkCommand(), yamlCommand(), saveCommand(), printCommand(), tileCommand()};
+    return {checkCommand(), yamlCommand(), saveCommand(),
+            printCommand(), tileCommand(), assembleCommand()};
 }
 
 // "  check PROJECT [--debug]", its summary, and a line for each option.
@@ -57,6 +58,21 @@ bool asksForHelp(const std::vector<std::string>& words)
     return std::find(words.begin(), optionsEnd, "--help") != optionsEnd;
 }
 
+// What is wrong with the words behind the name of a command; empty if nothing is.
+std::string mistakeIn(const Arguments& arguments, const Command& command)
+{
+    if (!arguments.error.empty()) {
+        return arguments.error;
+    }
+    if (arguments.operands.empty()) {
+        return std::string(command.name) + " needs " + command.operand;
+    }
+    if (arguments.operands.size() > command.mostOperands) {
+        return "unexpected argument '" + arguments.operands[command.mostOperands] + "'";
+    }
+    return "";
+}
+
 int runCommand(const Command& command, const std::vector<std::string>& words)
 {
     if (asksForHelp(words)) {
@@ -64,14 +80,10 @@ int runCommand(const Command& command, const std::vector<std::string>& words)
         return kFine;
     }
     const Arguments arguments = parseArguments(words, command.options);
-    if (!arguments.error.empty()) {
-        return usageError(arguments.error);
-    }
-    if (arguments.operands.empty()) {
-        return usageError(std::string(command.name) + " needs " + command.operand);
-    }
-    if (arguments.operands.size() > 1) {
-        return usageError("unexpected argument '" + arguments.operands[1] + "'");
+    const std::string mistake = mistakeIn(arguments, command);
+    if (!mistake.empty()) {
+        usageError(mistake);
+        return command.usageErrorStatus;
     }
     return command.run(arguments);
 }

@@ -1,0 +1,39 @@
+#include "app/cli/Commands.h"
+#include "gme/Assembler.h"
+
+namespace {
+
+constexpr std::size_t kMostOperands = 2;  // the game file may stand behind the YAML file
+
+int assemble(const Arguments& arguments)
+{
+    gme::AssembleOptions options;
+    options.yamlFile = arguments.operands[0];
+    options.withDate = !arguments.has("--no-date");
+    if (arguments.operands.size() == kMostOperands) {
+        options.gameFile = arguments.operands[1];
+    }
+    if (arguments.has("-o")) {
+        if (!options.gameFile.empty()) {
+            usageError("the game file is named twice");
+            return kFailed;
+        }
+        options.gameFile = arguments.value("-o");
+    }
+    return gme::assemble(options, defaultPrintf()) ? kFine : kFailed;
+}
+
+}  // namespace
+
+// Intended: an assembler knows only success and failure, so that usage errors count as the latter.
+Command assembleCommand()
+{
+    return {"assemble",
+            "FILE.yaml [OUT.gme]",
+            "Makes the pen's game file from a game description, beside it unless OUT is given.",
+            {{"-o", "OUT.gme", "the game file to write"},
+             {"--no-date", nullptr, "the game file holds 19700101 instead of today's date"}},
+            assemble,
+            kMostOperands,
+            kFailed};
+}
