@@ -28,7 +28,8 @@ public:
     KVString(const char* text, DetectCharPtrEncoding mode = KeepBytes);
     // Of the bytes, zero bytes included.
     explicit KVString(const std::string& bytes);
-    // In the locale's code where it can hold the text, else in UTF-8 (Windows: the ANSI code page).
+    // In the locale's code where it can hold the text, else in UTF-8 (Windows tries the ANSI code
+    // page before): whatever the text, to_wchar_ptr gives it back.
     KVString(const wchar_t* text);
     KVString(const QString& text);
     KVString(const KVString& other);

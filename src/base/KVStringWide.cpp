@@ -67,13 +67,13 @@ bool toLocale(const std::wstring& text, std::string& bytes)
     return true;
 }
 
-// The locale's bytes, unless they would be read back as another text (those of the Latin-1 text
+// The system's bytes, unless they would be read back as another text (those of the Latin-1 text
 // "Ã¤" look like the UTF-8 of "ä").
 std::string fromWide(const std::wstring& text)
 {
     std::string bytes;
     if (!toLocale(text, bytes)) {
-        return Platform::wideToCodePage(text);
+        bytes = Platform::wideToCodePage(text);
     }
     return toWide(KVString(bytes)) == text ? bytes : Utf8::encode(text);
 }
