@@ -59,22 +59,20 @@ ChangeEvents& ChangeEvents::instance()
 
 void ChangeEvents::setReceiver(QObject* newReceiver, const char* newSlot)
 {
-    const QByteArray wanted = newReceiver != nullptr ? newSlot : "";
-    if (newReceiver == receiver && wanted == slot) {
+    if (newReceiver == nullptr || newSlot == nullptr) {
+        newReceiver = nullptr;
+        newSlot = "";
+    }
+    if (newReceiver == receiver && newSlot == slot) {
         return;
     }
-    disconnectAll();
-    if (receiver != nullptr) {
-        disconnect(receiver, &QObject::destroyed, this, nullptr);
-    }
+    disconnectFromReceiver();
+    forgetAll();
     receiver = newReceiver;
-    slot = wanted;
+    slot = newSlot;
     if (receiver != nullptr) {
-        connect(receiver, &QObject::destroyed, this, [this] {
-            disconnectAll();
-            receiver = nullptr;
-            slot.clear();
-        });
+        // A dead receiver's connections have ended by themselves.
+        connect(receiver, &QObject::destroyed, this, &ChangeEvents::forgetAll);
     }
 }
 
@@ -93,11 +91,22 @@ void ChangeEvents::connectSender(QObject* widget)
 }
 
 // Only connections to the slot end: the receiver may be connected to a widget in other ways, too.
-void ChangeEvents::disconnectAll()
+void ChangeEvents::disconnectFromReceiver()
 {
     for (const auto& [widget, usedSlot] : connected) {
         QObject::disconnect(widget, nullptr, receiver, usedSlot);
-        QObject::disconnect(widget, nullptr, this, nullptr);
+    }
+}
+
+void ChangeEvents::forgetAll()
+{
+    for (const auto& entry : connected) {
+        QObject::disconnect(entry.first, nullptr, this, nullptr);
     }
     connected.clear();
+    if (receiver != nullptr) {
+        QObject::disconnect(receiver, nullptr, this, nullptr);
+    }
+    receiver = nullptr;
+    slot.clear();
 }

@@ -22,7 +22,9 @@ public:
     size_t connectedCount() const { return connected.size(); }
 
 private:
-    void disconnectAll();
+    void disconnectFromReceiver();
+    // Receiver and table.
+    void forgetAll();
 
     QObject* receiver = nullptr;
     QByteArray slot;  // as SLOT() gives it
