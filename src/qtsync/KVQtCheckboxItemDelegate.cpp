@@ -56,6 +56,8 @@ void KVQtCheckboxItemDelegate::paint(QPainter* painter, const QStyleOptionViewIt
     box.state = index.data(dataRole).toBool() ? QStyle::State_On : QStyle::State_Off;
     if (!enabled.isValid() || enabled.toBool()) {
         box.state |= QStyle::State_Enabled;
+    } else {
+        box.palette.setCurrentColorGroup(QPalette::Disabled);
     }
     styleOf(option)->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, painter, option.widget);
 }

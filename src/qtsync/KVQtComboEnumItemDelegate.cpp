@@ -75,8 +75,7 @@ bool KVQtComboEnumItemDelegate::editorEvent(QEvent* event, QAbstractItemModel* m
 {
     const bool leftRelease = event->type() == QEvent::MouseButtonRelease &&
                              static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
-    auto* const view =
-        qobject_cast<QAbstractItemView*>(const_cast<QWidget*>(option.widget));  // NOLINT
+    auto* const view = qobject_cast<QAbstractItemView*>(const_cast<QWidget*>(option.widget));
     if (!leftRelease || view == nullptr) {
         return QStyledItemDelegate::editorEvent(event, model, option, index);
     }
