@@ -16,7 +16,7 @@ std::string usageError(const std::string& message)
 
 TEST(Usage, HelpNamesEveryCommandOnStandardOutput)
 {
-    const CliRun run = cli({"--help"});
+    const ProgramRun run = cli({"--help"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.err, "");
     EXPECT_THAT(run.out, StartsWith("Usage: plinkett-cli COMMAND ARGUMENTS\n"));
@@ -42,7 +42,7 @@ TEST(Usage, HelpOfOneCommandNeedsNothingElse)
 
 TEST(Usage, VersionNamesProgramAndNumber)
 {
-    const CliRun run = cli({"--version"});
+    const ProgramRun run = cli({"--version"});
     EXPECT_EQ(run.status, 0);
     EXPECT_THAT(run.out, testing::MatchesRegex("plinkett-cli [0-9]+\\.[0-9]+\\.[0-9]+\n"));
 }

@@ -3,16 +3,21 @@
 //
 //   print TEXT      a line on standard output       error TEXT   a line on standard error
 //   flood BYTES     lines of "y" on standard output longline BYTES   the same without line ends
-//   write N TEXT    TEXT into the file that argument N names (from 1; negative: from the end)
+//   write N TEXT    TEXT into the file that argument N names (from 1; negative: from the end);
+//                   nothing when there is no such argument
+//   keepinput       reads standard input to its end, into NAME.input
 //   await FILE      goes on when FILE exists        hang         never ends
 //   crash           aborts                          exit N       ends with status N
+//   answer WORD TEXT   a line on standard output, and the end, when WORD is among the arguments
 //
 // Every call adds its arguments, one to a line, and an empty line to NAME.calls.
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <iostream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -41,15 +46,11 @@ void flood(long long bytes, const char* unit)
     }
 }
 
-void pauseBriefly()
-{
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
-}
-
+// A file without a name never comes.
 void await(const std::string& file)
 {
     while (!std::ifstream(file)) {
-        pauseBriefly();
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
 }
 
@@ -59,11 +60,29 @@ void writeInto(const Words& arguments, const std::string& numberAndText)
     const int number = std::stoi(numberAndText.substr(0, blank));
     const int count = static_cast<int>(arguments.size());
     const int index = number < 0 ? count + number : number - 1;
-    std::ofstream(arguments.at(static_cast<std::size_t>(index)), std::ios::binary)
-        << numberAndText.substr(blank + 1);
+    if (index >= 0 && index < count) {
+        std::ofstream(arguments[static_cast<std::size_t>(index)], std::ios::binary)
+            << numberAndText.substr(blank + 1);
+    }
 }
 
-void carryOut(const std::string& action, const std::string& rest, const Words& arguments)
+void keepInput(const std::string& file)
+{
+    std::ofstream(file, std::ios::binary) << std::cin.rdbuf();
+}
+
+void answer(const Words& arguments, const std::string& wordAndText)
+{
+    const std::size_t blank = wordAndText.find(' ');
+    const std::string word = wordAndText.substr(0, blank);
+    if (std::find(arguments.begin(), arguments.end(), word) != arguments.end()) {
+        printf("%s\n", wordAndText.substr(blank + 1).c_str());
+        std::exit(0);
+    }
+}
+
+void carryOut(const std::string& action, const std::string& rest, const std::string& self,
+              const Words& arguments)
 {
     if (action == "print") {
         printf("%s\n", rest.c_str());
@@ -75,12 +94,14 @@ void carryOut(const std::string& action, const std::string& rest, const Words& a
         flood(std::stoll(rest), "y");
     } else if (action == "write") {
         writeInto(arguments, rest);
+    } else if (action == "keepinput") {
+        keepInput(self + ".input");
     } else if (action == "await") {
         await(rest);
     } else if (action == "hang") {
-        for (;;) {
-            pauseBriefly();
-        }
+        await("");
+    } else if (action == "answer") {
+        answer(arguments, rest);
     } else if (action == "crash") {
         std::abort();
     } else if (action == "exit") {
@@ -100,7 +121,7 @@ int main(int count, char** words)
     for (std::string line; std::getline(plan, line);) {
         const std::size_t blank = line.find(' ');
         const std::string rest = blank == std::string::npos ? "" : line.substr(blank + 1);
-        carryOut(line.substr(0, blank), rest, arguments);
+        carryOut(line.substr(0, blank), rest, self, arguments);
     }
     return 0;
 }
