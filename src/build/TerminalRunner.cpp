@@ -1,0 +1,47 @@
+#include "build/TerminalRunner.h"
+
+#include <cstdio>
+
+static void show(const QByteArray& bytes)
+{
+    fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout);
+    fflush(stdout);
+}
+
+TerminalRunner::TerminalRunner()
+{
+    QObject::connect(&process, &QProcess::readyReadStandardOutput, &process,
+                     [this] { show(process.readAllStandardOutput()); });
+    QObject::connect(&process, &QProcess::readyReadStandardError, &process,
+                     [this] { show(process.readAllStandardError()); });
+    QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished),
+                     &process, [this](int exitCode, QProcess::ExitStatus status) {
+                         lastExitCode = status == QProcess::NormalExit ? exitCode : -1;
+                     });
+    QObject::connect(&process, &QProcess::errorOccurred, &process,
+                     [this](QProcess::ProcessError error) {
+                         echo(OutsideProgram::errorText(error));
+                         lastExitCode = -1;
+                     });
+}
+
+bool TerminalRunner::exec(const KVString& commandLine, bool wait)
+{
+    if (process.state() != QProcess::NotRunning) {
+        return false;
+    }
+    fflush(stdout);  // what was printed so far stands in front of the program's output
+    return program.start(commandLine, wait);
+}
+
+void TerminalRunner::echo(const char* text)
+{
+    show(QByteArray(text));
+}
+
+void TerminalRunner::waitForEnd()
+{
+    if (process.state() != QProcess::NotRunning) {
+        process.waitForFinished(-1);
+    }
+}

@@ -1,0 +1,86 @@
+#include "build/TerminalRunner.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/helpers/Environment.h"
+#include "tests/helpers/FakeProgram.h"
+#include "tests/helpers/TemporaryFolder.h"
+
+namespace {
+
+// What a stand-in "tool" and the runner put onto standard output.
+class Terminal : public testing::Test
+{
+protected:
+    Terminal() { testing::internal::CaptureStdout(); }
+    ~Terminal() override
+    {
+        if (!taken) {
+            testing::internal::GetCapturedStdout();
+        }
+    }
+
+    std::string output()
+    {
+        taken = true;
+        fflush(stdout);
+        return testing::internal::GetCapturedStdout();
+    }
+
+    TemporaryFolder folder;
+    FakeProgram tool{folder.path(), "tool"};
+    ChangedVariable path{"PATH", folder.path()};
+    TerminalRunner runner;
+    bool taken = false;
+};
+
+}  // namespace
+
+TEST_F(Terminal, OutputAndErrorsOfAProgramStandAmongTheMessages)
+{
+    tool.plan("print out\nerror err\nexit 2\n");
+    runner.echo("before\n");
+    runner.printFunction()("%s\n", "printed");
+    EXPECT_TRUE(runner.exec("tool", true));
+    EXPECT_EQ(runner.exitCode(), 2);
+    runner.echo("after\n");
+    const std::string text = output();
+    EXPECT_TRUE(text == "before\nprinted\nout\nerr\nafter\n" ||
+                text == "before\nprinted\nerr\nout\nafter\n")
+        << text;
+}
+
+TEST_F(Terminal, AProgramThatIsNotThereIsReported)
+{
+    EXPECT_FALSE(runner.exec("nothing", true));
+    EXPECT_EQ(runner.exitCode(), -1);
+    EXPECT_EQ(output(), "ERROR: File not Found\n");
+}
+
+TEST_F(Terminal, ACrashIsReported)
+{
+    tool.plan("print out\ncrash\n");
+    EXPECT_TRUE(runner.exec("tool", true));
+    EXPECT_EQ(runner.exitCode(), -1);
+    EXPECT_EQ(output(), "out\nERROR: Program Crash\n");
+}
+
+TEST_F(Terminal, OnlyOneProgramRunsAtATimeAndItsEndCanBeAwaited)
+{
+    tool.plan("await " + folder.file("signal") + "\nprint out\nexit 3\n");
+    EXPECT_TRUE(runner.exec("tool first", false));
+    EXPECT_FALSE(runner.exec("tool second", true));
+    writeFile(folder.file("signal"), "");
+    runner.waitForEnd();
+    EXPECT_EQ(runner.exitCode(), 3);
+    EXPECT_EQ(tool.calls(), "first\n\n");
+    runner.waitForEnd();
+    EXPECT_EQ(output(), "out\n");
+}
+
+TEST_F(Terminal, AHundredMegabytesPassThrough)
+{
+    tool.plan("flood 100000000\n");
+    EXPECT_TRUE(runner.exec("tool", true));
+    EXPECT_GE(output().size(), 100000000U);
+}
