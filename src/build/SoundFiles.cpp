@@ -1,0 +1,160 @@
+#include "build/SoundFiles.h"
+
+#include <vector>
+
+#include "base/FileSystem.h"
+#include "base/PlatformFiles.h"
+#include "base/PlatformProcess.h"
+#include "base/TextHelpers.h"
+#include "build/OutsideProgram.h"
+#include "build/ProcessRunner.h"
+#include "build/WorkingFolder.h"
+#include "oid/OidProject.h"
+
+namespace {
+
+using Voices = std::map<std::string, ttbasic::VOICE>;
+
+constexpr char kSound[] = ".ogg";
+constexpr char kSpeech[] = ".wav";  // for a while only
+
+// A text that has no audio file yet.
+struct NewText
+{
+    std::string audioName;
+    ttbasic::TALKTEXT said;
+};
+
+// Intended: not undone, and only the first of the two folders is looked for, so that a second build
+// adds nothing.
+void putToolsOnPath()
+{
+    const std::string tools = Platform::nativePath(FileSystem::exeDirectory() + "\\tools\\");
+    const std::string speech = tools + "text2speech_win" + Platform::searchPathSeparator;
+    const std::string path = Platform::searchPath();
+    if (path.find(speech) == std::string::npos) {
+        const std::string sound =
+            Platform::nativePath(tools + "ffmpeg\\bin") + Platform::searchPathSeparator;
+        Platform::setEnvironmentVariable("PATH", speech + sound + path);
+    }
+}
+
+std::vector<NewText> newTexts(const Oid::OidProject& project, const std::string& folder)
+{
+    std::vector<NewText> texts;
+    for (const auto& [audioName, said] : project.compiler.talkTexts) {
+        if (!FileSystem::doesFileExist(folder + FileSystem::directorySeparator + audioName +
+                                       kSound)) {
+            texts.push_back({audioName, said});
+        }
+    }
+    return texts;
+}
+
+// A text as a message shows it: long ones are cut, between two characters.
+std::string shown(const std::string& text)
+{
+    constexpr size_t kLongest = 200;  // bytes
+    if (text.size() <= kLongest) {
+        return text;
+    }
+    size_t end = kLongest;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) {
+        --end;
+    }
+    return text.substr(0, end) + "...";
+}
+
+bool refuse(const std::string& text, const std::string& reason, ProcessRunner& runner)
+{
+    runner.echo(("Error: The text '" + shown(text) + "' " + reason + "\n").c_str());
+    return false;
+}
+
+bool canBeMade(const NewText& text, ProcessRunner& runner)
+{
+    constexpr size_t kLongestName = 255;  // bytes, on every usual file system
+    if (text.audioName.size() + sizeof kSound - 1 > kLongestName) {
+        return refuse(text.said.text, "is too long for the name of an audio file", runner);
+    }
+    if (text.said.text.size() > Platform::longestArgument) {
+        return refuse(text.said.text, "is too long for the speech program", runner);
+    }
+    return true;
+}
+
+// Intended: quotes in the text are not escaped. The text is handed over as it stands; only the path
+// takes its native form.
+std::string speechCommand(const ttbasic::VOICE& voice, const std::string& file,
+                          const std::string& text)
+{
+    return "Text2Speech.exe -q -v " + voice.language + " -a " + itostr(voice.age) + " -g " +
+           (voice.female ? "f" : "m") + " -f " + commandPath(file) + " -t \"" + text + "\"";
+}
+
+std::string soundCommand(const std::string& speech, const std::string& sound)
+{
+    return "ffmpeg.exe -hide_banner -loglevel error -i " + commandPath(speech) +
+           " -ar 22050 -ac 1 " + commandPath(sound);
+}
+
+// The end of the speech program is not looked at: without its file the conversion fails.
+bool makeSoundFile(const NewText& text, const Voices& voices, const std::string& folder,
+                   ProcessRunner& runner)
+{
+    const ttbasic::VOICE& voice = voices.at(text.said.voice);
+    if (!canBeMade(text, runner)) {
+        return false;
+    }
+    const std::string base = folder + FileSystem::directorySeparator + text.audioName;
+    const std::string speech = base + kSpeech;
+    const std::string sound = base + kSound;
+    runner.exec(KVString(speechCommand(voice, speech, text.said.text)), true);
+    const bool converted =
+        runner.exec(KVString(soundCommand(speech, sound)), true) && runner.exitCode() == 0;
+    if (!converted) {
+        FileSystem::deleteFile(sound);  // half a file would pass for a whole one ever after
+    }
+    if (!FileSystem::doesFileExist(sound)) {
+        return refuse(text.said.text, "has no audio file", runner);
+    }
+    FileSystem::deleteFile(speech);
+    return true;
+}
+
+}  // namespace
+
+std::string audioFolder(const Oid::OidProject& project)
+{
+    return FileSystem::getDirectoryOfPath(project.projectPath) + FileSystem::directorySeparator +
+           itostr(project.productId) + "-audio";
+}
+
+SpeechOutcome createSoundFiles(const Oid::OidProject& project, ProcessRunner& runner,
+                               const SpeechProgress& progress)
+{
+    const std::string folder = audioFolder(project);
+    const WorkingFolder sameAfterwards;
+    putToolsOnPath();
+    const std::vector<NewText> texts = newTexts(project, folder);
+    if (texts.empty()) {
+        return SpeechOutcome::complete;
+    }
+    FileSystem::createDirectory(folder);
+
+    SpeechOutcome outcome = SpeechOutcome::complete;
+    const int total = static_cast<int>(texts.size());
+    for (int done = 0; done < total; ++done) {
+        if (progress && !progress(done, total)) {
+            return SpeechOutcome::cancelled;
+        }
+        if (!makeSoundFile(texts[static_cast<size_t>(done)], project.compiler.voices, folder,
+                           runner)) {
+            outcome = SpeechOutcome::incomplete;
+        }
+    }
+    if (progress) {
+        progress(total, total);
+    }
+    return outcome;
+}

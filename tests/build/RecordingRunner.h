@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "build/ProcessRunner.h"
+#include "tests/helpers/CapturedMessages.h"
+
+// A runner that starts nothing: it remembers the command lines and does what the test wants done
+// in place of the program.
+class RecordingRunner : public ProcessRunner
+{
+public:
+    bool exec(const KVString& commandLine, bool wait) override
+    {
+        const std::string command = QString(commandLine).toStdString();
+        commands.push_back(command + (wait ? "" : " &"));
+        lastExitCode = program ? program(command) : 0;
+        return lastExitCode >= 0;
+    }
+    int exitCode() const override { return lastExitCode; }
+    void echo(const char* text) override { CapturedMessages::print("%s", text); }
+    PrintFunction printFunction() override { return CapturedMessages::print; }
+
+    // What was echoed and printed.
+    const std::string& shown() const { return messages.text(); }
+
+    std::vector<std::string> commands;  // with " &" behind one that was not waited for
+    std::function<int(const std::string& command)> program;  // returns its exit code, -1: no start
+
+private:
+    CapturedMessages messages;
+    int lastExitCode = 0;
+};

@@ -1,0 +1,263 @@
+#include "build/SoundFiles.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+
+#include "base/FileSystem.h"
+#include "base/PlatformProcess.h"
+#include "oid/OidProject.h"
+#include "tests/build/RecordingRunner.h"
+#include "tests/helpers/Environment.h"
+#include "tests/helpers/TemporaryFolder.h"
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+// A project of the product 900 in a folder of its own, with texts to speak, and stand-ins for the
+// two programs.
+class SoundFiles : public testing::Test
+{
+protected:
+    SoundFiles()
+    {
+        project.projectPath = folder.path() + "\\book.oidpro";
+        runner.program = [this](const std::string& command) { return run(command); };
+    }
+
+    void say(const std::string& audioName, const std::string& voice, const std::string& text)
+    {
+        project.compiler.talkTexts[audioName] = {voice, text};
+    }
+
+    std::string audio(const std::string& name) const { return folder.file("900-audio/" + name); }
+
+    SpeechOutcome create() { return createSoundFiles(project, runner); }
+
+    // Speech writes its WAV file and ffmpeg its OGG file, unless they are to fail.
+    int run(const std::string& command) const
+    {
+        const bool speaks = command.rfind("Text2Speech.exe", 0) == 0;
+        const std::string ending = speaks ? ".wav\" -t" : ".ogg\"";
+        const size_t end = command.find(ending) + 4;
+        const size_t start = command.rfind('"', end - 1) + 1;
+        if (speaks ? speechStatus == 0 : soundIsWritten) {
+            writeFile(command.substr(start, end - start), speaks ? "speech" : "sound");
+        }
+        return speaks ? speechStatus : soundStatus;
+    }
+
+    const TemporaryFolder folder;
+    const ChangedVariable pathAfterwards{"PATH", Platform::searchPath()};
+    Oid::OidProject project;
+    RecordingRunner runner;
+    int speechStatus = 0;
+    int soundStatus = 0;
+    bool soundIsWritten = true;
+};
+
+}  // namespace
+
+TEST_F(SoundFiles, EveryTextIsSpokenAndConverted)
+{
+    project.compiler.voices["max"] = {"de", false, 40, 3, 3};
+    say("say_eve_Hi", "eve", "Hi");
+    say("say_max_Gr_n", "max", "Grün, \\o/ \"so\" 100% 'sure'");
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    const std::string eve = folder.path() + "/900-audio/say_eve_Hi";
+    const std::string max = folder.path() + "/900-audio/say_max_Gr_n";
+    EXPECT_THAT(runner.commands,
+                ElementsAre("Text2Speech.exe -q -v en -a 30 -g f -f \"" + eve + ".wav\" -t \"Hi\"",
+                            "ffmpeg.exe -hide_banner -loglevel error -i \"" + eve +
+                                ".wav\" -ar 22050 -ac 1 \"" + eve + ".ogg\"",
+                            "Text2Speech.exe -q -v de -a 40 -g m -f \"" + max +
+                                ".wav\" -t \"Grün, \\o/ \"so\" 100% 'sure'\"",
+                            "ffmpeg.exe -hide_banner -loglevel error -i \"" + max +
+                                ".wav\" -ar 22050 -ac 1 \"" + max + ".ogg\""));
+    EXPECT_EQ(runner.shown(), "");
+}
+
+TEST_F(SoundFiles, OnlyTheOggFileStays)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    create();
+    EXPECT_EQ(folder.listing(), "900-audio");
+    EXPECT_EQ(readFile(audio("say_eve_Hi.ogg")), "sound");
+    EXPECT_FALSE(fs::exists(audio("say_eve_Hi.wav")));
+}
+
+TEST_F(SoundFiles, WithoutTextsOnlyThePathIsChanged)
+{
+    Platform::setEnvironmentVariable("PATH", "/bin");
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_NE(Platform::searchPath(), "/bin");
+    EXPECT_THAT(runner.commands, IsEmpty());
+    EXPECT_EQ(folder.listing(), "");
+}
+
+TEST_F(SoundFiles, TheFoldersOfTheToolsComeFirstOnPathAndOnlyOnce)
+{
+    Platform::setEnvironmentVariable("PATH", "/bin:/usr/bin");
+    const std::string tools = FileSystem::exeDirectory() + "/tools/";
+    const std::string expected = tools + "text2speech_win:" + tools + "ffmpeg/bin:/bin:/usr/bin";
+    create();
+    EXPECT_EQ(Platform::searchPath(), expected);
+    create();
+    EXPECT_EQ(Platform::searchPath(), expected);
+}
+
+TEST_F(SoundFiles, AnotherSynthesiserMayStandBeforeOursOnPath)
+{
+    const std::string path =
+        "/my/tools:" + FileSystem::exeDirectory() + "/tools/text2speech_win:/bin";
+    Platform::setEnvironmentVariable("PATH", path);
+    create();
+    EXPECT_EQ(Platform::searchPath(), path);
+}
+
+TEST_F(SoundFiles, ASecondBuildStartsNothing)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    create();
+    runner.commands.clear();
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_THAT(runner.commands, IsEmpty());
+}
+
+TEST_F(SoundFiles, AChangedTextUnderTheSameNameKeepsItsOldAudio)
+{
+    say("say_eve_Hi_", "eve", "Hi!");
+    create();
+    say("say_eve_Hi_", "eve", "Hi?");
+    runner.commands.clear();
+    create();
+    EXPECT_THAT(runner.commands, IsEmpty());
+    fs::remove(audio("say_eve_Hi_.ogg"));
+    create();
+    EXPECT_EQ(runner.commands.size(), 2U);
+}
+
+TEST_F(SoundFiles, AfterAFailedConversionTheSpeechStaysAndIsMadeAgain)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    soundStatus = 1;
+    soundIsWritten = false;
+    EXPECT_EQ(create(), SpeechOutcome::incomplete);
+    EXPECT_EQ(runner.shown(), "Error: The text 'Hi' has no audio file\n");
+    EXPECT_EQ(readFile(audio("say_eve_Hi.wav")), "speech");
+    soundStatus = 0;
+    soundIsWritten = true;
+    runner.commands.clear();
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_EQ(runner.commands.size(), 2U);
+    EXPECT_FALSE(fs::exists(audio("say_eve_Hi.wav")));
+}
+
+TEST_F(SoundFiles, HalfAnOggFileOfAFailedConversionIsRemoved)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    soundStatus = 1;
+    EXPECT_EQ(create(), SpeechOutcome::incomplete);
+    EXPECT_FALSE(fs::exists(audio("say_eve_Hi.ogg")));
+    EXPECT_TRUE(fs::exists(audio("say_eve_Hi.wav")));
+}
+
+TEST_F(SoundFiles, AProgramThatDoesNotStartStopsNothing)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    say("say_eve_Ho", "eve", "Ho");
+    speechStatus = -1;
+    soundStatus = -1;
+    soundIsWritten = false;
+    EXPECT_EQ(create(), SpeechOutcome::incomplete);
+    EXPECT_EQ(runner.commands.size(), 4U);
+    EXPECT_EQ(runner.shown(), "Error: The text 'Hi' has no audio file\n"
+                              "Error: The text 'Ho' has no audio file\n");
+}
+
+TEST_F(SoundFiles, ATextThatIsTooLongForAFileNameIsNamed)
+{
+    const std::string longest(251, 'x');
+    say(longest, "eve", "fits");
+    say(longest + "y", "eve", "does not fit");
+    EXPECT_EQ(create(), SpeechOutcome::incomplete);
+    EXPECT_EQ(runner.shown(),
+              "Error: The text 'does not fit' is too long for the name of an audio file\n");
+    EXPECT_EQ(runner.commands.size(), 2U);
+    EXPECT_TRUE(fs::exists(audio(longest + ".ogg")));
+}
+
+TEST_F(SoundFiles, ATextThatIsTooLongForAnArgumentIsNamedByItsBeginning)
+{
+    std::string text;
+    while (text.size() <= Platform::longestArgument) {
+        text += "Grün ";
+    }
+    say("_welcome_message_text", "eve", text);
+    EXPECT_EQ(create(), SpeechOutcome::incomplete);
+    EXPECT_THAT(runner.commands, IsEmpty());
+    EXPECT_EQ(runner.shown(), "Error: The text '" + text.substr(0, 200) +
+                                  "...' is too long for the speech program\n");
+}
+
+TEST_F(SoundFiles, ALongTextIsNotCutWithinACharacter)
+{
+    say("longer", "eve", std::string(199, 'x') + "üü");
+    soundStatus = 1;
+    create();
+    EXPECT_THAT(runner.shown(), HasSubstr("'" + std::string(199, 'x') + "...'"));
+}
+
+TEST_F(SoundFiles, ATextOfAHundredThousandLettersIsHandedOver)
+{
+    say("_welcome_message_text", "eve", std::string(100000, 'x'));
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+}
+
+TEST_F(SoundFiles, AVoiceThatIsNotDeclaredIsFatal)
+{
+    say("say_max_Hi", "max", "Hi");
+    EXPECT_THROW(create(), std::out_of_range);
+}
+
+TEST_F(SoundFiles, TheCurrentFolderIsTheSameAfterwards)
+{
+    const std::string before = FileSystem::getCurrentDirectory();
+    say("say_eve_Hi", "eve", "Hi");
+    runner.program = [this](const std::string& command) {
+        FileSystem::setCurrentDirectory("/");
+        return run(command);
+    };
+    create();
+    EXPECT_EQ(FileSystem::getCurrentDirectory(), before);
+}
+
+TEST_F(SoundFiles, ProgressCountsTheNewTexts)
+{
+    say("say_eve_A", "eve", "A");
+    say("say_eve_B", "eve", "B");
+    say("say_eve_C", "eve", "C");
+    fs::create_directory(folder.file("900-audio"));
+    writeFile(audio("say_eve_B.ogg"), "sound");
+    std::string seen;
+    createSoundFiles(project, runner, [&](int done, int total) {
+        seen += std::to_string(done) + "/" + std::to_string(total) + " ";
+        return true;
+    });
+    EXPECT_EQ(seen, "0/2 1/2 2/2 ");
+    EXPECT_EQ(runner.shown(), "");
+}
+
+TEST_F(SoundFiles, CancellingKeepsWhatIsDone)
+{
+    say("say_eve_A", "eve", "A");
+    say("say_eve_B", "eve", "B");
+    const auto untilTheFirst = [](int done, int) { return done < 1; };
+    EXPECT_EQ(createSoundFiles(project, runner, untilTheFirst), SpeechOutcome::cancelled);
+    EXPECT_TRUE(fs::exists(audio("say_eve_A.ogg")));
+    EXPECT_FALSE(fs::exists(audio("say_eve_B.ogg")));
+    EXPECT_EQ(runner.commands.size(), 2U);
+}
