@@ -1,0 +1,73 @@
+#include "build/Assembling.h"
+
+#include "base/PlatformProcess.h"
+#include "build/OutsideProgram.h"
+#include "build/ProcessRunner.h"
+#include "oid/OidProject.h"
+#include "oid/PrintImage.h"
+
+namespace {
+
+constexpr char kToolFolder[] = "TIPTOITOOL";
+
+// One more folder at the end of PATH while a program is started; the program keeps it.
+class LongerPath
+{
+public:
+    explicit LongerPath(const std::string& folder) : before(Platform::environmentVariable("PATH"))
+    {
+        Platform::setEnvironmentVariable("PATH", Platform::searchPath() +
+                                                     Platform::searchPathSeparator + folder);
+    }
+    ~LongerPath() { Platform::setEnvironmentVariable("PATH", before); }
+    LongerPath(const LongerPath&) = delete;
+    LongerPath& operator=(const LongerPath&) = delete;
+
+private:
+    std::string before;
+};
+
+std::string findToolFolder()
+{
+    if (Platform::environmentVariable(kToolFolder).empty()) {
+        Platform::setEnvironmentVariable(kToolFolder, Platform::installedToolFolder("tttool"));
+    }
+    return Platform::environmentVariable(kToolFolder);
+}
+
+// Intended: to standard output, not into the console.
+void explainInstallation()
+{
+    printToStandardOutput("If you set the environment variable 'TIPTOITOOL' to the directory of "
+                          "the TTTOOL installation, I'll have the gme file built for you.\n");
+    printToStandardOutput("-Download tttool for your system from its release page.\n");
+    printToStandardOutput("-Unzip the tool.\n");
+    printToStandardOutput("-Copy files to %s.\n", Platform::programsFolder().c_str());
+    printToStandardOutput("-Set the environment variable TIPTOITOOL to this directory.\n");
+}
+
+// Intended: "done." tells that the program has started. What it has to say follows.
+bool startProgram(const std::string& program, const Oid::OidProject& project, const char* failure,
+                  ProcessRunner& runner)
+{
+    mi_printf("Compiling yaml to gme...\n");
+    const std::string command = program + " assemble " + commandPath(project.pathYaml());
+    const bool started = runner.exec(KVString(command), false);
+    mi_printf(started ? "done.\n" : failure);
+    return started;
+}
+
+}  // namespace
+
+bool startAssembler(const Oid::OidProject& project, const std::string& builtIn,
+                    ProcessRunner& runner)
+{
+    const std::string toolFolder = findToolFolder();
+    if (toolFolder.empty()) {
+        explainInstallation();
+        return startProgram(commandPath(builtIn), project, "Execution of the assembler failed\n",
+                            runner);
+    }
+    const LongerPath withTool(toolFolder);
+    return startProgram("tttool", project, "Execution of tttool failed\n", runner);
+}

@@ -1,0 +1,65 @@
+#include "build/BuildDriver.h"
+
+#include <QDir>
+
+#include "base/PlatformFiles.h"
+#include "build/Assembling.h"
+#include "build/ProcessRunner.h"
+#include "build/WorkingFolder.h"
+#include "build/YamlFile.h"
+#include "oid/OidProject.h"
+#include "oid/PrintImage.h"
+#include "ttbasic/CompileScript.h"
+
+namespace {
+
+bool stopBuild()
+{
+    mi_printf("Stopped build process.\n");
+    return false;
+}
+
+// The build works in the project's folder, where a relative path would no longer lead to it. A
+// project that was never saved has no path and is built in the current folder.
+void makePathAbsolute(std::string& path)
+{
+    if (!path.empty() && QDir::isRelativePath(QString::fromStdString(Platform::nativePath(path)))) {
+        path = Platform::nativePath(FileSystem::getCurrentDirectory() + "/" + path);
+    }
+}
+
+bool makeFiles(Oid::OidProject& project, ProcessRunner& runner, const BuildOptions& options)
+{
+    makePathAbsolute(project.projectPath);
+    const WorkingFolder folder(FileSystem::getDirectoryOfPath(project.projectPath));
+    if (!makeYAML(project)) {
+        return false;
+    }
+    const SpeechOutcome speech = createSoundFiles(project, runner, options.speechProgress);
+    if (speech == SpeechOutcome::cancelled) {
+        return stopBuild();
+    }
+    return startAssembler(project, options.assembler, runner) && speech == SpeechOutcome::complete;
+}
+
+}  // namespace
+
+std::string builtInAssembler()
+{
+    return FileSystem::exeDirectory() + FileSystem::directorySeparator + "plinkett-cli.exe";
+}
+
+bool buildGame(Oid::OidProject& project, bool debugMode, ProcessRunner& runner,
+               const BuildOptions& options)
+{
+    const PrintFunction print = runner.printFunction();
+    project.redirectPrintf(print);
+    mi_printf = print;
+    project.updateUsedOIDs();
+    if (!compileScript(project.compiler, debugMode) || !project.checkSanity()) {
+        return stopBuild();  // Intended: mi_printf goes on printing to the runner.
+    }
+    const bool complete = makeFiles(project, runner, options);
+    mi_printf = printToStandardOutput;
+    return complete;
+}

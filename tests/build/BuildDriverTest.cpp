@@ -1,0 +1,254 @@
+#include "build/BuildDriver.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+
+#include "base/FileSystem.h"
+#include "base/PlatformProcess.h"
+#include "oid/OidProject.h"
+#include "oid/PrintImage.h"
+#include "tests/build/RecordingRunner.h"
+#include "tests/helpers/Environment.h"
+#include "tests/helpers/TemporaryFolder.h"
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+const std::string kInstructions =
+    "If you set the environment variable 'TIPTOITOOL' to the directory of the TTTOOL installation, "
+    "I'll have the gme file built for you.\n"
+    "-Download tttool for your system from its release page.\n"
+    "-Unzip the tool.\n"
+    "-Copy files to /usr/local.\n"
+    "-Set the environment variable TIPTOITOOL to this directory.\n";
+
+// A book with one area, product 900 "Zoo", in a folder of its own, whose texts have their audio
+// files already; programs are not started but noted. No tttool is installed.
+class BuildingAGame : public testing::Test
+{
+protected:
+    BuildingAGame()
+    {
+        project.productName = "Zoo";
+        project.projectPath = folder.path() + "\\zoo.oidpro";
+        project.pictures.resize(1);
+        project.pictures[0].polys.resize(1);
+        project.pictures[0].polys[0].name = "lion";
+        project.compiler.source = "sub lion\nsay \"Roar\"\nend sub\n";
+        options.assembler = "/our tools\\plinkett-cli.exe";
+        fs::create_directory(folder.file("900-audio"));
+        writeFile(folder.file("900-audio/say_adam_Roar.ogg"), "sound");
+        writeFile(folder.file("900-audio/_welcome_message_text.ogg"), "sound");
+    }
+    ~BuildingAGame() override { mi_printf = printToStandardOutput; }
+
+    bool build(bool debugMode = false) { return buildGame(project, debugMode, runner, options); }
+
+    std::string yaml() const { return folder.file("900-Zoo.yaml"); }
+
+    const TemporaryFolder folder;
+    const ChangedVariable noTool{"TIPTOITOOL", ""};
+    const ChangedVariable noPrograms{"ProgramFiles", ""};
+    const ChangedVariable path{"PATH", "/nowhere"};
+    Oid::OidProject project;
+    RecordingRunner runner;
+    BuildOptions options;
+};
+
+std::string standardOutputOf(const std::function<void()>& work)
+{
+    testing::internal::CaptureStdout();
+    work();
+    fflush(stdout);
+    return testing::internal::GetCapturedStdout();
+}
+
+}  // namespace
+
+TEST_F(BuildingAGame, NumbersAreasWritesTheDescriptionAndStartsTheAssembler)
+{
+    Platform::setEnvironmentVariable("TIPTOITOOL", "/opt/tttool");
+    EXPECT_TRUE(build());
+    EXPECT_EQ(runner.shown(), "OID  1001 assigned to 'lion'\n"
+                              "Compiling yaml to gme...\n"
+                              "done.\n");
+    EXPECT_THAT(readFile(yaml()), HasSubstr("lion:                1001\r\n"));
+    EXPECT_THAT(runner.commands, ElementsAre("tttool assemble \"" + yaml() + "\" &"));
+}
+
+TEST_F(BuildingAGame, SpeechComesBeforeTheAssembler)
+{
+    fs::remove(folder.file("900-audio/say_adam_Roar.ogg"));
+    EXPECT_FALSE(build());  // nobody has written the audio file
+    ASSERT_EQ(runner.commands.size(), 3U);
+    EXPECT_THAT(runner.commands[0], HasSubstr("Text2Speech.exe"));
+    EXPECT_THAT(runner.commands[1], HasSubstr("ffmpeg.exe"));
+    EXPECT_THAT(runner.commands[2], HasSubstr("assemble"));
+    EXPECT_THAT(runner.shown(), HasSubstr("Error: The text 'Roar' has no audio file\n"));
+}
+
+TEST_F(BuildingAGame, StopsAfterAScriptError)
+{
+    project.compiler.source = "sub lion\nfoo\nend sub\n";
+    EXPECT_FALSE(build());
+    EXPECT_THAT(runner.shown(), testing::EndsWith("!!! Error: Line 2 Syntax Error\n"
+                                                  "Stopped build process.\n"));
+    EXPECT_THAT(runner.commands, IsEmpty());
+    EXPECT_FALSE(fs::exists(yaml()));
+}
+
+TEST_F(BuildingAGame, StopsAfterAnExpressionWithoutOperands)
+{
+    project.compiler.source = "sub lion\na = +\nend sub\n";
+    EXPECT_FALSE(build());
+    EXPECT_THAT(runner.shown(), HasSubstr("!!! Error: Line 2 Stack underflow\n"));
+    EXPECT_THAT(runner.shown(), testing::EndsWith("Stopped build process.\n"));
+}
+
+TEST_F(BuildingAGame, WarnsAboutNamesThatDoNotMatchAndGoesOn)
+{
+    project.compiler.source = "sub cow\nend sub\n";
+    EXPECT_TRUE(build());
+    EXPECT_THAT(runner.shown(),
+                HasSubstr("!!! Warning: Used OID 'cow' in script, but not in the image\n"
+                          "!!! Warning: Used OID 'lion' in image, but not in the script\n"
+                          "Compiling yaml to gme...\n"));
+}
+
+TEST_F(BuildingAGame, InDebugModeLineNumbersAreSpoken)
+{
+    build(false);
+    const size_t texts = project.compiler.talkTexts.size();
+    build(true);
+    EXPECT_GT(project.compiler.talkTexts.size(), texts);
+}
+
+TEST_F(BuildingAGame, AfterwardsMessagesGoToStandardOutputAgain)
+{
+    build();
+    EXPECT_EQ(mi_printf, printToStandardOutput);
+}
+
+// Intended.
+TEST_F(BuildingAGame, AfterAStopMessagesStillGoToTheRunner)
+{
+    project.compiler.source = "foo\n";
+    build();
+    EXPECT_EQ(mi_printf, runner.printFunction());
+}
+
+TEST_F(BuildingAGame, ProgramsStartInTheFolderOfTheProject)
+{
+    const std::string before = FileSystem::getCurrentDirectory();
+    std::string during;
+    runner.program = [&](const std::string&) {
+        during = FileSystem::getCurrentDirectory();
+        return 0;
+    };
+    build();
+    EXPECT_EQ(during, fs::canonical(folder.path()).string());
+    EXPECT_EQ(FileSystem::getCurrentDirectory(), before);
+}
+
+TEST_F(BuildingAGame, AProjectOpenedByARelativePathIsBuiltInItsFolder)
+{
+    const ChangedFolder outside(fs::path(folder.path()).parent_path().string());
+    project.projectPath = fs::path(folder.path()).filename().string() + "/zoo.oidpro";
+    EXPECT_TRUE(build());
+    EXPECT_TRUE(fs::exists(yaml()));
+}
+
+TEST_F(BuildingAGame, AProjectThatWasNeverSavedIsBuiltInTheCurrentFolder)
+{
+    const ChangedFolder current(folder.path());
+    project.projectPath = "";
+    EXPECT_TRUE(build());
+    EXPECT_TRUE(fs::exists(yaml()));
+    EXPECT_THAT(runner.commands,
+                ElementsAre("\"/our tools/plinkett-cli.exe\" assemble \"./900-Zoo.yaml\" &"));
+}
+
+TEST_F(BuildingAGame, ADescriptionThatCannotBeWrittenStopsTheBuild)
+{
+    fs::create_directory(yaml());
+    EXPECT_FALSE(build());
+    EXPECT_THAT(runner.shown(), testing::EndsWith("Error: Can't open file '" + folder.path() +
+                                                  "\\900-Zoo.yaml'\n"));
+    EXPECT_THAT(runner.commands, IsEmpty());
+    EXPECT_EQ(mi_printf, printToStandardOutput);
+}
+
+TEST_F(BuildingAGame, CancelledSpeechStopsTheBuild)
+{
+    fs::remove(folder.file("900-audio/say_adam_Roar.ogg"));
+    options.speechProgress = [](int, int) { return false; };
+    EXPECT_FALSE(build());
+    EXPECT_THAT(runner.shown(), testing::EndsWith("Stopped build process.\n"));
+    EXPECT_THAT(runner.commands, IsEmpty());
+    EXPECT_EQ(mi_printf, printToStandardOutput);
+}
+
+// --- Finding the assembler -----------------------------------------------------------------------
+
+TEST_F(BuildingAGame, TheToolFolderStandsAtTheEndOfPathOnlyWhileTttoolStarts)
+{
+    Platform::setEnvironmentVariable("TIPTOITOOL", "/opt/tttool");
+    std::string during;
+    runner.program = [&](const std::string&) {
+        during = Platform::environmentVariable("PATH");
+        return 0;
+    };
+    build();
+    EXPECT_THAT(during, testing::EndsWith(":/nowhere:/opt/tttool"));
+    EXPECT_EQ(during, Platform::environmentVariable("PATH") + ":/opt/tttool");
+}
+
+TEST_F(BuildingAGame, AnInstalledTttoolHasPrecedence)
+{
+    const TemporaryFolder tools;
+    writeFile(tools.file("tttool"), "");
+    fs::permissions(tools.file("tttool"), fs::perms::owner_all);
+    Platform::setEnvironmentVariable("PATH", tools.path());
+    EXPECT_EQ(standardOutputOf([&] { build(); }), "");
+    EXPECT_THAT(runner.commands, ElementsAre("tttool assemble \"" + yaml() + "\" &"));
+}
+
+TEST_F(BuildingAGame, WithoutTttoolOurAssemblerTakesItsPlace)
+{
+    EXPECT_EQ(standardOutputOf([&] { EXPECT_TRUE(build()); }), kInstructions);
+    EXPECT_THAT(runner.commands,
+                ElementsAre("\"/our tools/plinkett-cli.exe\" assemble \"" + yaml() + "\" &"));
+    EXPECT_THAT(runner.shown(), testing::EndsWith("Compiling yaml to gme...\ndone.\n"));
+}
+
+TEST_F(BuildingAGame, TheInstructionsNameTheFolderOfPrograms)
+{
+    Platform::setEnvironmentVariable("ProgramFiles", "/opt/programs");
+    EXPECT_THAT(standardOutputOf([&] { build(); }), HasSubstr("\n-Copy files to /opt/programs.\n"));
+}
+
+TEST_F(BuildingAGame, OurAssemblerLiesBesideTheProgram)
+{
+    EXPECT_EQ(BuildOptions().assembler, FileSystem::exeDirectory() + "\\plinkett-cli.exe");
+}
+
+TEST_F(BuildingAGame, ATttoolThatDoesNotStartIsReported)
+{
+    Platform::setEnvironmentVariable("TIPTOITOOL", "/opt/tttool");
+    runner.program = [](const std::string&) { return -1; };
+    EXPECT_FALSE(build());
+    EXPECT_THAT(runner.shown(), testing::EndsWith("Compiling yaml to gme...\n"
+                                                  "Execution of tttool failed\n"));
+}
+
+TEST_F(BuildingAGame, AnAssemblerOfOursThatDoesNotStartIsReported)
+{
+    runner.program = [](const std::string&) { return -1; };
+    standardOutputOf([&] { EXPECT_FALSE(build()); });
+    EXPECT_THAT(runner.shown(), testing::EndsWith("Compiling yaml to gme...\n"
+                                                  "Execution of the assembler failed\n"));
+}
