@@ -42,6 +42,18 @@ mode_t newFileMode()
     return 0666 & ~mask;
 }
 
+// Gives a new file the owner and the permissions of the one that it replaces. Where the owner
+// cannot be kept, the file does not run with the rights of its owner either.
+void copyPermissions(int handle, const struct stat* replaced)
+{
+    if (replaced == nullptr) {
+        fchmod(handle, newFileMode());
+        return;
+    }
+    const bool sameOwner = fchown(handle, replaced->st_uid, replaced->st_gid) == 0;
+    fchmod(handle, replaced->st_mode & (sameOwner ? 07777 : 0777));
+}
+
 // A pattern for mkostemp in the same folder. The name is cut where it would become too long.
 std::string temporaryNameBeside(const std::string& file)
 {
@@ -151,6 +163,9 @@ FileReplacement::FileReplacement(const std::string& path) : target(nativePath(pa
 {
     struct stat status = {};
     const bool exists = stat(target.c_str(), &status) == 0;
+    if (!exists && errno == ELOOP) {
+        return;  // links that go round in a circle name no file
+    }
     if (target.empty() || (exists && access(target.c_str(), W_OK) != 0)) {
         return;  // what cannot be written is not replaced either
     }
@@ -165,7 +180,7 @@ FileReplacement::FileReplacement(const std::string& path) : target(nativePath(pa
         temporary.clear();
         return;
     }
-    fchmod(handle, exists ? status.st_mode & 07777 : newFileMode());
+    copyPermissions(handle, exists ? &status : nullptr);
     stream = fdopen(handle, "wb");
 }
 

@@ -209,6 +209,15 @@ TEST(ReplacingAFile, GoesThroughALinkToAFileThatIsNotThereYet)
     EXPECT_TRUE(fs::is_symlink(folder.file("link")));
 }
 
+TEST(ReplacingAFile, CannotGoThroughLinksThatGoRoundInACircle)
+{
+    const TemporaryFolder folder;
+    fs::create_symlink("b", folder.file("a"));
+    fs::create_symlink("a", folder.file("b"));
+    EXPECT_EQ(Platform::FileReplacement(folder.file("a")).file(), nullptr);
+    EXPECT_TRUE(fs::is_symlink(folder.file("a")));
+}
+
 TEST(ReplacingAFile, CannotReplaceAFolderOrReachIntoAMissingOne)
 {
     const TemporaryFolder folder;
