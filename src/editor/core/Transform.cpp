@@ -11,7 +11,9 @@ void EditorBackend<CELL>::transform(const SELECTION& range, CHARACTER_FUNCTION f
     const int last = std::min(normal.end.line, buffer->line_count() - 1);
     for (int i = std::max(normal.start.line, 0); i <= last; ++i) {
         const LINE_PART part = part_of_line(normal, i);
-        if (buffer->line(i).transform(part.column, part.count, fn)) {
+        LINE& line = buffer->line(i);
+        if (line.transform(part.column, part.count, fn)) {
+            line.tabs_insert(tab_width);
             dirty = true;
         }
     }

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "tests/editor/core/Editing.h"
 
 using namespace KVTextEditor;
@@ -39,6 +41,14 @@ int writerCalls = 0;
 void countingWriter(Cell& cell, COLORINDEX role)
 {
     ++writerCalls;
+    cell.color = role;
+}
+
+std::thread::id writingThread;
+
+void noteThread(Cell& cell, COLORINDEX role)
+{
+    writingThread = std::this_thread::get_id();
     cell.color = role;
 }
 
@@ -211,6 +221,15 @@ TEST(Colouring, EveryChangeOfARoleGoesThroughTheWriter)
     EXPECT_EQ(writerCalls, 3);
     script.editor.colorize(countingWriter, 0, -1);
     EXPECT_EQ(writerCalls, 3);
+}
+
+TEST(Colouring, AOneLinePassOfALargeTextRunsInTheCallersThread)
+{
+    Script script(std::string(5000, '\n') + "|");
+    script.type(u"say");
+    script.editor.colorize(noteThread, 0, -1);
+    EXPECT_EQ(script.line(5000), "444");
+    EXPECT_EQ(writingThread, std::this_thread::get_id());
 }
 
 TEST(Colouring, ARunOfCellsGetsOneRole)

@@ -1,7 +1,7 @@
 #include "tests/editor/core/SlowEditor.h"
 
 #include <algorithm>
-#include <regex>
+#include <cstdlib>
 
 #include "editor/core/CharClass.h"
 
@@ -46,13 +46,9 @@ std::vector<Text> splitLines(const Text& text)
     return lines;
 }
 
-// The number around a column of an ASCII line, tried at every start and every end.
+// The number around a column, tried at every start with the C library (in the locale "C").
 bool numberAround(const Text& line, int column, int& first, int& last)
 {
-    static const std::regex number(
-        "[+-]?(0[xX]([0-9a-fA-F]+\\.?[0-9a-fA-F]*|\\.[0-9a-fA-F]+)([pP][+-]?[0-9]+)?"
-        "|([0-9]+\\.?[0-9]*|\\.[0-9]+)([eE][+-]?[0-9]+)?"
-        "|[iI][nN][fF]([iI][nN][iI][tT][yY])?|[nN][aA][nN](\\([0-9a-zA-Z_]*\\))?)");
     std::string text;
     for (const char16_t c : line) {
         text += static_cast<char>(c < 0x80 ? c : 1);
@@ -65,14 +61,13 @@ bool numberAround(const Text& line, int column, int& first, int& last)
         if (text[k] == 'e' || text[k] == 'E') {
             continue;
         }
-        std::smatch match;
-        const std::string rest = text.substr(k);
-        const auto flags = std::regex_constants::match_continuous;
-        if (!std::regex_search(rest, match, number, flags) || k + match.length() <= column) {
+        char* end = nullptr;
+        std::strtod(text.c_str() + k, &end);
+        if (end - text.c_str() <= column) {
             break;
         }
         first = k;
-        last = k + static_cast<int>(match.length());
+        last = static_cast<int>(end - text.c_str());
         found = true;
     }
     if (found && (text[first] == '+' || text[first] == '-')) {
@@ -495,11 +490,16 @@ void SlowEditor::unindent()
 void SlowEditor::changeCase(char16_t (*fn)(char16_t))
 {
     for (int line = 0; line <= lastLine(); ++line) {
+        bool changed = false;
         for (int column = 0; column < length(line); ++column) {
             if (selection.is_selected({line, column}) && !isFiller(line, column)) {
                 lines[line][column] = fn(lines[line][column]);
-                dirty = true;
+                changed = true;
             }
+        }
+        if (changed) {
+            expand(line);
+            dirty = true;
         }
     }
 }

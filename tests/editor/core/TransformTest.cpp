@@ -42,6 +42,16 @@ TEST(Transform, SetsDirtyOnlyWhenThereWasACell)
     EXPECT_TRUE(editing.editor.dirty);
 }
 
+TEST(Transform, ExpandsTheLinesAgainInWhichThereWasACell)
+{
+    Editing editing("\ta\n\tb");
+    for (const int line : {0, 1}) {
+        editing.select({line, 0}, {line, 1}).editor.delete_selected_range();
+    }
+    EXPECT_EQ(cells(editing.buffer), "___a\n___b");
+    EXPECT_EQ(upper(editing.select({0, 3}, {1, 2})), "A\n___b");
+}
+
 TEST(Transform, BelowTheTextItCreatesNoLines)
 {
     Editing editing("abc");
