@@ -45,7 +45,7 @@ inline void printRow(const std::string& what, double value, const char* unit, do
 
 inline void printHeader(const char* title)
 {
-    std::printf("\n%s\n\n| what | measured | limit |\n|---|---|---|\n", title);
+    std::printf("\n### %s\n\n| what | measured | limit |\n|---|---|---|\n", title);
 }
 
 // Lines of 27 characters on average, a tenth of them with a tab, as a script has them.
