@@ -3,12 +3,13 @@
 #
 #   plinkett_room(oid LINKS base ttbasic Qt5::Gui)
 #
-# All *.cpp of the folder belong to the room (sub-folders are rooms of their own). Of the platform
-# files only those of the target system are built.
+# All *.cpp of the folder belong to the room, but a main.cpp, which is a program's (sub-folders are
+# rooms of their own). Of the platform files only those of the target system are built.
 function(plinkett_room name)
   cmake_parse_arguments(ROOM "" "" "LINKS;EXTRA_SOURCES" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp
        ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   plinkett_drop_other_platform(sources)
   add_library(${name} STATIC ${sources} ${ROOM_EXTRA_SOURCES})
   target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)

@@ -3,12 +3,13 @@
 
 build_packages=(
     cmake ninja-build g++
-    qtbase5-dev libyaml-cpp-dev pkg-config libtiff-dev libdeflate-dev
+    qtbase5-dev qttools5-dev qttools5-dev-tools libyaml-cpp-dev pkg-config libtiff-dev libdeflate-dev
 )
-run_packages=(espeak-ng ffmpeg)
+run_packages=(espeak-ng ffmpeg libqt5svg5 fonts-dejavu-core)
 test_packages=(
     libgtest-dev libgmock-dev locales
     libtiff-tools imagemagick qt5-image-formats-plugins
+    xvfb xauth openbox xdotool
 )
 
 # install_packages NAME...: installs the Debian packages that are missing; quiet when none is.

@@ -177,7 +177,7 @@ KVString KVString::TakeLine(int& position) const
     const int feed = Find('\n', position);
     const int end = feed < 0 ? length : feed;
     const bool carriageReturn = feed > position && GetAt(feed - 1) == '\r';
-    KVString line = Mid(position, end - position - (carriageReturn ? 1 : 0));
+    const KVString line = Mid(position, end - position - (carriageReturn ? 1 : 0));
     position = feed < 0 ? length : feed + 1;
     return line;
 }
@@ -186,7 +186,7 @@ KVString KVString::GetLine(int number) const
 {
     int position = 0;
     for (int i = 0; i <= number && position < length; ++i) {
-        KVString line = TakeLine(position);
+        const KVString line = TakeLine(position);
         if (i == number) {
             return line;
         }

@@ -1,0 +1,389 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>KVQtFindDialog</name>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>Replace &amp;All</source>
+        <translation>&amp;Alle ersetzen</translation>
+    </message>
+    <message>
+        <source>Search &amp;backwards</source>
+        <translation>&amp;Rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>Replace with:</source>
+        <translation>Ersetzen durch:</translation>
+    </message>
+    <message>
+        <source>Find and replace</source>
+        <translation>Suchen und ersetzen</translation>
+    </message>
+    <message>
+        <source>Find &amp;what:</source>
+        <translation>Suchen &amp;nach:</translation>
+    </message>
+</context>
+<context>
+    <name>KVQtHighlightEditCtrlInlay</name>
+    <message>
+        <source>Context menu</source>
+        <translation>Kontextmenü</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t	Ctrl+X</source>
+        <translation>&amp;Ausschneiden	Strg+X</translation>
+    </message>
+    <message>
+        <source>&amp;Copy	Ctrl+C</source>
+        <translation>&amp;Kopieren	Strg+C</translation>
+    </message>
+    <message>
+        <source>&amp;Paste	Ctrl+V</source>
+        <translation>&amp;Einfügen	Strg+V</translation>
+    </message>
+    <message>
+        <source>Select &amp;All	Ctrl+A</source>
+        <translation>A&amp;lles auswählen	Strg+A</translation>
+    </message>
+    <message>
+        <source>&amp;Find...	Ctrl+F3</source>
+        <translation>&amp;Suchen...	Strg+F3</translation>
+    </message>
+    <message>
+        <source>Find Ne&amp;xt	F3</source>
+        <translation>&amp;Weitersuchen	F3</translation>
+    </message>
+    <message>
+        <source>&amp;Replace...	Ctrl+H</source>
+        <translation>E&amp;rsetzen...	Strg+H</translation>
+    </message>
+    <message>
+        <source>Undo	Ctrl+Z</source>
+        <translation>Rückgängig	Strg+Z</translation>
+    </message>
+    <message>
+        <source>Redo	Ctrl+Y</source>
+        <translation>Wiederholen	Strg+Y</translation>
+    </message>
+    <message>
+        <source>Toggle Bookmark	Ctrl+F2</source>
+        <translation>Lesezeichen ein/aus	Strg+F2</translation>
+    </message>
+    <message>
+        <source>Next Bookmark	F2</source>
+        <translation>Nächstes Lesezeichen	F2</translation>
+    </message>
+    <message>
+        <source>Previous Bookmark	Shift+F2</source>
+        <translation>Voriges Lesezeichen	Umschalt+F2</translation>
+    </message>
+    <message>
+        <source>Replacing...</source>
+        <translation>Ersetze...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>The text would become too large. It stays as it was.</source>
+        <translation>Der Text würde zu groß. Er bleibt, wie er war.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Plinkett</source>
+        <translation>Plinkett</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Projekt</translation>
+    </message>
+    <message>
+        <source>Project Name</source>
+        <translation>Projektname</translation>
+    </message>
+    <message>
+        <source>Project ID</source>
+        <translation>Projekt-ID</translation>
+    </message>
+    <message>
+        <source>Current Picture (Area)</source>
+        <translation>Aktuelles Bild (Bereich)</translation>
+    </message>
+    <message>
+        <source>Paper: [mm]</source>
+        <translation>Papier: [mm]</translation>
+    </message>
+    <message>
+        <source>Paper width in millimetres</source>
+        <translation>Papierbreite in Millimetern</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Paper height in millimetres</source>
+        <translation>Papierhöhe in Millimetern</translation>
+    </message>
+    <message>
+        <source>DPI:</source>
+        <translation>DPI:</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Erzeugen</translation>
+    </message>
+    <message>
+        <source>Create the output image now...</source>
+        <translation>Das Druckbild jetzt erzeugen...</translation>
+    </message>
+    <message>
+        <source>Areas</source>
+        <translation>Bereiche</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>&lt;-</source>
+        <translation>&lt;-</translation>
+    </message>
+    <message>
+        <source>Show the previous picture</source>
+        <translation>Zeigt das vorige Bild</translation>
+    </message>
+    <message>
+        <source>Previous picture</source>
+        <translation>Voriges Bild</translation>
+    </message>
+    <message>
+        <source>-&gt;</source>
+        <translation>-&gt;</translation>
+    </message>
+    <message>
+        <source>Shows the next picture or appends a new one</source>
+        <translation>Zeigt das nächste Bild oder fügt ein neues an</translation>
+    </message>
+    <message>
+        <source>Next picture</source>
+        <translation>Nächstes Bild</translation>
+    </message>
+    <message>
+        <source>load...</source>
+        <translation>laden...</translation>
+    </message>
+    <message>
+        <source>✖</source>
+        <translation>✖</translation>
+    </message>
+    <message>
+        <source>Delete picture</source>
+        <translation>Bild löschen</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>↖</source>
+        <translation>↖</translation>
+    </message>
+    <message>
+        <source>Pick area mode</source>
+        <translation>Bereiche auswählen</translation>
+    </message>
+    <message>
+        <source>Pick area</source>
+        <translation>Bereich auswählen</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Add a new polygon mode</source>
+        <translation>Ein neues Vieleck zeichnen</translation>
+    </message>
+    <message>
+        <source>Add area</source>
+        <translation>Bereich hinzufügen</translation>
+    </message>
+    <message>
+        <source>Delete selected polygon</source>
+        <translation>Das ausgewählte Vieleck löschen</translation>
+    </message>
+    <message>
+        <source>Delete area</source>
+        <translation>Bereich löschen</translation>
+    </message>
+    <message>
+        <source>ID:</source>
+        <translation>ID:</translation>
+    </message>
+    <message>
+        <source>Area name</source>
+        <translation>Name des Bereichs</translation>
+    </message>
+    <message>
+        <source>OID of the area</source>
+        <translation>OID des Bereichs</translation>
+    </message>
+    <message>
+        <source>Goto code</source>
+        <translation>Zum Code</translation>
+    </message>
+    <message>
+        <source>Picture with its areas</source>
+        <translation>Bild mit seinen Bereichen</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Skript</translation>
+    </message>
+    <message>
+        <source>Build</source>
+        <translation>Bauen</translation>
+    </message>
+    <message>
+        <source>👷 Build</source>
+        <translation>👷 Bauen</translation>
+    </message>
+    <message>
+        <source>Builds the project to a binary game</source>
+        <translation>Baut aus dem Projekt das fertige Spiel</translation>
+    </message>
+    <message>
+        <source>⚠Debug Mode</source>
+        <translation>⚠Debugmodus</translation>
+    </message>
+    <message>
+        <source>Tells (says) the code line number, when running on the device</source>
+        <translation>Sagt auf dem Gerät die Nummer der Codezeile an</translation>
+    </message>
+    <message>
+        <source>Copy to Device</source>
+        <translation>Auf das Gerät kopieren</translation>
+    </message>
+    <message>
+        <source>Copies the binary to the attached USB device</source>
+        <translation>Kopiert das Spiel auf das angeschlossene USB-Gerät</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Konsole</translation>
+    </message>
+    <message>
+        <source>toolBar</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Ctrl+S</source>
+        <translation>Ctrl+S</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>Open project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Project files (*.oidpro)</source>
+        <translation>Projektdateien (*.oidpro)</translation>
+    </message>
+    <message>
+        <source>Save project</source>
+        <translation>Projekt speichern</translation>
+    </message>
+    <message>
+        <source>Import Picture</source>
+        <translation>Bild importieren</translation>
+    </message>
+    <message>
+        <source>Picture files (*.png; *.jpg; *.jpeg; *.bmp)</source>
+        <translation>Bilddateien (*.png; *.jpg; *.jpeg; *.bmp)</translation>
+    </message>
+    <message>
+        <source>The file could not be saved to the drive</source>
+        <translation>Die Datei konnte nicht auf dem Laufwerk gespeichert werden</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Creating the print images...</source>
+        <translation>Die Druckbilder werden erzeugt...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Making the speech...</source>
+        <translation>Die Sprache wird erzeugt...</translation>
+    </message>
+    <message>
+        <source>Can&apos;t load that picture.</source>
+        <translation>Dieses Bild kann nicht geladen werden.</translation>
+    </message>
+    <message>
+        <source>Save the project first: its pictures are kept beside the project file.</source>
+        <translation>Bitte zuerst das Projekt speichern: Seine Bilder liegen neben der Projektdatei.</translation>
+    </message>
+    <message>
+        <source>Overwrite Picture</source>
+        <translation>Bild überschreiben</translation>
+    </message>
+    <message>
+        <source>Do you want to overwrite the picture in the cache?</source>
+        <translation>Soll das gespeicherte Bild überschrieben werden?</translation>
+    </message>
+    <message>
+        <source>The picture could not be kept beside the project file.</source>
+        <translation>Das Bild konnte nicht neben der Projektdatei abgelegt werden.</translation>
+    </message>
+    <message>
+        <source>Delete Picture</source>
+        <translation>Bild löschen</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete this picture?</source>
+        <translation>Soll dieses Bild wirklich gelöscht werden?</translation>
+    </message>
+</context>
+</TS>

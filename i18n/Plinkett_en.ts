@@ -1,0 +1,389 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>KVQtFindDialog</name>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Find</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Replace</translation>
+    </message>
+    <message>
+        <source>Replace &amp;All</source>
+        <translation>Replace &amp;All</translation>
+    </message>
+    <message>
+        <source>Search &amp;backwards</source>
+        <translation>Search &amp;backwards</translation>
+    </message>
+    <message>
+        <source>Replace with:</source>
+        <translation>Replace with:</translation>
+    </message>
+    <message>
+        <source>Find and replace</source>
+        <translation>Find and replace</translation>
+    </message>
+    <message>
+        <source>Find &amp;what:</source>
+        <translation>Find &amp;what:</translation>
+    </message>
+</context>
+<context>
+    <name>KVQtHighlightEditCtrlInlay</name>
+    <message>
+        <source>Context menu</source>
+        <translation>Context menu</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t	Ctrl+X</source>
+        <translation>Cu&amp;t	Ctrl+X</translation>
+    </message>
+    <message>
+        <source>&amp;Copy	Ctrl+C</source>
+        <translation>&amp;Copy	Ctrl+C</translation>
+    </message>
+    <message>
+        <source>&amp;Paste	Ctrl+V</source>
+        <translation>&amp;Paste	Ctrl+V</translation>
+    </message>
+    <message>
+        <source>Select &amp;All	Ctrl+A</source>
+        <translation>Select &amp;All	Ctrl+A</translation>
+    </message>
+    <message>
+        <source>&amp;Find...	Ctrl+F3</source>
+        <translation>&amp;Find...	Ctrl+F3</translation>
+    </message>
+    <message>
+        <source>Find Ne&amp;xt	F3</source>
+        <translation>Find Ne&amp;xt	F3</translation>
+    </message>
+    <message>
+        <source>&amp;Replace...	Ctrl+H</source>
+        <translation>&amp;Replace...	Ctrl+H</translation>
+    </message>
+    <message>
+        <source>Undo	Ctrl+Z</source>
+        <translation>Undo	Ctrl+Z</translation>
+    </message>
+    <message>
+        <source>Redo	Ctrl+Y</source>
+        <translation>Redo	Ctrl+Y</translation>
+    </message>
+    <message>
+        <source>Toggle Bookmark	Ctrl+F2</source>
+        <translation>Toggle Bookmark	Ctrl+F2</translation>
+    </message>
+    <message>
+        <source>Next Bookmark	F2</source>
+        <translation>Next Bookmark	F2</translation>
+    </message>
+    <message>
+        <source>Previous Bookmark	Shift+F2</source>
+        <translation>Previous Bookmark	Shift+F2</translation>
+    </message>
+    <message>
+        <source>Replacing...</source>
+        <translation>Replacing...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>The text would become too large. It stays as it was.</source>
+        <translation>The text would become too large. It stays as it was.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Plinkett</source>
+        <translation>Plinkett</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Project</translation>
+    </message>
+    <message>
+        <source>Project Name</source>
+        <translation>Project Name</translation>
+    </message>
+    <message>
+        <source>Project ID</source>
+        <translation>Project ID</translation>
+    </message>
+    <message>
+        <source>Current Picture (Area)</source>
+        <translation>Current Picture (Area)</translation>
+    </message>
+    <message>
+        <source>Paper: [mm]</source>
+        <translation>Paper: [mm]</translation>
+    </message>
+    <message>
+        <source>Paper width in millimetres</source>
+        <translation>Paper width in millimetres</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Paper height in millimetres</source>
+        <translation>Paper height in millimetres</translation>
+    </message>
+    <message>
+        <source>DPI:</source>
+        <translation>DPI:</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Create</translation>
+    </message>
+    <message>
+        <source>Create the output image now...</source>
+        <translation>Create the output image now...</translation>
+    </message>
+    <message>
+        <source>Areas</source>
+        <translation>Areas</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>&lt;-</source>
+        <translation>&lt;-</translation>
+    </message>
+    <message>
+        <source>Show the previous picture</source>
+        <translation>Show the previous picture</translation>
+    </message>
+    <message>
+        <source>Previous picture</source>
+        <translation>Previous picture</translation>
+    </message>
+    <message>
+        <source>-&gt;</source>
+        <translation>-&gt;</translation>
+    </message>
+    <message>
+        <source>Shows the next picture or appends a new one</source>
+        <translation>Shows the next picture or appends a new one</translation>
+    </message>
+    <message>
+        <source>Next picture</source>
+        <translation>Next picture</translation>
+    </message>
+    <message>
+        <source>load...</source>
+        <translation>load...</translation>
+    </message>
+    <message>
+        <source>✖</source>
+        <translation>✖</translation>
+    </message>
+    <message>
+        <source>Delete picture</source>
+        <translation>Delete picture</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Area</translation>
+    </message>
+    <message>
+        <source>↖</source>
+        <translation>↖</translation>
+    </message>
+    <message>
+        <source>Pick area mode</source>
+        <translation>Pick area mode</translation>
+    </message>
+    <message>
+        <source>Pick area</source>
+        <translation>Pick area</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Add a new polygon mode</source>
+        <translation>Add a new polygon mode</translation>
+    </message>
+    <message>
+        <source>Add area</source>
+        <translation>Add area</translation>
+    </message>
+    <message>
+        <source>Delete selected polygon</source>
+        <translation>Delete selected polygon</translation>
+    </message>
+    <message>
+        <source>Delete area</source>
+        <translation>Delete area</translation>
+    </message>
+    <message>
+        <source>ID:</source>
+        <translation>ID:</translation>
+    </message>
+    <message>
+        <source>Area name</source>
+        <translation>Area name</translation>
+    </message>
+    <message>
+        <source>OID of the area</source>
+        <translation>OID of the area</translation>
+    </message>
+    <message>
+        <source>Goto code</source>
+        <translation>Goto code</translation>
+    </message>
+    <message>
+        <source>Picture with its areas</source>
+        <translation>Picture with its areas</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Script</translation>
+    </message>
+    <message>
+        <source>Build</source>
+        <translation>Build</translation>
+    </message>
+    <message>
+        <source>👷 Build</source>
+        <translation>👷 Build</translation>
+    </message>
+    <message>
+        <source>Builds the project to a binary game</source>
+        <translation>Builds the project to a binary game</translation>
+    </message>
+    <message>
+        <source>⚠Debug Mode</source>
+        <translation>⚠Debug Mode</translation>
+    </message>
+    <message>
+        <source>Tells (says) the code line number, when running on the device</source>
+        <translation>Tells (says) the code line number, when running on the device</translation>
+    </message>
+    <message>
+        <source>Copy to Device</source>
+        <translation>Copy to Device</translation>
+    </message>
+    <message>
+        <source>Copies the binary to the attached USB device</source>
+        <translation>Copies the binary to the attached USB device</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Console</translation>
+    </message>
+    <message>
+        <source>toolBar</source>
+        <translation>toolBar</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Open</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Ctrl+S</source>
+        <translation>Ctrl+S</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Save As...</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>Open project</source>
+        <translation>Open project</translation>
+    </message>
+    <message>
+        <source>Project files (*.oidpro)</source>
+        <translation>Project files (*.oidpro)</translation>
+    </message>
+    <message>
+        <source>Save project</source>
+        <translation>Save project</translation>
+    </message>
+    <message>
+        <source>Import Picture</source>
+        <translation>Import Picture</translation>
+    </message>
+    <message>
+        <source>Picture files (*.png; *.jpg; *.jpeg; *.bmp)</source>
+        <translation>Picture files (*.png; *.jpg; *.jpeg; *.bmp)</translation>
+    </message>
+    <message>
+        <source>The file could not be saved to the drive</source>
+        <translation>The file could not be saved to the drive</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>Creating the print images...</source>
+        <translation>Creating the print images...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Making the speech...</source>
+        <translation>Making the speech...</translation>
+    </message>
+    <message>
+        <source>Can&apos;t load that picture.</source>
+        <translation>Can&apos;t load that picture.</translation>
+    </message>
+    <message>
+        <source>Save the project first: its pictures are kept beside the project file.</source>
+        <translation>Save the project first: its pictures are kept beside the project file.</translation>
+    </message>
+    <message>
+        <source>Overwrite Picture</source>
+        <translation>Overwrite Picture</translation>
+    </message>
+    <message>
+        <source>Do you want to overwrite the picture in the cache?</source>
+        <translation>Do you want to overwrite the picture in the cache?</translation>
+    </message>
+    <message>
+        <source>The picture could not be kept beside the project file.</source>
+        <translation>The picture could not be kept beside the project file.</translation>
+    </message>
+    <message>
+        <source>Delete Picture</source>
+        <translation>Delete Picture</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete this picture?</source>
+        <translation>Do you really want to delete this picture?</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,389 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>KVQtFindDialog</name>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Rechercher</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Remplacer</translation>
+    </message>
+    <message>
+        <source>Replace &amp;All</source>
+        <translation>&amp;Tout remplacer</translation>
+    </message>
+    <message>
+        <source>Search &amp;backwards</source>
+        <translation>Rechercher en &amp;arrière</translation>
+    </message>
+    <message>
+        <source>Replace with:</source>
+        <translation>Remplacer par :</translation>
+    </message>
+    <message>
+        <source>Find and replace</source>
+        <translation>Rechercher et remplacer</translation>
+    </message>
+    <message>
+        <source>Find &amp;what:</source>
+        <translation>&amp;Rechercher :</translation>
+    </message>
+</context>
+<context>
+    <name>KVQtHighlightEditCtrlInlay</name>
+    <message>
+        <source>Context menu</source>
+        <translation>Menu contextuel</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t	Ctrl+X</source>
+        <translation>&amp;Couper	Ctrl+X</translation>
+    </message>
+    <message>
+        <source>&amp;Copy	Ctrl+C</source>
+        <translation>C&amp;opier	Ctrl+C</translation>
+    </message>
+    <message>
+        <source>&amp;Paste	Ctrl+V</source>
+        <translation>Co&amp;ller	Ctrl+V</translation>
+    </message>
+    <message>
+        <source>Select &amp;All	Ctrl+A</source>
+        <translation>&amp;Tout sélectionner	Ctrl+A</translation>
+    </message>
+    <message>
+        <source>&amp;Find...	Ctrl+F3</source>
+        <translation>&amp;Rechercher...	Ctrl+F3</translation>
+    </message>
+    <message>
+        <source>Find Ne&amp;xt	F3</source>
+        <translation>Occurrence &amp;suivante	F3</translation>
+    </message>
+    <message>
+        <source>&amp;Replace...	Ctrl+H</source>
+        <translation>Re&amp;mplacer...	Ctrl+H</translation>
+    </message>
+    <message>
+        <source>Undo	Ctrl+Z</source>
+        <translation>Annuler	Ctrl+Z</translation>
+    </message>
+    <message>
+        <source>Redo	Ctrl+Y</source>
+        <translation>Rétablir	Ctrl+Y</translation>
+    </message>
+    <message>
+        <source>Toggle Bookmark	Ctrl+F2</source>
+        <translation>Poser ou ôter un signet	Ctrl+F2</translation>
+    </message>
+    <message>
+        <source>Next Bookmark	F2</source>
+        <translation>Signet suivant	F2</translation>
+    </message>
+    <message>
+        <source>Previous Bookmark	Shift+F2</source>
+        <translation>Signet précédent	Maj+F2</translation>
+    </message>
+    <message>
+        <source>Replacing...</source>
+        <translation>Remplacement...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>The text would become too large. It stays as it was.</source>
+        <translation>Le texte deviendrait trop grand. Il reste tel qu&apos;il était.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Plinkett</source>
+        <translation>Plinkett</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Projet</translation>
+    </message>
+    <message>
+        <source>Project Name</source>
+        <translation>Nom du projet</translation>
+    </message>
+    <message>
+        <source>Project ID</source>
+        <translation>ID du projet</translation>
+    </message>
+    <message>
+        <source>Current Picture (Area)</source>
+        <translation>Image actuelle (zone)</translation>
+    </message>
+    <message>
+        <source>Paper: [mm]</source>
+        <translation>Papier : [mm]</translation>
+    </message>
+    <message>
+        <source>Paper width in millimetres</source>
+        <translation>Largeur du papier en millimètres</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Paper height in millimetres</source>
+        <translation>Hauteur du papier en millimètres</translation>
+    </message>
+    <message>
+        <source>DPI:</source>
+        <translation>PPP :</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Créer</translation>
+    </message>
+    <message>
+        <source>Create the output image now...</source>
+        <translation>Créer l&apos;image à imprimer maintenant...</translation>
+    </message>
+    <message>
+        <source>Areas</source>
+        <translation>Zones</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>&lt;-</source>
+        <translation>&lt;-</translation>
+    </message>
+    <message>
+        <source>Show the previous picture</source>
+        <translation>Affiche l&apos;image précédente</translation>
+    </message>
+    <message>
+        <source>Previous picture</source>
+        <translation>Image précédente</translation>
+    </message>
+    <message>
+        <source>-&gt;</source>
+        <translation>-&gt;</translation>
+    </message>
+    <message>
+        <source>Shows the next picture or appends a new one</source>
+        <translation>Affiche l&apos;image suivante ou en ajoute une nouvelle</translation>
+    </message>
+    <message>
+        <source>Next picture</source>
+        <translation>Image suivante</translation>
+    </message>
+    <message>
+        <source>load...</source>
+        <translation>charger...</translation>
+    </message>
+    <message>
+        <source>✖</source>
+        <translation>✖</translation>
+    </message>
+    <message>
+        <source>Delete picture</source>
+        <translation>Supprimer l&apos;image</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Zone</translation>
+    </message>
+    <message>
+        <source>↖</source>
+        <translation>↖</translation>
+    </message>
+    <message>
+        <source>Pick area mode</source>
+        <translation>Mode de sélection des zones</translation>
+    </message>
+    <message>
+        <source>Pick area</source>
+        <translation>Sélectionner une zone</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Add a new polygon mode</source>
+        <translation>Mode d&apos;ajout d&apos;un polygone</translation>
+    </message>
+    <message>
+        <source>Add area</source>
+        <translation>Ajouter une zone</translation>
+    </message>
+    <message>
+        <source>Delete selected polygon</source>
+        <translation>Supprimer le polygone sélectionné</translation>
+    </message>
+    <message>
+        <source>Delete area</source>
+        <translation>Supprimer la zone</translation>
+    </message>
+    <message>
+        <source>ID:</source>
+        <translation>ID :</translation>
+    </message>
+    <message>
+        <source>Area name</source>
+        <translation>Nom de la zone</translation>
+    </message>
+    <message>
+        <source>OID of the area</source>
+        <translation>OID de la zone</translation>
+    </message>
+    <message>
+        <source>Goto code</source>
+        <translation>Aller au code</translation>
+    </message>
+    <message>
+        <source>Picture with its areas</source>
+        <translation>Image avec ses zones</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Script</translation>
+    </message>
+    <message>
+        <source>Build</source>
+        <translation>Génération</translation>
+    </message>
+    <message>
+        <source>👷 Build</source>
+        <translation>👷 Générer</translation>
+    </message>
+    <message>
+        <source>Builds the project to a binary game</source>
+        <translation>Génère le jeu binaire à partir du projet</translation>
+    </message>
+    <message>
+        <source>⚠Debug Mode</source>
+        <translation>⚠Mode débogage</translation>
+    </message>
+    <message>
+        <source>Tells (says) the code line number, when running on the device</source>
+        <translation>Annonce le numéro de la ligne de code lors de l&apos;exécution sur l&apos;appareil</translation>
+    </message>
+    <message>
+        <source>Copy to Device</source>
+        <translation>Copier sur l&apos;appareil</translation>
+    </message>
+    <message>
+        <source>Copies the binary to the attached USB device</source>
+        <translation>Copie le jeu sur l&apos;appareil USB connecté</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Console</translation>
+    </message>
+    <message>
+        <source>toolBar</source>
+        <translation>Barre d&apos;outils</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Ctrl+S</source>
+        <translation>Ctrl+S</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>Enregistrer &amp;sous...</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>Open project</source>
+        <translation>Ouvrir un projet</translation>
+    </message>
+    <message>
+        <source>Project files (*.oidpro)</source>
+        <translation>Fichiers de projet (*.oidpro)</translation>
+    </message>
+    <message>
+        <source>Save project</source>
+        <translation>Enregistrer le projet</translation>
+    </message>
+    <message>
+        <source>Import Picture</source>
+        <translation>Importer une image</translation>
+    </message>
+    <message>
+        <source>Picture files (*.png; *.jpg; *.jpeg; *.bmp)</source>
+        <translation>Fichiers d&apos;image (*.png; *.jpg; *.jpeg; *.bmp)</translation>
+    </message>
+    <message>
+        <source>The file could not be saved to the drive</source>
+        <translation>Le fichier n&apos;a pas pu être enregistré sur le disque</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Creating the print images...</source>
+        <translation>Création des images à imprimer...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Making the speech...</source>
+        <translation>Création des paroles...</translation>
+    </message>
+    <message>
+        <source>Can&apos;t load that picture.</source>
+        <translation>Impossible de charger cette image.</translation>
+    </message>
+    <message>
+        <source>Save the project first: its pictures are kept beside the project file.</source>
+        <translation>Enregistrez d&apos;abord le projet : ses images sont gardées à côté du fichier de projet.</translation>
+    </message>
+    <message>
+        <source>Overwrite Picture</source>
+        <translation>Remplacer l&apos;image</translation>
+    </message>
+    <message>
+        <source>Do you want to overwrite the picture in the cache?</source>
+        <translation>Voulez-vous remplacer l&apos;image déjà enregistrée ?</translation>
+    </message>
+    <message>
+        <source>The picture could not be kept beside the project file.</source>
+        <translation>L&apos;image n&apos;a pas pu être gardée à côté du fichier de projet.</translation>
+    </message>
+    <message>
+        <source>Delete Picture</source>
+        <translation>Supprimer l&apos;image</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete this picture?</source>
+        <translation>Voulez-vous vraiment supprimer cette image ?</translation>
+    </message>
+</context>
+</TS>

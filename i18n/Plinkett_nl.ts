@@ -1,0 +1,389 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl" sourcelanguage="en">
+<context>
+    <name>KVQtFindDialog</name>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Zoeken</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Vervangen</translation>
+    </message>
+    <message>
+        <source>Replace &amp;All</source>
+        <translation>&amp;Alles vervangen</translation>
+    </message>
+    <message>
+        <source>Search &amp;backwards</source>
+        <translation>&amp;Achteruit zoeken</translation>
+    </message>
+    <message>
+        <source>Replace with:</source>
+        <translation>Vervangen door:</translation>
+    </message>
+    <message>
+        <source>Find and replace</source>
+        <translation>Zoeken en vervangen</translation>
+    </message>
+    <message>
+        <source>Find &amp;what:</source>
+        <translation>Zoeken &amp;naar:</translation>
+    </message>
+</context>
+<context>
+    <name>KVQtHighlightEditCtrlInlay</name>
+    <message>
+        <source>Context menu</source>
+        <translation>Contextmenu</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t	Ctrl+X</source>
+        <translation>K&amp;nippen	Ctrl+X</translation>
+    </message>
+    <message>
+        <source>&amp;Copy	Ctrl+C</source>
+        <translation>&amp;Kopiëren	Ctrl+C</translation>
+    </message>
+    <message>
+        <source>&amp;Paste	Ctrl+V</source>
+        <translation>&amp;Plakken	Ctrl+V</translation>
+    </message>
+    <message>
+        <source>Select &amp;All	Ctrl+A</source>
+        <translation>&amp;Alles selecteren	Ctrl+A</translation>
+    </message>
+    <message>
+        <source>&amp;Find...	Ctrl+F3</source>
+        <translation>&amp;Zoeken...	Ctrl+F3</translation>
+    </message>
+    <message>
+        <source>Find Ne&amp;xt	F3</source>
+        <translation>&amp;Volgende zoeken	F3</translation>
+    </message>
+    <message>
+        <source>&amp;Replace...	Ctrl+H</source>
+        <translation>Ve&amp;rvangen...	Ctrl+H</translation>
+    </message>
+    <message>
+        <source>Undo	Ctrl+Z</source>
+        <translation>Ongedaan maken	Ctrl+Z</translation>
+    </message>
+    <message>
+        <source>Redo	Ctrl+Y</source>
+        <translation>Opnieuw	Ctrl+Y</translation>
+    </message>
+    <message>
+        <source>Toggle Bookmark	Ctrl+F2</source>
+        <translation>Bladwijzer aan/uit	Ctrl+F2</translation>
+    </message>
+    <message>
+        <source>Next Bookmark	F2</source>
+        <translation>Volgende bladwijzer	F2</translation>
+    </message>
+    <message>
+        <source>Previous Bookmark	Shift+F2</source>
+        <translation>Vorige bladwijzer	Shift+F2</translation>
+    </message>
+    <message>
+        <source>Replacing...</source>
+        <translation>Bezig met vervangen...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Waarschuwing</translation>
+    </message>
+    <message>
+        <source>The text would become too large. It stays as it was.</source>
+        <translation>De tekst zou te groot worden. Hij blijft zoals hij was.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Plinkett</source>
+        <translation>Plinkett</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Project</translation>
+    </message>
+    <message>
+        <source>Project Name</source>
+        <translation>Projectnaam</translation>
+    </message>
+    <message>
+        <source>Project ID</source>
+        <translation>Project-ID</translation>
+    </message>
+    <message>
+        <source>Current Picture (Area)</source>
+        <translation>Huidige afbeelding (gebied)</translation>
+    </message>
+    <message>
+        <source>Paper: [mm]</source>
+        <translation>Papier: [mm]</translation>
+    </message>
+    <message>
+        <source>Paper width in millimetres</source>
+        <translation>Papierbreedte in millimeters</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Paper height in millimetres</source>
+        <translation>Papierhoogte in millimeters</translation>
+    </message>
+    <message>
+        <source>DPI:</source>
+        <translation>DPI:</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Maken</translation>
+    </message>
+    <message>
+        <source>Create the output image now...</source>
+        <translation>De afdrukafbeelding nu maken...</translation>
+    </message>
+    <message>
+        <source>Areas</source>
+        <translation>Gebieden</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Afbeelding</translation>
+    </message>
+    <message>
+        <source>&lt;-</source>
+        <translation>&lt;-</translation>
+    </message>
+    <message>
+        <source>Show the previous picture</source>
+        <translation>Toont de vorige afbeelding</translation>
+    </message>
+    <message>
+        <source>Previous picture</source>
+        <translation>Vorige afbeelding</translation>
+    </message>
+    <message>
+        <source>-&gt;</source>
+        <translation>-&gt;</translation>
+    </message>
+    <message>
+        <source>Shows the next picture or appends a new one</source>
+        <translation>Toont de volgende afbeelding of voegt een nieuwe toe</translation>
+    </message>
+    <message>
+        <source>Next picture</source>
+        <translation>Volgende afbeelding</translation>
+    </message>
+    <message>
+        <source>load...</source>
+        <translation>laden...</translation>
+    </message>
+    <message>
+        <source>✖</source>
+        <translation>✖</translation>
+    </message>
+    <message>
+        <source>Delete picture</source>
+        <translation>Afbeelding verwijderen</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Gebied</translation>
+    </message>
+    <message>
+        <source>↖</source>
+        <translation>↖</translation>
+    </message>
+    <message>
+        <source>Pick area mode</source>
+        <translation>Gebieden kiezen</translation>
+    </message>
+    <message>
+        <source>Pick area</source>
+        <translation>Gebied kiezen</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Add a new polygon mode</source>
+        <translation>Een nieuwe veelhoek tekenen</translation>
+    </message>
+    <message>
+        <source>Add area</source>
+        <translation>Gebied toevoegen</translation>
+    </message>
+    <message>
+        <source>Delete selected polygon</source>
+        <translation>De gekozen veelhoek verwijderen</translation>
+    </message>
+    <message>
+        <source>Delete area</source>
+        <translation>Gebied verwijderen</translation>
+    </message>
+    <message>
+        <source>ID:</source>
+        <translation>ID:</translation>
+    </message>
+    <message>
+        <source>Area name</source>
+        <translation>Naam van het gebied</translation>
+    </message>
+    <message>
+        <source>OID of the area</source>
+        <translation>OID van het gebied</translation>
+    </message>
+    <message>
+        <source>Goto code</source>
+        <translation>Naar de code</translation>
+    </message>
+    <message>
+        <source>Picture with its areas</source>
+        <translation>Afbeelding met haar gebieden</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Script</translation>
+    </message>
+    <message>
+        <source>Build</source>
+        <translation>Bouwen</translation>
+    </message>
+    <message>
+        <source>👷 Build</source>
+        <translation>👷 Bouwen</translation>
+    </message>
+    <message>
+        <source>Builds the project to a binary game</source>
+        <translation>Bouwt het project tot een kant-en-klaar spel</translation>
+    </message>
+    <message>
+        <source>⚠Debug Mode</source>
+        <translation>⚠Debugmodus</translation>
+    </message>
+    <message>
+        <source>Tells (says) the code line number, when running on the device</source>
+        <translation>Zegt op het apparaat het nummer van de coderegel</translation>
+    </message>
+    <message>
+        <source>Copy to Device</source>
+        <translation>Naar apparaat kopiëren</translation>
+    </message>
+    <message>
+        <source>Copies the binary to the attached USB device</source>
+        <translation>Kopieert het spel naar het aangesloten USB-apparaat</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Console</translation>
+    </message>
+    <message>
+        <source>toolBar</source>
+        <translation>Werkbalk</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Openen</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>Ctrl+S</source>
+        <translation>Ctrl+S</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>Opslaan &amp;als...</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>Open project</source>
+        <translation>Project openen</translation>
+    </message>
+    <message>
+        <source>Project files (*.oidpro)</source>
+        <translation>Projectbestanden (*.oidpro)</translation>
+    </message>
+    <message>
+        <source>Save project</source>
+        <translation>Project opslaan</translation>
+    </message>
+    <message>
+        <source>Import Picture</source>
+        <translation>Afbeelding importeren</translation>
+    </message>
+    <message>
+        <source>Picture files (*.png; *.jpg; *.jpeg; *.bmp)</source>
+        <translation>Afbeeldingsbestanden (*.png; *.jpg; *.jpeg; *.bmp)</translation>
+    </message>
+    <message>
+        <source>The file could not be saved to the drive</source>
+        <translation>Het bestand kon niet op de schijf worden opgeslagen</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Waarschuwing</translation>
+    </message>
+    <message>
+        <source>Creating the print images...</source>
+        <translation>De afdrukafbeeldingen worden gemaakt...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Making the speech...</source>
+        <translation>De spraak wordt gemaakt...</translation>
+    </message>
+    <message>
+        <source>Can&apos;t load that picture.</source>
+        <translation>Deze afbeelding kan niet worden geladen.</translation>
+    </message>
+    <message>
+        <source>Save the project first: its pictures are kept beside the project file.</source>
+        <translation>Sla eerst het project op: de afbeeldingen worden naast het projectbestand bewaard.</translation>
+    </message>
+    <message>
+        <source>Overwrite Picture</source>
+        <translation>Afbeelding overschrijven</translation>
+    </message>
+    <message>
+        <source>Do you want to overwrite the picture in the cache?</source>
+        <translation>Wilt u de bewaarde afbeelding overschrijven?</translation>
+    </message>
+    <message>
+        <source>The picture could not be kept beside the project file.</source>
+        <translation>De afbeelding kon niet naast het projectbestand worden bewaard.</translation>
+    </message>
+    <message>
+        <source>Delete Picture</source>
+        <translation>Afbeelding verwijderen</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete this picture?</source>
+        <translation>Wilt u deze afbeelding echt verwijderen?</translation>
+    </message>
+</context>
+</TS>

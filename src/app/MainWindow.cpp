@@ -1,0 +1,155 @@
+#include "app/MainWindow.h"
+
+#include "app/FileDialogs.h"
+#include "base/FileSystem.h"
+#include "oid/PrintImage.h"
+#include "qtsync/KVQtSync.h"
+#include "ui_MainWindow.h"
+
+#include <QDragEnterEvent>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QUrl>
+
+MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWindow)
+{
+    Q_INIT_RESOURCE(plinkett);  // the icons
+    ui->setupUi(this);
+    setAcceptDrops(true);
+    ui->polyArea->setProject(&project);
+    connect(ui->polyArea, &PolyEditorWidget::clickedLB, this, &MainWindow::onPolyAreaClickedLB);
+    setDefaultPrintf(KVQtStdoutWidget::redirectPrintf);
+    printIntoConsole();
+    mi_printf = KVQtStdoutWidget::redirectPrintf;
+    prepareTextEditor();
+}
+
+MainWindow::~MainWindow()
+{
+    // The console dies with the form; what is said later goes where it went without a window.
+    setDefaultPrintf(nullptr);
+    project.redirectPrintf(defaultPrintf());
+    mi_printf = defaultPrintf();
+}
+
+void MainWindow::printIntoConsole()
+{
+    ui->txConsole->useThisWidgetForRedirectedPrintf();
+    project.redirectPrintf(KVQtStdoutWidget::redirectPrintf);
+}
+
+void MainWindow::prepareTextEditor()
+{
+    KVQtHighlightEditCtrl::OPTIONS& options = ui->codeEditor->options();
+    options.set_default_colours_bright();
+    options.show_line_numbers = true;
+    options.show_whitespace = false;
+    KVTextEditor::set_script_rules(ui->codeEditor->editor());
+}
+
+void MainWindow::ProjectDataWasChanged(bool toProject)
+{
+    if (toProject) {
+        project.productName = ui->txProjectName->text().toStdString();
+        project.productId = ui->txProjectId->value();
+        ui->txProjectName->setModified(false);
+    } else {
+        ui->txProjectName->setText(QString::fromStdString(project.productName));
+        ui->txProjectId->setValue(project.productId);
+    }
+
+    if (Oid::PICTURE* const picture = ui->polyArea->picture()) {
+        KVQtSync sync(toProject);  // blocks the fields' signals, so filling them changes nothing
+        sync.syncI(picture->dpi, ui->txProjDPI);
+        sync.syncD(picture->paperWidth, ui->txProjPaperWidth);
+        sync.syncD(picture->paperHeight, ui->txProjPaperHeight);
+    }
+
+    if (toProject) {
+        project.compiler = ttbasic();
+        project.compiler.source = ui->codeEditor->text().toStdString();
+    } else {
+        ui->codeEditor->setText(QString::fromStdString(project.compiler.source));
+    }
+}
+
+void MainWindow::on_txProjPaperWidth_textChanged(const QString& /*arg1*/)
+{
+    ProjectDataWasChanged(true);
+}
+
+void MainWindow::on_txProjPaperHeight_textChanged(const QString& /*arg1*/)
+{
+    ProjectDataWasChanged(true);
+}
+
+void MainWindow::on_txProjDPI_textChanged(const QString& /*arg1*/)
+{
+    ProjectDataWasChanged(true);
+}
+
+void MainWindow::on_action_Open_triggered()
+{
+    const QString path = askForProjectToOpen(this);
+    if (!path.isEmpty()) {
+        openProject(path);
+    }
+}
+
+void MainWindow::openProject(const QString& path)
+{
+    ui->txConsole->clear();
+    printIntoConsole();
+    const bool opened = project.open(path.toStdString());
+
+    ui->ribbonTab->setCurrentWidget(opened ? ui->tabProject : ui->tabBuild);
+    // First the index: the form would show, and later write back, the sizes of another page.
+    ui->polyArea->currentPicture = 0;
+    selectPolygon(-1);
+    ProjectDataWasChanged(false);
+    ui->polyArea->repaint();
+}
+
+void MainWindow::on_action_Save_As_triggered()
+{
+    const QString path = askForProjectToSave(this);
+    ProjectDataWasChanged(true);
+    if (!path.isEmpty() && !project.save(path.toStdString())) {
+        warn(tr("The file could not be saved to the drive"));
+    }
+    ProjectDataWasChanged(false);
+}
+
+void MainWindow::on_actionSave_triggered()
+{
+    ProjectDataWasChanged(true);
+    if (!FileSystem::doesFileExist(project.projectPath) || !project.save(project.projectPath)) {
+        on_action_Save_As_triggered();
+    }
+}
+
+void MainWindow::warn(const QString& text)
+{
+    QMessageBox::warning(this, tr("Warning"), text, QMessageBox::Ok);
+}
+
+// The one project file of a drag; an empty text for anything else.
+static QString draggedProject(const QMimeData& data)
+{
+    const QList<QUrl> urls = data.urls();
+    const QString path = urls.size() == 1 ? urls[0].toLocalFile() : QString();
+    return path.endsWith(".oidpro", Qt::CaseInsensitive) ? path : QString();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!draggedProject(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    openProject(draggedProject(*event->mimeData()));
+}

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "oid/OidProject.h"
+
+#include <QMainWindow>
+
+#include <memory>
+#include <string>
+
+namespace Ui {
+class MainWindow;
+}
+
+// The one window. It owns the one project, which all its controls edit; form and project are kept
+// in step by ProjectDataWasChanged alone. The slots are connected by their names
+// (on_<object>_<signal>), so the names of the form's objects are part of the design.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    // What the open command does once a file is chosen; a failed open shows the console.
+    void openProject(const QString& path);
+
+private slots:
+    // MainWindow.cpp: the project file
+    void on_action_Open_triggered();
+    void on_action_Save_As_triggered();
+
+    // MainWindowAreas.cpp: the areas of the current picture
+    void on_btAddPoly_clicked();
+    void onPolyAreaClickedLB(Oid::PNT pt);
+    void on_btDelPoly_clicked();
+    void on_btPickPoly_clicked();
+    void on_txPolyName_textEdited(const QString& arg1);
+
+    // MainWindow.cpp: every key in these fields carries the whole form into the project
+    void on_txProjPaperWidth_textChanged(const QString& arg1);
+    void on_txProjPaperHeight_textChanged(const QString& arg1);
+    void on_txProjDPI_textChanged(const QString& arg1);
+
+    // MainWindowBuild.cpp: what comes out of the project
+    void on_btBuild_clicked();
+    void on_btCreateImage_clicked();
+
+    void on_actionSave_triggered();
+
+    void on_btCopyToPen_clicked();
+
+    void on_txOidOfArea_valueChanged(int arg1);
+    void on_txPolyName_textChanged(const QString& arg1);
+
+    // MainWindowPictures.cpp: the pages
+    void on_btDeletePicture_clicked();
+    void on_btPreviousPicture_clicked();
+    void on_btNextPicture_clicked();
+    void on_btLoadImage_clicked();
+
+    void on_btEditPolyCode_clicked();
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    enum Mode { pick = 0, addPolygon = 1 };
+
+    // The one place that moves data between the form and the project: into the project (a fresh
+    // compiler object included), or into the form. Called before and after changes alike.
+    void ProjectDataWasChanged(bool toProject);
+    void prepareTextEditor();
+    // Points all messages of the project at the console.
+    void printIntoConsole();
+
+    // Selects an area of the current picture, or none for an index that it does not have.
+    void selectPolygon(int i);
+    // The selected area of the current picture, null when there is none.
+    Oid::POLY* selectedArea() const;
+    void setMode(Mode newMode, Qt::CursorShape cursor);
+
+    // True when the form holds a name, id or script that the project does not have yet.
+    bool formWasEdited() const;
+    void showPicture(int index);
+    // Asks for a picture file and keeps a copy of it as picture n of the project. The null image
+    // when the author cancelled or it failed (then that was said).
+    QImage importPicture(int n);
+    // Writes the copy whole or not at all; says why when it was not kept.
+    bool keepCopy(const QImage& image, const std::string& path);
+    void warn(const QString& text);
+
+    void copyGmeToTipToi();
+
+    Oid::OidProject project;
+    int mode = pick;
+    int selectedPoly = -1;
+    std::unique_ptr<Ui::MainWindow> ui;
+};

@@ -1,0 +1,124 @@
+// The pages: going from one to the next, bringing in their pictures.
+#include "app/MainWindow.h"
+
+#include "app/FileDialogs.h"
+#include "base/FileSystem.h"
+#include "base/PlatformFiles.h"
+#include "ui_MainWindow.h"
+
+#include <QImageReader>
+#include <QImageWriter>
+#include <QMessageBox>
+#include <QSaveFile>
+
+bool MainWindow::formWasEdited() const
+{
+    return ui->txProjectName->isModified() || ui->txProjectId->value() != project.productId ||
+           ui->codeEditor->text().toStdString() != project.compiler.source;
+}
+
+void MainWindow::showPicture(int index)
+{
+    // The form is filled anew: what was typed since its last way into the project must not be lost.
+    if (formWasEdited()) {
+        ProjectDataWasChanged(true);
+    }
+    ui->polyArea->currentPicture = index;
+    ui->polyArea->repaint();
+    ProjectDataWasChanged(false);
+}
+
+void MainWindow::on_btNextPicture_clicked()
+{
+    const int next = ui->polyArea->currentPicture + 1;
+    const int count = static_cast<int>(project.pictures.size());
+    if (next < count) {
+        showPicture(next);
+        return;
+    }
+    const QImage image = importPicture(count);
+    if (image.isNull()) {
+        return;
+    }
+    constexpr double kDotsPerMetre = 39.37;  // of one dot per inch
+    Oid::PICTURE picture;
+    picture.paperWidth = image.widthMM();
+    picture.paperHeight = image.heightMM();
+    picture.dpi = static_cast<int>(image.dotsPerMeterX() / kDotsPerMetre + 0.4444);
+    project.pictures.push_back(std::move(picture));
+    showPicture(count);
+}
+
+// Next does not wrap, so that there is a way to append; Previous does.
+void MainWindow::on_btPreviousPicture_clicked()
+{
+    const int count = static_cast<int>(project.pictures.size());
+    if (count == 0) {
+        on_btNextPicture_clicked();
+        return;
+    }
+    const int current = ui->polyArea->currentPicture;
+    showPicture(current > 0 ? current - 1 : count - 1);
+}
+
+void MainWindow::on_btLoadImage_clicked()
+{
+    if (project.pictures.empty()) {
+        on_btNextPicture_clicked();
+        return;
+    }
+    if (!importPicture(ui->polyArea->currentPicture).isNull()) {
+        ui->polyArea->loadedPath.clear();
+        ui->polyArea->repaint();
+    }
+}
+
+QImage MainWindow::importPicture(int n)
+{
+    const QString path = askForPicture(this);
+    if (path.isEmpty()) {
+        return {};
+    }
+    QImageReader reader(path);
+    reader.setAutoTransform(true);  // photos come in upright
+    reader.setDecideFormatFromContent(true);
+    const QImage image = reader.read();
+    if (image.isNull()) {
+        warn(tr("Can't load that picture."));
+        return {};
+    }
+    return keepCopy(image, project.pathImageSource(n)) ? image : QImage();
+}
+
+bool MainWindow::keepCopy(const QImage& image, const std::string& path)
+{
+    if (project.projectPath.empty()) {
+        warn(tr("Save the project first: its pictures are kept beside the project file."));
+        return false;
+    }
+    if (FileSystem::doesFileExist(path) &&
+        QMessageBox::question(this, tr("Overwrite Picture"),
+                              tr("Do you want to overwrite the picture in the cache?"),
+                              QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes) {
+        return false;
+    }
+    QSaveFile file(QString::fromStdString(Platform::nativePath(path)));
+    const bool kept =
+        file.open(QIODevice::WriteOnly) && QImageWriter(&file, "jpg").write(image) && file.commit();
+    if (!kept) {
+        warn(tr("The picture could not be kept beside the project file."));
+    }
+    return kept;
+}
+
+void MainWindow::on_btDeletePicture_clicked()
+{
+    if (QMessageBox::question(this, tr("Delete Picture"),
+                              tr("Do you really want to delete this picture?"),
+                              QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes) {
+        return;
+    }
+    // Intended: the pictures' files are named by number, so none can go. Not translated, either.
+    warn("This is not implemented, yet. You must edit the project file and also RENAME the source "
+         "images!");
+}

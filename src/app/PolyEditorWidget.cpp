@@ -1,0 +1,147 @@
+#include "app/PolyEditorWidget.h"
+
+#include "base/PlatformFiles.h"
+
+#include <QImageReader>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+PolyEditorWidget::PolyEditorWidget(QWidget* parent) : QWidget(parent)
+{
+    clearImage();
+}
+
+Oid::PICTURE* PolyEditorWidget::picture() const
+{
+    if (project == nullptr || currentPicture < 0 ||
+        currentPicture >= static_cast<int>(project->pictures.size())) {
+        return nullptr;
+    }
+    return &project->pictures[static_cast<size_t>(currentPicture)];
+}
+
+Oid::PNT PolyEditorWidget::toProz(QPoint pixel) const
+{
+    if (!rect().isValid()) {
+        return {};
+    }
+    return {pixel.x() * 100.0 / width(), pixel.y() * 100.0 / width()};
+}
+
+// Truncates toward zero; areas far outside the picture stay within what the painter can take.
+static int toPixel(double percent, int width)
+{
+    constexpr double kFarOutside = 1e6;
+    return static_cast<int>(std::clamp(percent * 0.01 * width, -kFarOutside, kFarOutside));
+}
+
+QPoint PolyEditorWidget::toPix(const Oid::PNT& point) const
+{
+    if (!rect().isValid()) {
+        return {0, 0};
+    }
+    return {toPixel(point.x, width()), toPixel(point.y, width())};
+}
+
+void PolyEditorWidget::loadImage(const QString& path)
+{
+    readImage(path);
+    repaint();
+}
+
+void PolyEditorWidget::readImage(const QString& path)
+{
+    const std::string native = Platform::nativePath(path.toStdString());
+    QImageReader reader(QString::fromStdString(native));
+    reader.setAutoTransform(true);  // photos come in upright
+    const QImage loaded = reader.read();
+    if (loaded.isNull()) {
+        clearImage();
+    } else {
+        setImage(loaded);
+    }
+}
+
+void PolyEditorWidget::clearImage()
+{
+    QImage placeholder(150, 100, QImage::Format_RGB32);
+    placeholder.fill(QColor(200, 255, 255));
+    QPainter painter(&placeholder);
+    painter.drawText(10, 10, "NO IMAGE LOADED");
+    painter.drawLine(0, 0, 150, 100);
+    painter.end();
+    setImage(placeholder);
+}
+
+void PolyEditorWidget::setImage(QImage loaded)
+{
+    image = std::move(loaded);
+    scaledImage = {};
+}
+
+void PolyEditorWidget::mousePressEvent(QMouseEvent* /*event*/) {}
+
+void PolyEditorWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) {
+        const QPointF position = event->localPos();
+        emit clickedLB(toProz({qRound(position.x()), qRound(position.y())}));
+    }
+}
+
+void PolyEditorWidget::paintEvent(QPaintEvent* /*event*/)
+{
+    if (picture() == nullptr) {
+        return;
+    }
+    readCurrentImage();
+    if (!rect().isValid()) {
+        return;
+    }
+    QPainter painter(this);
+    drawImage(painter);
+    drawAreas(painter);
+}
+
+void PolyEditorWidget::readCurrentImage()
+{
+    const std::string path = project->pathImageSource(currentPicture);
+    if (path != loadedPath) {
+        loadedPath = path;
+        readImage(QString::fromStdString(path));
+    }
+}
+
+void PolyEditorWidget::drawImage(QPainter& painter)
+{
+    const int imageWidth = std::max(1, image.width());
+    const qint64 height = qint64(image.height()) * width() / imageWidth;
+    const int shownHeight = static_cast<int>(std::clamp<qint64>(height, 1, 1000000)) + 1;
+    const qreal ratio = devicePixelRatioF();
+    const QSize pixels = (QSizeF(width(), shownHeight) * ratio).toSize();
+    if (scaledImage.size() != pixels) {
+        scaledImage = QPixmap::fromImage(
+            image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    }
+    painter.drawPixmap(QRect(0, 0, width(), shownHeight), scaledImage);
+}
+
+void PolyEditorWidget::drawAreas(QPainter& painter) const
+{
+    const std::vector<Oid::POLY>& areas = picture()->polys;
+    for (size_t i = 0; i < areas.size(); ++i) {
+        const bool selected = static_cast<int>(i) == selectedPoly;
+        painter.setPen(selected ? QColor(255, 32, 32) : QColor(32, 96, 255));
+        painter.setBrush(selected ? QColor(255, 32, 32, 64) : QColor(0, 255, 196, 64));
+        QPolygon corners;
+        for (const Oid::PNT& point : areas[i].points) {
+            corners << toPix(point);
+        }
+        painter.drawPolygon(corners, Qt::OddEvenFill);
+        if (corners.size() == 1) {
+            painter.drawPoint(corners[0]);  // the first corner of a new area
+        }
+    }
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "oid/OidProject.h"
+
+#include <QImage>
+#include <QPixmap>
+#include <QWidget>
+
+// Shows one picture of the project at the widget's full width, with its areas, and says where it
+// was clicked. Points are in percent of the width, for x and for y, so that they do not depend on
+// the size of the window.
+class PolyEditorWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PolyEditorWidget(QWidget* parent = nullptr);
+
+    // Not owned; null shows nothing.
+    void setProject(Oid::OidProject* shown) { project = shown; }
+
+    // The current picture; null without a project and for an index that it does not have.
+    Oid::PICTURE* picture() const;
+
+    Oid::PNT toProz(QPoint pixel) const;
+    QPoint toPix(const Oid::PNT& point) const;
+
+    // Shows the picture file, or a placeholder when it cannot be read.
+    void loadImage(const QString& path);
+    void clearImage();
+
+    int currentPicture = 0;
+    int selectedPoly = -1;
+    std::string loadedPath;  // where the image came from; emptied to have it loaded again
+
+signals:
+    // The left button was released here.
+    void clickedLB(Oid::PNT point);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void setImage(QImage loaded);
+    void readImage(const QString& path);
+    void readCurrentImage();
+    void drawImage(QPainter& painter);
+    void drawAreas(QPainter& painter) const;
+
+    Oid::OidProject* project = nullptr;
+    QImage image;
+    QPixmap scaledImage;  // the image as it was last painted: scaling costs much more than painting
+};

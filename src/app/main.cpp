@@ -1,0 +1,25 @@
+#include "app/MainWindow.h"
+#include "app/Translations.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QTranslator>
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    QTranslator translator;
+    if (loadTranslation(translator, QLocale::system().uiLanguages())) {
+        QCoreApplication::installTranslator(&translator);
+    }
+
+    MainWindow window;
+    window.show();
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() > 1) {
+        window.openProject(arguments[1]);
+    }
+    return QApplication::exec();
+}
