@@ -1,0 +1,234 @@
+// Drawing, picking, naming, numbering and deleting areas, and the way to their code.
+#include "tests/app/WindowFixture.h"
+
+#include <QLineEdit>
+#include <QSpinBox>
+
+namespace {
+
+std::string area(const char* name, int oid, double left, double top, double size)
+{
+    std::string text = "OID " + std::to_string(oid) + "\r\nPOLY " + name + "\r\n";
+    const double corners[][2] = {
+        {left, top}, {left + size, top}, {left + size, top + size}, {left, top + size}};
+    for (const auto& corner : corners) {
+        char line[64];
+        snprintf(line, sizeof line, "    %8.2f %8.2f\r\n", corner[0], corner[1]);
+        text += line;
+    }
+    return text + "END\r\n\r\n";
+}
+
+// The pixel of a point in percent.
+QPoint at(WindowFixture& w, double x, double y)
+{
+    return w.get<PolyEditorWidget>("polyArea")->toPix({x, y});
+}
+
+void showAreas(WindowFixture& w)
+{
+    w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+    QTest::qWait(1);
+}
+
+int selected(WindowFixture& w)
+{
+    return w.get<PolyEditorWidget>("polyArea")->selectedPoly;
+}
+
+}  // namespace
+
+class AreasTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aClickPicksTheFirstAreaThatHoldsThePoint()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20) + area("hen", 1002, 20, 10, 20)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 25, 15));  // both
+        QCOMPARE(selected(w), 0);
+        QCOMPARE(w.field("txPolyName"), "cow");
+        QCOMPARE(w.get<QSpinBox>("txOidOfArea")->value(), 1001);
+        w.clickAt(at(w, 35, 15));
+        QCOMPARE(selected(w), 1);
+        QCOMPARE(w.field("txPolyName"), "hen");
+    }
+
+    void aClickOutsideEveryAreaDeselectsAndLeavesTheFields()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        w.clickAt(at(w, 45, 45));
+        QCOMPARE(selected(w), -1);
+        QCOMPARE(w.field("txPolyName"), "cow");
+        QCOMPARE(w.get<QSpinBox>("txOidOfArea")->value(), 1001);
+    }
+
+    void cornersClickedInAddModeMakeAnArea()
+    {
+        WindowFixture w;
+        w.open(projectFile({""}), 1);
+        showAreas(w);
+        w.click("btAddPoly");
+        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->cursor().shape(), Qt::CrossCursor);
+        QCOMPARE(w.field("txPolyName"), "polygon1");
+        QCOMPARE(w.get<QSpinBox>("txOidOfArea")->value(), 1001);
+        QCOMPARE(w.console(), "OID  1001 assigned to 'polygon1'");
+        const int width = w.get<PolyEditorWidget>("polyArea")->width();
+        w.clickAt({width / 2, width / 4});
+        w.clickAt({width / 4, width / 8});
+        char points[128];
+        snprintf(points, sizeof points, "    %8.2f %8.2f\r\n    %8.2f %8.2f\r\n",
+                 width / 2 * 100.0 / width, width / 4 * 100.0 / width, width / 4 * 100.0 / width,
+                 width / 8 * 100.0 / width);
+        QCOMPARE(w.saved(), projectFile({std::string("OID 1001\r\nPOLY polygon1\r\n") + points +
+                                         "END\r\n\r\n"}));
+    }
+
+    void pickingEndsAddingAndSelectsNothing()
+    {
+        WindowFixture w;
+        w.open(projectFile({""}), 1);
+        w.click("btAddPoly");
+        w.click("btPickPoly");
+        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(selected(w), -1);
+    }
+
+    void addingOnAPictureWithoutAreasIsIgnored()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20), ""}), 2);
+        showAreas(w);
+        w.click("btAddPoly");
+        w.click("btNextPicture");
+        w.clickAt({20, 20});
+        QCOMPARE(w.saved(), projectFile({area("cow", 1001, 10, 10, 20) +
+                                             "OID 1002\r\nPOLY polygon2\r\nEND\r\n\r\n",
+                                         ""}));
+    }
+
+    void theToolsDoNothingWithoutAPicture()
+    {
+        WindowFixture w;
+        w.click("btAddPoly");
+        w.click("btDelPoly");
+        w.click("btPickPoly");
+        w.clickAt({20, 20});
+        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(w.field("txPolyName"), "");
+    }
+
+    void deletingSelectsTheAreaBefore()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 10) + area("hen", 1002, 30, 10, 10)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 35, 15));
+        w.click("btDelPoly");
+        QCOMPARE(selected(w), 0);
+        QCOMPARE(w.field("txPolyName"), "cow");
+        QCOMPARE(w.saved(), projectFile({area("cow", 1001, 10, 10, 10)}));
+    }
+
+    void deletingTheOnlyAreaSelectsNothing()
+    {
+        WindowFixture w;
+        w.open(projectFile({""}), 1);
+        w.click("btAddPoly");
+        w.click("btDelPoly");
+        QCOMPARE(selected(w), -1);
+        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(w.saved(), projectFile({""}));
+    }
+
+    void aDeletedNameGetsItsNumberBack()
+    {
+        WindowFixture w;
+        w.open(projectFile({""}), 1);
+        w.click("btAddPoly");
+        w.get<QSpinBox>("txOidOfArea")->setValue(1234);
+        w.click("btDelPoly");
+        w.click("btAddPoly");
+        QCOMPARE(w.get<QSpinBox>("txOidOfArea")->value(), 1234);
+    }
+
+    void aNameTakesItsNumberAlongLetterByLetter()
+    {
+        WindowFixture w;
+        w.open(projectFile({""}), 1);
+        showAreas(w);
+        w.click("btAddPoly");
+        QLineEdit* const name = w.get<QLineEdit>("txPolyName");
+        name->selectAll();
+        for (const char letter : {'d', 'o', 'o', 'r'}) {
+            QTest::keyClick(name, letter);
+            QCOMPARE(w.saved(), projectFile({"OID 1001\r\nPOLY " + name->text().toStdString() +
+                                             "\r\nEND\r\n\r\n"}));
+        }
+        // The old names are free again: the next area of that name gets a number of its own.
+        w.click("btAddPoly");
+        QCOMPARE(w.field("txPolyName"), "polygon2");
+        QCOMPARE(w.get<QSpinBox>("txOidOfArea")->value(), 1002);
+    }
+
+    void aTypedNumberIsTheAreas()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        QSpinBox* const oid = w.get<QSpinBox>("txOidOfArea");
+        oid->setFocus();
+        oid->selectAll();
+        QTest::keyClicks(oid, "4321");
+        QCOMPARE(w.saved(), projectFile({area("cow", 4321, 10, 10, 20)}));
+    }
+
+    void gotoCodeFindsTheSub()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}, "x = 1\r\nsub cow\r\nend sub\r\n"), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        w.click("btEditPolyCode");
+        QCOMPARE(w.tab(), "Script");
+        const auto& selection = w.get<KVQtHighlightEditCtrl>("codeEditor")->editor().selection;
+        QCOMPARE(selection.end.line, 1);
+        QCOMPARE(selection.end.column, 0);
+        QVERIFY(!selection.has_range());
+    }
+
+    // Plain text search: no word boundaries, on purpose.
+    void gotoCodeFindsALongerNameThatComesFirst()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("polygon1", 1001, 10, 10, 20)},
+                           "sub polygon12\r\nend sub\r\nsub polygon1\r\nend sub\r\n"),
+               1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        w.click("btEditPolyCode");
+        QCOMPARE(w.get<KVQtHighlightEditCtrl>("codeEditor")->editor().selection.end.line, 0);
+    }
+
+    void gotoCodeAddsASubThatIsMissing()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("kitchen", 1001, 10, 10, 20)}, "x = 1"), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        w.click("btEditPolyCode");
+        QCOMPARE(w.tab(), "Script");
+        QCOMPARE(w.script(), "x = 1\r\nsub kitchen\r\nendsub\r\n");
+        QCOMPARE(w.get<KVQtHighlightEditCtrl>("codeEditor")->editor().selection.end.line, 3);
+    }
+};
+
+QTEST_MAIN(AreasTest)
+#include "AreasTest.moc"

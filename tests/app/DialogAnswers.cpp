@@ -1,0 +1,68 @@
+#include "tests/app/DialogAnswers.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTest>
+
+DialogAnswers::DialogAnswers()
+{
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    connect(&timer, &QTimer::timeout, this, &DialogAnswers::answer);
+    timer.start(5);
+}
+
+void DialogAnswers::chooseFile(const QString& path)
+{
+    answers.emplace_back([path](QWidget& dialog) {
+        QLineEdit* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
+        name->setText(path);
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+}
+
+void DialogAnswers::cancel()
+{
+    answers.emplace_back([](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+}
+
+void DialogAnswers::press(const QString& button)
+{
+    answers.emplace_back([button](QWidget& dialog) {
+        for (QAbstractButton* const candidate : dialog.findChildren<QAbstractButton*>()) {
+            if (candidate->text().remove('&') == button) {
+                QTest::mouseClick(candidate, Qt::LeftButton);
+                return;
+            }
+        }
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+}
+
+void DialogAnswers::look(std::function<void(QWidget&)> lookAt)
+{
+    answers.emplace_back(std::move(lookAt));
+}
+
+void DialogAnswers::answer()
+{
+    QWidget* const dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr || !dialog->isVisible() || dialog->inherits("QProgressDialog")) {
+        return;
+    }
+    QString line = dialog->windowTitle();
+    if (const QMessageBox* const box = qobject_cast<QMessageBox*>(dialog)) {
+        line += ": " + box->text();
+    }
+    if (answers.empty()) {
+        shown << "unexpected: " + line;
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        return;
+    }
+    shown << line;
+    const auto next = answers.front();
+    answers.pop_front();
+    next(*dialog);
+}

@@ -1,0 +1,257 @@
+// The form: its objects, their types, texts, tool tips and ranges, and how it is used by keyboard.
+#include "tests/app/WindowFixture.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QToolBar>
+
+class FormTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void hasItsObjects_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("toolTip");
+        const auto row = [](const char* name, const char* type, const QString& text = {},
+                            const QString& toolTip = {}) {
+            QTest::newRow(name) << QString(type) << text << toolTip;
+        };
+        row("centralwidget", "QWidget");
+        row("ribbonTab", "QTabWidget");
+        row("toolBar", "QToolBar", "toolBar");
+        row("statusbar", "QStatusBar");
+        row("tabProject", "QWidget");
+        row("groupBox_3", "QGroupBox", "Project");
+        row("label_8", "QLabel", "Project Name");
+        row("txProjectName", "QLineEdit");
+        row("label_9", "QLabel", "Project ID");
+        row("widget", "QWidget");
+        row("txProjectId", "QSpinBox");
+        row("frCurrentPicture", "QGroupBox", "Current Picture (Area)");
+        row("label_3", "QLabel", "Paper: [mm]");
+        row("widget_2", "QWidget");
+        row("txProjPaperWidth", "QLineEdit");
+        row("label_4", "QLabel", "X");
+        row("txProjPaperHeight", "QLineEdit");
+        row("label_5", "QLabel", "DPI:");
+        row("widget_4", "QWidget");
+        row("txProjDPI", "QLineEdit");
+        row("widget_6", "QWidget");
+        row("btCreateImage", "QPushButton", "Create");
+        row("label_7", "QLabel", "Create the output image now...");
+        row("tabAreas", "QWidget");
+        row("widget_7", "QWidget");
+        row("groupBox", "QGroupBox", "Picture");
+        row("btPreviousPicture", "QPushButton", "<-", "Show the previous picture");
+        row("btNextPicture", "QPushButton", "->", "Shows the next picture or appends a new one");
+        row("btLoadImage", "QPushButton", "load...");
+        row("btDeletePicture", "QPushButton", u8"\u2716");
+        row("groupBox_2", "QGroupBox", "Area");
+        row("btPickPoly", "QPushButton", u8"\u2196", "Pick area mode");
+        row("btAddPoly", "QPushButton", "+", "Add a new polygon mode");
+        row("btDelPoly", "QPushButton", u8"\u2716", "Delete selected polygon");
+        row("label", "QLabel", "ID:");
+        row("txPolyName", "QLineEdit");
+        row("txOidOfArea", "QSpinBox");
+        row("btEditPolyCode", "QPushButton", "Goto code");
+        row("polyArea", "PolyEditorWidget");
+        row("tabScript", "QWidget");
+        row("codeEditor", "KVQtHighlightEditCtrl");
+        row("tabBuild", "QWidget");
+        row("widget_5", "QWidget");
+        row("btBuild", "QPushButton", u8"\U0001F477 Build", "Builds the project to a binary game");
+        row("chDebugMode", "QCheckBox", u8"\u26A0Debug Mode",
+            "Tells (says) the code line number, when running on the device");
+        row("btCopyToPen", "QPushButton", "Copy to Device",
+            "Copies the binary to the attached USB device");
+        row("txConsole", "KVQtStdoutWidget");
+    }
+
+    void hasItsObjects()
+    {
+        WindowFixture w;
+        const QList<QWidget*> found = w.window.findChildren<QWidget*>(QTest::currentDataTag());
+        QCOMPARE(found.size(), 1);
+        QFETCH(QString, type);
+        QFETCH(QString, text);
+        QFETCH(QString, toolTip);
+        QCOMPARE(QString(found[0]->metaObject()->className()), type);
+        QCOMPARE(found[0]->toolTip(), toolTip);
+        const char* const property = type == "QGroupBox"  ? "title"
+                                     : type == "QToolBar" ? "windowTitle"
+                                                          : "text";
+        if (!text.isEmpty()) {
+            QCOMPARE(found[0]->property(property).toString(), text);
+        }
+    }
+
+    void hasItsLayouts()
+    {
+        WindowFixture w;
+        for (const char* const name :
+             {"horizontalLayout_3", "verticalLayout_6", "formLayout", "horizontalLayout_8",
+              "formLayout_2", "horizontalLayout_4", "horizontalLayout_5", "horizontalLayout_7",
+              "verticalLayout_2", "horizontalLayout_10", "horizontalLayout", "horizontalLayout_9",
+              "verticalLayout_4", "verticalLayout", "horizontalLayout_6"}) {
+            QVERIFY2(w.window.findChild<QLayout*>(name) != nullptr, name);
+        }
+    }
+
+    void startsAtTheAreasTab()
+    {
+        WindowFixture w;
+        const QTabWidget* const tabs = w.get<QTabWidget>("ribbonTab");
+        QCOMPARE(tabs->count(), 4);
+        QCOMPARE(tabs->tabText(0), "Project");
+        QCOMPARE(tabs->tabText(1), "Areas");
+        QCOMPARE(tabs->tabText(2), "Script");
+        QCOMPARE(tabs->tabText(3), "Build");
+        QCOMPARE(tabs->currentIndex(), 1);
+        QCOMPARE(tabs->styleSheet(), "QTabBar::tab {\nmin-height:32px;\n}");
+    }
+
+    void isAWindowOf1000By700NamedPlinkett()
+    {
+        WindowFixture w;
+        QCOMPARE(w.window.objectName(), "MainWindow");
+        QCOMPARE(w.window.windowTitle(), "Plinkett");
+        QCOMPARE(w.window.size(), QSize(1000, 700));
+        QVERIFY(!w.window.windowIcon().isNull());
+        QVERIFY(!w.window.windowIcon().pixmap(32).isNull());
+    }
+
+    void hasThreeActionsInItsToolBar()
+    {
+        WindowFixture w;
+        const QList<QAction*> actions = w.get<QToolBar>("toolBar")->actions();
+        QCOMPARE(actions.size(), 3);
+        const auto check = [&](int i, const char* name, const char* text, const char* shortcut) {
+            QCOMPARE(actions[i]->objectName(), name);
+            QCOMPARE(actions[i]->text(), text);
+            QCOMPARE(actions[i]->shortcut().toString(), shortcut);
+            QVERIFY(!actions[i]->icon().pixmap(24).isNull());
+        };
+        check(0, "action_Open", "&Open", "Ctrl+O");
+        check(1, "actionSave", "Save", "Ctrl+S");
+        check(2, "action_Save_As", "&Save As...", "Ctrl+Shift+S");
+        QCOMPARE(w.window.toolBarArea(w.get<QToolBar>("toolBar")), Qt::TopToolBarArea);
+    }
+
+    void numbersHaveTheirRanges()
+    {
+        WindowFixture w;
+        const QSpinBox* const id = w.get<QSpinBox>("txProjectId");
+        QCOMPARE(id->minimum(), 1);
+        QCOMPARE(id->maximum(), 999);
+        QCOMPARE(id->value(), 900);
+        const QSpinBox* const oid = w.get<QSpinBox>("txOidOfArea");
+        QCOMPARE(oid->maximum(), 32767);
+        QCOMPARE(oid->value(), 32767);
+    }
+
+    void theConsoleIsReadOnlyAndThePictureHasAnArrowCursor()
+    {
+        WindowFixture w;
+        QVERIFY(w.get<QPlainTextEdit>("txConsole")->isReadOnly());
+        const PolyEditorWidget* const picture = w.get<PolyEditorWidget>("polyArea");
+        QCOMPARE(picture->cursor().shape(), Qt::ArrowCursor);
+        QVERIFY(!picture->autoFillBackground());
+    }
+
+    // The project is not copied into a fresh form.
+    void startsWithTheFormsOwnValues()
+    {
+        WindowFixture w;
+        QCOMPARE(w.field("txProjectName"), "");
+        QCOMPARE(w.field("txProjDPI"), "");
+        QCOMPARE(w.script(), "");
+    }
+
+    // From the tabs through the controls of the tab in front, and round again.
+    void everyControlIsReachedByTab_data()
+    {
+        QTest::addColumn<QStringList>("order");
+        const QString tabs = "qt_tabwidget_tabbar";
+        QTest::newRow("Project") << QStringList{
+            tabs,        "txProjectName", "txProjectId", "txProjPaperWidth", "txProjPaperHeight",
+            "txProjDPI", "btCreateImage", tabs};
+        QTest::newRow("Areas") << QStringList{tabs,          "btPreviousPicture", "btNextPicture",
+                                              "btLoadImage", "btDeletePicture",   "btPickPoly",
+                                              "btAddPoly",   "btDelPoly",         "txPolyName",
+                                              "txOidOfArea", "btEditPolyCode",    tabs};
+        QTest::newRow("Script") << QStringList{tabs, "inlay"};
+        QTest::newRow("Build") << QStringList{tabs,          "btBuild",   "chDebugMode",
+                                              "btCopyToPen", "txConsole", tabs};
+    }
+
+    void everyControlIsReachedByTab()
+    {
+        QFETCH(QStringList, order);
+        WindowFixture w;
+        QTabWidget* const tabs = w.get<QTabWidget>("ribbonTab");
+        for (int i = 0; i < tabs->count(); ++i) {
+            if (tabs->tabText(i) == QTest::currentDataTag()) {
+                tabs->setCurrentIndex(i);
+            }
+        }
+        w.window.activateWindow();
+        tabs->setFocus();
+        QStringList reached = {QApplication::focusWidget()->objectName()};
+        while (reached.size() < order.size()) {
+            QTest::keyClick(&w.window, Qt::Key_Tab);
+            reached << QApplication::focusWidget()->objectName();
+        }
+        QCOMPARE(reached, order);
+    }
+
+    void controlsThatShowASymbolHaveAName()
+    {
+        WindowFixture w;
+        for (const QPushButton* const button : w.window.findChildren<QPushButton*>()) {
+            if (button->text().size() <= 2) {
+                QVERIFY2(!button->accessibleName().isEmpty(), qPrintable(button->objectName()));
+            }
+        }
+    }
+
+    void fitsOnASmallScreen()
+    {
+        WindowFixture w;
+        QVERIFY(w.window.minimumSizeHint().width() <= 1280);
+        QVERIFY(w.window.minimumSizeHint().height() <= 720);
+    }
+
+    void theScriptEditorKnowsTheScriptLanguage()
+    {
+        WindowFixture w;
+        auto& editor = w.get<KVQtHighlightEditCtrl>("codeEditor")->editor();
+        QCOMPARE(editor.line_comments, (std::set<std::u16string>{u"'", u"#"}));
+        QCOMPARE(editor.keywords_class1,
+                 (std::set<std::u16string>{u"end", u"if", u"else", u"endif", u"sub", u"endsub",
+                                           u"select", u"endselect", u"case", u"default", u"voice",
+                                           u"say", u"goto"}));
+        QCOMPARE(editor.keywords_class2,
+                 (std::set<std::u16string>{u"lang", u"age", u"pitch", u"speed", u"sex"}));
+        // Intended: the words of the editor's own rules keep their colours.
+        QCOMPARE(editor.keyword_table[u'w'].count(u"while"), size_t(1));
+        const auto& options = w.get<KVQtHighlightEditCtrl>("codeEditor")->options();
+        QVERIFY(options.show_line_numbers);
+        QVERIFY(!options.show_whitespace);
+    }
+};
+
+QTEST_MAIN(FormTest)
+#include "FormTest.moc"

@@ -1,0 +1,235 @@
+// Going from picture to picture, importing them, and making their print images.
+#include "tests/app/WindowFixture.h"
+
+#include <QAbstractItemView>
+#include <QBuffer>
+#include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+
+namespace {
+
+const std::string kArea = "OID 1001\r\nPOLY cow\r\nEND\r\n\r\n";
+
+int current(WindowFixture& w)
+{
+    return w.get<PolyEditorWidget>("polyArea")->currentPicture;
+}
+
+}  // namespace
+
+class PicturesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void previousWrapsAndNextAsksForMore()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea, kArea, kArea}), 3);
+        w.click("btPreviousPicture");
+        QCOMPARE(current(w), 2);
+        w.click("btPreviousPicture");
+        QCOMPARE(current(w), 1);
+        w.click("btNextPicture");
+        QCOMPARE(current(w), 2);
+        w.dialogs.cancel();
+        w.click("btNextPicture");
+        QCOMPARE(current(w), 2);
+        QCOMPARE(w.dialogs.seen(), QStringList({"Open project", "Import Picture"}));
+    }
+
+    void theFirstPictureIsImportedByNextPreviousAndLoad()
+    {
+        for (const char* const button : {"btNextPicture", "btPreviousPicture", "btLoadImage"}) {
+            WindowFixture w;
+            w.dialogs.chooseFile(w.path("book.oidpro"));
+            w.trigger("action_Save_As");
+            w.makePicture("scan.png", {600, 300}, 11811);
+            w.dialogs.chooseFile(w.path("scan.png"));
+            w.click(button);
+            QCOMPARE(w.field("txProjDPI"), "300");
+            QVERIFY(QFile::exists(w.path("900-bkgnd0.jpg")));
+        }
+    }
+
+    void anImportedPictureHasTheSizeAndResolutionOfItsFile()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        w.makePicture("scan.png", {2362, 1181}, 23622);  // 600 dots per inch
+        w.dialogs.chooseFile(w.path("scan.png"));
+        w.click("btNextPicture");
+        QCOMPARE(current(w), 1);
+        QCOMPARE(w.field("txProjPaperWidth"), "100");
+        QCOMPARE(w.field("txProjPaperHeight"), "50");
+        QCOMPARE(w.field("txProjDPI"), "600");
+        QCOMPARE(QImage(w.path("900-bkgnd1.jpg")).size(), QSize(2362, 1181));
+    }
+
+    void aNewPictureCannotBeReadIsSaid()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        writeFile(w.folder.file("broken.png"), "no picture");
+        w.dialogs.chooseFile(w.path("broken.png"));
+        w.dialogs.press("OK");
+        w.click("btNextPicture");
+        QCOMPARE(w.dialogs.seen().last(), "Warning: Can't load that picture.");
+        QCOMPARE(current(w), 0);
+        QVERIFY(!QFile::exists(w.path("900-bkgnd1.jpg")));
+    }
+
+    void aPictureInTheWayIsOnlyOverwrittenOnYes()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 2);
+        w.makePicture("scan.png", {60, 60});
+        w.dialogs.chooseFile(w.path("scan.png"));
+        w.dialogs.press("No");
+        w.click("btNextPicture");
+        QCOMPARE(w.dialogs.seen().last(),
+                 "Overwrite Picture: Do you want to overwrite the picture in the cache?");
+        QCOMPARE(current(w), 0);
+        QCOMPARE(QImage(w.path("900-bkgnd1.jpg")).size(), QSize(200, 100));
+        w.dialogs.chooseFile(w.path("scan.png"));
+        w.dialogs.press("Yes");
+        w.click("btNextPicture");
+        QCOMPARE(current(w), 1);
+        QCOMPARE(QImage(w.path("900-bkgnd1.jpg")).size(), QSize(60, 60));
+    }
+
+    void loadReplacesThePictureAndKeepsTheRest()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        w.makePicture("scan.png", {60, 60}, 11811);
+        w.dialogs.chooseFile(w.path("scan.png"));
+        w.dialogs.press("Yes");
+        w.click("btLoadImage");
+        QCOMPARE(QImage(w.path("900-bkgnd0.jpg")).size(), QSize(60, 60));
+        QCOMPARE(w.saved(), projectFile({kArea}));
+    }
+
+    void aNeverSavedProjectHasNoPlaceForPictures()
+    {
+        WindowFixture w;
+        w.makePicture("scan.png");
+        w.dialogs.chooseFile(w.path("scan.png"));
+        w.dialogs.press("OK");
+        w.click("btNextPicture");
+        QCOMPARE(w.dialogs.seen().last(), "Warning: Save the project first: its pictures are kept "
+                                          "beside the project file.");
+        QVERIFY(!QFile::exists("900-bkgnd0.jpg"));
+    }
+
+    void aCopyThatCannotBeWrittenIsSaid()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        QVERIFY(QDir().mkdir(w.path("900-bkgnd1.jpg")));
+        w.makePicture("scan.png");
+        w.dialogs.chooseFile(w.path("scan.png"));
+        w.dialogs.press("Yes");
+        w.dialogs.press("OK");
+        w.click("btNextPicture");
+        QCOMPARE(w.dialogs.seen().last(),
+                 "Warning: The picture could not be kept beside the project file.");
+        QCOMPARE(current(w), 0);
+    }
+
+    void aPhotoComesInUpright()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        QImage image(80, 40, QImage::Format_RGB32);
+        image.fill(Qt::gray);
+        QByteArray jpeg;
+        QBuffer buffer(&jpeg);
+        buffer.open(QIODevice::WriteOnly);
+        QVERIFY(image.save(&buffer, "jpg"));
+        // An EXIF block that says: turn by a quarter (orientation 6).
+        const QByteArray exif = QByteArray::fromHex(
+            "ffe100224578696600004d4d002a00000008000101120003000000010006000000000000");
+        jpeg.insert(2, exif);
+        writeFile(w.folder.file("photo.jpg"), jpeg.toStdString());
+        w.dialogs.chooseFile(w.path("photo.jpg"));
+        w.click("btNextPicture");
+        QCOMPARE(QImage(w.path("900-bkgnd1.jpg")).size(), QSize(40, 80));
+    }
+
+    void theDialogShowsAllKindsOfPictures()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        for (const char* const name : {"a.png", "b.jpg", "c.jpeg", "d.bmp", "e.PNG", "f.JPG"}) {
+            w.makePicture(name);
+        }
+        writeFile(w.folder.file("g.txt"), "");
+        QStringList listed;
+        QString filter;
+        w.dialogs.look([&](QWidget& dialog) {
+            QFileDialog& files = static_cast<QFileDialog&>(dialog);
+            files.setDirectory(QString::fromStdString(w.folder.path()));
+            QTest::qWait(200);
+            const QAbstractItemModel* const model =
+                dialog.findChild<QAbstractItemView*>("listView")->model();
+            const QModelIndex root = dialog.findChild<QAbstractItemView*>("listView")->rootIndex();
+            for (int i = 0; i < model->rowCount(root); ++i) {
+                listed << model->index(i, 0, root).data().toString();
+            }
+            filter = dialog.findChild<QComboBox*>("fileTypeCombo")->currentText();
+            files.reject();
+        });
+        w.click("btNextPicture");
+        listed.sort();
+        QCOMPARE(listed, QStringList({"900-bkgnd0.jpg", "a.png", "b.jpg", "c.jpeg", "d.bmp",
+                                      "e.PNG", "f.JPG"}));
+        QCOMPARE(filter, "Picture files (*.png; *.jpg; *.jpeg; *.bmp)");
+    }
+
+    void deletingAPictureIsNotThereYet()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        w.dialogs.press("No");
+        w.click("btDeletePicture");
+        w.dialogs.press("Yes");
+        w.dialogs.press("OK");
+        w.click("btDeletePicture");
+        const QString question = "Delete Picture: Do you really want to delete this picture?";
+        QCOMPARE(w.dialogs.seen().mid(1),
+                 QStringList({question, question,
+                              "Warning: This is not implemented, yet. You must edit the project "
+                              "file and also RENAME the source images!"}));
+        QCOMPARE(w.saved(), projectFile({kArea}));
+    }
+
+    void createMakesThePrintImageOfEachPicture()
+    {
+        WindowFixture w;
+        std::string project = projectFile({kArea, kArea});
+        const std::string paper = "PAPER 200.0 100.0\r\nDPI   300";
+        for (size_t found; (found = project.find(paper)) != std::string::npos;) {
+            project.replace(found, paper.size(), "PAPER 20.0 10.0\r\nDPI   254");
+        }
+        w.open(project, 2);
+        w.click("btCreateImage");
+        QCOMPARE(QImage(w.path("900-print0.tiff")).size(), QSize(200, 100));
+        QCOMPARE(QImage(w.path("900-print1.tiff")).size(), QSize(200, 100));
+        QVERIFY(w.console().startsWith("Creating pixel image...\n      0%\n     10%\n"));
+        QCOMPARE(QDir::current(), QDir(QString::fromStdString(w.folder.path())));
+    }
+
+    void createWithoutAPictureFileSaysSo()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 0);
+        w.click("btCreateImage");
+        QCOMPARE(w.console(), "No image was loaded for this picture.");
+    }
+};
+
+QTEST_MAIN(PicturesTest)
+#include "PicturesTest.moc"

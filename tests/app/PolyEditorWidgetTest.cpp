@@ -1,0 +1,190 @@
+// The picture with its areas: coordinates, clicks, and what is painted.
+#include "app/PolyEditorWidget.h"
+#include "tests/helpers/TemporaryFolder.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+Q_DECLARE_METATYPE(Oid::PNT)
+
+namespace {
+
+// A widget of 200 x 160 pixels over a project with one picture of one colour, 100 x 50 pixels.
+struct Shown
+{
+    explicit Shown(const std::vector<Oid::POLY>& areas = {}, bool withFile = true)
+    {
+        project.projectPath = folder.file("book.oidpro");
+        project.pictures.emplace_back().polys = areas;
+        if (withFile) {
+            savePicture(0, QColor(255, 255, 255));
+        }
+        widget.setProject(&project);
+        widget.resize(200, 160);
+    }
+
+    void savePicture(int n, QColor color)
+    {
+        QImage image(100, 50, QImage::Format_RGB32);
+        image.fill(color);
+        image.save(QString::fromStdString(folder.file("900-bkgnd" + std::to_string(n) + ".jpg")));
+    }
+
+    QColor pixel(int x, int y)
+    {
+        QImage shot(widget.size(), QImage::Format_RGB32);
+        shot.fill(QColor(1, 2, 3));  // what shows where nothing is painted
+        widget.render(&shot, {}, {}, {});
+        return shot.pixelColor(x, y);
+    }
+
+    TemporaryFolder folder;
+    Oid::OidProject project;
+    PolyEditorWidget widget;
+};
+
+Oid::POLY square(const char* name, double left, double top, double size)
+{
+    Oid::POLY area;
+    area.name = name;
+    area.points = {{left, top}, {left + size, top}, {left + size, top + size}, {left, top + size}};
+    return area;
+}
+
+}  // namespace
+
+class PolyEditorWidgetTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void startsWithoutAProject()
+    {
+        const PolyEditorWidget widget;
+        QCOMPARE(widget.picture(), nullptr);
+        QCOMPARE(widget.currentPicture, 0);
+        QCOMPARE(widget.selectedPoly, -1);
+        QCOMPARE(widget.loadedPath, std::string());
+    }
+
+    void hasNoPictureForAnIndexThatTheProjectDoesNotHave()
+    {
+        Shown shown;
+        QCOMPARE(shown.widget.picture(), &shown.project.pictures[0]);
+        shown.widget.currentPicture = -1;
+        QCOMPARE(shown.widget.picture(), nullptr);
+        shown.widget.currentPicture = 1;
+        QCOMPARE(shown.widget.picture(), nullptr);
+    }
+
+    void pointsAreInPercentOfTheWidthForBothAxes()
+    {
+        const Shown shown;
+        const Oid::PNT point = shown.widget.toProz({50, 150});
+        QCOMPARE(point.x, 25.0);
+        QCOMPARE(point.y, 75.0);
+        QCOMPARE(shown.widget.toPix({25, 75}), QPoint(50, 150));
+    }
+
+    void pixelsAreTruncatedTowardZero()
+    {
+        const Shown shown;
+        QCOMPARE(shown.widget.toPix({25.49, -25.49}), QPoint(50, -50));
+    }
+
+    void aWidgetWithoutAreaHasOnlyTheOrigin()
+    {
+        Shown shown;
+        shown.widget.resize(0, 0);
+        QCOMPARE(shown.widget.toPix({25, 75}), QPoint(0, 0));
+        QCOMPARE(shown.widget.toProz({50, 150}).x, 0.0);
+    }
+
+    void onlyTheReleaseOfTheLeftButtonIsAClick()
+    {
+        qRegisterMetaType<Oid::PNT>();
+        Shown shown;
+        QSignalSpy clicks(&shown.widget, &PolyEditorWidget::clickedLB);
+        QTest::mousePress(&shown.widget, Qt::LeftButton, Qt::NoModifier, {50, 40});
+        QCOMPARE(clicks.count(), 0);
+        QTest::mouseRelease(&shown.widget, Qt::LeftButton, Qt::NoModifier, {100, 80});
+        QCOMPARE(clicks.count(), 1);
+        const Oid::PNT point = clicks[0][0].value<Oid::PNT>();
+        QCOMPARE(point.x, 50.0);
+        QCOMPARE(point.y, 40.0);
+        QTest::mouseClick(&shown.widget, Qt::RightButton, Qt::NoModifier, {100, 80});
+        QCOMPARE(clicks.count(), 1);
+    }
+
+    void thePictureTakesTheFullWidthAndKeepsItsShape()
+    {
+        Shown shown;
+        QCOMPARE(shown.pixel(199, 99), QColor(255, 255, 255));
+        QCOMPARE(shown.pixel(100, 100), QColor(255, 255, 255));  // one row more than the shape
+        QCOMPARE(shown.pixel(100, 101), QColor(1, 2, 3));
+    }
+
+    void nothingIsPaintedWithoutAPicture()
+    {
+        Shown shown;
+        shown.widget.currentPicture = 7;
+        QCOMPARE(shown.pixel(5, 5), QColor(1, 2, 3));
+    }
+
+    void aMissingPictureShowsThePlaceholder()
+    {
+        Shown shown({}, false);
+        QCOMPARE(shown.pixel(180, 20), QColor(200, 255, 255));
+        QVERIFY(shown.pixel(100, 66) != QColor(200, 255, 255));  // the line across
+    }
+
+    void thePictureIsReadOnceUntilItsPathChanges()
+    {
+        Shown shown;
+        QCOMPARE(shown.pixel(100, 50), QColor(255, 255, 255));
+        shown.savePicture(0, QColor(0, 0, 0));
+        QCOMPARE(shown.pixel(100, 50), QColor(255, 255, 255));
+        shown.widget.loadedPath.clear();
+        QCOMPARE(shown.pixel(100, 50), QColor(0, 0, 0));
+    }
+
+    void anotherPictureIsShownWhenTheIndexChanges()
+    {
+        Shown shown;
+        shown.project.pictures.emplace_back();
+        shown.savePicture(1, QColor(0, 0, 0));
+        QCOMPARE(shown.pixel(100, 50), QColor(255, 255, 255));
+        shown.widget.currentPicture = 1;
+        QCOMPARE(shown.pixel(100, 50), QColor(0, 0, 0));
+    }
+
+    void areasAreOutlinedAndTheSelectedOneIsRed()
+    {
+        Shown shown({square("cow", 5, 5, 10), square("hen", 25, 5, 10)});
+        shown.widget.selectedPoly = 1;
+        QCOMPARE(shown.pixel(10, 20), QColor(32, 96, 255));
+        QCOMPARE(shown.pixel(20, 20), QColor(191, 255, 240));  // a quarter of (0, 255, 196)
+        QCOMPARE(shown.pixel(50, 20), QColor(255, 32, 32));
+        QCOMPARE(shown.pixel(60, 20), QColor(255, 199, 199));
+    }
+
+    void anAreaOfOneOrTwoPointsIsADotOrALine()
+    {
+        Oid::POLY line;
+        line.points = {{10, 10}, {40, 10}};
+        Oid::POLY dot;
+        dot.points = {{60, 30}};
+        Shown shown({line, dot, Oid::POLY()});
+        QCOMPARE(shown.pixel(50, 20), QColor(32, 96, 255));
+        QCOMPARE(shown.pixel(120, 60), QColor(32, 96, 255));
+    }
+
+    void areasFarOutsideThePictureDoNoHarm()
+    {
+        Shown shown({square("far", -1e300, -1e300, 1e300)});
+        QCOMPARE(shown.pixel(100, 50).isValid(), true);
+    }
+};
+
+QTEST_MAIN(PolyEditorWidgetTest)
+#include "PolyEditorWidgetTest.moc"

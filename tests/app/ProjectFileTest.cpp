@@ -1,0 +1,196 @@
+// Opening and saving projects, and the way of what was typed into them.
+#include "tests/app/WindowFixture.h"
+
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QSpinBox>
+#include <QUrl>
+
+namespace {
+
+const std::string kCow = "OID 1001\r\nPOLY cow\r\n"
+                         "       10.00    10.00\r\n       50.00    10.00\r\n"
+                         "       50.00    40.00\r\nEND\r\n\r\n";
+
+}  // namespace
+
+class ProjectFileTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aGoodProjectShowsItsProjectTab()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}, "sub cow\r\nend sub\r\n"), 1);
+        QCOMPARE(w.tab(), "Project");
+        QCOMPARE(w.field("txProjectName"), "Zoo");
+        QCOMPARE(w.get<QSpinBox>("txProjectId")->value(), 900);
+        QCOMPARE(w.field("txProjPaperWidth"), "200");
+        QCOMPARE(w.field("txProjPaperHeight"), "100");
+        QCOMPARE(w.field("txProjDPI"), "300");
+        QCOMPARE(w.script(), "sub cow\r\nend sub\r\n");
+        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->currentPicture, 0);
+        QCOMPARE(w.console(), "");
+    }
+
+    void theLoadersMessagesStandInTheConsole()
+    {
+        WindowFixture w;
+        w.open("PRODUCT 1000, \"Zoo\"\r\n");
+        QCOMPARE(w.console(), "Error: PRODUCT id is not in range [1..999]");
+        QCOMPARE(w.tab(), "Project");
+    }
+
+    void aFailedOpenShowsTheConsole()
+    {
+        WindowFixture w;
+        w.window.openProject(w.path("none.oidpro"));
+        QCOMPARE(w.tab(), "Build");
+        QCOMPARE(w.console(), "Error: Can't open file '" + w.path("none.oidpro") + "'");
+        QCOMPARE(w.field("txProjectName"), "my project");
+    }
+
+    void cancellingOpenChangesNothing()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        w.type("txProjectName", "Farm");
+        w.dialogs.cancel();
+        w.trigger("action_Open");
+        QCOMPARE(w.field("txProjectName"), "Farm");
+        QCOMPARE(w.dialogs.seen(), QStringList({"Open project", "Open project"}));
+    }
+
+    void saveOfAFreshWindowAsksForAName()
+    {
+        WindowFixture w;
+        w.type("txProjectName", "Farm");
+        w.dialogs.chooseFile(w.path("book.oidpro"));
+        w.trigger("actionSave");
+        QCOMPARE(w.dialogs.seen(), QStringList({"Save project"}));
+        QCOMPARE(readFile(w.folder.file("book.oidpro")),
+                 projectFile({}, "", "PRODUCT 900, \"Farm\""));
+    }
+
+    void aNameWithoutASuffixGetsIt()
+    {
+        WindowFixture w;
+        w.dialogs.chooseFile(w.path("book"));
+        w.trigger("action_Save_As");
+        QCOMPARE(QString::fromStdString(w.folder.listing()), "book.oidpro");
+    }
+
+    void cancellingSaveAsKeepsWhatWasTyped()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        w.type("txProjectName", "Farm");
+        w.dialogs.cancel();
+        w.trigger("action_Save_As");
+        QCOMPARE(w.field("txProjectName"), "Farm");
+        QCOMPARE(w.saved(), projectFile({kCow}, "", "PRODUCT 900, \"Farm\""));
+    }
+
+    void saveAsThatFailsIsReported()
+    {
+        WindowFixture w;
+        QDir(QString::fromStdString(w.folder.path())).mkdir("folder.oidpro");
+        w.dialogs.look([&](QWidget& dialog) {
+            // A file dialog would not let a folder through; the folder takes the file's place.
+            dialog.findChild<QLineEdit*>("fileNameEdit")->setText(w.path("book.oidpro"));
+            QDir().mkdir(w.path("book.oidpro"));
+            QMetaObject::invokeMethod(&dialog, "done", Q_ARG(int, 1));
+        });
+        w.dialogs.press("OK");
+        w.trigger("action_Save_As");
+        QCOMPARE(w.dialogs.seen().last(), "Warning: The file could not be saved to the drive");
+    }
+
+    void saveThatFailsAsksForAnotherName()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        QVERIFY(QFile::remove(w.path("book.oidpro")));
+        QVERIFY(QDir().mkdir(w.path("book.oidpro")));
+        w.dialogs.chooseFile(w.path("other.oidpro"));
+        w.trigger("actionSave");
+        QCOMPARE(readFile(w.folder.file("other.oidpro")), projectFile({kCow}));
+    }
+
+    void whatIsTypedAboutThePaperGoesIntoTheProjectAtOnce()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow, kCow}), 2);
+        w.type("txProjPaperWidth", "123.4");
+        w.type("txProjPaperHeight", "56");
+        w.type("txProjDPI", "600");
+        w.click("btNextPicture");
+        QCOMPARE(w.field("txProjDPI"), "300");
+        w.click("btPreviousPicture");
+        QCOMPARE(w.field("txProjPaperWidth"), "123.4");
+        QCOMPARE(w.field("txProjPaperHeight"), "56");
+        QCOMPARE(w.field("txProjDPI"), "600");
+    }
+
+    void paperFieldsWithoutAPictureChangeNoPicture()
+    {
+        WindowFixture w;
+        w.type("txProjDPI", "77");
+        w.dialogs.chooseFile(w.path("book.oidpro"));
+        w.trigger("action_Save_As");
+        QCOMPARE(readFile(w.folder.file("book.oidpro")), projectFile({}, "", "PRODUCT 900, \"\""));
+        QCOMPARE(w.field("txProjDPI"), "77");
+    }
+
+    void openingAnotherProjectStartsAtItsFirstPicture()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow, kCow}), 2);
+        w.click("btNextPicture");
+        w.open(projectFile({"OID 7\r\nPOLY hen\r\nEND\r\n\r\n", kCow}), 2);
+        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->currentPicture, 0);
+        QCOMPARE(w.saved(), projectFile({"OID 7\r\nPOLY hen\r\nEND\r\n\r\n", kCow}));
+    }
+
+    void typedScriptAndNameSurviveGoingToAnotherPicture()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow, kCow}), 2);
+        w.type("txProjectName", "Farm");
+        QTest::keyClicks(&w.get<KVQtHighlightEditCtrl>("codeEditor")->surface(), "sub cow");
+        w.click("btNextPicture");
+        QCOMPARE(w.script(), "sub cow");
+        QCOMPARE(w.field("txProjectName"), "Farm");
+    }
+
+    void aProjectFileDroppedOntoTheWindowIsOpened()
+    {
+        WindowFixture w;
+        writeFile(w.folder.file("book.oidpro"), projectFile({kCow}));
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(w.path("book.oidpro"))});
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&w.window, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&w.window, &drop);
+        QCOMPARE(w.field("txProjectName"), "Zoo");
+    }
+
+    void anyOtherFileIsNotTaken()
+    {
+        WindowFixture w;
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(w.path("picture.png"))});
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        QCoreApplication::sendEvent(&w.window, &enter);
+        QVERIFY(!enter.isAccepted());
+    }
+};
+
+QTEST_MAIN(ProjectFileTest)
+#include "ProjectFileTest.moc"

@@ -1,0 +1,166 @@
+// Building from the window: the console, the speech with its progress, the assembler, the pen.
+#include "oid/PrintImage.h"
+#include "tests/app/WindowFixture.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QPlainTextEdit>
+#include <QProgressDialog>
+
+namespace {
+
+const std::string kScript = "sub cow\r\nsay \"Moo\"\r\nend sub\r\n";
+const std::string kCow = "OID 1001\r\nPOLY cow\r\nEND\r\n\r\n";
+
+// Programs that stand in for the outside ones, in front of PATH. Each notes its arguments.
+class StandIns
+{
+public:
+    StandIns()
+    {
+        qputenv("PATH", QByteArray::fromStdString(folder.path()) + ":" + oldPath);
+        qunsetenv("TIPTOITOOL");
+        // The last argument but two is the name of the WAV file: -f FILE -t TEXT.
+        add("Text2Speech",
+            "echo \"$@\" >> \"$0.log\"\n"
+            "while [ $# -gt 1 ]; do [ \"$1\" = -f ] && echo wav > \"$2\"; shift; done\n");
+        add("ffmpeg", "for last; do :; done\necho ogg > \"$last\"\n");
+        add("tttool", "echo \"$@\" > \"$0.log\"\necho assembled\n");
+    }
+    ~StandIns() { qputenv("PATH", oldPath); }
+
+    void add(const std::string& name, const std::string& script)
+    {
+        writeFile(folder.file(name), "#!/bin/sh\n" + script);
+        QFile::setPermissions(QString::fromStdString(folder.file(name)),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    QString log(const char* name)
+    {
+        const std::string file = folder.file(std::string(name) + ".log");
+        return QFile::exists(QString::fromStdString(file)) ? QString::fromStdString(readFile(file))
+                                                           : QString();
+    }
+
+private:
+    QByteArray oldPath = qgetenv("PATH");
+    TemporaryFolder folder;
+};
+
+}  // namespace
+
+class WindowBuildTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { directory = QDir::currentPath(); }
+    void cleanup() { QDir::setCurrent(directory); }
+
+    void buildMakesDescriptionSpeechAndStartsTheAssembler()
+    {
+        StandIns programs;
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        w.click("btBuild");
+        QVERIFY(w.console().startsWith("Compiling yaml to gme...\ndone."));
+        QTRY_VERIFY(w.console().contains("assembled"));
+        QCOMPARE(programs.log("tttool"), "assemble " + w.path("900-Zoo.yaml") + "\n");
+        QCOMPARE(programs.log("Text2Speech").count('\n'), 2);
+        QVERIFY(programs.log("Text2Speech").contains("-t Moo\n"));
+        QVERIFY(QFile::exists(w.path("900-audio/say_adam_Moo.ogg")));
+        QVERIFY(!QFile::exists(w.path("900-audio/say_adam_Moo.wav")));
+        QCOMPARE(QDir::currentPath(), directory);
+    }
+
+    void aBuildTakesWhatTheEditorHolds()
+    {
+        StandIns programs;
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        auto& surface = w.get<KVQtHighlightEditCtrl>("codeEditor")->surface();
+        QTest::keyClicks(&surface, "foo");
+        w.click("btBuild");
+        QCOMPARE(w.console(), "!!! Error: Line 1 Failed to parse command: foo\n"
+                              "!!! Error: Line 1 Syntax Error\n"
+                              "Stopped build process.");
+        QVERIFY(!QFile::exists(w.path("900-Zoo.yaml")));
+    }
+
+    void warningsOfTheChecksStandInTheConsoleAndStopNothing()
+    {
+        StandIns programs;
+        WindowFixture w;
+        w.open(projectFile({kCow}, "sub hen\r\nend sub\r\n"), 1);
+        w.click("btBuild");
+        QVERIFY(w.console().startsWith(
+            "!!! Warning: Used OID 'hen' in script, but not in the image\n"
+            "!!! Warning: Used OID 'cow' in image, but not in the script\n"));
+        QVERIFY(QFile::exists(w.path("900-Zoo.yaml")));
+    }
+
+    void inDebugModeThePenSaysLineNumbers()
+    {
+        StandIns programs;
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        QTest::mouseClick(w.get<QCheckBox>("chDebugMode"), Qt::LeftButton, Qt::NoModifier, {8, 8});
+        QVERIFY(w.get<QCheckBox>("chDebugMode")->isChecked());
+        w.click("btBuild");
+        QVERIFY(QString::fromStdString(readFile(w.folder.file("900-Zoo.yaml")))
+                    .contains("P(say_adam_line_2)"));
+    }
+
+    // After a build the messages of the print images go to standard output, until the next build.
+    void afterABuildPrintMessagesLeaveTheConsole()
+    {
+        StandIns programs;
+        WindowFixture w;
+        QVERIFY(mi_printf != printToStandardOutput);
+        w.open(projectFile({kCow}, "foo\r\n"), 1);
+        w.click("btBuild");
+        QVERIFY(mi_printf != printToStandardOutput);
+        w.open(projectFile({kCow}, kScript), 1);
+        w.click("btBuild");
+        QVERIFY(mi_printf == printToStandardOutput);
+    }
+
+    void theSpeechCanBeCancelled()
+    {
+        StandIns programs;
+        programs.add("Text2Speech", "sleep 0.3\n");
+        WindowFixture w;
+        std::string script = "sub cow\r\n";
+        for (int i = 0; i < 20; ++i) {
+            script += "say \"Moo " + std::to_string(i) + "\"\r\n";
+        }
+        w.open(projectFile({kCow}, script + "end sub\r\n"), 1);
+        QTimer cancel;
+        bool cancelled = false;
+        connect(&cancel, &QTimer::timeout, [&] {
+            QProgressDialog* const progress = w.window.findChild<QProgressDialog*>();
+            if (progress != nullptr && progress->isVisible() && !cancelled) {
+                cancelled = true;
+                progress->cancel();
+            }
+        });
+        cancel.start(10);
+        w.click("btBuild");
+        QVERIFY(cancelled);
+    }
+
+    void copyingWithoutAPenSaysNothing()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        w.click("btCopyToPen");
+        QCOMPARE(w.console(), "");
+    }
+
+private:
+    QString directory;
+};
+
+QTEST_MAIN(WindowBuildTest)
+#include "WindowBuildTest.moc"
