@@ -69,8 +69,9 @@ public:
     };
 
     OidProject();
-    OidProject(OidProject&& other);
-    OidProject& operator=(OidProject&& other);
+    // They copy texts and so may throw.
+    OidProject(OidProject&& other);             // NOLINT(performance-noexcept-move-constructor)
+    OidProject& operator=(OidProject&& other);  // NOLINT(performance-noexcept-move-constructor)
 
     // A fresh project takes this one's place, print function included.
     void clear();
@@ -80,7 +81,7 @@ public:
 
     // Reads a project file in place of what is here. False, with a message, when it cannot be
     // opened; what is wrong within the file is reported and skipped.
-    bool open(std::string path);
+    bool open(const std::string& filePath);
     // Writes the file whole or not at all; false, without a message, when that fails.
     bool save(std::string path);
 

@@ -40,8 +40,9 @@ void cutComment(char* line)
 
 }  // namespace
 
-bool OidProject::open(std::string path)
+bool OidProject::open(const std::string& filePath)
 {
+    const std::string path = filePath;  // which clear would empty if it is the project's own
     clear();
     const std::unique_ptr<FILE, int (*)(FILE*)> file(FileSystem::myfopen(path, "rb"), fclose);
     if (file == nullptr) {

@@ -4,8 +4,7 @@
 #include "base/TextHelpers.h"
 #include "oid/OidProject.h"
 
-// Writes the format of docs/project-file.md. Names are written as they are, without any escape, and
-// up to a zero byte.
+// Writes the format of docs/project-file.md. Names are written as they are, without any escape.
 namespace Oid {
 
 namespace {
@@ -17,7 +16,7 @@ void write(FILE* file, const std::string& text)
 
 std::string productLine(const OidProject& project)
 {
-    return "PRODUCT " + itostr(project.productId) + ", \"" + project.productName.c_str() + "\"\r\n";
+    return "PRODUCT " + itostr(project.productId) + ", \"" + project.productName + "\"\r\n";
 }
 
 std::string pictureHead(const PICTURE& picture)
@@ -32,7 +31,7 @@ std::string pictureHead(const PICTURE& picture)
 
 std::string areaText(const POLY& area, int oid)
 {
-    std::string text = "OID " + itostr(oid) + "\r\nPOLY " + area.name.c_str() + "\r\n";
+    std::string text = "OID " + itostr(oid) + "\r\nPOLY " + area.name + "\r\n";
     for (const PNT& point : area.points) {
         text += "    ";
         text += formatFixed(point.x, 2, 8);
