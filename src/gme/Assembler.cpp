@@ -1,6 +1,5 @@
 #include "gme/Assembler.h"
 
-#include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
 #include "gme/CodesFile.h"
 #include "gme/GameBuilder.h"
@@ -93,7 +92,7 @@ bool Assembly::resolve()
     if (messages.hasErrors()) {
         return false;
     }
-    game = buildGame(description, codes, FileSystem::getDirectoryOfPath(yamlFile), messages);
+    game = buildGame(description, codes, folderOf(yamlFile), messages);
     game.date = withDate ? today() : "19700101";
     return !messages.hasErrors();
 }

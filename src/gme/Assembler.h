@@ -16,7 +16,7 @@ struct AssembleOptions
 
 // Writes the game file and brings the codes file beside the YAML file up to date: both, or on an
 // error neither. Every error and warning is one line through print ("Error: 950-Zoo.yaml line 7:
-// ..."). True when the game file was written, also with warnings.
+// ..."); null stands for defaultPrintf(). True when the game file was written, also with warnings.
 bool assemble(const AssembleOptions& options, PrintFunction print);
 
 // The path that an empty gameFile stands for: "900-v1.2.yaml" gives "900-v1.2.gme".

@@ -123,7 +123,7 @@ std::vector<ScriptLine> GameBuilder::readScript(const std::string& name, const S
             checkLine(owner, line, text.line);
             game.registers.noteUseIn(line);
             for (const std::string& audio : line.playList) {
-                game.media.addName(audio);
+                game.media.addName(audio, owner);
             }
         }
     }
@@ -162,7 +162,7 @@ void GameBuilder::addWelcome()
         std::vector<std::string>& list = game.welcome.emplace_back();
         report("welcome", parsePlayList(text.text, list), text.line);
         for (const std::string& audio : list) {
-            game.media.addName(audio);
+            game.media.addName(audio, "welcome");
         }
     }
 }

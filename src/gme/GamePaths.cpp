@@ -32,6 +32,11 @@ std::string codesFileFor(const std::string& yamlFile)
     return (yaml.parent_path() / name).u8string();
 }
 
+std::string folderOf(const std::string& file)
+{
+    return pathOf(file).parent_path().u8string();
+}
+
 bool isSamePath(const std::string& one, const std::string& other)
 {
     std::error_code ignored;  // a path that cannot be resolved is compared as it stands

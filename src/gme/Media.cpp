@@ -27,20 +27,29 @@ std::string listOf(const std::vector<std::string>& names)
 
 }  // namespace
 
+void Media::addName(const std::string& name, const std::string& user)
+{
+    const auto place = names.lower_bound(name);
+    if (place == names.end() || place->first != name) {
+        names.emplace_hint(place, name, Name{0, user});
+    }
+}
+
 void Media::findFiles(const MediaPath& mediaPath, Messages& messages)
 {
-    if (indexes.size() > kMostFiles) {
+    if (names.size() > kMostFiles) {
         messages.error(0, "the game has more than 65536 audio files");
         return;
     }
     uint16_t index = 0;
-    for (auto& [name, place] : indexes) {
-        place = index++;
-        findFile(name, mediaPath, messages);
+    for (auto& [name, place] : names) {
+        place.index = index++;
+        findFile(name, place.user, mediaPath, messages);
     }
 }
 
-void Media::findFile(const std::string& name, const MediaPath& mediaPath, Messages& messages)
+void Media::findFile(const std::string& name, const std::string& user, const MediaPath& mediaPath,
+                     Messages& messages)
 {
     const std::vector<std::string> candidates = mediaPath.candidates(name);
     std::vector<std::string> existing;
@@ -50,11 +59,13 @@ void Media::findFile(const std::string& name, const MediaPath& mediaPath, Messag
         }
     }
     if (existing.empty()) {
-        messages.error(0, "no audio file for " + name + ": there is none of " + listOf(candidates));
+        messages.error(0, "no audio file for " + name + " of " + user + ": there is none of " +
+                              listOf(candidates));
         return;
     }
     if (existing.size() > 1) {
-        messages.error(0, "more than one audio file for " + name + ": " + listOf(existing));
+        messages.error(0, "more than one audio file for " + name + " of " + user + ": " +
+                              listOf(existing));
         return;
     }
     const std::string path = mediaPath.fullPath(existing[0]);

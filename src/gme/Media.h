@@ -20,17 +20,25 @@ struct MediaFile
 class Media
 {
 public:
-    void addName(const std::string& name) { indexes.emplace(name, 0); }
+    // user: who names the file first, "script lion", for messages.
+    void addName(const std::string& name, const std::string& user);
     // Finds the file of every name; reports all that are missing and all that are there twice.
     void findFiles(const MediaPath& mediaPath, Messages& messages);
 
-    uint16_t indexOf(const std::string& name) const { return indexes.at(name); }
+    uint16_t indexOf(const std::string& name) const { return names.at(name).index; }
     const std::vector<MediaFile>& files() const { return found; }
 
 private:
-    void findFile(const std::string& name, const MediaPath& mediaPath, Messages& messages);
+    struct Name
+    {
+        uint16_t index = 0;
+        std::string user;
+    };
 
-    std::map<std::string, uint16_t> indexes;
+    void findFile(const std::string& name, const std::string& user, const MediaPath& mediaPath,
+                  Messages& messages);
+
+    std::map<std::string, Name> names;
     std::vector<MediaFile> found;
 };
 

@@ -64,6 +64,13 @@ TEST(GamePaths, TheCodesFileLiesBesideTheYamlFile)
     EXPECT_EQ(gme::codesFileFor("zoo"), "zoo.codes");
 }
 
+TEST(GamePaths, AFileInTheRootHasTheRootAsItsFolder)
+{
+    EXPECT_EQ(gme::folderOf("/zoo.yaml"), "/");
+    EXPECT_EQ(gme::folderOf("books/zoo.yaml"), "books");
+    EXPECT_EQ(gme::folderOf("zoo.yaml"), "");
+}
+
 TEST(GamePaths, OneFileMayHaveSeveralPaths)
 {
     EXPECT_TRUE(gme::isSamePath("a/../b.yaml", "./b.yaml"));

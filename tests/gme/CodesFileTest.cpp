@@ -222,27 +222,9 @@ TEST(CodesFile, AnUpdateCanBeUndone)
 
 TEST(NamesInTheCodesFile, StandPlainWhereThatIsPossible)
 {
-    for (const std::string name : {"asm1",
-                                   "Löwe",
-                                   "0xG",
-                                   "1_0",
-                                   "a\"b",
-                                   "it's",
-                                   "a#b",
-                                   "a:b",
-                                   "x?",
-                                   "?x",
-                                   "-x",
-                                   ":x",
-                                   "=",
-                                   "a,b",
-                                   "<a>",
-                                   "a[1]",
-                                   "a b",
-                                   ".5",
-                                   "+",
-                                   "\xC2\x85"
-                                   "a"}) {
+    for (const std::string name :
+         {"asm1", "Löwe", "0xG", "1_0", "a\"b", "it's", "a#b", "a:b", "x?", "?x",
+          "-x",   ":x",   "=",   "a,b", "<a>",  "a[1]", "a b", ".5",  "+",  "\xC2\x85z"}) {
         EXPECT_EQ(gme::yamlName(name), name);
     }
 }

@@ -15,10 +15,11 @@ std::string candidatesText(const std::string& path)
     return path + ", " + path + ".wav, " + path + ".ogg, " + path + ".flac and " + path + ".mp3";
 }
 
-std::string missing(const std::string& name, const std::string& path)
+std::string missing(const std::string& name, const std::string& path,
+                    const std::string& user = "script a")
 {
-    return "Error: 900-case.yaml: no audio file for " + name + ": there is none of " +
-           candidatesText(path) + "\n";
+    return "Error: 900-case.yaml: no audio file for " + name + " of " + user +
+           ": there is none of " + candidatesText(path) + "\n";
 }
 
 // The first candidate for the name "x", or nothing when the template is refused.
@@ -83,7 +84,8 @@ TEST(Media, AFileMayLieUnderItsNameOrWithOneOfFourExtensions)
 TEST(Media, AllMissingFilesAreReportedInTheOrderOfTheirNames)
 {
     EXPECT_EQ(assemble(yamlWith("welcome: c\n") + "  b: P(roar) P(b) P(Z) P(b)\n").messages,
-              missing("Z", "Z") + missing("b", "b") + missing("c", "c"));
+              missing("Z", "Z", "script b") + missing("b", "b", "script b") +
+                  missing("c", "c", "welcome"));
 }
 
 TEST(Media, TwoCandidatesAreOneTooMany)
@@ -91,9 +93,10 @@ TEST(Media, TwoCandidatesAreOneTooMany)
     const GameFolder folder;
     folder.add("roar.wav", "RIFF");
     folder.add("roar", "x");
-    EXPECT_EQ(folder.assemble(yamlWithLine("P(roar)")).messages,
-              "Error: 900-case.yaml: more than one audio file for roar: roar, roar.wav and "
-              "roar.ogg\n");
+    EXPECT_EQ(
+        folder.assemble(yamlWithLine("P(roar)")).messages,
+        "Error: 900-case.yaml: more than one audio file for roar of script a: roar, roar.wav and "
+        "roar.ogg\n");
 }
 
 TEST(Media, AFolderIsNoAudioFile)

@@ -125,7 +125,7 @@ std::string expectedRegisters(const YAML::Node& tap)
     }
     std::string text;
     for (const auto& [name, value] : sorted) {
-        text += name + "=" + value + " ";
+        text.append(name).append("=").append(value).append(" ");
     }
     return text;
 }

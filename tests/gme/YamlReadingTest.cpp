@@ -370,7 +370,9 @@ TEST(YamlReading, MillionsOfEntriesAreRefused)
 
 TEST(YamlReading, ABracketThatNeverClosesIsRefusedAtOnce)
 {
-    EXPECT_EQ(read("a: " + std::string(10000000, '[')),
+    std::string brackets = "a: ";
+    brackets.resize(10'000'000, '[');
+    EXPECT_EQ(read(brackets),
               "Error: x.yaml line 1: lists in brackets are not supported, except empty ones: "
               "\"a: " +
                   std::string(77, '[') + "...\"\n");
