@@ -177,7 +177,7 @@ KVString KVString::TakeLine(int& position) const
     const int feed = Find('\n', position);
     const int end = feed < 0 ? length : feed;
     const bool carriageReturn = feed > position && GetAt(feed - 1) == '\r';
-    const KVString line = Mid(position, end - position - (carriageReturn ? 1 : 0));
+    KVString line = Mid(position, end - position - (carriageReturn ? 1 : 0));
     position = feed < 0 ? length : feed + 1;
     return line;
 }
@@ -186,7 +186,7 @@ KVString KVString::GetLine(int number) const
 {
     int position = 0;
     for (int i = 0; i <= number && position < length; ++i) {
-        const KVString line = TakeLine(position);
+        KVString line = TakeLine(position);
         if (i == number) {
             return line;
         }

@@ -29,11 +29,10 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
 
-private slots:
-    // Stores what the user has chosen at once, not only when the editor is left.
-    void onComboItemChanged(int index);
-
 private:
+    // Stores what the user has chosen at once, not only when the editor is left.
+    Q_SLOT void onComboItemChanged(int index);
+
     QStringList items;
     // Set by a click, consumed when the editor is filled: that function is const.
     mutable bool open_popup = false;

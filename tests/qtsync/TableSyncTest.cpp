@@ -1,117 +1,15 @@
-#include "qtsync/TableSync.h"
-
 #include "qtsync/KVQtCheckboxItemDelegate.h"
-#include "qtsync/KVQtComboEnumItemDelegate.h"
-#include "qtsync/KVQtNumEdit.h"
-#include "qtsync/KVQtNumEditItemDelegate.h"
+#include "tests/qtsync/AnimalTable.h"
 
 #include <QComboBox>
-#include <QHeaderView>
-#include <QLineEdit>
-#include <QStandardItemModel>
-#include <QStringListModel>
-#include <QTableWidget>
 #include <QtTest>
 
 namespace {
 
-struct Animal
+QString header(const QTableView& view, int column)
 {
-    KVString name;
-    double speed = 0;
-    int food = 0;
-    int legs = 4;
-    bool tame = false;
-
-    bool operator==(const Animal& other) const
-    {
-        return name == other.name && speed == other.speed && food == other.food &&
-               legs == other.legs && tame == other.tame;
-    }
-};
-
-using Animals = std::vector<Animal>;
-
-enum Column { kName, kSpeed, kFood, kLegs, kTame, kColumns };
-
-void syncAnimal(KVQtSync::TableSync& table, Animal& animal)
-{
-    table.syncS(animal.name, "Name", "What the pen says");
-    table.syncD(animal.speed, "Speed [km/h]");
-    table.syncI(animal.food, "Food", "", {"hay", "grass", "corn"});
-    table.syncI(animal.legs, "Legs");
-    table.syncB(animal.tame, "Tame");
+    return view.model()->headerData(column, Qt::Horizontal).toString();
 }
-
-void fill(QTableView& view, Animals& animals)
-{
-    KVQtSync sync(KVQtSync::ToWidgets);
-    KVQtSync::TableSync table(sync, &view);
-    Animal header;
-    syncAnimal(table, header);
-    for (Animal& animal : animals) {
-        table.nextRow();
-        syncAnimal(table, animal);
-    }
-    table.finish();
-}
-
-// Reads all rows, those too that were added since filling.
-Animals read(QTableView& view, Animals animals)
-{
-    KVQtSync sync(KVQtSync::FromWidgets);
-    KVQtSync::TableSync table(sync, &view);
-    Animal header;
-    syncAnimal(table, header);
-    while (table.nextRow()) {
-        if (animals.size() <= size_t(table.currentRow())) {
-            animals.emplace_back();
-        }
-        syncAnimal(table, animals[size_t(table.currentRow())]);
-    }
-    return animals;
-}
-
-Animals manyAnimals(int count)
-{
-    Animals animals;
-    for (int i = 0; i < count; ++i) {
-        Animal animal;
-        animal.name.Format("animal %d", i);
-        animal.speed = i / 8.0;
-        animal.food = i % 3;
-        animal.legs = i % 5;
-        animal.tame = i % 2 == 1;
-        animals.push_back(animal);
-    }
-    return animals;
-}
-
-QString header(const QTableView& view, int column, int role = Qt::DisplayRole)
-{
-    return view.model()->headerData(column, Qt::Horizontal, role).toString();
-}
-
-// The header that a column gets when its field is named so.
-QString headerFor(const QString& text)
-{
-    QTableWidget view;
-    KVQtSync sync(KVQtSync::ToWidgets);
-    QString field;
-    KVQtSync::TableSync(sync, &view).syncS(field, text);
-    return header(view, 0);
-}
-
-// Both kinds of tables that know header items.
-struct Views
-{
-    QTableWidget widget;
-    QStandardItemModel model;
-    QTableView view;
-
-    Views() { view.setModel(&model); }
-    std::array<QTableView*, 2> both() { return {&widget, &view}; }
-};
 
 void clickOn(QTableView& view, const QModelIndex& cell, QPoint offset = {})
 {
@@ -163,137 +61,6 @@ private slots:
         KVQtSync::DocumentIsModified(false);
         KVQtSync::disconnectChangeEventSlot();
     }
-
-    // --- the header ---
-
-    void theHeaderComesFromTheFields()
-    {
-        Views views;
-        for (QTableView* view : views.both()) {
-            Animals none;
-            fill(*view, none);
-            QCOMPARE(view->model()->columnCount(), int(kColumns));
-            QCOMPARE(header(*view, kName), QString("Name"));
-            QCOMPARE(header(*view, kTame), QString("Tame"));
-        }
-    }
-
-    void aUnitStandsOnALineOfItsOwn()
-    {
-        QCOMPARE(headerFor("Speed [km/h]"), QString("Speed\n[km/h]"));
-        QCOMPARE(headerFor("Speed[km/h]"), QString("Speed\n[km/h]"));
-        QCOMPARE(headerFor(" Top  speed   [ km/h ]"), QString("Top  speed\n[ km/h ]"));
-    }
-
-    void anotherHeaderIsLeftAsItIs()
-    {
-        for (const char* text :
-             {"[x] y", "[km/h]", "Speed", "Speed [km/h] ", "a [b] c", "a]", ""}) {
-            QCOMPARE(headerFor(text), QString(text));
-        }
-    }
-
-    void aTooltipIsSetWhenThereIsOne()
-    {
-        Views views;
-        for (QTableView* view : views.both()) {
-            Animals none;
-            fill(*view, none);
-            QCOMPARE(header(*view, kName, Qt::ToolTipRole), QString("What the pen says"));
-            QVERIFY(!view->model()->headerData(kSpeed, Qt::Horizontal, Qt::ToolTipRole).isValid());
-        }
-    }
-
-    void theHeaderGrowsTheGridToTwoRowsAndItsColumns()
-    {
-        QTableWidget view;
-        KVQtSync sync(KVQtSync::ToWidgets);
-        KVQtSync::TableSync table(sync, &view);
-        QCOMPARE(table.currentRow(), -1);
-        QString text;
-        table.syncS(text, "Name");
-        QCOMPARE(view.rowCount(), 2);
-        QCOMPARE(view.columnCount(), 1);
-        table.syncS(text, "Voice");
-        QCOMPARE(view.columnCount(), 2);
-        QCOMPARE(table.currentColumn(), 2);
-    }
-
-    void readingLeavesTheHeader()
-    {
-        QTableWidget view(1, 1);
-        view.setHorizontalHeaderLabels({"old"});
-        KVQtSync sync(KVQtSync::FromWidgets);
-        KVQtSync::TableSync table(sync, &view);
-        QString text;
-        table.syncS(text, "new");
-        table.syncS(text, "more");
-        QCOMPARE(header(view, 0), QString("old"));
-        QCOMPARE(view.columnCount(), 1);
-        QCOMPARE(view.rowCount(), 1);
-        QCOMPARE(table.currentColumn(), 2);
-    }
-
-    void aModelWithoutHeaderItemsKeepsItsHeader()
-    {
-        QStringListModel model({"cow", "goat"});
-        QTableView view;
-        view.setModel(&model);
-        QString text = "hen";
-        KVQtSync sync(KVQtSync::ToWidgets);
-        KVQtSync::TableSync table(sync, &view);
-        table.syncS(text, "Name");
-        table.nextRow();
-        table.syncS(text, "Name");
-        QCOMPARE(header(view, 0), QString("1"));
-        QCOMPARE(model.stringList(), QStringList({"hen", "goat"}));
-    }
-
-    // --- delegates ---
-
-    void columnsGetTheDelegatesOfTheirTypes()
-    {
-        Views views;
-        for (QTableView* view : views.both()) {
-            Animals animals = manyAnimals(2);
-            fill(*view, animals);
-            QVERIFY(view->itemDelegateForColumn(kName) == nullptr);
-            QVERIFY(qobject_cast<KVQtNumEditItemDelegate*>(view->itemDelegateForColumn(kSpeed)));
-            QVERIFY(view->itemDelegateForColumn(kLegs) == nullptr);
-            QVERIFY(qobject_cast<KVQtCheckboxItemDelegate*>(view->itemDelegateForColumn(kTame)));
-            auto* const food =
-                qobject_cast<KVQtComboEnumItemDelegate*>(view->itemDelegateForColumn(kFood));
-            QVERIFY(food != nullptr);
-            QCOMPARE(food->getItemString(1), QString("grass"));
-        }
-    }
-
-    void aDelegateOfTheKindStays()
-    {
-        QTableWidget view;
-        Animals animals = manyAnimals(2);
-        fill(view, animals);
-        const QList<QAbstractItemDelegate*> before = {view.itemDelegateForColumn(kSpeed),
-                                                      view.itemDelegateForColumn(kFood),
-                                                      view.itemDelegateForColumn(kTame)};
-        fill(view, animals);
-        const QList<QAbstractItemDelegate*> after = {view.itemDelegateForColumn(kSpeed),
-                                                     view.itemDelegateForColumn(kFood),
-                                                     view.itemDelegateForColumn(kTame)};
-        QCOMPARE(after, before);
-    }
-
-    void aDelegateOfAnotherKindIsReplaced()
-    {
-        QTableWidget view(2, kColumns);
-        QStyledItemDelegate other;
-        view.setItemDelegateForColumn(kSpeed, &other);
-        Animals none;
-        fill(view, none);
-        QVERIFY(qobject_cast<KVQtNumEditItemDelegate*>(view.itemDelegateForColumn(kSpeed)));
-    }
-
-    // --- records ---
 
     void everyRecordHasItsRow()
     {
@@ -406,38 +173,6 @@ private slots:
         QVERIFY(view.columnWidth(kName) > before);
         QVERIFY(view.columnWidth(kName) >=
                 view.fontMetrics().horizontalAdvance(QString(animals[0].name)));
-    }
-
-    // --- alignment ---
-
-    void aColumnIsAlignedBelowItsFirstRow()
-    {
-        const int centred = int(Qt::AlignHCenter | Qt::AlignVCenter);
-        const std::map<int, int> expected = {{-1, int(Qt::AlignLeft | Qt::AlignVCenter)},
-                                             {0, centred},
-                                             {1, int(Qt::AlignRight | Qt::AlignVCenter)},
-                                             {2, centred},
-                                             {-2, centred}};
-        for (const auto& [kind, alignment] : expected) {
-            QTableWidget view(3, 2);
-            KVQtSync sync(KVQtSync::ToWidgets);
-            KVQtSync::TableSync table(sync, &view);
-            QString text;
-            table.syncS(text, "Name");
-            table._align_current_coloumn(kind);
-            QVERIFY(view.item(0, 0) == nullptr);
-            QCOMPARE(view.item(0, 1)->textAlignment(), centred);
-            QCOMPARE(view.item(1, 1)->textAlignment(), alignment);
-            QCOMPARE(view.item(2, 1)->textAlignment(), alignment);
-        }
-    }
-
-    void readingAlignsNothing()
-    {
-        QTableWidget view(3, 2);
-        KVQtSync sync(KVQtSync::FromWidgets);
-        KVQtSync::TableSync(sync, &view)._align_current_coloumn(1);
-        QVERIFY(view.item(0, 0) == nullptr);
     }
 
     // --- a thousand records, edited by the user ---

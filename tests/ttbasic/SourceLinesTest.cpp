@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 namespace {
 
 using testing::ElementsAre;
@@ -20,7 +22,8 @@ std::vector<std::string> linesOf(std::string text)
 std::string cut(std::string line, char marker, bool respectQuotes = true)
 {
     CutComment(line.data(), marker, respectQuotes);
-    return line.c_str();
+    line.resize(std::strlen(line.c_str()));
+    return line;
 }
 
 TEST(NextLine, GivesNothingForAnEmptyText)
