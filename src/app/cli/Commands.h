@@ -28,6 +28,8 @@ Command saveCommand();
 Command printCommand();
 Command tileCommand();
 Command assembleCommand();
+Command buildCommand();
+Command copyCommand();
 
 // Reports what is wrong with the command line on standard error and returns kUsageError.
 int usageError(const std::string& message);

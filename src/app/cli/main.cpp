@@ -11,7 +11,7 @@ namespace {
 constexpr char kHeadline[] = "Usage: plinkett-cli COMMAND ARGUMENTS\n"
                              "       plinkett-cli --help | --version\n"
                              "\n"
-                             "Makes game descriptions and print images from project files.\n"
+                             "Makes games for the pen and print images from project files.\n"
                              "\n"
                              "Commands:\n";
 constexpr char kFootline[] =
@@ -20,8 +20,8 @@ constexpr char kFootline[] =
 
 std::vector<Command> commands()
 {
-    return {checkCommand(), yamlCommand(), saveCommand(),
-            printCommand(), tileCommand(), assembleCommand()};
+    return {checkCommand(), yamlCommand(),     saveCommand(),  printCommand(),
+            tileCommand(),  assembleCommand(), buildCommand(), copyCommand()};
 }
 
 // "  check PROJECT [--debug]", its summary, and a line for each option.

@@ -1,0 +1,23 @@
+#include "app/cli/Commands.h"
+#include "build/PenCopy.h"
+#include "build/TerminalRunner.h"
+#include "oid/OidProject.h"
+
+namespace {
+
+int copy(const Arguments& arguments)
+{
+    Oid::OidProject project;
+    if (!project.open(arguments.operands[0])) {
+        return kFailed;
+    }
+    TerminalRunner runner;
+    return copyGmeToPen(project, runner) == PenCopy::done ? kFine : kFailed;
+}
+
+}  // namespace
+
+Command copyCommand()
+{
+    return {"copy", "PROJECT", "Copies the game file onto the pen that is attached.", {}, copy};
+}

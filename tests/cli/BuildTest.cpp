@@ -1,0 +1,226 @@
+#include <filesystem>
+#include <gmock/gmock.h>
+
+#include "base/PlatformProcess.h"
+#include "tests/cli/RunCli.h"
+#include "tests/helpers/FakeProgram.h"
+#include "tests/helpers/Sound.h"
+#include "tests/helpers/TemporaryFolder.h"
+
+namespace fs = std::filesystem;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace {
+
+const std::string kBook = "PRODUCT 17, \"Zoo\"\r\n"
+                          "OID 1234\r\nBOX lion 1.5 2.5 10 10\r\n"
+                          "SCRIPT\r\nsub lion\r\nsay eve \"Roar, \\o/ roar\"\r\nend sub\r\n";
+const std::string kSpeechFolder = PLINKETT_BIN_DIR "/tools/text2speech_win";
+const std::string kAssembling = "Compiling yaml to gme...\ndone.\n";
+
+// A book with two texts (one of them the welcome), and stand-ins for the outside programs that
+// stand before the real ones on PATH.
+class Build : public testing::Test
+{
+protected:
+    Build()
+    {
+        writeFile(folder.file("book.oidpro"), kBook);
+        tttool.plan("print assembled\n");
+        speech.plan("write 9 speech\n");
+        sound.plan("write -1 sound\n");
+    }
+
+    std::string build(const std::vector<std::string>& options = {}) const
+    {
+        std::vector<std::string> words = {"build", folder.file("book.oidpro")};
+        words.insert(words.end(), options.begin(), options.end());
+        return resultOf(cli(words, {"TIPTOITOOL=", "PATH=" + tools.path() + ":" + kSpeechFolder}));
+    }
+
+    TemporaryFolder folder;
+    TemporaryFolder tools;
+    FakeProgram tttool{tools.path(), "tttool"};
+    FakeProgram speech{tools.path(), "Text2Speech.exe"};
+    FakeProgram sound{tools.path(), "ffmpeg.exe"};
+};
+
+}  // namespace
+
+TEST_F(Build, PrintsWhatTheConsoleWouldShow)
+{
+    EXPECT_EQ(build(), "status 0\n" + kAssembling + "assembled\n");
+    EXPECT_EQ(folder.listing(), "17-Zoo.yaml 17-audio book.oidpro");
+}
+
+TEST_F(Build, EveryProgramGetsItsArgumentsAsTheyStand)
+{
+    build();
+    const std::string audio = folder.path() + "/17-audio/";
+    EXPECT_EQ(speech.calls(), "-q\n-v\nen\n-a\n30\n-g\nm\n-f\n" + audio +
+                                  "_welcome_message_text.wav\n-t\nZoo. Start.\n\n"
+                                  "-q\n-v\nen\n-a\n30\n-g\nf\n-f\n" +
+                                  audio + "say_eve_Roar___o__roar.wav\n-t\nRoar, \\o/ roar\n\n");
+    EXPECT_THAT(sound.calls(), StartsWith("-hide_banner\n-loglevel\nerror\n-i\n" + audio +
+                                          "_welcome_message_text.wav\n-ar\n22050\n-ac\n1\n" +
+                                          audio + "_welcome_message_text.ogg\n\n"));
+    EXPECT_EQ(tttool.calls(), "assemble\n" + folder.file("17-Zoo.yaml") + "\n\n");
+}
+
+TEST_F(Build, ASecondBuildSpeaksNothing)
+{
+    build();
+    EXPECT_EQ(build(), "status 0\n" + kAssembling + "assembled\n");
+    EXPECT_EQ(speech.callCount(), 2);
+    EXPECT_EQ(sound.callCount(), 2);
+}
+
+TEST_F(Build, WaitsForTheAssemblerAndFailsWithIt)
+{
+    tttool.plan("print out\nexit 1\n");
+    EXPECT_EQ(build(), "status 1\n" + kAssembling + "out\n");
+}
+
+TEST_F(Build, AnAssemblerThatCrashesIsReported)
+{
+    tttool.plan("crash\n");
+    EXPECT_EQ(build(), "status 1\n" + kAssembling + "ERROR: Program Crash\n");
+}
+
+TEST_F(Build, AnAssemblerThatIsNotThereIsReported)
+{
+    fs::remove(tttool.path());
+    const ProgramRun run =
+        cli({"build", folder.file("book.oidpro")},
+            {"TIPTOITOOL=/nowhere", "PATH=" + tools.path() + ":" + kSpeechFolder});
+    EXPECT_EQ(resultOf(run), "status 1\n"
+                             "Compiling yaml to gme...\n"
+                             "ERROR: File not Found\n"
+                             "Execution of tttool failed\n");
+}
+
+TEST_F(Build, TttoolIsFoundWhereTheVariableTells)
+{
+    const TemporaryFolder elsewhere;
+    const FakeProgram tool(elsewhere.path(), "tttool", "print elsewhere\n");
+    fs::remove(tttool.path());
+    const ProgramRun run =
+        cli({"build", folder.file("book.oidpro")},
+            {"TIPTOITOOL=" + elsewhere.path(), "PATH=" + tools.path() + ":" + kSpeechFolder});
+    EXPECT_EQ(resultOf(run), "status 0\n" + kAssembling + "elsewhere\n");
+}
+
+TEST_F(Build, AScriptErrorStopsIt)
+{
+    writeFile(folder.file("book.oidpro"), kBook + "foo\r\n");
+    EXPECT_THAT(build(), AllOf(StartsWith("status 1\n"), EndsWith("Stopped build process.\n")));
+    EXPECT_EQ(tttool.callCount(), 0);
+    EXPECT_EQ(folder.listing(), "book.oidpro");
+}
+
+TEST_F(Build, AProjectThatCannotBeOpenedIsNamed)
+{
+    EXPECT_EQ(resultOf(cli({"build", folder.file("none.oidpro")})),
+              "status 1\nError: Can't open file '" + folder.file("none.oidpro") + "'\n");
+}
+
+TEST_F(Build, ATextWithoutAudioFails)
+{
+    speech.plan("error out of breath\nexit 1\n");
+    sound.plan("error no such file\nexit 1\n");
+    const std::string complaints = "out of breath\nno such file\n";
+    EXPECT_EQ(build(), "status 1\n" + complaints +
+                           "Error: The text 'Zoo. Start.' has no audio file\n" + complaints +
+                           "Error: The text 'Roar, \\o/ roar' has no audio file\n" + kAssembling +
+                           "assembled\n");
+}
+
+TEST_F(Build, MissingSpeechProgramsAreReportedForEveryText)
+{
+    fs::remove(speech.path());
+    fs::remove(sound.path());
+    const ProgramRun run =
+        cli({"build", folder.file("book.oidpro")},
+            {"TIPTOITOOL=" + tools.path(), "PATH=" + tools.path() + ":/nowhere"});
+    // Our own Text2Speech is there, but no espeak-ng.
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(run.out, StartsWith("Text2Speech: espeak-ng is not installed (it is not on PATH)\n"
+                                    "ERROR: File not Found\n"
+                                    "Error: The text 'Zoo. Start.' has no audio file\n"));
+}
+
+TEST_F(Build, InDebugModeMoreTextsAreSpoken)
+{
+    build({"--debug"});
+    EXPECT_GT(speech.callCount(), 2);
+}
+
+TEST_F(Build, ARelativeProjectPathWorks)
+{
+    const ProgramRun run =
+        cli({"build", fs::path(folder.path()).filename().string() + "/book.oidpro"},
+            {"TIPTOITOOL=", "PATH=" + tools.path() + ":" + kSpeechFolder},
+            fs::path(folder.path()).parent_path().string());
+    EXPECT_EQ(resultOf(run), "status 0\n" + kAssembling + "assembled\n");
+    EXPECT_EQ(folder.listing(), "17-Zoo.yaml 17-audio book.oidpro");
+}
+
+TEST_F(Build, LettersBeyondAsciiReachTheProgramsInAnyLocale)
+{
+    const std::string zoo = folder.file("Zoo für Löwen");
+    fs::create_directory(zoo);
+    writeFile(zoo + "/book.oidpro", "PRODUCT 17, \"Löwen\"\r\nSCRIPT\r\nsub a\r\nend sub\r\n");
+    for (const std::string locale : {"C", "C.UTF-8"}) {
+        fs::remove_all(zoo + "/17-audio");
+        cli({"build", zoo + "/book.oidpro"},
+            {"LC_ALL=" + locale, "TIPTOITOOL=", "PATH=" + tools.path() + ":" + kSpeechFolder});
+        EXPECT_THAT(speech.calls(), EndsWith("-f\n" + zoo +
+                                             "/17-audio/_welcome_message_text.wav\n"
+                                             "-t\nLöwen. Start.\n\n"))
+            << locale;
+        EXPECT_THAT(tttool.calls(), EndsWith("assemble\n" + zoo + "/17-Löwen.yaml\n\n")) << locale;
+    }
+}
+
+TEST_F(Build, OnATerminalNewTextsAreCounted)
+{
+    const std::string command =
+        PLINKETT_BIN_DIR "/plinkett-cli build " + folder.file("book.oidpro");
+    const ProgramRun run = runProgram(
+        "/usr/bin/script", {"-qec", command, "/dev/null"},
+        {"TIPTOITOOL=", "PATH=" + tools.path() + ":" + kSpeechFolder + ":/usr/bin:/bin"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "1/2\r2/2\r   \rCompiling yaml to gme...\r\ndone.\r\nassembled\r\n");
+}
+
+TEST(BuildWithRealPrograms, MakesSpeechAndAGameOnAMachineWithoutTttool)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("book.oidpro"), kBook);
+    const ProgramRun run =
+        cli({"build", folder.file("book.oidpro")}, {"TIPTOITOOL=", "PATH=/usr/bin:/bin"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.out, AllOf(StartsWith("If you set the environment variable 'TIPTOITOOL'"),
+                               EndsWith("-Set the environment variable TIPTOITOOL to this "
+                                        "directory.\n" +
+                                        kAssembling)));
+    EXPECT_EQ(folder.listing(), "17-Zoo.codes.yaml 17-Zoo.gme 17-Zoo.yaml 17-audio book.oidpro");
+}
+
+TEST(BuildWithRealPrograms, TheAudioHasOneChannelAt22050HzAndSoundInIt)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("book.oidpro"), kBook);
+    cli({"build", folder.file("book.oidpro")}, {"TIPTOITOOL=", "PATH=/usr/bin:/bin"});
+    for (const std::string name : {"_welcome_message_text", "say_eve_Roar___o__roar"}) {
+        const std::string wav = folder.file(name + ".wav");
+        runProgram("/usr/bin/ffmpeg", {"-i", folder.file("17-audio/" + name + ".ogg"), wav});
+        const Sound sound = readSound(wav);
+        EXPECT_EQ(sound.channels, 1);
+        EXPECT_EQ(sound.rate, 22050);
+        EXPECT_GT(sound.seconds(), 0.5);
+        EXPECT_GT(sound.loudness(), 0.02);
+    }
+}
