@@ -90,7 +90,8 @@ std::string findProgram(const std::string& name)
     }
     std::istringstream folders(searchPath());
     for (std::string folder; std::getline(folders, folder, searchPathSeparator);) {
-        const std::string candidate = folder + "/" + native;
+        std::string candidate = folder;
+        candidate += "/" + native;
         if (!folder.empty() && !native.empty() && isExecutableFile(candidate)) {
             return candidate;
         }

@@ -42,9 +42,11 @@ void putToolsOnPath()
 std::vector<NewText> newTexts(const Oid::OidProject& project, const std::string& folder)
 {
     std::vector<NewText> texts;
+    const std::string start = folder + FileSystem::directorySeparator;
     for (const auto& [audioName, said] : project.compiler.talkTexts) {
-        if (!FileSystem::doesFileExist(folder + FileSystem::directorySeparator + audioName +
-                                       kSound)) {
+        std::string file = start;
+        file += audioName + kSound;
+        if (!FileSystem::doesFileExist(file)) {
             texts.push_back({audioName, said});
         }
     }

@@ -15,7 +15,7 @@ constexpr int kHeaderSize = 44;  // bytes of the header that espeak-ng writes
 std::string findVoice(const std::string& language, std::string& voice)
 {
     Languages languages;
-    const std::string problem = findLanguages(languages);
+    std::string problem = findLanguages(languages);
     if (!problem.empty()) {
         return problem;
     }

@@ -172,14 +172,11 @@ void KVQtStdoutWidget::appendEcho(const QString& text)
 // once, so that text appears while the GUI thread waits for a program.
 void KVQtStdoutWidget::flush()
 {
-    QTextCursor cursor = textCursor();
-    const bool follow = cursor.atEnd();
+    const QTextCursor cursor = textCursor();  // one at the end moves with the text
     appendPlainText(m_pending);
     m_pending.clear();
     forgetOldText();
-    if (follow) {
-        cursor.movePosition(QTextCursor::End);
-        setTextCursor(cursor);
+    if (cursor.atEnd()) {
         ensureCursorVisible();
     }
     repaint();
