@@ -4,20 +4,14 @@
 
 #include "base/PlatformFiles.h"
 #include "build/Assembling.h"
+#include "build/CompileProject.h"
 #include "build/ProcessRunner.h"
 #include "build/WorkingFolder.h"
 #include "build/YamlFile.h"
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
-#include "ttbasic/CompileScript.h"
 
 namespace {
-
-bool stopBuild()
-{
-    mi_printf("Stopped build process.\n");
-    return false;
-}
 
 // The build works in the project's folder, where a relative path would no longer lead to it. A
 // project that was never saved has no path and is built in the current folder.
@@ -37,7 +31,7 @@ bool makeFiles(Oid::OidProject& project, ProcessRunner& runner, const BuildOptio
     }
     const SpeechOutcome speech = createSoundFiles(project, runner, options.speechProgress);
     if (speech == SpeechOutcome::cancelled) {
-        return stopBuild();
+        return stopBuild(mi_printf);
     }
     return startAssembler(project, options.assembler, runner) && speech == SpeechOutcome::complete;
 }
@@ -55,9 +49,8 @@ bool buildGame(Oid::OidProject& project, bool debugMode, ProcessRunner& runner,
     const PrintFunction print = runner.printFunction();
     project.redirectPrintf(print);
     mi_printf = print;
-    project.updateUsedOIDs();
-    if (!compileScript(project.compiler, debugMode) || !project.checkSanity()) {
-        return stopBuild();  // Intended: mi_printf goes on printing to the runner.
+    if (!compileProject(project, debugMode)) {
+        return false;  // Intended: mi_printf goes on printing to the runner.
     }
     const bool complete = makeFiles(project, runner, options);
     mi_printf = printToStandardOutput;

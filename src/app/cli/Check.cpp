@@ -1,12 +1,14 @@
 #include "app/cli/Commands.h"
-#include "app/cli/CompiledProject.h"
+#include "build/CompileProject.h"
+#include "oid/OidProject.h"
 
 namespace {
 
 int check(const Arguments& arguments)
 {
     Oid::OidProject project;
-    const bool compiled = openCompiled(project, arguments.operands[0], arguments.has("--debug"));
+    const bool compiled =
+        project.open(arguments.operands[0]) && compileProject(project, arguments.has("--debug"));
     return compiled ? kFine : kFailed;
 }
 

@@ -1,13 +1,15 @@
 #include "app/cli/Commands.h"
-#include "app/cli/CompiledProject.h"
+#include "build/CompileProject.h"
 #include "build/YamlFile.h"
+#include "oid/OidProject.h"
 
 namespace {
 
 int yaml(const Arguments& arguments)
 {
     Oid::OidProject project;
-    if (!openCompiled(project, arguments.operands[0], arguments.has("--debug"))) {
+    if (!project.open(arguments.operands[0]) ||
+        !compileProject(project, arguments.has("--debug"))) {
         return kFailed;
     }
     const bool written =
