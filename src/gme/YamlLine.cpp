@@ -32,7 +32,7 @@ public:
 private:
     bool readIndicators();
     bool readColonWithoutKey();
-    void readText();
+    bool readText();
     void readQuoted(char quote);
     bool readEscape();
     void readEmptyBrackets();
@@ -49,6 +49,7 @@ private:
     std::string_view line;
     size_t openKeyColumn;
     size_t at = 0;
+    bool isBehindDash = false;  // the text that comes next
     YamlLine result;
 };
 
@@ -65,8 +66,11 @@ YamlLine LineReader::read()
     }
     while (result.refusal.empty() && readIndicators() && !atEnd()) {
         const size_t begin = at;
-        readText();
+        const bool isPlain = readText();
         skipBlanks();
+        if (result.refusal.empty() && atEnd() && isPlain && isBehindDash) {
+            result.entryColumn = begin;
+        }
         if (!result.refusal.empty() || atEnd() || !readColon(begin)) {
             break;
         }
@@ -83,6 +87,7 @@ YamlLine LineReader::read()
 bool LineReader::readIndicators()
 {
     skipBlanks();
+    isBehindDash = false;
     while (!atEnd()) {
         const bool isFirst = line.find_first_not_of(' ') == at;
         if (isIndicator('?') && isFirst) {
@@ -95,6 +100,7 @@ bool LineReader::readIndicators()
         } else if (!isIndicator('-')) {
             return true;
         }
+        isBehindDash = line[at] == '-';
         ++at;
         skipBlanks();
     }
@@ -104,7 +110,8 @@ bool LineReader::readIndicators()
     return true;
 }
 
-void LineReader::readText()
+// True for a plain text.
+bool LineReader::readText()
 {
     constexpr std::string_view kNeverFirst = ",]}&*!|>%@`";
     const char first = line[at];
@@ -118,7 +125,9 @@ void LineReader::readText()
                std::string(1, first));
     } else {
         readPlain();
+        return true;
     }
+    return false;
 }
 
 void LineReader::readQuoted(char quote)

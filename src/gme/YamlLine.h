@@ -16,6 +16,7 @@ struct YamlLine
     size_t keyLength = 0;              // in bytes
     size_t colon = 0;                  // behind that key
     size_t explicitKeyColumn = kNone;  // of a "?"
+    size_t entryColumn = kNone;        // of a plain text that is all of a list entry
     // Places behind a backslash where the escapes N and _ stand; the parser takes them wrongly.
     std::vector<size_t> misreadEscapes;
     std::string refusal;  // why the line is not supported; empty when it is

@@ -14,13 +14,7 @@ std::string parserMessage(const YAML::Exception& problem, const PreparedYaml& ya
     if (problem.mark.is_null()) {
         return "not valid YAML (" + problem.msg + ")";
     }
-    std::istringstream lines(yaml.text);
-    std::string line;
-    for (int i = 0; i <= problem.mark.line; ++i) {
-        std::getline(lines, line);
-    }
-    line.erase(0, line.find_first_not_of(' '));
-    return "not valid YAML (" + problem.msg + "): " + quoted(line);
+    return "not valid YAML (" + problem.msg + "): " + quoted(yaml.fileText(problem.mark.line + 1));
 }
 
 int fileLineOf(const YAML::Mark& mark, const PreparedYaml& yaml)

@@ -46,9 +46,10 @@ void YamlTreeBuilder::OnScalar(const YAML::Mark& mark, const std::string& tag,
 {
     const bool isPlain = tag == "?";
     YamlNode node = nodeAt(mark, isPlain ? YamlNode::Kind::Plain : YamlNode::Kind::Quoted);
-    node.text = value;
+    const auto entry = yaml.entries.find(mark.line + 1);
+    node.text = entry == yaml.entries.end() ? value : entry->second;
     if (isPlain && !standsAt(mark, value)) {
-        throw RefusedYaml(mark, "a text over several lines is not supported: " + quoted(value));
+        throw RefusedYaml(mark, "a text over several lines is not supported: " + quoted(node.text));
     }
     add(mark, std::move(node));
 }

@@ -297,6 +297,25 @@ TEST(YamlReading, OnlyTextsCanBeNames)
     EXPECT_EQ(read("[]: a\n"), refused);
 }
 
+TEST(YamlReading, LongEntriesOfListsAreReadLikeShortOnes)
+{
+    const std::string longKey(1010, 'k');
+    EXPECT_EQ(read(longKey + ":\n"
+                             "  - ten letters and more # cut\n"
+                             "  - - within a list within\n"
+                             "  - short\n"),
+              "{" + longKey + "@1:[<ten letters and more> [<within a list within>] <short>]}");
+    EXPECT_EQ(read("a:\n"
+                   "  - ten letters and more\n"
+                   "    on two lines\n"),
+              "Error: x.yaml line 2: a text over several lines is not supported: \"ten letters and "
+              "more\"\n");
+    EXPECT_EQ(read("a: 1\n"
+                   "- ten letters and more\n"),
+              "Error: x.yaml line 2: not valid YAML (end of map not found): \"- ten letters and "
+              "more\"\n");
+}
+
 TEST(YamlReading, KeysOfOneMappingShareAColumn)
 {
     EXPECT_EQ(read("a:\n"
