@@ -2,42 +2,22 @@
 
 #include <algorithm>
 
-// The points grow with x, rounded as they are, so those left of the limit come first: guess their
-// number and correct the guess with the very comparison.
-int pointsLeftOf(double limit, double p, int count)
-{
-    if (!(limit > 0)) {
-        return 0;
-    }
-    if (limit > (count - 1) * p) {
-        return count;
-    }
-    int guess = std::min(static_cast<int>(limit / p), count);
-    while (guess < count && limit > guess * p) {
-        ++guess;
-    }
-    while (guess > 0 && !(limit > (guess - 1) * p)) {
-        --guess;
-    }
-    return guess;
-}
-
 AreaRows::AreaRows(const std::vector<Oid::POLY>& polygons, double percentPerPixel, int width,
                    int height)
-    : percent(percentPerPixel), pageWidth(width)
+    : columns(percentPerPixel, width), lines(percentPerPixel, height)
 {
     for (std::size_t i = 0; i < polygons.size(); ++i) {
-        addArea(static_cast<int>(i), polygons[i].points, height);
+        addArea(static_cast<int>(i), polygons[i].points);
     }
 }
 
-void AreaRows::addArea(int index, const std::vector<Oid::PNT>& ring, int height)
+void AreaRows::addArea(int index, const std::vector<Oid::PNT>& ring)
 {
-    Area area{index, edges.size(), edges.size(), height, 0};
+    Area area{index, edges.size(), edges.size(), lines.size(), 0};
     for (std::size_t i = 0, j = ring.size() - 1; i < ring.size(); j = i++) {
         // A row crosses an edge when one end is above it (y > y·p) and the other is not.
-        const int rowsAbove = pointsLeftOf(ring[i].y, percent, height);
-        const int rowsAbovePrevious = pointsLeftOf(ring[j].y, percent, height);
+        const int rowsAbove = lines.countBelow(ring[i].y);
+        const int rowsAbovePrevious = lines.countBelow(ring[j].y);
         const auto [firstRow, endRow] = std::minmax({rowsAbove, rowsAbovePrevious});
         if (firstRow == endRow) {
             continue;
@@ -76,7 +56,7 @@ void AreaRows::Band::enter(int first, int end)
 const std::vector<AreaSpan>& AreaRows::Band::spansOf(int y)
 {
     spans.clear();
-    gaps.assign(1, {0, rows.pageWidth});
+    gaps.assign(1, {0, rows.columns.size()});
     for (const Area& area : areas) {
         if (y < area.firstRow || y >= area.endRow || gaps.empty()) {
             continue;
@@ -98,15 +78,21 @@ const std::vector<AreaSpan>& AreaRows::Band::spansOf(int y)
 void AreaRows::Band::findCrossings(const Area& area, int y)
 {
     crossings.clear();
-    const double height = y * rows.percent;
+    const double height = rows.lines[y];
     for (std::size_t i = area.firstEdge; i < area.endEdge; ++i) {
         const Edge& edge = edges[i];
         if (y >= edge.firstRow && y < edge.endRow) {
             const double x = crossingX(edge.vertex, edge.previous, height);
-            crossings.push_back(pointsLeftOf(x, rows.percent, rows.pageWidth));
+            crossings.push_back(rows.columns.countBelow(x));
         }
     }
-    std::sort(crossings.begin(), crossings.end());
+    if (crossings.size() == 2) {  // nearly always
+        if (crossings[0] > crossings[1]) {
+            std::swap(crossings[0], crossings[1]);
+        }
+    } else {
+        std::sort(crossings.begin(), crossings.end());
+    }
 }
 
 // Gives the area what is still free between from and to: areas come in list order, and the first
@@ -116,19 +102,24 @@ void AreaRows::Band::take(int from, int to, int area)
     if (from == to) {
         return;
     }
-    const auto first = std::partition_point(gaps.begin(), gaps.end(),
-                                            [&](const Gap& gap) { return gap.to <= from; });
-    Gap rest[2];  // of the first and of the last gap that is hit
-    int restCount = 0;
-    auto end = first;
-    for (; end != gaps.end() && end->from < to; ++end) {
-        spans.push_back({std::max(from, end->from), std::min(to, end->to), area});
-        if (end->from < from) {
-            rest[restCount++] = {end->from, from};
-        }
-        if (end->to > to) {
-            rest[restCount++] = {to, end->to};
+    auto gap = std::partition_point(gaps.begin(), gaps.end(),
+                                    [&](const Gap& item) { return item.to <= from; });
+    if (gap == gaps.end()) {
+        return;
+    }
+    if (gap->from < from) {
+        // What is left of the area becomes a gap of its own.
+        const Gap leftPart{gap->from, from};
+        gap->from = from;
+        gap = gaps.insert(gap, leftPart) + 1;
+    }
+    const auto first = gap;
+    for (; gap != gaps.end() && gap->from < to; ++gap) {
+        spans.push_back({gap->from, std::min(to, gap->to), area});
+        if (gap->to > to) {
+            gap->from = to;
+            break;
         }
     }
-    gaps.insert(gaps.erase(first, end), rest, rest + restCount);
+    gaps.erase(first, gap);
 }

@@ -1,9 +1,46 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <vector>
 
 #include "oid/OidProject.h"
+
+// The points 0, p, 2p, ... that the pixels of a row, or of a column, stand for.
+class PixelPoints
+{
+public:
+    PixelPoints(double step, int pixels) : p(step), perStep(1 / step), count(pixels) {}
+
+    double operator[](int pixel) const { return pixel * p; }
+    int size() const { return count; }
+
+    // How many points are less than the limit; none when it is no number. The points grow from
+    // pixel to pixel, rounded as they are, so these come first: their number is guessed, and
+    // corrected with the very comparison.
+    int countBelow(double limit) const
+    {
+        if (!(limit > 0)) {
+            return 0;
+        }
+        if (limit > (*this)[count - 1]) {
+            return count;
+        }
+        int guess = std::min(static_cast<int>(limit * perStep) + 1, count);
+        while (guess < count && limit > (*this)[guess]) {
+            ++guess;
+        }
+        while (guess > 0 && !(limit > (*this)[guess - 1])) {
+            --guess;
+        }
+        return guess;
+    }
+
+private:
+    double p;
+    double perStep;
+    int count;
+};
 
 // Where the areas of a page lie on its rows of pixels. Pixel (x, y) stands for the point (x·p,
 // y·p), p being the percent per pixel, and belongs to the first area of which isPntInPoly holds.
@@ -34,10 +71,10 @@ private:
         int endRow;
     };
 
-    void addArea(int index, const std::vector<Oid::PNT>& ring, int height);
+    void addArea(int index, const std::vector<Oid::PNT>& ring);
 
-    double percent;
-    int pageWidth;
+    PixelPoints columns;
+    PixelPoints lines;  // the points of the rows
     std::vector<Edge> edges;
     std::vector<Area> areas;  // those that cross any row, in list order
 };
@@ -80,7 +117,3 @@ private:
     std::vector<Gap> gaps;  // what no area has taken yet, from left to right
     std::vector<AreaSpan> spans;
 };
-
-// How many of the points 0, p, 2p, ... (count of them) lie left of a limit: x·p < limit. No limit
-// (NaN) has none on its left.
-int pointsLeftOf(double limit, double p, int count);

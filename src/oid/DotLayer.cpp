@@ -1,40 +1,50 @@
 #include "oid/DotLayer.h"
 
-#include <algorithm>
+namespace {
+
+std::vector<const oidPixels*> tilesOf(const std::vector<Oid::POLY>& areas, const oidPixels& fill)
+{
+    std::vector<const oidPixels*> tiles;
+    tiles.reserve(areas.size() + 1);
+    for (const Oid::POLY& area : areas) {
+        tiles.push_back(&area.tile);
+    }
+    tiles.push_back(&fill);
+    return tiles;
+}
+
+}  // namespace
 
 DotLayer::DotLayer(const std::vector<Oid::POLY>& areas, const oidPixels& fill,
                    const PageGeometry& page, double percentPerPixel)
-    : pageWidth(page.width), areaRows(areas, percentPerPixel, page.width, page.height)
-{
-    patterns.reserve(areas.size() + 1);
-    for (const Oid::POLY& area : areas) {
-        patterns.emplace_back(area.tile);
-    }
-    patterns.emplace_back(fill);
-    for (int y = 0; y < fill.height; ++y) {
-        rowHasDots.push_back(std::any_of(patterns.begin(), patterns.end(),
-                                         [y](const auto& pattern) { return pattern.hasDots(y); }));
-    }
-}
-
-// All tiles of a page have one size.
-bool DotLayer::hasDots(int y) const
-{
-    return !rowHasDots.empty() && rowHasDots[static_cast<std::size_t>(y) % rowHasDots.size()];
-}
+    : pageWidth(page.width),
+      areaRows(areas, percentPerPixel, page.width, page.height),
+      patterns(tilesOf(areas, fill)),
+      fillPattern(areas.size())
+{}
 
 void DotLayer::Printer::print(QRgb* rows, int firstRow, int rowCount)
 {
     band.enter(firstRow, firstRow + rowCount);
     for (int y = firstRow; y < firstRow + rowCount; ++y, rows += layer.pageWidth) {
-        if (!layer.hasDots(y)) {
+        const int tileRow = layer.patterns.tileRowAt(y);
+        if (!layer.patterns.hasDots(tileRow)) {
             continue;
         }
-        for (const AreaSpan& span : band.spansOf(y)) {
-            const auto pattern = span.area == AreaSpan::kNoArea
-                                     ? layer.patterns.size() - 1
-                                     : static_cast<std::size_t>(span.area);
-            layer.patterns[pattern].print(rows, y, span.from, span.to);
+        if (layer.patterns.allAgree(tileRow)) {
+            layer.patterns.print(rows, tileRow, layer.fillPattern, 0, layer.pageWidth);
+        } else {
+            printAreas(rows, y, tileRow);
         }
+    }
+}
+
+void DotLayer::Printer::printAreas(QRgb* row, int y, int tileRow)
+{
+    for (const AreaSpan& span : band.spansOf(y)) {
+        const std::size_t pattern = span.area == AreaSpan::kNoArea
+                                        ? layer.fillPattern
+                                        : static_cast<std::size_t>(span.area);
+        layer.patterns.print(row, tileRow, pattern, span.from, span.to);
     }
 }

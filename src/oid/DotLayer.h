@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "oid/AreaRows.h"
-#include "oid/DotPattern.h"
+#include "oid/DotPatterns.h"
 #include "oid/PageGeometry.h"
 
 // The dots of a whole page: the pattern of the first area that contains a pixel, and the fill
@@ -13,20 +13,17 @@
 class DotLayer
 {
 public:
-    // The tiles of the areas have been drawn. Neither they nor the areas may change while the layer
-    // prints, but they need not outlive its making.
+    // The tiles of the areas have been drawn. The layer keeps what it needs of areas and tiles.
     DotLayer(const std::vector<Oid::POLY>& areas, const oidPixels& fill, const PageGeometry& page,
              double percentPerPixel);
 
     class Printer;
 
 private:
-    bool hasDots(int y) const;
-
     int pageWidth;
     AreaRows areaRows;
-    std::vector<DotPattern> patterns;  // by area; the fill pattern is the last
-    std::vector<bool> rowHasDots;      // by row of the tile, in any pattern
+    DotPatterns patterns;  // of the areas, and the fill pattern behind them
+    std::size_t fillPattern;
 };
 
 // Prints the dots onto bands of the page. One for each thread.
@@ -39,6 +36,8 @@ public:
     void print(QRgb* rows, int firstRow, int rowCount);
 
 private:
+    void printAreas(QRgb* row, int y, int tileRow);
+
     const DotLayer& layer;
     AreaRows::Band band;
 };

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "oid/AreaRows.h"
-#include "oid/DotPattern.h"
+#include "oid/DotPatterns.h"
 #include "tests/oid/Builders.h"
 
 namespace {
@@ -40,10 +40,10 @@ oidPixels tileWith(std::initializer_list<std::pair<int, int>> dots)
     return tile;
 }
 
-std::string printed(const DotPattern& pattern, int y, int from, int to)
+std::string printed(const DotPatterns& patterns, int y, std::size_t tile, int from, int to)
 {
     std::vector<QRgb> row(12, qRgb(255, 255, 255));
-    pattern.print(row.data(), y, from, to);
+    patterns.print(row.data(), patterns.tileRowAt(y), tile, from, to);
     std::string text;
     for (const QRgb pixel : row) {
         text += pixel == qRgb(0, 0, 0) ? '#' : '.';
@@ -53,25 +53,27 @@ std::string printed(const DotPattern& pattern, int y, int from, int to)
 
 }  // namespace
 
-TEST(PrintAreas, PointsLeftOfALimitAreCountedExactly)
+TEST(PrintAreas, PointsBelowALimitAreCountedExactly)
 {
-    EXPECT_EQ(pointsLeftOf(2.5, 1, 10), 3);
-    EXPECT_EQ(pointsLeftOf(2, 1, 10), 2);
-    EXPECT_EQ(pointsLeftOf(0, 1, 10), 0);
-    EXPECT_EQ(pointsLeftOf(-1, 1, 10), 0);
-    EXPECT_EQ(pointsLeftOf(9, 1, 10), 9);
-    EXPECT_EQ(pointsLeftOf(9.5, 1, 10), 10);
-    EXPECT_EQ(pointsLeftOf(1e300, 1, 10), 10);
-    EXPECT_EQ(pointsLeftOf(std::numeric_limits<double>::infinity(), 1, 10), 10);
-    EXPECT_EQ(pointsLeftOf(std::numeric_limits<double>::quiet_NaN(), 1, 10), 0);
+    const PixelPoints points(1, 10);
+    EXPECT_EQ(points.countBelow(2.5), 3);
+    EXPECT_EQ(points.countBelow(2), 2);
+    EXPECT_EQ(points.countBelow(0), 0);
+    EXPECT_EQ(points.countBelow(-1), 0);
+    EXPECT_EQ(points.countBelow(9), 9);
+    EXPECT_EQ(points.countBelow(9.5), 10);
+    EXPECT_EQ(points.countBelow(1e300), 10);
+    EXPECT_EQ(points.countBelow(std::numeric_limits<double>::infinity()), 10);
+    EXPECT_EQ(points.countBelow(std::numeric_limits<double>::quiet_NaN()), 0);
 }
 
-TEST(PrintAreas, APointOnTheLimitIsNotLeftOfItHoweverItIsRounded)
+TEST(PrintAreas, APointOnTheLimitIsNotBelowItHoweverItIsRounded)
 {
     for (const double p : {100 / 14031.0, 0.1, 1 / 3.0, 100 / 9918.7}) {
+        const PixelPoints points(p, 14031);
         for (int k = 0; k < 14031; ++k) {
-            ASSERT_EQ(pointsLeftOf(k * p, p, 14031), k) << p;
-            ASSERT_EQ(pointsLeftOf(std::nextafter(k * p, 1e9), p, 14031), k + 1) << p;
+            ASSERT_EQ(points.countBelow(k * p), k) << p;
+            ASSERT_EQ(points.countBelow(std::nextafter(k * p, 1e9)), k + 1) << p;
         }
     }
 }
@@ -119,19 +121,40 @@ TEST(PrintAreas, AreasOfFewerThanThreePointsHaveNoInside)
 
 TEST(PrintAreas, DotsAreCutAtBothEndsOfAStretch)
 {
-    const DotPattern pattern(tileWith({{1, 0}, {2, 0}}));
-    EXPECT_EQ(printed(pattern, 0, 0, 12), ".##..##..##.");
-    EXPECT_EQ(printed(pattern, 0, 2, 10), "..#..##..#..");
-    EXPECT_EQ(printed(pattern, 4, 5, 6), ".....#......");
-    EXPECT_EQ(printed(pattern, 0, 3, 3), "............");
+    const oidPixels tile = tileWith({{1, 0}, {2, 0}});
+    const DotPatterns patterns({&tile});
+    EXPECT_EQ(printed(patterns, 0, 0, 0, 12), ".##..##..##.");
+    EXPECT_EQ(printed(patterns, 0, 0, 2, 10), "..#..##..#..");
+    EXPECT_EQ(printed(patterns, 4, 0, 5, 6), ".....#......");
+    EXPECT_EQ(printed(patterns, 0, 0, 3, 3), "............");
 }
 
-TEST(PrintAreas, RowsOfATileWithoutDotsStayEmpty)
+TEST(PrintAreas, EachTileHasItsOwnDots)
 {
-    const DotPattern pattern(tileWith({{1, 0}, {3, 2}}));
-    EXPECT_TRUE(pattern.hasDots(0));
-    EXPECT_FALSE(pattern.hasDots(1));
-    EXPECT_TRUE(pattern.hasDots(6));
-    EXPECT_EQ(printed(pattern, 1, 0, 12), "............");
-    EXPECT_EQ(printed(pattern, 2, 0, 12), "...#...#...#");
+    const oidPixels left = tileWith({{0, 1}});
+    const oidPixels right = tileWith({{3, 1}, {2, 2}});
+    const DotPatterns patterns({&left, &right});
+    EXPECT_EQ(printed(patterns, 1, 0, 0, 12), "#...#...#...");
+    EXPECT_EQ(printed(patterns, 1, 1, 0, 12), "...#...#...#");
+    EXPECT_EQ(printed(patterns, 2, 0, 0, 12), "............");
+    EXPECT_EQ(printed(patterns, 2, 1, 0, 12), "..#...#...#.");
+}
+
+TEST(PrintAreas, RowsWithoutDotsAndRowsOnWhichAllTilesAgreeAreKnown)
+{
+    const oidPixels first = tileWith({{0, 0}, {0, 1}});
+    const oidPixels second = tileWith({{0, 0}, {3, 1}});
+    const DotPatterns patterns({&first, &second});
+    EXPECT_TRUE(patterns.hasDots(0));
+    EXPECT_TRUE(patterns.allAgree(0));
+    EXPECT_TRUE(patterns.hasDots(1));
+    EXPECT_FALSE(patterns.allAgree(1));
+    EXPECT_FALSE(patterns.hasDots(2));
+}
+
+TEST(PrintAreas, TilesWithoutPixelsHaveNoDots)
+{
+    const oidPixels none;
+    const DotPatterns patterns({&none});
+    EXPECT_FALSE(patterns.hasDots(patterns.tileRowAt(7)));
 }
