@@ -9,4 +9,8 @@ namespace Platform {
 // number when the system does not tell.
 std::uint64_t availableMemory();
 
+// Gives memory that has been freed back to the system, as far as the system allows that. For the
+// end of work that needed much of it.
+void releaseFreeMemory();
+
 }  // namespace Platform

@@ -5,6 +5,10 @@
 #include <limits>
 #include <sys/resource.h>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace Platform {
 
 namespace {
@@ -45,6 +49,13 @@ std::uint64_t memoryLimitOfTheProcess()
 std::uint64_t availableMemory()
 {
     return std::min(memoryOfTheMachine(), memoryLimitOfTheProcess());
+}
+
+void releaseFreeMemory()
+{
+#ifdef __GLIBC__
+    malloc_trim(0);  // else pieces between what is still in use would stay for good
+#endif
 }
 
 }  // namespace Platform

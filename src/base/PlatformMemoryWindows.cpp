@@ -16,4 +16,9 @@ std::uint64_t availableMemory()
     return std::min<std::uint64_t>(status.ullAvailPhys, status.ullAvailVirtual);
 }
 
+void releaseFreeMemory()
+{
+    HeapCompact(GetProcessHeap(), 0);
+}
+
 }  // namespace Platform

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "base/FileSystem.h"
+#include "base/PlatformMemory.h"
 #include "oid/PageRenderer.h"
 
 PrintFunction mi_printf = printToStandardOutput;
@@ -73,12 +74,14 @@ bool makeImage(int n, Oid::OidProject& project, const PrintProgress& progress)
         return false;
     }
     mi_printf("Creating pixel image...\n");
+    bool written = false;
     try {
-        return renderPicture(n, project, progress);
+        written = renderPicture(n, project, progress);
     } catch (const std::bad_alloc&) {
         mi_printf("Error: Not enough memory to print the page\n");
-        return false;
     }
+    Platform::releaseFreeMemory();  // so that many pages need no more than one
+    return written;
 }
 
 void prepareBounds(Oid::OidProject& project)
