@@ -68,7 +68,7 @@ PageRenderer::PageRenderer(const PageGeometry& pageGeometry, const PageBackgroun
 {
     // A stretch is long enough that waiting for its last band does not matter, even when another
     // program holds up one of the threads.
-    constexpr int kBandsPerStretch = 32;
+    constexpr int kBandsPerStretch = 64;
     const int threads = std::clamp(omp_get_max_threads(), 1, bandCount);
     for (int i = 0; i < threads; ++i) {
         workers.emplace_back(*this);
@@ -98,21 +98,34 @@ bool PageRenderer::render(TiffWriter& file, const PrintProgress& progress)
     return true;
 }
 
+// Whoever completes a strip also writes those that are due, so that the file grows in order while
+// the other threads go on.
 bool PageRenderer::renderStretch(int firstBand, int count, TiffWriter& file)
 {
-    bool complete = true;
     const int threads = static_cast<int>(workers.size());
-#pragma omp parallel for schedule(dynamic) num_threads(threads) reduction(&& : complete)
+    std::vector<bool> made(strips.size());
+    std::size_t next = 0;
+    bool complete = true;
+    bool written = true;
+#pragma omp parallel for schedule(dynamic) num_threads(threads)
     for (int i = 0; i < count; ++i) {
+        const auto slot = static_cast<std::size_t>(i);
         Worker& worker = workers[static_cast<std::size_t>(omp_get_thread_num())];
-        complete = worker.makeStrip(firstBand + i, strips[static_cast<std::size_t>(i)]) && complete;
+        const bool enoughMemory = worker.makeStrip(firstBand + i, strips[slot]);
+#pragma omp critical(strips)
+        {
+            complete = complete && enoughMemory;
+            made[slot] = true;
+            for (; next < made.size() && made[next]; ++next) {
+                written = written && complete && file.writeStrip(strips[next]);
+            }
+        }
     }
     if (!complete) {
         mi_printf("Error: Not enough memory to print the page\n");
         return false;
     }
-    return std::all_of(strips.begin(), strips.begin() + count,
-                       [&](const Strip& strip) { return file.writeStrip(strip); });
+    return written || file.reportNotWritten();
 }
 
 int PageRenderer::rowsBefore(int band) const

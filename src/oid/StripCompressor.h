@@ -6,8 +6,6 @@
 #include <memory>
 #include <vector>
 
-struct libdeflate_compressor;
-
 // A strip of a TIFF as it stands in the file.
 struct Strip
 {
@@ -22,13 +20,11 @@ class StripCompressor
 {
 public:
     StripCompressor();
-    ~StripCompressor();
-    StripCompressor(StripCompressor&& other) noexcept;
 
     // The strip's memory is used again when it is large enough. False when there is no memory.
     bool compress(const QRgb* rows, int width, int rowCount, Strip& strip);
 
 private:
     std::vector<unsigned char> differences;
-    libdeflate_compressor* deflate;
+    std::vector<unsigned char> tables;  // of the compressor
 };

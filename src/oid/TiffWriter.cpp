@@ -115,8 +115,7 @@ bool TiffWriter::setTags(const PageGeometry& page, int rowsPerStrip)
 bool TiffWriter::writeStrip(const Strip& strip)
 {
     const auto size = static_cast<tmsize_t>(strip.size);
-    return TIFFWriteRawStrip(image, nextStrip++, strip.bytes.get(), size) == size ||
-           reportNotWritten();
+    return TIFFWriteRawStrip(image, nextStrip++, strip.bytes.get(), size) == size;
 }
 
 bool TiffWriter::finish()

@@ -19,13 +19,15 @@ public:
 
     // Starts the file. False, with a message, when it cannot be made.
     bool open(const PageGeometry& page, int rowsPerStrip);
-    // Strips come in order. False, with a message, when the disk is full or broken.
+    // Strips come in order. False, without a message (it may be called on any thread), when the
+    // disk is full or broken.
     bool writeStrip(const Strip& strip);
     bool finish();
+    // Says that the file could not be written. Always false.
+    bool reportNotWritten() const;
 
 private:
     bool setTags(const PageGeometry& page, int rowsPerStrip);
-    bool reportNotWritten() const;
 
     std::string path;
     Platform::FileReplacement file;
