@@ -20,11 +20,13 @@ QRgb mix(QRgb color, QRgb background, unsigned coverage)
                 channel(qBlue(color), qBlue(background)));
 }
 
-void blend(QImage& canvas, int x, int y, const QImage& stencil, QRgb color, QRgb background)
+void blend(QImage& canvas, const QRect& place, const QImage& stencil, QRgb color, QRgb background)
 {
+    const int x = place.x();
+    const int y = place.y();
     const int left = std::max(0, -x);
-    const int right = std::min(stencil.width(), canvas.width() - x);
-    const int bottom = std::min(stencil.height(), canvas.height() - y);
+    const int right = std::min({stencil.width(), place.width(), canvas.width() - x});
+    const int bottom = std::min({stencil.height(), place.height(), canvas.height() - y});
     for (int row = std::max(0, -y); row < bottom; ++row) {
         const uchar* coverage = stencil.constScanLine(row);
         QRgb* pixels = reinterpret_cast<QRgb*>(canvas.scanLine(y + row)) + x;
@@ -50,24 +52,24 @@ void GlyphCache::set_font(const QFont& new_font, QSize cell, qreal ratio)
     pair_stencils.clear();
 }
 
-void GlyphCache::draw(QImage& canvas, int x, int y, char16_t ch, QRgb color, QRgb background)
+void GlyphCache::draw(QImage& canvas, const QRect& place, char16_t ch, QRgb color, QRgb background)
 {
     QImage& stencil = stencils[ch];
     if (stencil.isNull()) {
         stencil = make_stencil(QString(QChar(ch)), 0);
     }
-    blend(canvas, x, y, stencil, color, background);
+    blend(canvas, place, stencil, color, background);
 }
 
-void GlyphCache::draw_pair(QImage& canvas, int x, int y, char16_t high, char16_t low, Half half,
-                           QRgb color, QRgb background)
+void GlyphCache::draw_pair(QImage& canvas, const QRect& place, char16_t high, char16_t low,
+                           Half half, QRgb color, QRgb background)
 {
     QImage& stencil = pair_stencils[QChar::surrogateToUcs4(high, low)][half];
     if (stencil.isNull()) {
         const QString text = QString(QChar(high)) + QChar(low);
         stencil = make_stencil(text, half == right ? -cell_size.width() : 0);
     }
-    blend(canvas, x, y, stencil, color, background);
+    blend(canvas, place, stencil, color, background);
 }
 
 QImage GlyphCache::make_stencil(const QString& text, int shift) const

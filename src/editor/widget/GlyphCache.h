@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QHash>
 #include <QImage>
+#include <QRect>
 
 #include <array>
 #include <vector>
@@ -15,17 +16,17 @@ class GlyphCache
 public:
     enum Half { left = 0, right = 1 };
 
-    // The cell in device pixels, and how many of them make one pixel of the font.
+    // The largest cell in device pixels, and how many of them make one pixel of the font.
     void set_font(const QFont& font, QSize cell, qreal ratio);
     QSize cell() const { return cell_size; }
     qreal ratio() const { return pixel_ratio; }
 
-    // Draws a code unit into the cell whose top left pixel is (x, y) of a 32-bit canvas. What does
-    // not fit into the cell is cut off, and so is what lies outside the canvas.
-    void draw(QImage& canvas, int x, int y, char16_t ch, QRgb color, QRgb background);
+    // Draws a code unit into a cell of a 32-bit canvas. What does not fit into the cell is cut off,
+    // and so is what lies outside the canvas.
+    void draw(QImage& canvas, const QRect& place, char16_t ch, QRgb color, QRgb background);
     // One half of a character that is a surrogate pair and so takes two cells.
-    void draw_pair(QImage& canvas, int x, int y, char16_t high, char16_t low, Half half, QRgb color,
-                   QRgb background);
+    void draw_pair(QImage& canvas, const QRect& place, char16_t high, char16_t low, Half half,
+                   QRgb color, QRgb background);
 
 private:
     QImage make_stencil(const QString& text, int shift) const;

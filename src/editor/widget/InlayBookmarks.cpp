@@ -1,6 +1,8 @@
 // Bookmarks: marked lines and the way from one to the next.
 #include "editor/widget/KVQtHighlightEditCtrlInlay.h"
 
+#include <algorithm>
+
 void KVQtHighlightEditCtrlInlay::ToggleBookmark(int line)
 {
     if (line >= 0 && line < buffer.line_count()) {
@@ -30,7 +32,7 @@ void KVQtHighlightEditCtrlInlay::goto_bookmark(int step)
 {
     const BUFFER& text = buffer;
     const int count = text.line_count();
-    int line = editor.selection.end.line;
+    int line = std::clamp(editor.selection.end.line, 0, count - 1);
     for (int i = 1; i < count; ++i) {
         line = (line + step + count) % count;
         if (text.line(line).bookmark) {

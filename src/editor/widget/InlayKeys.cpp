@@ -37,14 +37,14 @@ void KVQtHighlightEditCtrlInlay::keyPressEvent(QKeyEvent* event)
     }
     if (event->key() == Qt::Key_Backtab) {
         shift_held = true;
-        OnChar(kTab);
+        event->setAccepted(OnChar(kTab));
         return;
     }
-    const std::u16string typed = typed_text(*event);
-    for (const char16_t ch : typed) {
-        OnChar(ch);
+    bool used = false;
+    for (const char16_t ch : typed_text(*event)) {
+        used = OnChar(ch) || used;
     }
-    event->setAccepted(!typed.empty());
+    event->setAccepted(used);  // Control+Tab, for one, is left to the window
 }
 
 void KVQtHighlightEditCtrlInlay::keyReleaseEvent(QKeyEvent* event)
@@ -285,10 +285,11 @@ void KVQtHighlightEditCtrlInlay::change_case(KVTextEditor::CHARACTER_FUNCTION fn
     editor.transform(editor.selection, fn);
 }
 
-void KVQtHighlightEditCtrlInlay::OnChar(char16_t ch)
+// Returns whether the character did something.
+bool KVQtHighlightEditCtrlInlay::OnChar(char16_t ch)
 {
     if ((ch < u' ' && control_held) || ch == kDelete) {
-        return;
+        return false;
     }
     // A run of letters and digits is undone in one step.
     if (ch < u'0' || !editor.can_undo()) {
@@ -309,6 +310,7 @@ void KVQtHighlightEditCtrlInlay::OnChar(char16_t ch)
     }
     EnsureVisible(editor.selection.end);
     UpdateAllViews();
+    return true;
 }
 
 bool KVQtHighlightEditCtrlInlay::is_overwrite_mode() const

@@ -1,9 +1,34 @@
 // The mouse: placing the caret, selecting cells, lines and rectangles, and moving the selection.
 #include "editor/widget/KVQtHighlightEditCtrlInlay.h"
 
+#include <QAbstractScrollArea>
+#include <QCoreApplication>
 #include <QMouseEvent>
+#include <QWheelEvent>
 
 #include <algorithm>
+
+using LINE = KVTextEditor::Line<KVTextEditor::EdChar>;
+
+// Characters, not cells: those that only fill up a tab do not count.
+static int characters_between(const LINE& line, int first, int end)
+{
+    int count = 0;
+    for (int column = first; column < std::min(end, line.length()); ++column) {
+        count += line.is_filler_at(column) ? 0 : 1;
+    }
+    return count;
+}
+
+static int column_behind(const LINE& line, int characters)
+{
+    int column = 0;
+    while (column < line.length() && (characters > 0 || line.is_filler_at(column))) {
+        characters -= line.is_filler_at(column) ? 0 : 1;
+        ++column;
+    }
+    return column;
+}
 
 void KVQtHighlightEditCtrlInlay::mousePressEvent(QMouseEvent* event)
 {
@@ -113,34 +138,52 @@ void KVQtHighlightEditCtrlInlay::drop_selection()
     editor.push_undo_state();
     const BUFFER dropped = editor.get_selected_text();
     const bool block = editor.selection.block;
-    CARET target = drop_position;
-    if (!control_held) {
-        target = drop_position_without(editor.selection.normalized());
-        editor.delete_selected_range();
-    }
+    const CARET target = control_held ? drop_position : remove_selection_before_drop();
     editor.selection.set(target.line, target.column);
     editor.paste(dropped, block);
     EnsureVisible(editor.selection.end);
 }
 
-// Where the drop position lies once the selection is gone.
-KVTextEditor::CARET
-KVQtHighlightEditCtrlInlay::drop_position_without(const SELECTION& removed) const
+// Returns where the drop position lies once the selection is gone.
+KVTextEditor::CARET KVQtHighlightEditCtrlInlay::remove_selection_before_drop()
 {
+    const SELECTION removed = editor.selection.normalized();
+    const BUFFER& text = buffer;
     CARET target = drop_position;
-    if (removed.block) {
-        const bool onItsLines =
-            target.line >= removed.start.line && target.line <= removed.end.line;
-        if (onItsLines && target.column >= removed.end.column) {
-            target.column -= removed.width();
-        }
-    } else if (target.line > removed.end.line) {
+    const int firstLine = removed.block ? removed.start.line : removed.end.line;
+    const bool behindIt = target.line >= firstLine && target.line <= removed.end.line &&
+                          target.column >= removed.end.column;
+    const bool lastLine = removed.end.line >= text.line_count() && removed.start.line > 0;
+    const int characters = characters_before_drop(removed);
+    const int free = std::max(0, target.column - text.line(target.line).length());
+
+    editor.delete_selected_range();
+    if (lastLine) {
+        buffer.erase_lines(removed.start.line, 1);  // its line break has been taken along
+    }
+    if (!removed.block && target.line >= removed.end.line) {
         target.line -= removed.height() - 1;
-    } else if (target.line == removed.end.line && target.column >= removed.end.column) {
-        target.line = removed.start.line;
-        target.column += removed.start.column - removed.end.column;
+    }
+    if (behindIt) {
+        target.column = column_behind(text.line(target.line), characters) + free;
     }
     return target;
+}
+
+// How many characters stand in front of a drop position on a line of the selection, once that is
+// gone. Columns do not tell: tabs behind the selection may become wider or narrower.
+int KVQtHighlightEditCtrlInlay::characters_before_drop(const SELECTION& removed) const
+{
+    const int first = removed.block ? drop_position.line : removed.start.line;
+    return characters_between(buffer.line(first), 0, removed.start.column) +
+           characters_between(buffer.line(drop_position.line), removed.end.column,
+                              drop_position.column);
+}
+
+// The scroll area knows what to do, but only with what reaches its viewport.
+void KVQtHighlightEditCtrlInlay::wheelEvent(QWheelEvent* event)
+{
+    QCoreApplication::sendEvent(area->viewport(), event);
 }
 
 void KVQtHighlightEditCtrlInlay::end_gesture()

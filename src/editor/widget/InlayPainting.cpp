@@ -3,7 +3,9 @@
 
 #include "editor/widget/TextPainter.h"
 
+#include <QPaintEvent>
 #include <QPainter>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -25,10 +27,12 @@ int KVQtHighlightEditCtrlInlay::gutter_width() const
     return (gutter_digits() + 1) * cell_width + kGutterMargin;
 }
 
-void KVQtHighlightEditCtrlInlay::paintEvent(QPaintEvent* /*event*/)
+void KVQtHighlightEditCtrlInlay::paintEvent(QPaintEvent* event)
 {
     const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
-    if (!only_caret || canvas.size() != pixels) {
+    // Other parts may have been waiting to be painted together with the blinking caret.
+    const bool onlyCaret = blinking && caret_rectangle().contains(event->region().boundingRect());
+    if (!onlyCaret || canvas.size() != pixels) {
         if (canvas.size() != pixels) {
             canvas = QImage(pixels, QImage::Format_RGB32);
         }
@@ -47,34 +51,61 @@ void KVQtHighlightEditCtrlInlay::draw_canvas()
     view.lines = height() / cell_height + 1;  // the last one may be cut
     view.columns = std::max(0, width() - gutter_width()) / cell_width + 1;
     view.gutter_digits = gutter_digits();
+    view.text_left = gutter_width();
+    view.cell = {cell_width, cell_height};
+    view.ratio = devicePixelRatioF();
     if (editor.is_dirty()) {
+        brackets_known = false;
         editor.colorize(KVTextEditor::write_cell_color, view.first_line,
                         view.first_line + view.lines);
     }
-    const qreal ratio = devicePixelRatioF();
-    const QSize cell = (QSizeF(cell_width, cell_height) * ratio).toSize();
+    find_brackets();
+    view.brackets = brackets;
+    prepare_glyphs(view.ratio);
+    canvas.setDevicePixelRatio(1);
+    TextPainter(canvas, glyphs, options, editor, view).draw();
+    canvas.setDevicePixelRatio(view.ratio);
+}
+
+void KVQtHighlightEditCtrlInlay::prepare_glyphs(qreal ratio)
+{
+    const QSize cell(qCeil(cell_width * ratio), qCeil(cell_height * ratio));
     if (glyphs.ratio() != ratio || glyphs.cell() != cell) {
         glyphs.set_font(font(), cell, ratio);
     }
-    view.text_left = qRound(gutter_width() * ratio);
-    canvas.setDevicePixelRatio(1);
-    TextPainter(canvas, glyphs, options, editor, view).draw();
-    canvas.setDevicePixelRatio(ratio);
+}
+
+// The bracket at the caret, or else the one before it, with its partner. The search may run through
+// the whole text, so it is done once after each command and not for each frame.
+void KVQtHighlightEditCtrlInlay::find_brackets()
+{
+    const CARET caret = editor.selection.end;
+    if (brackets_known && caret == brackets_caret) {
+        return;
+    }
+    brackets_known = true;
+    brackets_caret = caret;
+    brackets = {{{-1, -1}, {-1, -1}}};
+    for (const int column : {caret.column, caret.column - 1}) {
+        CARET partner{caret.line, column};
+        if (column >= 0 && editor.find_matching_brace(partner)) {
+            brackets = {{{caret.line, column}, partner}};
+            return;
+        }
+    }
 }
 
 QRect KVQtHighlightEditCtrlInlay::caret_rectangle() const
 {
     constexpr int kCaretWidth = 2;  // pixels
-    const CARET caret = editor.selection.end;
-    const int x = gutter_width() + (caret.column - first_visible_column()) * cell_width;
-    const int y = (caret.line - first_visible_line()) * cell_height;
-    return {x, y, kCaretWidth, cell_height};
+    const QRect cell = CellRectangle(editor.selection.end);
+    return cell.isEmpty() ? QRect() : QRect(cell.topLeft(), QSize(kCaretWidth, cell.height()));
 }
 
 void KVQtHighlightEditCtrlInlay::draw_caret(QPainter& painter) const
 {
     const QRect bar = caret_rectangle();
-    if (!hasFocus() || !caret_visible || bar.left() < gutter_width()) {
+    if (!hasFocus() || !caret_visible || bar.isEmpty()) {
         return;
     }
     const QColor ground = options.background();

@@ -174,6 +174,7 @@ bool KVQtHighlightEditCtrlInlay::replace_all_in(std::u16string& text)
     constexpr std::size_t kPiece = 1 << 16;  // characters between two looks at the window
     constexpr int kPatience = 1000;          // ms
     KVTextEditor::ReplaceAll pass(text, find.toStdU16String(), replacement.toStdU16String());
+    pass.limit = replace_all_limit;
     QProgressDialog note(tr("Replacing..."), tr("Cancel"), 0, 0, this);
     note.setWindowModality(Qt::ApplicationModal);
     note.setMinimumDuration(kPatience);

@@ -1,4 +1,5 @@
 // Where the text stands in the window: fonts, scrolling, points and cells.
+#include "editor/widget/EditorAccessible.h"
 #include "editor/widget/KVQtHighlightEditCtrlInlay.h"
 
 #include <QAbstractScrollArea>
@@ -7,6 +8,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <limits>
 
 void KVQtHighlightEditCtrlInlay::SetFont(const QString& family, int pointSize)
 {
@@ -28,8 +30,17 @@ void KVQtHighlightEditCtrlInlay::SetFont(const QString& family, int pointSize)
     update();
 }
 
+// A position of a scroll bar, so many cells further on, as far as numbers reach.
+static int moved(int value, int cells, int size)
+{
+    constexpr qint64 kMost = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp<qint64>(value + qint64{cells} * size, 0, kMost));
+}
+
 void KVQtHighlightEditCtrlInlay::UpdateAllViews()
 {
+    keep_caret_in_text();
+    brackets_known = false;
     note_width();
     if (editor.is_dirty()) {
         editor.colorize(KVTextEditor::write_cell_color, 0, -1);
@@ -38,6 +49,25 @@ void KVQtHighlightEditCtrlInlay::UpdateAllViews()
     caret_visible = true;
     update();
     updateMicroFocus();
+    EditorAccessible::announceCaret(this);
+}
+
+// A selection of the last line as a whole ends below the text. When only its caret is left, typing
+// there must not add a line.
+void KVQtHighlightEditCtrlInlay::keep_caret_in_text()
+{
+    SELECTION& selection = editor.selection;
+    const BUFFER& text = buffer;
+    const int last = text.line_count() - 1;
+    if (selection.end.line <= last) {
+        return;
+    }
+    if (selection.block) {
+        selection.end.line = last;
+        selection.start.line = std::min(selection.start.line, last);
+    } else if (!selection.has_range()) {
+        selection.start = selection.end = {last, text.line(last).length()};
+    }
 }
 
 // Lines grow where they change, so only those are looked at; a text that becomes narrower keeps its
@@ -54,16 +84,17 @@ void KVQtHighlightEditCtrlInlay::update_scroll_bars()
 {
     const QSize visible = GetVisibleSize();
     const int caretColumn = editor.selection.end.column;  // of a rectangle, maybe beyond the text
-    const int columns = std::max(text_width, caretColumn) + 1;
+    const int columns =
+        std::min(std::max(text_width, caretColumn), std::numeric_limits<int>::max() - 1) + 1;
     const int lines = buffer.line_count();
 
     QScrollBar* const vertical = area->verticalScrollBar();
-    vertical->setRange(0, std::max(0, lines - visible.height()) * cell_height);
+    vertical->setRange(0, moved(0, std::max(0, lines - visible.height()), cell_height));
     vertical->setSingleStep(cell_height);
     vertical->setPageStep(std::max(1, visible.height()) * cell_height);
 
     QScrollBar* const horizontal = area->horizontalScrollBar();
-    horizontal->setRange(0, std::max(0, columns - visible.width()) * cell_width);
+    horizontal->setRange(0, moved(0, std::max(0, columns - visible.width()), cell_width));
     horizontal->setSingleStep(cell_width);
     horizontal->setPageStep(std::max(1, visible.width()) * cell_width);
 }
@@ -93,8 +124,8 @@ void KVQtHighlightEditCtrlInlay::ScrollBy(int columns, int lines)
 {
     QScrollBar* const horizontal = area->horizontalScrollBar();
     QScrollBar* const vertical = area->verticalScrollBar();
-    horizontal->setValue(horizontal->value() + columns * cell_width);
-    vertical->setValue(vertical->value() + lines * cell_height);
+    horizontal->setValue(moved(horizontal->value(), columns, cell_width));
+    vertical->setValue(moved(vertical->value(), lines, cell_height));
 }
 
 // How far a range of cells has to move so that the position lies in it.
@@ -124,14 +155,26 @@ KVTextEditor::CARET KVQtHighlightEditCtrlInlay::FromPoint(QPoint point, bool fre
 {
     const int gutter = gutter_width();
     CARET caret;
-    caret.line = (first_visible_line() * cell_height + point.y()) / cell_height;
+    const qint64 y = qint64{first_visible_line()} * cell_height + point.y();
+    caret.line = static_cast<int>(y / cell_height);
     if (point.x() >= gutter) {
-        caret.column = (cell_width / 2 + point.x() + first_visible_column() * cell_width - gutter) /
-                       cell_width;
+        caret.column = first_visible_column() + (cell_width / 2 + point.x() - gutter) / cell_width;
     }
     if (!free) {
         return editor.snap_to_position(caret);
     }
     caret.line = std::clamp(caret.line, 0, buffer.line_count() - 1);
     return caret;
+}
+
+QRect KVQtHighlightEditCtrlInlay::CellRectangle(CARET caret) const
+{
+    const int left = first_visible_column();
+    const int top = first_visible_line();
+    if (caret.column < left || caret.column - left > width() / cell_width || caret.line < top ||
+        caret.line - top > height() / cell_height) {
+        return {};
+    }
+    const int x = gutter_width() + (caret.column - left) * cell_width;
+    return {x, (caret.line - top) * cell_height, cell_width, cell_height};
 }

@@ -1,5 +1,6 @@
 #include "editor/widget/KVQtHighlightEditCtrlInlay.h"
 
+#include "editor/widget/EditorAccessible.h"
 #include "editor/widget/KVQtFindDialog.h"
 
 #include <QAbstractScrollArea>
@@ -11,6 +12,7 @@ KVQtHighlightEditCtrlInlay::KVQtHighlightEditCtrlInlay(QAbstractScrollArea* scro
       area(scrollArea),
       find_dialog(new KVQtFindDialog(this))
 {
+    EditorAccessible::install();
     setObjectName("inlay");
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::IBeamCursor);
@@ -82,9 +84,9 @@ void KVQtHighlightEditCtrlInlay::blink()
 {
     if (hasFocus()) {
         caret_visible = !caret_visible;
-        only_caret = true;
+        blinking = true;
         repaint(caret_rectangle());
-        only_caret = false;
+        blinking = false;
     } else if (area->hasFocus()) {
         setFocus();
     }

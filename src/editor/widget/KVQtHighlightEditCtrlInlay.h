@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <array>
+
 class KVQtFindDialog;
 class QAbstractScrollArea;
 
@@ -30,6 +32,8 @@ public:
     BUFFER buffer;
     BACKEND editor;
     EditorOptions options;
+    // Replace All stops when the text is longer than this many characters (1 GB).
+    std::size_t replace_all_limit = std::size_t(1) << 29;
 
     // The whole text, its lines joined with CR LF. Setting it ends undo and redo.
     QString text() const;
@@ -47,6 +51,8 @@ public:
     QSize GetVisibleSize() const;  // whole columns and lines
     // The cell at a point of the viewport: snapped to the text, or with free only to its lines.
     CARET FromPoint(QPoint point, bool free = false) const;
+    // Where a cell is drawn in the viewport; empty when it is out of view.
+    QRect CellRectangle(CARET caret) const;
     int first_visible_line() const;
     int first_visible_column() const;
     int gutter_width() const;  // pixels
@@ -93,6 +99,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     // Tab is a key like any other here.
@@ -111,7 +118,7 @@ private:
     void move_end();
     void begin_movement();
     void finish_movement();
-    void OnChar(char16_t ch);
+    bool OnChar(char16_t ch);
     bool is_overwrite_mode() const;
     void change_case(KVTextEditor::CHARACTER_FUNCTION fn);
 
@@ -121,7 +128,8 @@ private:
     void start_drag_and_drop(CARET caret);
     void extend_line_selection(CARET caret);
     void drop_selection();
-    CARET drop_position_without(const SELECTION& removed) const;
+    CARET remove_selection_before_drop();
+    int characters_before_drop(const SELECTION& removed) const;
     void end_gesture();
     void update_cursor();
 
@@ -142,9 +150,12 @@ private:
     void draw_caret(QPainter& painter) const;
     int gutter_digits() const;
     QRect caret_rectangle() const;
+    void prepare_glyphs(qreal ratio);
+    void find_brackets();
 
     void update_scroll_bars();
     void note_width();
+    void keep_caret_in_text();
     void blink();
 
     QAbstractScrollArea* area;
@@ -157,7 +168,10 @@ private:
     int text_width = 0;  // cells of the longest line, or more
 
     bool caret_visible = true;
-    bool only_caret = false;  // the frame being painted differs from the last by its caret at most
+    bool blinking = false;  // nothing but the caret's blinking asked for the frame being painted
+    std::array<CARET, 2> brackets = {{{-1, -1}, {-1, -1}}};  // at the caret, and its partner
+    CARET brackets_caret;
+    bool brackets_known = false;
     bool shift_held = false;
     bool control_held = false;
     bool alt_held = false;

@@ -24,7 +24,7 @@ TextPainter::TextPainter(QImage& target, GlyphCache& stencils, const EditorOptio
       has_selection(backend.selection.has_range())
 {
     prepare_colors();
-    find_brackets();
+    prepare_columns();
 }
 
 // On the plain background a role has the colour that it was given; on the others text stays
@@ -42,17 +42,17 @@ void TextPainter::prepare_colors()
     }
 }
 
-// The bracket at the caret, or else the one before it, with its partner.
-void TextPainter::find_brackets()
+// Where a pixel is no whole number of device pixels, cells differ in size by one of them; so the
+// text stays under the caret and the mouse.
+int TextPainter::device(int pixels) const
 {
-    const CARET caret = editor.selection.end;
-    for (const int column : {caret.column, caret.column - 1}) {
-        CARET partner{caret.line, column};
-        if (column >= 0 && editor.find_matching_brace(partner)) {
-            brackets[0] = {caret.line, column};
-            brackets[1] = partner;
-            return;
-        }
+    return qRound(pixels * view.ratio);
+}
+
+void TextPainter::prepare_columns()
+{
+    for (int i = 0; i <= view.columns; ++i) {
+        lefts.push_back(device(view.text_left + i * view.cell.width()));
     }
 }
 
@@ -71,18 +71,20 @@ void TextPainter::draw_line(int row)
     const int line = view.first_line + row;
     const BACKEND::BUFFER& text = *editor.buffer;
     const LINE& cells = text.line(line);
-    const int y = row * glyphs.cell().height();
+    const int top = device(row * view.cell.height());
+    const int bottom = device((row + 1) * view.cell.height());
     int end = std::min(view.first_column + view.columns, cells.length());
     if (has_selection && line >= selection.start.line && line <= selection.end.line) {
         end = view.first_column + view.columns;  // also the free cells may be selected
     }
     for (int column = view.first_column; column < end; ++column) {
-        const int x = view.text_left + (column - view.first_column) * glyphs.cell().width();
+        const int* const left = &lefts[static_cast<std::size_t>(column - view.first_column)];
+        const QRect place(left[0], top, left[1] - left[0], bottom - top);
         const Ground ground = ground_at({line, column});
         if (ground != plain) {
-            fill(x, y, glyphs.cell(), grounds[ground]);
+            fill(place, grounds[ground]);
         }
-        draw_cell(x, y, cells, column, ground);
+        draw_cell(place, cells, column, ground);
     }
 }
 
@@ -91,17 +93,17 @@ TextPainter::Ground TextPainter::ground_at(CARET caret) const
     if (has_selection && selection.is_selected(caret)) {
         return selected;
     }
-    return caret == brackets[0] || caret == brackets[1] ? bracket : plain;
+    return caret == view.brackets[0] || caret == view.brackets[1] ? bracket : plain;
 }
 
-void TextPainter::draw_cell(int x, int y, const LINE& cells, int column, Ground ground)
+void TextPainter::draw_cell(const QRect& place, const LINE& cells, int column, Ground ground)
 {
     const EdChar cell = cells.at(column);
     const QRgb background = grounds[ground];
     if (cell.ch == u' ' || cell.ch == u'\t') {
         if (options.show_whitespace) {
             const char16_t mark = cell.ch == u'\t' ? kTabMark : kSpaceMark;
-            glyphs.draw(canvas, x, y, mark, color_of(kLineNumberRole, ground), background);
+            glyphs.draw(canvas, place, mark, color_of(kLineNumberRole, ground), background);
         }
         return;
     }
@@ -112,53 +114,56 @@ void TextPainter::draw_cell(int x, int y, const LINE& cells, int column, Ground 
     const char16_t next = cells.at(column + 1).ch;
     const char16_t previous = cells.at(column - 1).ch;
     if (QChar::isHighSurrogate(cell.ch) && QChar::isLowSurrogate(next)) {
-        glyphs.draw_pair(canvas, x, y, cell.ch, next, GlyphCache::left, color, background);
+        glyphs.draw_pair(canvas, place, cell.ch, next, GlyphCache::left, color, background);
     } else if (QChar::isLowSurrogate(cell.ch) && QChar::isHighSurrogate(previous)) {
-        glyphs.draw_pair(canvas, x, y, previous, cell.ch, GlyphCache::right, color, background);
+        glyphs.draw_pair(canvas, place, previous, cell.ch, GlyphCache::right, color, background);
     } else {
-        glyphs.draw(canvas, x, y, cell.ch, color, background);
+        glyphs.draw(canvas, place, cell.ch, color, background);
     }
 }
 
 void TextPainter::draw_gutter(int row)
 {
     const int line = view.first_line + row;
-    const int y = row * glyphs.cell().height();
-    const int width = glyphs.cell().width();
     const BACKEND::BUFFER& text = *editor.buffer;
     const bool bookmark = text.line(line).bookmark;
     if (options.show_line_numbers) {
         const std::string number = std::to_string(line + 1);
         const QRgb color = color_of(bookmark ? kKeywordRole : kLineNumberRole, plain);
-        int x = (view.gutter_digits - static_cast<int>(number.size())) * width;
+        int column = view.gutter_digits - static_cast<int>(number.size());
         for (const char digit : number) {
-            glyphs.draw(canvas, x, y, static_cast<char16_t>(digit), color, grounds[plain]);
-            x += width;
+            glyphs.draw(canvas, gutter_cell(row, column), static_cast<char16_t>(digit), color,
+                        grounds[plain]);
+            ++column;
         }
     }
     if (bookmark) {
-        draw_bookmark(y);
+        draw_bookmark(gutter_cell(row, view.gutter_digits));
     }
 }
 
-// A bar in the cell between the line number and the text.
-void TextPainter::draw_bookmark(int y)
+QRect TextPainter::gutter_cell(int row, int column) const
 {
-    const QSize cell = glyphs.cell();
-    const int margin = std::max(1, cell.height() / 6);
-    const QSize bar(std::max(2, cell.width() / 2), cell.height() - 2 * margin);
-    fill(view.gutter_digits * cell.width() + cell.width() / 4, y + margin, bar,
-         color_of(kKeywordRole, plain));
+    const QPoint topLeft(device(column * view.cell.width()), device(row * view.cell.height()));
+    const QPoint end(device((column + 1) * view.cell.width()),
+                     device((row + 1) * view.cell.height()));
+    return {topLeft, end - QPoint(1, 1)};
 }
 
-void TextPainter::fill(int x, int y, QSize size, QRgb color)
+// A bar in the cell between the line number and the text.
+void TextPainter::draw_bookmark(const QRect& place)
 {
-    const int left = std::max(0, x);
-    const int right = std::min(x + size.width(), canvas.width());
-    const int bottom = std::min(y + size.height(), canvas.height());
-    for (int row = std::max(0, y); row < bottom && left < right; ++row) {
+    const int margin = std::max(1, place.height() / 6);
+    const QSize bar(std::max(2, place.width() / 2), place.height() - 2 * margin);
+    fill({place.topLeft() + QPoint(place.width() / 4, margin), bar}, color_of(kKeywordRole, plain));
+}
+
+void TextPainter::fill(const QRect& place, QRgb color)
+{
+    const QRect inside = place & canvas.rect();
+    for (int row = inside.top(); row <= inside.bottom(); ++row) {
         QRgb* const pixels = reinterpret_cast<QRgb*>(canvas.scanLine(row));
-        std::fill(pixels + left, pixels + right, color);
+        std::fill(pixels + inside.left(), pixels + inside.right() + 1, color);
     }
 }
 

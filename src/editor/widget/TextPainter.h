@@ -7,6 +7,7 @@
 #include <QImage>
 
 #include <array>
+#include <vector>
 
 // The part of the text that is drawn.
 struct TextView
@@ -16,7 +17,11 @@ struct TextView
     int lines = 0;
     int columns = 0;
     int gutter_digits = 0;  // places of the line numbers
-    int text_left = 0;      // device pixels in front of the text
+    int text_left = 0;      // pixels in front of the text
+    QSize cell;             // pixels
+    qreal ratio = 1;        // device pixels per pixel
+    // The bracket at the caret and its partner.
+    std::array<KVTextEditor::CARET, 2> brackets = {{{-1, -1}, {-1, -1}}};
 };
 
 // Draws one frame of the text into a 32-bit canvas, cell by cell and without a painter: a frame has
@@ -38,13 +43,15 @@ private:
     static constexpr int kRoles = 8;
 
     void prepare_colors();
-    void find_brackets();
+    void prepare_columns();
     void draw_line(int row);
     void draw_gutter(int row);
-    void draw_bookmark(int y);
+    void draw_bookmark(const QRect& place);
     Ground ground_at(CARET caret) const;
-    void draw_cell(int x, int y, const LINE& cells, int column, Ground ground);
-    void fill(int x, int y, QSize size, QRgb color);
+    void draw_cell(const QRect& place, const LINE& cells, int column, Ground ground);
+    int device(int pixels) const;
+    QRect gutter_cell(int row, int column) const;
+    void fill(const QRect& place, QRgb color);
     const QRgb& color_of(KVTextEditor::COLORINDEX role, Ground ground) const;
 
     QImage& canvas;
@@ -54,7 +61,7 @@ private:
     TextView view;
     KVTextEditor::SELECTION selection;  // normalized
     bool has_selection;
-    CARET brackets[2] = {{-1, -1}, {-1, -1}};
+    std::vector<int> lefts;  // of the columns in view, in device pixels
     std::array<QRgb, kGrounds> grounds{};
     std::array<std::array<QRgb, kRoles>, kGrounds> colors{};
 };

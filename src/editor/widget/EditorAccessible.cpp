@@ -1,0 +1,191 @@
+#include "editor/widget/EditorAccessible.h"
+
+#include "editor/widget/KVQtHighlightEditCtrlInlay.h"
+
+#include <algorithm>
+
+namespace {
+
+using KVTextEditor::CARET;
+using BUFFER = KVQtHighlightEditCtrlInlay::BUFFER;
+
+QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
+{
+    auto* const editor = qobject_cast<KVQtHighlightEditCtrlInlay*>(object);
+    return editor == nullptr ? nullptr : new EditorAccessible(editor);
+}
+
+// Counts characters up to the position; those that only fill up a tab do not count.
+int offsetOf(const BUFFER& buffer, CARET position)
+{
+    int offset = 0;
+    const int last = std::min(position.line, buffer.line_count() - 1);
+    for (int i = 0; i <= last; ++i) {
+        const auto& line = buffer.line(i);
+        const int end =
+            i == position.line ? std::min(position.column, line.length()) : line.length();
+        for (int column = 0; column < end; ++column) {
+            offset += line.is_filler_at(column) ? 0 : 1;
+        }
+        offset += i < position.line && i + 1 < buffer.line_count() ? 1 : 0;
+    }
+    return offset;
+}
+
+CARET positionAt(const BUFFER& buffer, int offset)
+{
+    for (int i = 0; i < buffer.line_count(); ++i) {
+        const auto& line = buffer.line(i);
+        int column = 0;
+        for (; column < line.length(); ++column) {
+            if (line.is_filler_at(column)) {
+                continue;
+            }
+            if (offset == 0) {
+                return {i, column};
+            }
+            --offset;
+        }
+        if (offset == 0 || i + 1 == buffer.line_count()) {
+            return {i, line.length()};
+        }
+        --offset;
+    }
+    return {0, 0};
+}
+
+}  // namespace
+
+void EditorAccessible::install()
+{
+    static const bool installed = (QAccessible::installFactory(makeInterface), true);
+    Q_UNUSED(installed)
+}
+
+void EditorAccessible::announceCaret(KVQtHighlightEditCtrlInlay* editor)
+{
+    if (QAccessible::isActive()) {
+        QAccessibleTextCursorEvent event(editor,
+                                         offsetOf(editor->buffer, editor->editor.selection.end));
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+EditorAccessible::EditorAccessible(KVQtHighlightEditCtrlInlay* editor)
+    : QAccessibleWidget(editor, QAccessible::EditableText)
+{}
+
+KVQtHighlightEditCtrlInlay& EditorAccessible::editor() const
+{
+    return *static_cast<KVQtHighlightEditCtrlInlay*>(widget());
+}
+
+QString EditorAccessible::wholeText() const
+{
+    return QString::fromStdU16String(editor().buffer.get_all_text(u"\n"));
+}
+
+void* EditorAccessible::interface_cast(QAccessible::InterfaceType type)
+{
+    if (type == QAccessible::TextInterface) {
+        return static_cast<QAccessibleTextInterface*>(this);
+    }
+    return QAccessibleWidget::interface_cast(type);
+}
+
+QAccessible::State EditorAccessible::state() const
+{
+    QAccessible::State state = QAccessibleWidget::state();
+    state.editable = true;
+    state.multiLine = true;
+    state.selectableText = true;
+    return state;
+}
+
+// Whoever owns the control gives it its name.
+QString EditorAccessible::text(QAccessible::Text kind) const
+{
+    if (kind == QAccessible::Value) {
+        return wholeText();
+    }
+    const QString own = QAccessibleWidget::text(kind);
+    const QWidget* control = widget()->parentWidget()->parentWidget();
+    return kind == QAccessible::Name && own.isEmpty() ? control->accessibleName() : own;
+}
+
+QString EditorAccessible::text(int start, int end) const
+{
+    return wholeText().mid(start, end - start);
+}
+
+int EditorAccessible::characterCount() const
+{
+    return wholeText().size();
+}
+
+int EditorAccessible::cursorPosition() const
+{
+    return offsetOf(editor().buffer, editor().editor.selection.end);
+}
+
+void EditorAccessible::setCursorPosition(int position)
+{
+    setSelection(0, position, position);
+}
+
+int EditorAccessible::selectionCount() const
+{
+    return editor().editor.selection.has_range() ? 1 : 0;
+}
+
+void EditorAccessible::selection(int /*index*/, int* start, int* end) const
+{
+    const auto range = editor().editor.selection.normalized();
+    *start = range.has_range() ? offsetOf(editor().buffer, range.start) : 0;
+    *end = range.has_range() ? offsetOf(editor().buffer, range.end) : 0;
+}
+
+void EditorAccessible::addSelection(int start, int end)
+{
+    setSelection(0, start, end);
+}
+
+void EditorAccessible::setSelection(int /*index*/, int start, int end)
+{
+    auto& selection = editor().editor.selection;
+    const CARET from = positionAt(editor().buffer, start);
+    selection.set(from.line, from.column);
+    selection.end = positionAt(editor().buffer, end);
+    editor().EnsureVisible(selection.end);
+    editor().UpdateAllViews();
+}
+
+void EditorAccessible::removeSelection(int /*index*/)
+{
+    setCursorPosition(cursorPosition());
+}
+
+// On the screen.
+QRect EditorAccessible::characterRect(int offset) const
+{
+    const QRect cell = editor().CellRectangle(positionAt(editor().buffer, offset));
+    return {editor().mapToGlobal(cell.topLeft()), cell.size()};
+}
+
+int EditorAccessible::offsetAtPoint(const QPoint& point) const
+{
+    return offsetOf(editor().buffer, editor().FromPoint(editor().mapFromGlobal(point)));
+}
+
+void EditorAccessible::scrollToSubstring(int start, int end)
+{
+    editor().EnsureVisible(positionAt(editor().buffer, end));
+    editor().EnsureVisible(positionAt(editor().buffer, start));
+}
+
+QString EditorAccessible::attributes(int /*offset*/, int* start, int* end) const
+{
+    *start = 0;
+    *end = characterCount();
+    return {};
+}
