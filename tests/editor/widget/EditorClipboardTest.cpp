@@ -1,0 +1,183 @@
+#include "tests/editor/widget/EditorWindow.h"
+
+#include <QClipboard>
+#include <QMimeData>
+#include <QProcess>
+#include <QtTest>
+
+namespace {
+
+const QMimeData& clipboard()
+{
+    return *QApplication::clipboard()->mimeData();
+}
+
+bool holdsRectangle()
+{
+    return clipboard().hasFormat(KVQtHighlightEditCtrlInlay::kRectangleFormat);
+}
+
+// A display of its own, on which programs share a clipboard.
+class Display
+{
+public:
+    Display()
+    {
+        server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "800x600x24"});
+        server.waitForReadyRead();
+        name = ":" + QString::fromLatin1(server.readLine()).trimmed();
+    }
+
+    ~Display()
+    {
+        server.terminate();
+        server.waitForFinished();
+    }
+
+    void start(QProcess& program, const QStringList& arguments) const
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_QPA_PLATFORM", "xcb");
+        environment.insert("DISPLAY", name);
+        program.setProcessEnvironment(environment);
+        program.start(CLIPBOARD_PROGRAM, arguments);
+    }
+
+private:
+    QProcess server;
+    QString name;
+};
+
+// What an editor with the lines "1" and "2" holds after pasting what another process has copied.
+QString pastedFromAnotherProcess(const QString& whatToCopy)
+{
+    const Display display;
+    QProcess copying, pasting;
+    display.start(copying, {"copy", whatToCopy});
+    if (!copying.waitForReadyRead() || copying.readLine() != "copied\n") {
+        return "nothing was copied: " + copying.readAllStandardError();
+    }
+    display.start(pasting, {"paste"});
+    pasting.waitForFinished();
+    copying.closeWriteChannel();
+    copying.waitForFinished();
+    return pasting.readAllStandardOutput();
+}
+
+}  // namespace
+
+class EditorClipboardTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QApplication::clipboard()->setText("before"); }
+
+    void aStreamSelectionIsCopiedAsPlainTextOnly()
+    {
+        EditorWindow window("a^\tb\nc|d");
+        window.surface.OnEditCopy();
+        QCOMPARE(clipboard().text(), QString("\tb\r\nc"));
+        QVERIFY(!holdsRectangle());
+    }
+
+    void aRectangleIsMarkedOnTheClipboard()
+    {
+        EditorWindow window("abc\nd\nghi");
+        window.place({0, 1}, {2, 3}, true);
+        window.surface.OnEditCopy();
+        QCOMPARE(clipboard().text(), QString("bc\r\n\r\nhi"));
+        QVERIFY(holdsRectangle());
+    }
+
+    void theMarkHasTheNameThatQtGivesToARegisteredFormat()
+    {
+        QCOMPARE(QString(KVQtHighlightEditCtrlInlay::kRectangleFormat),
+                 QString("application/x-qt-windows-mime;value=\"MSDEVColumnSelect\""));
+    }
+
+    void copyingWithoutASelectionLeavesTheClipboard()
+    {
+        EditorWindow window("ab|c");
+        window.surface.OnEditCopy();
+        QCOMPARE(clipboard().text(), QString("before"));
+    }
+
+    void cuttingWithoutASelectionDeletesOneCharacterAndLeavesTheClipboard()
+    {
+        EditorWindow window("a|bc");
+        window.surface.OnEditCut();
+        QCOMPARE(window.shown(), QString("a|c"));
+        QCOMPARE(clipboard().text(), QString("before"));
+    }
+
+    void cuttingARectangleLeavesACaretOnEachOfItsLines()
+    {
+        EditorWindow window("abc\ndef");
+        window.place({0, 1}, {1, 2}, true);
+        window.surface.OnEditCut();
+        QCOMPARE(window.text(), QString("ac\ndf"));
+        QCOMPARE(window.rectangle(), QString("0,1-1,1 block"));
+        QVERIFY(holdsRectangle());
+    }
+
+    void aCopiedStreamSelectionIsPastedAsText()
+    {
+        EditorWindow window("a^b\nc|d");
+        window.surface.OnEditCopy();
+        window.place({1, 2}, {1, 2});
+        window.surface.OnEditPaste();
+        QCOMPARE(window.shown(), QString("ab\ncdb\nc|"));
+    }
+
+    void aCopiedRectangleIsPastedAsARectangle()
+    {
+        EditorWindow window("abc\ndef\n12\n34");
+        window.place({0, 1}, {1, 3}, true);
+        window.surface.OnEditCopy();
+        window.place({2, 1}, {2, 1});
+        window.surface.OnEditPaste();
+        QCOMPARE(window.text(), QString("abc\ndef\n1bc2\n3ef4"));
+        QVERIFY(!window.selection().has_range());
+        QVERIFY(!window.selection().block);
+    }
+
+    void pastingReplacesTheSelectionAndIsOneStep()
+    {
+        EditorWindow window("a^b|c");
+        window.surface.OnEditPaste();
+        QCOMPARE(window.shown(), QString("abefore|c"));
+        window.surface.OnEditUndo();
+        QCOMPARE(window.shown(), QString("a^b|c"));
+    }
+
+    void anEmptyClipboardPastesNothing()
+    {
+        QApplication::clipboard()->setText("");
+        EditorWindow window("a^b|c");
+        window.surface.OnEditPaste();
+        QCOMPARE(window.shown(), QString("a^b|c"));
+        QVERIFY(!window.surface.editor.can_undo());
+    }
+
+    void lineEndsOfAnyKindArePasted()
+    {
+        QApplication::clipboard()->setText("1\n2\r\n3\r4");
+        EditorWindow window("|");
+        window.surface.OnEditPaste();
+        QCOMPARE(window.shown(), QString("1\n2\n3\n4|"));
+    }
+
+    void aRectangleFromAnotherProcessIsPastedAsARectangle()
+    {
+        QCOMPARE(pastedFromAnotherProcess("rectangle"), QString("b1\ne2"));
+    }
+
+    void aTextFromAnotherProcessIsPastedAsText()
+    {
+        QCOMPARE(pastedFromAnotherProcess("text"), QString("bc\nd1\n2"));
+    }
+};
+
+QTEST_MAIN(EditorClipboardTest)
+#include "EditorClipboardTest.moc"

@@ -1,0 +1,194 @@
+#include "editor/widget/KVQtFindDialog.h"
+#include "tests/editor/widget/EditorWindow.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QtTest>
+
+namespace {
+
+void find(EditorWindow& window, const QString& text, bool backwards = false)
+{
+    window.findDialog().set_find_text(text);
+    window.findDialog().set_backwards(backwards);
+    QTest::mouseClick(window.findDialog().btFind, Qt::LeftButton);
+}
+
+QStringList labels(const KVQtFindDialog& dialog)
+{
+    QStringList texts;
+    for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+        texts << label->text();
+    }
+    texts.sort();
+    return texts;
+}
+
+}  // namespace
+
+class FindTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theDialogHasItsTexts()
+    {
+        const KVQtFindDialog dialog;
+        QCOMPARE(labels(dialog), QStringList({"Find &what:", "Replace with:"}));
+        QCOMPARE(dialog.btFind->text(), QString("&Find"));
+        QCOMPARE(dialog.btReplace->text(), QString("&Replace"));
+        QCOMPARE(dialog.btReplaceAll->text(), QString("Replace &All"));
+        QCOMPARE(dialog.chBackwards->text(), QString("Search &backwards"));
+    }
+
+    void openedToFindItHidesWhatReplaces()
+    {
+        EditorWindow window("^cow| duck");
+        window.surface.OnEditReplace();
+        window.surface.OnEditFind();
+        KVQtFindDialog& dialog = window.findDialog();
+        QVERIFY(dialog.isVisible());
+        QVERIFY(!dialog.isModal());
+        QVERIFY(!dialog.txReplace->isVisible());
+        QVERIFY(!dialog.txReplace->isEnabled());
+        QVERIFY(!dialog.btReplace->isVisible());
+        QVERIFY(!dialog.btReplaceAll->isVisible());
+        window.surface.OnEditReplace();
+        QVERIFY(dialog.txReplace->isVisible());
+        QVERIFY(dialog.txReplace->isEnabled());
+        QVERIFY(dialog.btReplace->isVisible());
+        QVERIFY(dialog.btReplaceAll->isVisible());
+    }
+
+    void openingTakesTheSelectionInsteadOfWhatWasSearchedFor()
+    {
+        EditorWindow window("^cow| duck");
+        window.findDialog().set_find_text("duck");
+        window.surface.OnEditFind();
+        QCOMPARE(window.findDialog().find_text(), QString("cow"));
+    }
+
+    void openingWithoutASelectionKeepsWhatWasSearchedFor()
+    {
+        EditorWindow window("c|ow duck");
+        window.findDialog().set_find_text("duck");
+        window.surface.OnEditFind();
+        QCOMPARE(window.findDialog().find_text(), QString("duck"));
+    }
+
+    void aMatchAtTheCaretIsFound()
+    {
+        EditorWindow window("|cow cow");
+        find(window, "cow");
+        QCOMPARE(window.shown(), QString("^cow| cow"));
+        QVERIFY(!window.selection().block);
+    }
+
+    void repeatedSearchesAdvanceThroughTheLinesAndWrapAround()
+    {
+        EditorWindow window("cow| cow\n cow\ncow");
+        const QStringList expected = {"cow ^cow|\n cow\ncow", "cow cow\n ^cow|\ncow",
+                                      "cow cow\n cow\n^cow|", "^cow| cow\n cow\ncow"};
+        for (const QString& shown : expected) {
+            find(window, "cow");
+            QCOMPARE(window.shown(), shown);
+        }
+    }
+
+    void theSearchMindsCase()
+    {
+        EditorWindow window("|Cow cow");
+        find(window, "cow");
+        QCOMPARE(window.shown(), QString("Cow ^cow|"));
+    }
+
+    void searchesBackwardsGoThroughTheLinesAndWrapAround()
+    {
+        EditorWindow window("cow cow\n cow|");
+        const QStringList expected = {"cow cow\n ^cow|", "cow ^cow|\n cow", "^cow| cow\n cow",
+                                      "cow cow\n ^cow|"};
+        for (const QString& shown : expected) {
+            find(window, "cow", true);
+            QCOMPARE(window.shown(), shown);
+        }
+    }
+
+    void overlappingMatchesAreFoundBackwards()
+    {
+        EditorWindow window("aaa|");
+        find(window, "aa", true);
+        QCOMPARE(window.shown(), QString("a^aa|"));
+        find(window, "aa", true);
+        QCOMPARE(window.shown(), QString("^aa|a"));
+    }
+
+    void aMissChangesNothing()
+    {
+        for (const bool backwards : {false, true}) {
+            EditorWindow window("a^b|c");
+            find(window, "cow", backwards);
+            QCOMPARE(window.shown(), QString("a^b|c"));
+        }
+    }
+
+    void tabsAreFoundAsOneCharacter()
+    {
+        EditorWindow window("|x\t\ty");
+        find(window, "\t");
+        QCOMPARE(window.rectangle(), QString("0,1-0,2"));
+    }
+
+    void withoutATextTheDialogOpens()
+    {
+        EditorWindow window("|cow");
+        window.key(Qt::Key_F3);
+        QVERIFY(window.findDialog().isVisible());
+        QVERIFY(!window.findDialog().txReplace->isVisible());
+        QCOMPARE(window.shown(), QString("|cow"));
+    }
+
+    void findPreviousSearchesForwardAndSaysSo()
+    {
+        EditorWindow window("cow |cow");
+        window.findDialog().set_find_text("cow");
+        window.findDialog().set_backwards(true);
+        window.surface.OnEditFindPrevious();
+        QCOMPARE(window.shown(), QString("cow ^cow|"));
+        QVERIFY(!window.findDialog().chBackwards->isChecked());
+    }
+
+    void aMatchOutOfViewIsScrolledIntoView()
+    {
+        EditorWindow window(QString("\n").repeated(300) + QString(200, 'x') + "cow");
+        find(window, "cow");
+        QVERIFY(window.surface.rect().contains(window.point(300, 200)));
+        QVERIFY(window.surface.rect().contains(window.point(300, 202)));
+    }
+
+    void replaceTakesThePlaceOfTheSelectionWhateverIsSearchedFor()
+    {
+        EditorWindow window("a ^duck| and");
+        window.surface.OnEditReplace();
+        window.findDialog().set_find_text("cow");
+        window.findDialog().txReplace->setText("goose");
+        QTest::mouseClick(window.findDialog().btReplace, Qt::LeftButton);
+        QCOMPARE(window.shown(), QString("a goose| and"));
+        window.surface.OnEditUndo();
+        QCOMPARE(window.shown(), QString("a ^duck| and"));
+    }
+
+    void replaceWithoutASelectionDoesNothing()
+    {
+        EditorWindow window("a| duck");
+        window.surface.OnEditReplace();
+        window.findDialog().txReplace->setText("goose");
+        QTest::mouseClick(window.findDialog().btReplace, Qt::LeftButton);
+        QCOMPARE(window.shown(), QString("a| duck"));
+        QVERIFY(!window.surface.editor.can_undo());
+    }
+};
+
+QTEST_MAIN(FindTest)
+#include "FindTest.moc"

@@ -1,0 +1,312 @@
+#include "tests/editor/widget/EditorWindow.h"
+
+#include <QProcess>
+#include <QtTest>
+
+namespace {
+
+const QColor kWhite(255, 255, 255);
+const QColor kBlack(0, 0, 0);
+const QColor kString(96, 96, 96);
+const QColor kComment(0, 128, 0);
+const QColor kKeyword(0, 0, 255);
+const QColor kSecondKeyword(112, 32, 176);
+const QColor kLineNumber(128, 128, 128);
+const QColor kSelection(136, 136, 255);
+
+double channel(int value)
+{
+    const double part = value / 255.0;
+    return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+double luminance(QColor color)
+{
+    return 0.2126 * channel(color.red()) + 0.7152 * channel(color.green()) +
+           0.0722 * channel(color.blue());
+}
+
+double contrast(QColor a, QColor b)
+{
+    const double one = luminance(a) + 0.05;
+    const double other = luminance(b) + 0.05;
+    return std::max(one, other) / std::min(one, other);
+}
+
+// The colour in the cell that differs most from its background.
+QColor ink(EditorWindow& window, const QImage& picture, int line, int column)
+{
+    const QColor ground = window.ground(picture, line, column);
+    const QRect place = window.cell(line, column);
+    QColor best = ground;
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+        for (int x = place.left(); x <= place.right(); ++x) {
+            const QColor found = picture.pixelColor(x, y);
+            if (contrast(found, ground) > contrast(best, ground)) {
+                best = found;
+            }
+        }
+    }
+    return best;
+}
+
+bool isEmpty(EditorWindow& window, const QImage& picture, int line, int column)
+{
+    return ink(window, picture, line, column) == window.ground(picture, line, column);
+}
+
+}  // namespace
+
+// Colours of cells; what the characters look like depends on the fonts.
+class PaintingTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void eachRoleHasItsColour()
+    {
+        EditorWindow window("x if foo \"s\" // c");
+        const QImage picture = window.picture();
+        QVERIFY(window.holdsColor(picture, window.cell(0, 0), kBlack));
+        QVERIFY(window.holdsColor(picture, window.cell(0, 2), kKeyword));
+        QVERIFY(window.holdsColor(picture, window.cell(0, 5), kSecondKeyword));
+        QVERIFY(window.holdsColor(picture, window.cell(0, 10), kString));
+        QVERIFY(window.holdsColor(picture, window.cell(0, 16), kComment));
+        QVERIFY(isEmpty(window, picture, 0, 1));
+        QVERIFY(isEmpty(window, picture, 0, 20));
+        QCOMPARE(window.ground(picture, 0, 0), kWhite);
+    }
+
+    void lineNumbersAreGreyAndAlignedToTheRight()
+    {
+        EditorWindow window(QString("\n").repeated(11));
+        const QImage picture = window.picture();
+        const auto inGutter = [&](int line, int digit) {
+            return window.holdsColor(picture, window.gutterCell(line, digit), kLineNumber);
+        };
+        QVERIFY(!inGutter(0, 0));
+        QVERIFY(inGutter(0, 1));
+        QVERIFY(inGutter(9, 0));
+        QVERIFY(inGutter(9, 1));
+        QVERIFY(!inGutter(9, 2));
+    }
+
+    void theGutterHasRoomForTheLineCountAndOneCell()
+    {
+        EditorWindow window("a");
+        const int width = window.surface.char_width();
+        QCOMPARE(window.surface.gutter_width(), 3 * width + 4);
+        window.control.setText(QString("\n").repeated(998));
+        QCOMPARE(window.surface.gutter_width(), 4 * width + 4);
+        window.control.setText(QString("\n").repeated(999));
+        QCOMPARE(window.surface.gutter_width(), 5 * width + 4);
+    }
+
+    void theGutterStaysWhenTheNumbersAreSwitchedOff()
+    {
+        EditorWindow window("a");
+        window.control.options().show_line_numbers = false;
+        window.control.UpdateAllViews();
+        QCOMPARE(window.surface.gutter_width(), 3 * window.surface.char_width() + 4);
+        const QImage picture = window.picture();
+        for (int x = 0; x < window.surface.gutter_width(); ++x) {
+            QCOMPARE(picture.pixelColor(x, window.surface.line_height() / 2), kWhite);
+        }
+    }
+
+    void aBookmarkedLineHasABlueNumberAndAMark()
+    {
+        EditorWindow window("a\nb");
+        window.surface.ToggleBookmark(1);
+        const QImage picture = window.picture();
+        const int digit = 1, mark = 2;
+        QVERIFY(window.holdsColor(picture, window.gutterCell(0, digit), kLineNumber));
+        QVERIFY(!window.holdsColor(picture, window.gutterCell(0, mark), kKeyword));
+        QVERIFY(window.holdsColor(picture, window.gutterCell(1, digit), kKeyword));
+        QVERIFY(window.holdsColor(picture, window.gutterCell(1, mark), kKeyword));
+    }
+
+    void whiteSpaceIsMarkedOnlyWhenAskedFor()
+    {
+        EditorWindow window("\tx y");
+        QImage picture = window.picture();
+        QVERIFY(isEmpty(window, picture, 0, 0));
+        QVERIFY(isEmpty(window, picture, 0, 5));
+        window.control.options().show_whitespace = true;
+        window.control.UpdateAllViews();
+        picture = window.picture();
+        QVERIFY(!isEmpty(window, picture, 0, 0));
+        QVERIFY(isEmpty(window, picture, 0, 1));
+        QVERIFY(!isEmpty(window, picture, 0, 5));
+        QVERIFY(window.holdsColor(picture, window.cell(0, 0), kLineNumber));
+    }
+
+    void selectedCellsHaveTheSelectionsColour()
+    {
+        EditorWindow window("ab^cd\nefg|h");
+        const QImage picture = window.picture();
+        QCOMPARE(window.ground(picture, 0, 1), kWhite);
+        QCOMPARE(window.ground(picture, 0, 2), kSelection);
+        QCOMPARE(window.ground(picture, 0, 6), kSelection);
+        QCOMPARE(window.ground(picture, 1, 2), kSelection);
+        QCOMPARE(window.ground(picture, 1, 3), kWhite);
+    }
+
+    void aRectangleIsDrawnAlsoBehindTheLines()
+    {
+        EditorWindow window("abcd\ne");
+        window.place({0, 2}, {1, 6}, true);
+        const QImage picture = window.picture();
+        QCOMPARE(window.ground(picture, 0, 1), kWhite);
+        QCOMPARE(window.ground(picture, 1, 5), kSelection);
+        QCOMPARE(window.ground(picture, 1, 6), kWhite);
+    }
+
+    void bracketsThatMatchAreHighlighted()
+    {
+        EditorWindow window("(a[b)c]|");
+        QImage picture = window.picture();
+        const QColor highlight = window.ground(picture, 0, 6);
+        QVERIFY(highlight != kWhite && highlight != kSelection);
+        QCOMPARE(window.ground(picture, 0, 2), highlight);
+        QCOMPARE(window.ground(picture, 0, 0), kWhite);
+        window.key(Qt::Key_Home);
+        picture = window.picture();
+        QCOMPARE(window.ground(picture, 0, 0), highlight);
+        QCOMPARE(window.ground(picture, 0, 4), highlight);
+        QCOMPARE(window.ground(picture, 0, 6), kWhite);
+    }
+
+    void aBracketWithoutPartnerIsNotHighlighted()
+    {
+        EditorWindow window("|(abc");
+        QCOMPARE(window.ground(window.picture(), 0, 0), kWhite);
+    }
+
+    void theHighlightFollowsATextThatChangesUnderTheCaret()
+    {
+        EditorWindow window("|(abc");
+        window.surface.editor.buffer->line(0).set(u"(ab)");
+        QVERIFY(window.ground(window.picture(), 0, 3) != kWhite);
+    }
+
+    void selectedAndHighlightedTextIsLegible()
+    {
+        EditorWindow window("x if foo \"s\" // c ()");
+        window.key(Qt::Key_A, Qt::ControlModifier);
+        QImage picture = window.picture();
+        for (const int column : {0, 2, 5, 10, 16}) {
+            QVERIFY(contrast(ink(window, picture, 0, column), window.ground(picture, 0, column)) >=
+                    4.5);
+        }
+        window.key(Qt::Key_End);
+        picture = window.picture();
+        QVERIFY(contrast(ink(window, picture, 0, 19), window.ground(picture, 0, 19)) >= 4.5);
+    }
+
+    void coloursOfTheOptionsAreUsed()
+    {
+        EditorWindow window("x");
+        window.control.options().colors[0] = QColor(10, 20, 30);
+        window.control.options().colors[1] = QColor(250, 240, 230);
+        window.control.UpdateAllViews();
+        const QImage picture = window.picture();
+        QCOMPARE(window.ground(picture, 0, 0), QColor(10, 20, 30));
+        QVERIFY(window.holdsColor(picture, window.cell(0, 0), QColor(250, 240, 230)));
+        QCOMPARE(picture.pixelColor(picture.width() - 1, picture.height() - 1), QColor(10, 20, 30));
+    }
+
+    void theCaretIsABarOfTwoPixelsWhileTheEditorHasTheFocus()
+    {
+        EditorWindow window("ab|c");
+        QVERIFY(window.surface.hasFocus());
+        const QImage focused =
+            window.surface.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        const QRect place = window.cell(0, 2);
+        for (int y = place.top(); y <= place.bottom(); ++y) {
+            QCOMPARE(focused.pixelColor(place.left(), y), kBlack);
+            QCOMPARE(focused.pixelColor(place.left() + 1, y), kBlack);
+        }
+        QCOMPARE(window.ground(window.picture(), 0, 2), kWhite);
+    }
+
+    void theCaretBlinks()
+    {
+        EditorWindow window("ab|c");
+        const auto bar = [&] {
+            const QImage picture = window.surface.grab().toImage();
+            return picture.pixelColor(window.cell(0, 2).topLeft()) == kBlack;
+        };
+        QVERIFY(bar());
+        QTRY_VERIFY(!bar());
+        QTRY_VERIFY(bar());
+        QTRY_VERIFY(!bar());
+        window.key(Qt::Key_Right);
+        window.key(Qt::Key_Left);
+        QVERIFY(bar());  // a command shows it at once
+    }
+
+    void typedTextIsPaintedAlsoWhenTheCaretBlinksFirst()
+    {
+        EditorWindow window("|");
+        window.surface.grab();
+        window.type("W");
+        QTest::qWait(600);
+        QVERIFY(window.holdsColor(window.picture(), window.cell(0, 0), kBlack));
+    }
+
+    void wideCharactersStayInTheirCells()
+    {
+        EditorWindow window(QString::fromUtf8("漢 🐄 x"));
+        const QImage picture = window.picture();
+        QVERIFY(!isEmpty(window, picture, 0, 0));
+        QVERIFY(isEmpty(window, picture, 0, 1));
+        QVERIFY(isEmpty(window, picture, 0, 4));
+    }
+
+    void aMissingFamilyIsReplacedByOneOfFixedPitch()
+    {
+        EditorWindow window;
+        QVERIFY(QFontInfo(window.surface.font()).fixedPitch());
+        const QFontMetrics metrics(window.surface.font());
+        QCOMPARE(metrics.horizontalAdvance('i'), metrics.horizontalAdvance('W'));
+        QCOMPARE(window.surface.font().family(), QString("Consolas"));
+        QCOMPARE(window.surface.font().pointSize(), 11);
+        QVERIFY(window.surface.char_width() >= metrics.horizontalAdvance('W'));
+    }
+
+    void anotherFontChangesTheCells()
+    {
+        EditorWindow window("x");
+        const int before = window.surface.line_height();
+        window.surface.SetFont("DejaVu Sans Mono", 30);
+        QVERIFY(window.surface.line_height() > before);
+        QVERIFY(window.holdsColor(window.picture(), window.cell(0, 0), kBlack));
+        window.surface.SetFont("DejaVu Sans Mono", 1);
+        QCOMPARE(window.surface.char_width(), 4);
+    }
+
+    void onADenseScreenTheTextIsDrawnWithMorePixelsAndUnderTheCaret_data()
+    {
+        QTest::addColumn<QString>("factor");
+        QTest::newRow("1.5") << "1.5";
+        QTest::newRow("2") << "2";
+    }
+
+    // The factor belongs to a whole process.
+    void onADenseScreenTheTextIsDrawnWithMorePixelsAndUnderTheCaret()
+    {
+        QFETCH(QString, factor);
+        QProcess dense;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_SCALE_FACTOR", factor);
+        dense.setProcessEnvironment(environment);
+        dense.start(DENSE_PROGRAM, {factor});
+        QVERIFY(dense.waitForFinished());
+        QCOMPARE(QString(dense.readAllStandardOutput()), QString("ok\n"));
+        QCOMPARE(dense.exitCode(), 0);
+    }
+};
+
+QTEST_MAIN(PaintingTest)
+#include "PaintingTest.moc"

@@ -1,0 +1,145 @@
+#include "tests/editor/widget/EditorWindow.h"
+
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <QtTest>
+
+namespace {
+
+constexpr int kLines = 200;
+
+QString longText()
+{
+    return QString("x\n").repeated(kLines - 1) + QString(300, 'y');
+}
+
+void turnWheel(EditorWindow& window, int eighths)
+{
+    const QPoint place(50, 50);
+    QWheelEvent event(place, window.surface.mapToGlobal(place), QPoint(), QPoint(0, eighths),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&window.surface, &event);
+}
+
+}  // namespace
+
+class ScrollingTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aShortTextNeedsNoScrollBars()
+    {
+        EditorWindow window("one\ntwo");
+        QCOMPARE(window.control.verticalScrollBar()->maximum(), 0);
+        QCOMPARE(window.control.horizontalScrollBar()->maximum(), 0);
+    }
+
+    void theVisibleSizeIsInWholeCells()
+    {
+        EditorWindow window;
+        const KVQtHighlightEditCtrlInlay& surface = window.surface;
+        const QSize size = surface.GetVisibleSize();
+        QCOMPARE(size.width(), (surface.width() - surface.gutter_width()) / surface.char_width());
+        QCOMPARE(size.height(), surface.height() / surface.line_height());
+    }
+
+    void theVerticalBarEndsWithTheLastLine()
+    {
+        EditorWindow window(longText());
+        QScrollBar* const bar = window.control.verticalScrollBar();
+        bar->setValue(bar->maximum());
+        const int visible = window.surface.GetVisibleSize().height();
+        QCOMPARE(window.surface.first_visible_line(), kLines - visible);
+    }
+
+    void theHorizontalBarReachesTheEndOfTheLongestLine()
+    {
+        EditorWindow window(longText());
+        QScrollBar* const bar = window.control.horizontalScrollBar();
+        bar->setValue(bar->maximum());
+        const int visible = window.surface.GetVisibleSize().width();
+        QCOMPARE(window.surface.first_visible_column() + visible, 301);
+    }
+
+    void theBarsFollowTheTextAsItGrows()
+    {
+        EditorWindow window("|");
+        window.type(QString("\n").repeated(100));
+        QVERIFY(window.control.verticalScrollBar()->maximum() > 0);
+        window.type(QString("y").repeated(100));
+        QVERIFY(window.control.horizontalScrollBar()->maximum() > 0);
+        window.control.setText("short");
+        QCOMPARE(window.control.verticalScrollBar()->maximum(), 0);
+        QCOMPARE(window.control.horizontalScrollBar()->maximum(), 0);
+    }
+
+    void scrollByMovesByCellsWithinTheText()
+    {
+        EditorWindow window(longText());
+        window.surface.ScrollBy(4, 7);
+        QCOMPARE(window.surface.first_visible_column(), 4);
+        QCOMPARE(window.surface.first_visible_line(), 7);
+        window.surface.ScrollBy(-100, -100);
+        QCOMPARE(window.surface.first_visible_column(), 0);
+        QCOMPARE(window.surface.first_visible_line(), 0);
+        window.surface.ScrollBy(0, std::numeric_limits<int>::max());
+        QCOMPARE(window.control.verticalScrollBar()->value(),
+                 window.control.verticalScrollBar()->maximum());
+    }
+
+    void theWheelScrolls()
+    {
+        EditorWindow window(longText());
+        turnWheel(window, -120);
+        QCOMPARE(window.surface.first_visible_line(), QApplication::wheelScrollLines());
+        turnWheel(window, 120);
+        QCOMPARE(window.surface.first_visible_line(), 0);
+    }
+
+    void ensureVisibleScrollsNoFurtherThanNeeded()
+    {
+        EditorWindow window(longText());
+        const QSize visible = window.surface.GetVisibleSize();
+        window.control.EnsureVisible({visible.height() - 1, 0});
+        QCOMPARE(window.surface.first_visible_line(), 0);
+        window.control.EnsureVisible({visible.height(), 0});
+        QCOMPARE(window.surface.first_visible_line(), 1);
+        window.control.EnsureVisible({kLines - 1, visible.width()});
+        QCOMPARE(window.surface.first_visible_column(), 1);
+        window.control.EnsureVisible({0, 0});
+        QCOMPARE(window.surface.first_visible_line(), 0);
+        QCOMPARE(window.surface.first_visible_column(), 0);
+    }
+
+    void ensureVisiblePutsAFarLineIntoTheMiddleWhenAskedTo()
+    {
+        EditorWindow window(longText());
+        const int visible = window.surface.GetVisibleSize().height();
+        window.control.EnsureVisible({100, 0}, true);
+        QCOMPARE(window.surface.first_visible_line(), 100 - visible / 2);
+    }
+
+    void pointsAreCellsOfTheScrolledText()
+    {
+        EditorWindow window(longText());
+        window.surface.ScrollBy(0, 10);
+        QCOMPARE(window.surface.FromPoint(QPoint(window.surface.gutter_width(), 0)),
+                 (KVTextEditor::CARET{10, 0}));
+        QCOMPARE(window.surface.FromPoint(QPoint(5, window.surface.line_height())),
+                 (KVTextEditor::CARET{11, 0}));
+    }
+
+    void aSmallerWindowKeepsTheRangesRight()
+    {
+        EditorWindow window("a\nb\nc\nd\ne");
+        window.control.resize(200, 60);
+        QCoreApplication::processEvents();
+        const int visible = window.surface.GetVisibleSize().height();
+        QCOMPARE(window.control.verticalScrollBar()->maximum(),
+                 (5 - visible) * window.surface.line_height());
+    }
+};
+
+QTEST_MAIN(ScrollingTest)
+#include "ScrollingTest.moc"
