@@ -53,5 +53,8 @@ std::u16string scriptOfLines(int lines);
 
 // The measurements, one function per file.
 void measureCore();
+void measureWidget();
+// Prints how many bytes a process takes for the text in the "editor", or else in its peer.
+void measureMemoryOf(const std::string& editor);
 
 }  // namespace EditorBench

@@ -1,9 +1,26 @@
 // Measures the script editor and prints the tables of docs/performance.md.
+//   editor_bench [core|widget]
 
 #include "bench/EditorBench.h"
 
-int main()
+#include <QApplication>
+
+int main(int count, char** arguments)
 {
-    EditorBench::measureCore();
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication application(count, arguments);
+    const QStringList wanted = QApplication::arguments().mid(1);
+    if (wanted.value(0) == "memory") {
+        EditorBench::measureMemoryOf(wanted.value(1).toStdString());
+        return 0;
+    }
+    if (wanted.isEmpty() || wanted.contains("core")) {
+        EditorBench::measureCore();
+    }
+    if (wanted.isEmpty() || wanted.contains("widget")) {
+        EditorBench::measureWidget();
+    }
     return 0;
 }

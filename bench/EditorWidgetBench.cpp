@@ -1,0 +1,278 @@
+// The editor's widget beside QPlainTextEdit, in a view of 1000 x 700.
+
+#include "bench/EditorBench.h"
+#include "bench/PeerEditor.h"
+#include "editor/core/ReplaceAll.h"
+#include "editor/widget/KVQtHighlightEditCtrl.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QProcess>
+#include <QScrollBar>
+#include <QTextBlock>
+
+#include <fstream>
+
+namespace EditorBench {
+
+namespace {
+
+constexpr int kScript = 10000;
+constexpr QSize kView(1000, 700);
+
+QString script(int lines)
+{
+    return QString::fromStdU16String(scriptOfLines(lines));
+}
+
+// Lines of 110 columns with everything that is coloured.
+QString wideScript(int lines)
+{
+    const QString line = "    say \"the cow says moo\" anna lang en age 30 pitch 3 : $visits = "
+                         "$visits + 1 * ($x - 2) : goto counting_all # the";
+    QString text;
+    for (int i = 0; i < lines; ++i) {
+        text += (i > 0 ? "\n" : "") + line.left(110);
+    }
+    return text;
+}
+
+struct Ours
+{
+    KVQtHighlightEditCtrl control;
+
+    Ours()
+    {
+        KVTextEditor::set_script_rules(control.editor());
+        control.resize(kView);
+        control.show();
+    }
+
+    QWidget& keys() { return control.surface(); }
+    QWidget& page() { return control.surface(); }
+    void open(const QString& text) { control.setText(text); }
+
+    void goTo(int line, int column)
+    {
+        control.editor().selection.set(line, column);
+        control.EnsureVisible({line, column}, true);
+        control.UpdateAllViews();
+    }
+};
+
+struct Peer
+{
+    PeerEditor control;
+
+    Peer()
+    {
+        control.resize(kView);
+        control.show();
+    }
+
+    QWidget& keys() { return control; }
+    QWidget& page() { return *control.viewport(); }
+
+    void open(const QString& text)
+    {
+        control.setPlainText(text);
+        control.highlighter->rehighlight();
+    }
+
+    void goTo(int line, int column)
+    {
+        QTextCursor cursor(control.document()->findBlockByNumber(line));
+        cursor.movePosition(QTextCursor::Right, QTextCursor::MoveAnchor, column);
+        control.setTextCursor(cursor);
+        control.centerCursor();
+    }
+};
+
+void settle()
+{
+    for (int i = 0; i < 3; ++i) {
+        QCoreApplication::processEvents();
+    }
+}
+
+void send(QWidget& widget, int key, const QString& text, Qt::KeyboardModifiers modifiers)
+{
+    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
+    QApplication::sendEvent(&widget, &press);
+    QCoreApplication::processEvents();  // the repaint
+}
+
+template <class EDITOR>
+double letter(EDITOR& editor)
+{
+    int typed = 0;
+    return medianMicroseconds(4 * kKeys, [&] {
+        if (++typed % 30 == 0) {
+            send(editor.keys(), Qt::Key_Return, "\r", Qt::NoModifier);
+        }
+        send(editor.keys(), Qt::Key_X, "x", Qt::NoModifier);
+    });
+}
+
+template <class EDITOR>
+double space(EDITOR& editor)
+{
+    return medianMicroseconds(kKeys, [&] { send(editor.keys(), Qt::Key_Space, " ", {}); });
+}
+
+// Each step undoes one of the words that were typed.
+template <class EDITOR>
+double undo(EDITOR& editor)
+{
+    for (int i = 0; i <= kKeys; ++i) {
+        editor.goTo(kScript / 2 + i % 7, 4);  // elsewhere, so that no two steps become one
+        send(editor.keys(), Qt::Key_Space, " ", {});
+    }
+    settle();
+    return medianMicroseconds(kKeys,
+                              [&] { send(editor.keys(), Qt::Key_Z, "\x1a", Qt::ControlModifier); });
+}
+
+template <class EDITOR>
+double frame(EDITOR& editor)
+{
+    return medianMicroseconds(kKeys, [&] { editor.page().repaint(); });
+}
+
+template <class EDITOR>
+double opening(EDITOR& editor, const QString& text)
+{
+    return medianMicroseconds(7, [&] {
+        editor.open(text);
+        editor.page().repaint();
+    });
+}
+
+double resident()
+{
+    constexpr double kPageSize = 4096;
+    double pages = 0;
+    double residentPages = 0;
+    std::ifstream("/proc/self/statm") >> pages >> residentPages;
+    return residentPages * kPageSize;
+}
+
+// Of a process of its own, as memory that a process got once stays its own.
+double memoryOf(const QString& editor)
+{
+    QProcess self;
+    self.start(QCoreApplication::applicationFilePath(), {"memory", editor});
+    self.waitForFinished(-1);
+    return self.readAllStandardOutput().toDouble();
+}
+
+template <class EDITOR>
+void printMemoryOf()
+{
+    EDITOR editor;
+    editor.open("x");
+    settle();
+    const double before = resident();
+    editor.open(script(kScript));
+    settle();
+    std::printf("%.0f\n", resident() - before);
+}
+
+void printCompared(const char* what, double ours, double peer, const char* unit, double limit)
+{
+    std::printf("| %s | %.4g %s | %.4g %s | %.2f | %g |\n", what, ours, unit, peer, unit,
+                ours / peer, limit);
+}
+
+void printKeysAndFrames()
+{
+    Ours ours;
+    Peer peer;
+    const QString text = script(kScript);
+    const double ourOpening = opening(ours, text);
+    const double peerOpening = opening(peer, text);
+    printCompared("opening: set, expand, colour, first paint", ourOpening / 1000,
+                  peerOpening / 1000, "ms", 0.15);
+    ours.goTo(kScript / 2, 4);
+    peer.goTo(kScript / 2, 4);
+    ours.keys().setFocus();
+    settle();
+    printCompared("a frame of an ordinary page", frame(ours), frame(peer), "µs", 0.7);
+    printCompared("a letter with its repaint", letter(ours), letter(peer), "µs", 1.0);
+    printCompared("a space with its snapshot and repaint", space(ours), space(peer), "µs", 1.5);
+    printCompared("undo with its repaint", undo(ours), undo(peer), "µs", 3.0);
+
+    ours.open(wideScript(kScript));
+    peer.open(wideScript(kScript));
+    settle();
+    printCompared("a frame of lines of 110 columns", frame(ours), frame(peer), "µs", 1.0);
+}
+
+double frameOfLines(const QString& text)
+{
+    Ours ours;
+    ours.open(text);
+    settle();
+    return frame(ours);
+}
+
+double letterInLines(int lines)
+{
+    Ours ours;
+    ours.open(script(lines));
+    ours.goTo(lines / 2, 4);
+    ours.keys().setFocus();
+    settle();
+    send(ours.keys(), Qt::Key_Space, " ", {});
+    return letter(ours);
+}
+
+double replaceAll(int occurrences)
+{
+    std::u16string text;
+    for (int i = 0; i < occurrences; ++i) {
+        text += u"say the cow\r\n";
+    }
+    return medianMicroseconds(5, [&] {
+        KVTextEditor::ReplaceAll pass(text, u"cow", u"duck");
+        pass.run(text.size() * 4);
+    });
+}
+
+void printGrowth()
+{
+    printHeader("The same in a longer text");
+    const double small = frameOfLines(script(100));
+    printRow("a frame of 100 lines", small, "µs");
+    printRow("a frame of 100,000 lines compared with 100", frameOfLines(script(100000)) / small,
+             "times", 1.2);
+    printRow("the same with an unmatched bracket at the caret",
+             frameOfLines("(" + script(100000).remove('(').remove(')')) / small, "times", 1.2);
+    printRow("a letter in 100,000 lines compared with 100",
+             letterInLines(100000) / letterInLines(100), "times", 1.2);
+    printRow("Replace All of 100,000 occurrences compared with 10,000",
+             replaceAll(100000) / replaceAll(10000), "times", 13);
+}
+
+}  // namespace
+
+void measureMemoryOf(const std::string& editor)
+{
+    if (editor == "editor") {
+        printMemoryOf<Ours>();
+    } else {
+        printMemoryOf<Peer>();
+    }
+}
+
+void measureWidget()
+{
+    std::printf("\nThe editor and QPlainTextEdit, 10,000 lines\n\n"
+                "| what | editor | QPlainTextEdit | ratio | limit |\n|---|---|---|---|---|\n");
+    printKeysAndFrames();
+    printCompared("memory for the text", memoryOf("editor") / 1e6, memoryOf("peer") / 1e6, "MB",
+                  0.7);
+    printGrowth();
+}
+
+}  // namespace EditorBench
