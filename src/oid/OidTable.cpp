@@ -1,5 +1,6 @@
 #include "oid/OidTable.h"
 
+#include <iterator>
 #include <limits>
 
 #include "oid/OidRawCodes.h"
@@ -37,9 +38,12 @@ void OidProject::updateUsedOIDs()
         next = behind(next, entry.second.oid);
         entry.second = tableEntry(entry.second.oid);
     }
+    auto near = oids.end();  // names often follow each other: cow1, cow2, cow3
     for (const PICTURE& picture : pictures) {
         for (const POLY& area : picture.polys) {
-            if (oids.try_emplace(area.name, tableEntry(next)).second) {
+            const std::size_t count = oids.size();
+            near = std::next(oids.try_emplace(near, area.name, tableEntry(next)));
+            if (oids.size() > count) {
                 print("OID %5d assigned to '%s'\n", next, area.name.c_str());
                 next = numberAfter(next);
             }
