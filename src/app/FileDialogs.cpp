@@ -12,14 +12,16 @@ static QString chosenFile(QFileDialog& dialog)
 
 QString askForProjectToOpen(QWidget* parent)
 {
-    QFileDialog dialog(parent, MainWindow::tr("Open project"), QString(), MainWindow::tr("Project files (*.oidpro)"));
+    QFileDialog dialog(parent, MainWindow::tr("Open project"), QString(),
+                       MainWindow::tr("Project files (*.oidpro)"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     return chosenFile(dialog);
 }
 
 QString askForProjectToSave(QWidget* parent)
 {
-    QFileDialog dialog(parent, MainWindow::tr("Save project"), QString(), MainWindow::tr("Project files (*.oidpro)"));
+    QFileDialog dialog(parent, MainWindow::tr("Save project"), QString(),
+                       MainWindow::tr("Project files (*.oidpro)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setDefaultSuffix("oidpro");

@@ -6,6 +6,7 @@
 #include "qtsync/KVQtSync.h"
 #include "ui_MainWindow.h"
 
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QMessageBox>
 #include <QMimeData>
@@ -143,7 +144,8 @@ static QString draggedProject(const QMimeData& data)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!draggedProject(*event->mimeData()).isEmpty()) {
+    const bool free = QApplication::activeModalWidget() == nullptr;
+    if (free && !draggedProject(*event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "build/SoundFiles.h"
 #include "oid/OidProject.h"
 
 #include <QMainWindow>
@@ -83,6 +84,8 @@ private:
 
     // True when the form holds a name, id or script that the project does not have yet.
     bool formWasEdited() const;
+    // Carries such edits into the project before the form is filled anew, which would lose them.
+    void keepEdits();
     void showPicture(int index);
     // Asks for a picture file and keeps a copy of it as picture n of the project. The null image
     // when the author cancelled or it failed (then that was said).
@@ -91,6 +94,8 @@ private:
     bool keepCopy(const QImage& image, const std::string& path);
     void warn(const QString& text);
 
+    // The speech step of a build, with its progress.
+    SpeechOutcome createSoundFiles();
     void copyGmeToTipToi();
 
     Oid::OidProject project;

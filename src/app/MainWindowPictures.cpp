@@ -17,12 +17,16 @@ bool MainWindow::formWasEdited() const
            ui->codeEditor->text().toStdString() != project.compiler.source;
 }
 
-void MainWindow::showPicture(int index)
+void MainWindow::keepEdits()
 {
-    // The form is filled anew: what was typed since its last way into the project must not be lost.
     if (formWasEdited()) {
         ProjectDataWasChanged(true);
     }
+}
+
+void MainWindow::showPicture(int index)
+{
+    keepEdits();
     ui->polyArea->currentPicture = index;
     ui->polyArea->repaint();
     ProjectDataWasChanged(false);
@@ -45,6 +49,7 @@ void MainWindow::on_btNextPicture_clicked()
     picture.paperWidth = image.widthMM();
     picture.paperHeight = image.heightMM();
     picture.dpi = static_cast<int>(image.dotsPerMeterX() / kDotsPerMetre + 0.4444);
+    keepEdits();  // while the paper fields still belong to another picture, or to none
     project.pictures.push_back(std::move(picture));
     showPicture(count);
 }

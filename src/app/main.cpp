@@ -2,6 +2,7 @@
 #include "app/Translations.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -19,7 +20,7 @@ int main(int argc, char* argv[])
     window.show();
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() > 1) {
-        window.openProject(arguments[1]);
+        window.openProject(QFileInfo(arguments[1]).absoluteFilePath());
     }
     return QApplication::exec();
 }

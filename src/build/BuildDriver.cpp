@@ -29,7 +29,8 @@ bool makeFiles(Oid::OidProject& project, ProcessRunner& runner, const BuildOptio
     if (!makeYAML(project)) {
         return false;
     }
-    const SpeechOutcome speech = createSoundFiles(project, runner, options.speechProgress);
+    const SpeechOutcome speech =
+        options.createSoundFiles ? options.createSoundFiles() : createSoundFiles(project, runner);
     if (speech == SpeechOutcome::cancelled) {
         return stopBuild(mi_printf);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "build/SoundFiles.h"
@@ -14,7 +15,8 @@ std::string builtInAssembler();
 
 struct BuildOptions
 {
-    SpeechProgress speechProgress;
+    // The speech step; without one the audio files are made with no progress shown.
+    std::function<SpeechOutcome()> createSoundFiles;
     std::string assembler = builtInAssembler();  // path of a program that knows "assemble FILE"
 };
 

@@ -17,6 +17,7 @@ using Voices = std::map<std::string, ttbasic::VOICE>;
 
 constexpr char kSound[] = ".ogg";
 constexpr char kSpeech[] = ".wav";  // for a while only
+constexpr int kStopped = -1;        // exit code of a program that crashed or was stopped
 
 // A text that has no audio file yet.
 struct NewText
@@ -111,7 +112,10 @@ bool makeSoundFile(const NewText& text, const Voices& voices, const std::string&
     const std::string base = folder + FileSystem::directorySeparator + text.audioName;
     const std::string speech = base + kSpeech;
     const std::string sound = base + kSound;
-    runner.exec(KVString(speechCommand(voice, speech, text.said.text)), true);
+    const bool spoken = runner.exec(KVString(speechCommand(voice, speech, text.said.text)), true);
+    if (spoken && runner.exitCode() == kStopped) {
+        FileSystem::deleteFile(speech);  // half a text, too
+    }
     const bool converted =
         runner.exec(KVString(soundCommand(speech, sound)), true) && runner.exitCode() == 0;
     if (!converted) {

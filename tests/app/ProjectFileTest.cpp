@@ -166,6 +166,19 @@ private slots:
         QCOMPARE(w.field("txProjectName"), "Farm");
     }
 
+    void whatWasTypedBeforeTheFirstPictureDoesNotSpoilItsPaper()
+    {
+        WindowFixture w;
+        w.dialogs.chooseFile(w.path("book.oidpro"));
+        w.trigger("action_Save_As");
+        QTest::keyClicks(&w.get<KVQtHighlightEditCtrl>("codeEditor")->surface(), "sub cow");
+        w.makePicture("scan.png", {600, 300}, 11811);
+        w.dialogs.chooseFile(w.path("scan.png"));
+        w.click("btNextPicture");
+        QCOMPARE(w.field("txProjDPI"), "300");
+        QCOMPARE(w.script(), "sub cow");
+    }
+
     void aProjectFileDroppedOntoTheWindowIsOpened()
     {
         WindowFixture w;
@@ -178,6 +191,21 @@ private slots:
         QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&w.window, &drop);
         QCOMPARE(w.field("txProjectName"), "Zoo");
+    }
+
+    void whileADialogIsOpenNoProjectIsTaken()
+    {
+        WindowFixture w;
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(w.path("book.oidpro"))});
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        w.dialogs.look([&](QWidget& dialog) {
+            QCoreApplication::sendEvent(&w.window, &enter);
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+        w.trigger("action_Open");
+        QVERIFY(!enter.isAccepted());
     }
 
     void anyOtherFileIsNotTaken()

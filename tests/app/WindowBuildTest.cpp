@@ -150,6 +150,47 @@ private slots:
         QVERIFY(cancelled);
     }
 
+    // Also while one text takes long; what is half spoken is not kept.
+    void theSpeechCanBeCancelledInTheMiddleOfAText()
+    {
+        StandIns programs;
+        programs.add("Text2Speech",
+                     "while [ \"$1\" != -f ]; do shift; done\necho half > \"$2\"\nexec sleep 60\n");
+        programs.add("ffmpeg",
+                     "[ -f \"$5\" ] || exit 1\nfor last; do :; done\necho ogg > \"$last\"\n");
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        QTimer cancel;
+        bool aliveMeanwhile = false;
+        connect(&cancel, &QTimer::timeout, [&] {
+            QProgressDialog* const progress = w.window.findChild<QProgressDialog*>();
+            if (progress != nullptr && progress->isVisible()) {
+                aliveMeanwhile = true;
+                progress->cancel();
+            }
+        });
+        cancel.start(10);
+        w.click("btBuild");
+        QVERIFY(aliveMeanwhile);
+        QVERIFY(w.console().endsWith("Stopped build process."));
+        QCOMPARE(QDir(w.path("900-audio")).entryList(QDir::Files), QStringList());
+        QVERIFY(w.window.acceptDrops());
+    }
+
+    void noProjectCanBeDroppedOntoAWindowThatWorks()
+    {
+        StandIns programs;
+        programs.add("Text2Speech",
+                     "while [ \"$1\" != -f ]; do shift; done\necho wav > \"$2\"\nsleep 0.3\n");
+        WindowFixture w;
+        w.open(projectFile({kCow}, "sub cow\r\nsay \"Moo\"\r\nsay \"Mooh\"\r\nend sub\r\n"), 1);
+        QVERIFY(w.window.acceptDrops());
+        bool dropsTaken = true;
+        QTimer::singleShot(0, [&] { dropsTaken = w.window.acceptDrops(); });
+        w.click("btBuild");
+        QVERIFY(!dropsTaken);
+    }
+
     void copyingWithoutAPenSaysNothing()
     {
         WindowFixture w;

@@ -185,7 +185,9 @@ TEST_F(BuildingAGame, ADescriptionThatCannotBeWrittenStopsTheBuild)
 TEST_F(BuildingAGame, CancelledSpeechStopsTheBuild)
 {
     fs::remove(folder.file("900-audio/say_adam_Roar.ogg"));
-    options.speechProgress = [](int, int) { return false; };
+    options.createSoundFiles = [&] {
+        return createSoundFiles(project, runner, [](int, int) { return false; });
+    };
     EXPECT_FALSE(build());
     EXPECT_THAT(runner.shown(), testing::EndsWith("Stopped build process.\n"));
     EXPECT_THAT(runner.commands, IsEmpty());

@@ -26,11 +26,11 @@ int build(const Arguments& arguments)
     if (!project.open(arguments.operands[0])) {
         return kFailed;
     }
+    TerminalRunner runner;
     BuildOptions options;
     if (Platform::standardOutputIsTerminal()) {
-        options.speechProgress = showProgress;
+        options.createSoundFiles = [&] { return createSoundFiles(project, runner, showProgress); };
     }
-    TerminalRunner runner;
     const bool complete = buildGame(project, arguments.has("--debug"), runner, options);
     runner.waitForEnd();  // of the assembler
     return complete && runner.exitCode() == 0 ? kFine : kFailed;
