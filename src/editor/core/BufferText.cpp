@@ -22,20 +22,17 @@ int breakLength(const char16_t* text)
     return pair ? 2 : 1;
 }
 
-// Appends what is part of the text: no character 0, whether it is a filler or comes from a
-// separator.
+// Copies what is part of the text: no character 0, whether it is a filler or comes from a
+// separator. Returns the end of the copy.
 template <class ITERATOR, class CHARACTER>
-void appendCharacters(std::u16string& text, ITERATOR first, ITERATOR end, CHARACTER characterOf)
+char16_t* copyCharacters(char16_t* out, ITERATOR first, ITERATOR end, CHARACTER characterOf)
 {
-    const std::size_t before = text.size();
-    text.resize(before + (end - first));
-    char16_t* out = text.data() + before;
     for (; first != end; ++first) {
         const char16_t c = characterOf(*first);
         *out = c;
         out += c != kFiller ? 1 : 0;
     }
-    text.resize(out - text.data());
+    return out;
 }
 
 // Puts a text into a line of an earlier content. The line keeps its storage when that fits, which
@@ -91,15 +88,17 @@ void Buffer<CELL>::get_all_text(const std::u16string& separator, std::u16string&
     for (const Line<CELL>& line : lines) {
         size += line.length();
     }
-    text.clear();
-    text.reserve(size);
+    text.resize(size);
+    char16_t* out = text.data();
     for (const Line<CELL>& line : lines) {
         if (&line != &lines.front()) {
-            appendCharacters(text, separator.begin(), separator.end(),
-                             [](char16_t c) { return c; });
+            out = copyCharacters(out, separator.begin(), separator.end(),
+                                 [](char16_t c) { return c; });
         }
-        appendCharacters(text, line.begin(), line.end(), [](const CELL& cell) { return cell.ch; });
+        out =
+            copyCharacters(out, line.begin(), line.end(), [](const CELL& cell) { return cell.ch; });
     }
+    text.resize(out - text.data());
 }
 
 template void Buffer<EdChar>::set_text(const char16_t*);

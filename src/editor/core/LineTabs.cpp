@@ -27,11 +27,27 @@ int fillersBehind(int column, int width)
     return width - column % width - 1;
 }
 
+// Most lines hold no tab. Looks at all cells without a branch, so several at a time.
+template <class CELL>
+bool holdsTabs(const CELL* first, const CELL* end)
+{
+    unsigned found = 0;
+    for (; first != end; ++first) {
+        found |=
+            static_cast<unsigned>(first->ch == u'\t') | static_cast<unsigned>(first->ch == kFiller);
+    }
+    return found != 0;
+}
+
 }  // namespace
 
 template <class CELL>
 void Line<CELL>::tabs_insert(int width)
 {
+    if (!holdsTabs(begin(), end())) {
+        changed = changed || used > 0;
+        return;
+    }
     width = std::max(width, 1);
     if (tabs_are_expanded(width)) {
         refresh_fillers();
