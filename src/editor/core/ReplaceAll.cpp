@@ -4,34 +4,50 @@
 
 namespace KVTextEditor {
 
-ReplaceAll::ReplaceAll(const std::u16string& text, std::u16string searchText,
-                       std::u16string replacement)
+ReplaceAll::ReplaceAll(std::u16string text, std::u16string searchText,
+                       const std::u16string& replacement)
     : search(std::move(searchText)),
       reversedReplacement(replacement.rbegin(), replacement.rend()),
-      rest(text.rbegin(), text.rend())
+      source(std::move(text))
 {
-    done.reserve(text.size());
+    done.reserve(source.size());
 }
 
 ReplaceAll::State ReplaceAll::run(std::size_t characters)
 {
-    for (; characters > 0 && !rest.empty(); --characters) {
-        done += rest.back();
-        rest.pop_back();
+    for (; characters > 0 && remaining() > 0; --characters) {
+        takeNext();
         if (searchEndsHere()) {
             done.resize(done.size() - search.size());
-            rest += reversedReplacement;
-            if (done.size() + rest.size() > limit) {
+            replaced += reversedReplacement;
+            if (done.size() + remaining() > limit) {
                 return tooLarge;
             }
         }
     }
-    return rest.empty() ? finished : running;
+    return remaining() == 0 ? finished : running;
 }
 
 std::u16string ReplaceAll::text() const
 {
-    return done + std::u16string(rest.rbegin(), rest.rend());
+    std::u16string whole = done;
+    whole.append(replaced.rbegin(), replaced.rend());
+    return whole.append(source, position);
+}
+
+std::size_t ReplaceAll::remaining() const
+{
+    return replaced.size() + source.size() - position;
+}
+
+void ReplaceAll::takeNext()
+{
+    if (replaced.empty()) {
+        done += source[position++];
+    } else {
+        done += replaced.back();
+        replaced.pop_back();
+    }
 }
 
 bool ReplaceAll::searchEndsHere() const

@@ -16,7 +16,7 @@ public:
     enum State { running, finished, tooLarge };
 
     // The search text is not empty.
-    ReplaceAll(const std::u16string& text, std::u16string search, std::u16string replacement);
+    ReplaceAll(std::u16string text, std::u16string search, const std::u16string& replacement);
 
     // Goes on for so many characters.
     State run(std::size_t characters);
@@ -27,12 +27,16 @@ public:
     std::size_t limit = std::size_t(1) << 29;
 
 private:
+    std::size_t remaining() const;
+    void takeNext();
     bool searchEndsHere() const;
 
     std::u16string search;
     std::u16string reversedReplacement;
-    std::u16string done;  // holds no occurrence
-    std::u16string rest;  // reversed: its last character comes next
+    std::u16string done;      // holds no occurrence
+    std::u16string replaced;  // reversed: comes next, beginning with its last character
+    std::u16string source;    // from position on it comes after that
+    std::size_t position = 0;
 };
 
 }  // namespace KVTextEditor
