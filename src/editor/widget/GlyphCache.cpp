@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -9,53 +10,69 @@ namespace {
 
 constexpr size_t kCodeUnits = 65536;
 
-// Mixes two colours; coverage 255 is all of the first.
+// Mixes two colours; coverage 255 is all of the first. Red and blue go together.
 QRgb mix(QRgb color, QRgb background, unsigned coverage)
 {
-    const auto channel = [coverage](int over, int under) {
-        const unsigned sum = unsigned(over) * coverage + unsigned(under) * (255 - coverage);
-        return int((sum + 127) / 255);
-    };
-    return qRgb(channel(qRed(color), qRed(background)), channel(qGreen(color), qGreen(background)),
-                channel(qBlue(color), qBlue(background)));
+    constexpr unsigned kRedBlue = 0xFF00FF, kGreen = 0x00FF00;
+    const unsigned over = coverage + (coverage >> 7);  // of 256
+    const unsigned under = 256 - over;
+    const unsigned redBlue = (color & kRedBlue) * over + (background & kRedBlue) * under;
+    const unsigned green = (color & kGreen) * over + (background & kGreen) * under;
+    return 0xFF000000 | ((redBlue >> 8) & kRedBlue) | ((green >> 8) & kGreen);
 }
 
-void blend(QImage& canvas, const QRect& place, const QImage& stencil, QRgb color, QRgb background)
+// In some fonts the underscore lies below the descent, and so below the line.
+int baseline_for(const QFont& font, int height)
 {
-    const int x = place.x();
-    const int y = place.y();
-    const int left = std::max(0, -x);
-    const int right = std::min({stencil.width(), place.width(), canvas.width() - x});
-    const int bottom = std::min({stencil.height(), place.height(), canvas.height() - y});
-    for (int row = std::max(0, -y); row < bottom; ++row) {
-        const uchar* coverage = stencil.constScanLine(row);
-        QRgb* pixels = reinterpret_cast<QRgb*>(canvas.scanLine(y + row)) + x;
-        for (int i = left; i < right; ++i) {
-            if (coverage[i] == 255) {
-                pixels[i] = color;
-            } else if (coverage[i] != 0) {
-                pixels[i] = mix(color, background, coverage[i]);
+    const QFontMetricsF metrics(font);
+    const qreal lowest = metrics.tightBoundingRect("_|gjpqy()[]{}$@,;Q").bottom();
+    return std::min(qRound(metrics.ascent()), height - qCeil(lowest));
+}
+
+QRect covered_part(const QImage& coverage)
+{
+    QRect part;
+    for (int y = 0; y < coverage.height(); ++y) {
+        const uchar* const row = coverage.constScanLine(y);
+        for (int x = 0; x < coverage.width(); ++x) {
+            part = row[x] != 0 ? part.united({x, y, 1, 1}) : part;
+        }
+    }
+    return part;
+}
+
+}  // namespace
+
+void GlyphCache::blend(QImage& canvas, const QRect& place, const Stencil& stencil, QRgb color,
+                       QRgb background)
+{
+    const QRect inside = stencil.ink.translated(place.topLeft()) & place & canvas.rect();
+    for (int y = inside.top(); y <= inside.bottom(); ++y) {
+        const uchar* coverage = stencil.coverage.constScanLine(y - place.top()) - place.left();
+        QRgb* const pixels = reinterpret_cast<QRgb*>(canvas.scanLine(y));
+        for (int x = inside.left(); x <= inside.right(); ++x) {
+            if (coverage[x] != 0) {
+                pixels[x] = mix(color, background, coverage[x]);
             }
         }
     }
 }
 
-}  // namespace
-
 void GlyphCache::set_font(const QFont& new_font, QSize cell, qreal ratio)
 {
     font = new_font;
+    font.setPointSizeF(new_font.pointSizeF() * ratio);
     cell_size = cell;
     pixel_ratio = ratio;
-    baseline = qRound(QFontMetricsF(font).ascent() * ratio);
-    stencils.assign(kCodeUnits, QImage());
+    baseline = baseline_for(font, cell.height());
+    stencils.assign(kCodeUnits, Stencil());
     pair_stencils.clear();
 }
 
 void GlyphCache::draw(QImage& canvas, const QRect& place, char16_t ch, QRgb color, QRgb background)
 {
-    QImage& stencil = stencils[ch];
-    if (stencil.isNull()) {
+    Stencil& stencil = stencils[ch];
+    if (stencil.coverage.isNull()) {
         stencil = make_stencil(QString(QChar(ch)), 0);
     }
     blend(canvas, place, stencil, color, background);
@@ -64,24 +81,23 @@ void GlyphCache::draw(QImage& canvas, const QRect& place, char16_t ch, QRgb colo
 void GlyphCache::draw_pair(QImage& canvas, const QRect& place, char16_t high, char16_t low,
                            Half half, QRgb color, QRgb background)
 {
-    QImage& stencil = pair_stencils[QChar::surrogateToUcs4(high, low)][half];
-    if (stencil.isNull()) {
+    Stencil& stencil = pair_stencils[QChar::surrogateToUcs4(high, low)][half];
+    if (stencil.coverage.isNull()) {
         const QString text = QString(QChar(high)) + QChar(low);
         stencil = make_stencil(text, half == right ? -cell_size.width() : 0);
     }
     blend(canvas, place, stencil, color, background);
 }
 
-QImage GlyphCache::make_stencil(const QString& text, int shift) const
+GlyphCache::Stencil GlyphCache::make_stencil(const QString& text, int shift) const
 {
     QImage drawn(cell_size, QImage::Format_ARGB32_Premultiplied);
     drawn.fill(Qt::transparent);
-    QFont scaled = font;
-    scaled.setPointSizeF(font.pointSizeF() * pixel_ratio);
     QPainter painter(&drawn);
-    painter.setFont(scaled);
+    painter.setFont(font);
     painter.setPen(Qt::white);
     painter.drawText(QPoint(shift, baseline), text);
     painter.end();
-    return drawn.convertToFormat(QImage::Format_Alpha8);
+    const QImage coverage = drawn.convertToFormat(QImage::Format_Alpha8);
+    return {coverage, covered_part(coverage)};
 }

@@ -29,12 +29,20 @@ public:
                    QRgb color, QRgb background);
 
 private:
-    QImage make_stencil(const QString& text, int shift) const;
+    struct Stencil
+    {
+        QImage coverage;  // null until the character is drawn for the first time
+        QRect ink;        // the part that the character covers
+    };
 
-    QFont font;
+    static void blend(QImage& canvas, const QRect& place, const Stencil& stencil, QRgb color,
+                      QRgb background);
+    Stencil make_stencil(const QString& text, int shift) const;
+
+    QFont font;  // in device pixels
     QSize cell_size;
     qreal pixel_ratio = 1;
-    int baseline = 0;              // device pixels below the cell's top
-    std::vector<QImage> stencils;  // by code unit; null until first drawn
-    QHash<uint, std::array<QImage, 2>> pair_stencils;
+    int baseline = 0;               // device pixels below the cell's top
+    std::vector<Stencil> stencils;  // by code unit
+    QHash<uint, std::array<Stencil, 2>> pair_stencils;
 };

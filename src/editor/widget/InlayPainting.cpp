@@ -1,6 +1,7 @@
 // Painting: one frame of text with its line numbers, and the caret on top.
 #include "editor/widget/KVQtHighlightEditCtrlInlay.h"
 
+#include "editor/widget/RowKeys.h"
 #include "editor/widget/TextPainter.h"
 
 #include <QPaintEvent>
@@ -30,20 +31,56 @@ int KVQtHighlightEditCtrlInlay::gutter_width() const
 void KVQtHighlightEditCtrlInlay::paintEvent(QPaintEvent* event)
 {
     const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
-    // Other parts may have been waiting to be painted together with the blinking caret.
-    const bool onlyCaret = blinking && caret_rectangle().contains(event->region().boundingRect());
-    if (!onlyCaret || canvas.size() != pixels) {
-        if (canvas.size() != pixels) {
-            canvas = QImage(pixels, QImage::Format_RGB32);
-        }
-        draw_canvas();
+    if (canvas.size() != pixels) {
+        canvas = QImage(pixels, QImage::Format_RGB32);
+        drawn_rows.clear();
     }
+    draw_canvas(event->rect());
     QPainter painter(this);
     painter.drawImage(0, 0, canvas);
     draw_caret(painter);
 }
 
-void KVQtHighlightEditCtrlInlay::draw_canvas()
+// Brings the rows that are going to be shown up to date.
+void KVQtHighlightEditCtrlInlay::draw_canvas(const QRect& shown)
+{
+    const TextView view = prepare_view();
+    prepare_glyphs(view.ratio);
+    drawn_rows.resize(static_cast<std::size_t>(view.lines));
+    const RowKeys keys(options, editor, view);
+    canvas.setDevicePixelRatio(1);
+    TextPainter painter(canvas, glyphs, options, editor, view);
+    const int last = std::min(shown.bottom() / cell_height, view.lines - 1);
+    for (int row = std::max(0, shown.top() / cell_height); row <= last; ++row) {
+        std::optional<quint64>& drawn = drawn_rows[static_cast<std::size_t>(row)];
+        const quint64 wanted = keys.of_row(row);
+        if (drawn != wanted) {
+            painter.draw_row(row);
+            drawn = wanted;
+        }
+    }
+    canvas.setDevicePixelRatio(view.ratio);
+}
+
+// Asks for a repaint of the rows that no longer show what they should, and of the caret.
+void KVQtHighlightEditCtrlInlay::update_changed_rows()
+{
+    const TextView view = prepare_view();
+    if (drawn_rows.size() != static_cast<std::size_t>(view.lines)) {
+        update();
+        return;
+    }
+    const RowKeys keys(options, editor, view);
+    for (int row = 0; row < view.lines; ++row) {
+        if (drawn_rows[static_cast<std::size_t>(row)] != keys.of_row(row)) {
+            update(0, row * cell_height, width(), cell_height);
+        }
+    }
+    update(drawn_caret);
+    update(caret_rectangle());
+}
+
+TextView KVQtHighlightEditCtrlInlay::prepare_view()
 {
     TextView view;
     view.first_line = first_visible_line();
@@ -61,10 +98,7 @@ void KVQtHighlightEditCtrlInlay::draw_canvas()
     }
     find_brackets();
     view.brackets = brackets;
-    prepare_glyphs(view.ratio);
-    canvas.setDevicePixelRatio(1);
-    TextPainter(canvas, glyphs, options, editor, view).draw();
-    canvas.setDevicePixelRatio(view.ratio);
+    return view;
 }
 
 void KVQtHighlightEditCtrlInlay::prepare_glyphs(qreal ratio)
@@ -72,6 +106,7 @@ void KVQtHighlightEditCtrlInlay::prepare_glyphs(qreal ratio)
     const QSize cell(qCeil(cell_width * ratio), qCeil(cell_height * ratio));
     if (glyphs.ratio() != ratio || glyphs.cell() != cell) {
         glyphs.set_font(font(), cell, ratio);
+        drawn_rows.clear();
     }
 }
 
@@ -102,9 +137,10 @@ QRect KVQtHighlightEditCtrlInlay::caret_rectangle() const
     return cell.isEmpty() ? QRect() : QRect(cell.topLeft(), QSize(kCaretWidth, cell.height()));
 }
 
-void KVQtHighlightEditCtrlInlay::draw_caret(QPainter& painter) const
+void KVQtHighlightEditCtrlInlay::draw_caret(QPainter& painter)
 {
     const QRect bar = caret_rectangle();
+    drawn_caret = bar;
     if (!hasFocus() || !caret_visible || bar.isEmpty()) {
         return;
     }

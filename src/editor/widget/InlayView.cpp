@@ -47,7 +47,7 @@ void KVQtHighlightEditCtrlInlay::UpdateAllViews()
     }
     update_scroll_bars();
     caret_visible = true;
-    update();
+    update_changed_rows();
     updateMicroFocus();
     EditorAccessible::announceCaret(this);
 }

@@ -66,8 +66,8 @@ void KVQtHighlightEditCtrlInlay::undo_or_redo(void (BACKEND::*step)())
 {
     (editor.*step)();
     text_width = buffer.width();
-    EnsureVisible(editor.selection.end);
     UpdateAllViews();
+    EnsureVisible(editor.selection.end);
 }
 
 void KVQtHighlightEditCtrlInlay::OnEditSelectAll()
@@ -84,9 +84,7 @@ void KVQtHighlightEditCtrlInlay::blink()
 {
     if (hasFocus()) {
         caret_visible = !caret_visible;
-        blinking = true;
-        repaint(caret_rectangle());
-        blinking = false;
+        update(caret_rectangle());
     } else if (area->hasFocus()) {
         setFocus();
     }

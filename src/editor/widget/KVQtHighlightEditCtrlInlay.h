@@ -8,9 +8,12 @@
 #include <QWidget>
 
 #include <array>
+#include <optional>
+#include <vector>
 
 class KVQtFindDialog;
 class QAbstractScrollArea;
+struct TextView;
 
 // The surface of the code editor: it draws a grid of cells with line numbers in front, and turns
 // keys and mouse gestures into calls of the editing logic. It owns the text. Each command ends with
@@ -146,8 +149,10 @@ private:
     void undo_or_redo(void (BACKEND::*step)());
 
     // --- painting (InlayPainting.cpp) ---
-    void draw_canvas();
-    void draw_caret(QPainter& painter) const;
+    void draw_canvas(const QRect& shown);
+    void update_changed_rows();
+    TextView prepare_view();
+    void draw_caret(QPainter& painter);
     int gutter_digits() const;
     QRect caret_rectangle() const;
     void prepare_glyphs(qreal ratio);
@@ -162,13 +167,14 @@ private:
     KVQtFindDialog* find_dialog;
     QTimer blink_timer;
     GlyphCache glyphs;
-    QImage canvas;  // the frame that was drawn last, without its caret
+    QImage canvas;                                   // the frame without its caret
+    std::vector<std::optional<quint64>> drawn_rows;  // what the canvas shows, see RowKeys
+    QRect drawn_caret;
     int cell_width = 1;
     int cell_height = 1;
     int text_width = 0;  // cells of the longest line, or more
 
     bool caret_visible = true;
-    bool blinking = false;  // nothing but the caret's blinking asked for the frame being painted
     std::array<CARET, 2> brackets = {{{-1, -1}, {-1, -1}}};  // at the caret, and its partner
     CARET brackets_caret;
     bool brackets_known = false;

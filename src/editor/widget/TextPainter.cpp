@@ -1,6 +1,7 @@
 #include "editor/widget/TextPainter.h"
 
 #include <algorithm>
+#include <limits>
 #include <string>
 
 using namespace KVTextEditor;
@@ -56,11 +57,12 @@ void TextPainter::prepare_columns()
     }
 }
 
-void TextPainter::draw()
+void TextPainter::draw_row(int row)
 {
-    canvas.fill(grounds[plain]);
-    const int rows = std::min(view.lines, editor.buffer->line_count() - view.first_line);
-    for (int row = 0; row < rows; ++row) {
+    const int top = device(row * view.cell.height());
+    const int bottom = device((row + 1) * view.cell.height());
+    fill({0, top, canvas.width(), bottom - top}, grounds[plain]);
+    if (view.first_line + row < editor.buffer->line_count()) {
         draw_line(row);
         draw_gutter(row);
     }
@@ -73,8 +75,9 @@ void TextPainter::draw_line(int row)
     const LINE& cells = text.line(line);
     const int top = device(row * view.cell.height());
     const int bottom = device((row + 1) * view.cell.height());
+    find_selected_columns(line);
     int end = std::min(view.first_column + view.columns, cells.length());
-    if (has_selection && line >= selection.start.line && line <= selection.end.line) {
+    if (selected_end > selected_from) {
         end = view.first_column + view.columns;  // also the free cells may be selected
     }
     for (int column = view.first_column; column < end; ++column) {
@@ -88,9 +91,21 @@ void TextPainter::draw_line(int row)
     }
 }
 
+void TextPainter::find_selected_columns(int line)
+{
+    selected_from = selected_end = 0;
+    if (!has_selection || line < selection.start.line || line > selection.end.line) {
+        return;
+    }
+    const bool first = selection.block || line == selection.start.line;
+    const bool last = selection.block || line == selection.end.line;
+    selected_from = first ? selection.start.column : 0;
+    selected_end = last ? selection.end.column : std::numeric_limits<int>::max();
+}
+
 TextPainter::Ground TextPainter::ground_at(CARET caret) const
 {
-    if (has_selection && selection.is_selected(caret)) {
+    if (caret.column >= selected_from && caret.column < selected_end) {
         return selected;
     }
     return caret == view.brackets[0] || caret == view.brackets[1] ? bracket : plain;

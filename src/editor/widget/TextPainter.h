@@ -24,7 +24,7 @@ struct TextView
     std::array<KVTextEditor::CARET, 2> brackets = {{{-1, -1}, {-1, -1}}};
 };
 
-// Draws one frame of the text into a 32-bit canvas, cell by cell and without a painter: a frame has
+// Draws rows of the text into a 32-bit canvas, cell by cell and without a painter: a frame has
 // thousands of cells, and each costs no more than its pixels.
 class TextPainter
 {
@@ -35,7 +35,8 @@ public:
 
     TextPainter(QImage& canvas, GlyphCache& glyphs, const EditorOptions& options,
                 const BACKEND& editor, const TextView& view);
-    void draw();
+    // Draws one row of the view, whatever was there before.
+    void draw_row(int row);
 
 private:
     enum Ground { plain, selected, bracket };
@@ -47,6 +48,7 @@ private:
     void draw_line(int row);
     void draw_gutter(int row);
     void draw_bookmark(const QRect& place);
+    void find_selected_columns(int line);
     Ground ground_at(CARET caret) const;
     void draw_cell(const QRect& place, const LINE& cells, int column, Ground ground);
     int device(int pixels) const;
@@ -61,6 +63,8 @@ private:
     TextView view;
     KVTextEditor::SELECTION selection;  // normalized
     bool has_selection;
+    int selected_from = 0;  // columns of the line that is being drawn
+    int selected_end = 0;
     std::vector<int> lefts;  // of the columns in view, in device pixels
     std::array<QRgb, kGrounds> grounds{};
     std::array<std::array<QRgb, kRoles>, kGrounds> colors{};

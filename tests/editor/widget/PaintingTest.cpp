@@ -55,6 +55,34 @@ bool isEmpty(EditorWindow& window, const QImage& picture, int line, int column)
     return ink(window, picture, line, column) == window.ground(picture, line, column);
 }
 
+// Notes what is painted.
+class PaintWatch : public QObject
+{
+public:
+    explicit PaintWatch(QWidget& widget)
+    {
+        QCoreApplication::processEvents();
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            region += static_cast<QPaintEvent*>(event)->region();
+        }
+        return false;
+    }
+
+    QRegion painted()
+    {
+        QCoreApplication::processEvents();
+        return region;
+    }
+
+private:
+    QRegion region;
+};
+
 }  // namespace
 
 // Colours of cells; what the characters look like depends on the fonts.
@@ -255,6 +283,57 @@ private slots:
         QVERIFY(window.holdsColor(window.picture(), window.cell(0, 0), kBlack));
     }
 
+    void aTypedLetterRepaintsItsLineAlone()
+    {
+        EditorWindow window("a\nb|\nc");
+        PaintWatch watch(window.surface);
+        window.type("W");
+        const QRect line(0, window.cell(1, 0).top(), window.surface.width(),
+                         window.surface.line_height());
+        QCOMPARE(watch.painted(), QRegion(line));
+    }
+
+    void aMovedCaretIsRepaintedWhereItWasAndWhereItIs()
+    {
+        EditorWindow window("a\nb|\nc");
+        PaintWatch watch(window.surface);
+        const QRect before = window.cell(1, 1);
+        window.key(Qt::Key_Down);
+        const QRect after = window.cell(2, 1);
+        QCOMPARE(watch.painted(), QRegion(before.x(), before.y(), 2, before.height()) +
+                                      QRegion(after.x(), after.y(), 2, after.height()));
+    }
+
+    void whatAChangeMovesIsRepaintedDownToTheEnd()
+    {
+        EditorWindow window("a\nb|\nc");
+        PaintWatch watch(window.surface);
+        window.key(Qt::Key_Return);
+        const QRegion painted = watch.painted();
+        QVERIFY(painted.contains(window.cell(2, 0)));
+        QVERIFY(painted.contains(window.cell(3, 0)));
+        QVERIFY(!painted.intersects(window.cell(0, 0)));
+    }
+
+    void aSelectionRepaintsTheLinesThatItGainsAndLoses()
+    {
+        EditorWindow window("^a\nb\nc\nd|");
+        PaintWatch watch(window.surface);
+        window.key(Qt::Key_Home);
+        for (int line = 0; line < 4; ++line) {
+            QVERIFY(watch.painted().contains(window.cell(line, 0)));
+        }
+    }
+
+    void changedOptionsRepaintEverything()
+    {
+        EditorWindow window("a");
+        PaintWatch watch(window.surface);
+        window.control.options().colors[0] = QColor(10, 20, 30);
+        window.control.UpdateAllViews();
+        QCOMPARE(watch.painted(), QRegion(window.surface.rect()));
+    }
+
     void wideCharactersStayInTheirCells()
     {
         EditorWindow window(QString::fromUtf8("漢 🐄 x"));
@@ -273,6 +352,21 @@ private slots:
         QCOMPARE(window.surface.font().family(), QString("Consolas"));
         QCOMPARE(window.surface.font().pointSize(), 11);
         QVERIFY(window.surface.char_width() >= metrics.horizontalAdvance('W'));
+    }
+
+    void everyPrintableCharacterLeavesItsMark()
+    {
+        QString all;
+        for (char ch = '!'; ch <= '~'; ++ch) {
+            all += QString(ch);
+        }
+        EditorWindow window(QString(), {1200, 300});
+        window.control.setText(all);
+        window.key(Qt::Key_End);
+        const QImage picture = window.picture();
+        for (int column = 0; column < all.size(); ++column) {
+            QVERIFY2(!isEmpty(window, picture, 0, column), qPrintable(all.mid(column, 1)));
+        }
     }
 
     void anotherFontChangesTheCells()
