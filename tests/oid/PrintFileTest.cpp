@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <thread>
 
+#include "oid/PageRenderer.h"
 #include "tests/oid/PlainPrintImage.h"
 #include "tests/oid/PrintProjects.h"
 
@@ -232,4 +233,26 @@ TEST(PrintFile, ATallPageBeyondThePaintersRangeIsComplete)
         red = next;
     }
     EXPECT_EQ(red, 255);
+}
+
+TEST(PrintFile, APageThatMightNotFitFourGigabytesIsABigTiff)
+{
+    PageGeometry page;
+    page.width = page.height = 40000;
+    page.dotsPerMetre = 47244;
+    const std::vector<QRgb> white(40000 * 16, 0xffffffff);
+    Strip strip;
+    ASSERT_TRUE(StripCompressor().compress(white.data(), page.width, 16, strip));
+    const TemporaryFolder folder;
+    TiffWriter writer(folder.file("large.tiff"));
+    ASSERT_TRUE(writer.open(page, 16));
+    for (int i = 0; i < page.height / 16; ++i) {
+        ASSERT_TRUE(writer.writeStrip(strip));
+    }
+    ASSERT_TRUE(writer.finish());
+    EXPECT_EQ(readFile(folder.file("large.tiff")).substr(0, 3), "II+");
+    const ToolResult info =
+        runTool("tiffinfo", {"-D", QString::fromStdString(folder.file("large.tiff"))});
+    EXPECT_EQ(info.exitCode, 0);
+    EXPECT_NE(info.output.find("Image Width: 40000 Image Length: 40000"), std::string::npos);
 }
