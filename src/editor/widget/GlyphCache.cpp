@@ -69,6 +69,13 @@ void GlyphCache::set_font(const QFont& new_font, QSize cell, qreal ratio)
     pair_stencils.clear();
 }
 
+void GlyphCache::clear()
+{
+    cell_size = QSize();
+    stencils.clear();
+    pair_stencils.clear();
+}
+
 void GlyphCache::draw(QImage& canvas, const QRect& place, char16_t ch, QRgb color, QRgb background)
 {
     Stencil& stencil = stencils[ch];

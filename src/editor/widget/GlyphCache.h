@@ -18,6 +18,8 @@ public:
 
     // The largest cell in device pixels, and how many of them make one pixel of the font.
     void set_font(const QFont& font, QSize cell, qreal ratio);
+    // Empties the cache: set_font comes before the next drawing.
+    void clear();
     QSize cell() const { return cell_size; }
     qreal ratio() const { return pixel_ratio; }
 

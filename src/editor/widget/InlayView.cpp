@@ -25,7 +25,7 @@ void KVQtHighlightEditCtrlInlay::SetFont(const QString& family, int pointSize)
         cell_width = std::max(cell_width, metrics.horizontalAdvance(QChar(c)));
     }
     cell_height = std::max(1, metrics.lineSpacing());
-    glyphs.set_font(font, QSize(), 0);  // made anew for the ratio of the next frame
+    glyphs.clear();  // the next frame knows the ratio of its screen
     update_scroll_bars();
     update();
 }
