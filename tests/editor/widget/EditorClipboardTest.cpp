@@ -1,4 +1,5 @@
 #include "tests/editor/widget/EditorWindow.h"
+#include "tests/helpers/XDisplay.h"
 
 #include <QClipboard>
 #include <QMimeData>
@@ -17,47 +18,18 @@ bool holdsRectangle()
     return clipboard().hasFormat(KVQtHighlightEditCtrlInlay::kRectangleFormat);
 }
 
-// A display of its own, on which programs share a clipboard.
-class Display
-{
-public:
-    Display()
-    {
-        server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "800x600x24"});
-        server.waitForReadyRead();
-        name = ":" + QString::fromLatin1(server.readLine()).trimmed();
-    }
-
-    ~Display()
-    {
-        server.terminate();
-        server.waitForFinished();
-    }
-
-    void start(QProcess& program, const QStringList& arguments) const
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("QT_QPA_PLATFORM", "xcb");
-        environment.insert("DISPLAY", name);
-        program.setProcessEnvironment(environment);
-        program.start(CLIPBOARD_PROGRAM, arguments);
-    }
-
-private:
-    QProcess server;
-    QString name;
-};
-
 // What an editor with the lines "1" and "2" holds after pasting what another process has copied.
 QString pastedFromAnotherProcess(const QString& whatToCopy)
 {
-    const Display display;
+    const XDisplay display;
     QProcess copying, pasting;
-    display.start(copying, {"copy", whatToCopy});
+    copying.setProcessEnvironment(display.environment());
+    pasting.setProcessEnvironment(display.environment());
+    copying.start(CLIPBOARD_PROGRAM, {"copy", whatToCopy});
     if (!copying.waitForReadyRead() || copying.readLine() != "copied\n") {
         return "nothing was copied: " + copying.readAllStandardError();
     }
-    display.start(pasting, {"paste"});
+    pasting.start(CLIPBOARD_PROGRAM, {"paste"});
     pasting.waitForFinished();
     copying.closeWriteChannel();
     copying.waitForFinished();

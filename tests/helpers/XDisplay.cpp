@@ -1,0 +1,26 @@
+#include "tests/helpers/XDisplay.h"
+
+#include <stdexcept>
+
+XDisplay::XDisplay(const QString& size)
+{
+    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", size + "x24"});
+    if (!server.waitForReadyRead()) {
+        throw std::runtime_error("Xvfb did not start");
+    }
+    displayName = ":" + QString::fromLatin1(server.readLine()).trimmed();
+}
+
+XDisplay::~XDisplay()
+{
+    server.terminate();
+    server.waitForFinished();
+}
+
+QProcessEnvironment XDisplay::environment() const
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "xcb");
+    environment.insert("DISPLAY", displayName);
+    return environment;
+}
