@@ -10,6 +10,7 @@
 #include <QDragEnterEvent>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScrollArea>
 #include <QUrl>
 
 MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWindow)
@@ -17,6 +18,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     Q_INIT_RESOURCE(plinkett);  // the icons
     ui->setupUi(this);
     setAcceptDrops(true);
+    letPictureScroll();
     ui->polyArea->setProject(&project);
     connect(ui->polyArea, &PolyEditorWidget::clickedLB, this, &MainWindow::onPolyAreaClickedLB);
     setDefaultPrintf(KVQtStdoutWidget::redirectPrintf);
@@ -31,6 +33,21 @@ MainWindow::~MainWindow()
     setDefaultPrintf(nullptr);
     project.redirectPrintf(defaultPrintf());
     mi_printf = defaultPrintf();
+}
+
+// A picture is as wide as the tab; one that is higher can be scrolled, so that every spot of it can
+// be touched on any screen.
+void MainWindow::letPictureScroll()
+{
+    auto* const scroll = new QScrollArea;
+    delete ui->verticalLayout_2->replaceWidget(ui->polyArea, scroll);
+    scroll->setObjectName("pictureScroll");
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(ui->polyArea);
+    // The tab shows through; the scroll area has switched this on.
+    scroll->viewport()->setAutoFillBackground(false);
+    ui->polyArea->setAutoFillBackground(false);
 }
 
 void MainWindow::printIntoConsole()

@@ -74,6 +74,7 @@ private:
     void ProjectDataWasChanged(bool toProject);
     void prepareTextEditor();
     // Points all messages of the project at the console.
+    void letPictureScroll();
     void printIntoConsole();
 
     // Selects an area of the current picture, or none for an index that it does not have.

@@ -10,6 +10,9 @@
 
 PolyEditorWidget::PolyEditorWidget(QWidget* parent) : QWidget(parent)
 {
+    QSizePolicy policy = sizePolicy();
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
     clearImage();
 }
 
@@ -20,6 +23,16 @@ Oid::PICTURE* PolyEditorWidget::picture() const
         return nullptr;
     }
     return &project->pictures[static_cast<size_t>(currentPicture)];
+}
+
+int PolyEditorWidget::heightForWidth(int width) const
+{
+    if (picture() == nullptr) {
+        return 0;
+    }
+    const int imageWidth = std::max(1, image.width());
+    const qint64 height = qint64(image.height()) * width / imageWidth;
+    return static_cast<int>(std::clamp<qint64>(height, 1, 1000000)) + 1;
 }
 
 Oid::PNT PolyEditorWidget::toProz(QPoint pixel) const
@@ -93,10 +106,13 @@ void PolyEditorWidget::mouseReleaseEvent(QMouseEvent* event)
 
 void PolyEditorWidget::paintEvent(QPaintEvent* /*event*/)
 {
+    if (picture() != nullptr) {
+        readCurrentImage();
+    }
+    askForHeight();
     if (picture() == nullptr) {
         return;
     }
-    readCurrentImage();
     if (!rect().isValid()) {
         return;
     }
@@ -114,11 +130,19 @@ void PolyEditorWidget::readCurrentImage()
     }
 }
 
+// Pictures are read when they are painted, so that is when their height comes out.
+void PolyEditorWidget::askForHeight()
+{
+    const int height = heightForWidth(width());
+    if (height != askedHeight) {
+        askedHeight = height;
+        updateGeometry();
+    }
+}
+
 void PolyEditorWidget::drawImage(QPainter& painter)
 {
-    const int imageWidth = std::max(1, image.width());
-    const qint64 height = qint64(image.height()) * width() / imageWidth;
-    const int shownHeight = static_cast<int>(std::clamp<qint64>(height, 1, 1000000)) + 1;
+    const int shownHeight = heightForWidth(width());
     const qreal ratio = devicePixelRatioF();
     const QSize pixels = (QSizeF(width(), shownHeight) * ratio).toSize();
     if (scaledImage.size() != pixels) {

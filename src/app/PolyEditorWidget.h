@@ -22,6 +22,9 @@ public:
     // The current picture; null without a project and for an index that it does not have.
     Oid::PICTURE* picture() const;
 
+    // So high is the whole picture when it is this wide; 0 without a picture.
+    int heightForWidth(int width) const override;
+
     Oid::PNT toProz(QPoint pixel) const;
     QPoint toPix(const Oid::PNT& point) const;
 
@@ -46,10 +49,12 @@ private:
     void setImage(QImage loaded);
     void readImage(const QString& path);
     void readCurrentImage();
+    void askForHeight();
     void drawImage(QPainter& painter);
     void drawAreas(QPainter& painter) const;
 
     Oid::OidProject* project = nullptr;
     QImage image;
     QPixmap scaledImage;  // the image as it was last painted: scaling costs much more than painting
+    int askedHeight = 0;  // what the layout knows of the picture
 };

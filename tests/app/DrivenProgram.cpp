@@ -32,7 +32,7 @@ void waitUntil(const std::function<bool()>& isSo, const QString& what)
     }
 }
 
-DrivenProgram::DrivenProgram(const XDisplay& display, const QString& folder)
+DrivenProgram::DrivenProgram(const XDisplay& display, const QString& folder, QSize size)
     : environment(display.environment())
 {
     environment.insert("HOME", folder);
@@ -43,11 +43,10 @@ DrivenProgram::DrivenProgram(const XDisplay& display, const QString& folder)
     program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     program.start(PLINKETT_BIN_DIR "/plinkett", QStringList());
     window = waitForWindow("Plinkett");
-
-    // The first line is "WINDOW=...", then come X, Y, WIDTH, HEIGHT.
-    const QStringList lines = xdotool({"getwindowgeometry", "--shell", window}).split('\n');
+    xdotool({"windowsize", "--sync", window, QString::number(size.width()),
+             QString::number(size.height())});
     twin.setAttribute(Qt::WA_DontShowOnScreen);
-    twin.resize(lines.value(3).section('=', 1).toInt(), lines.value(4).section('=', 1).toInt());
+    twin.resize(size);
     twin.show();
 }
 

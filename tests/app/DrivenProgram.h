@@ -12,8 +12,9 @@
 class DrivenProgram
 {
 public:
-    // The display needs a window manager; folder is where the program starts and has its home.
-    DrivenProgram(const XDisplay& display, const QString& folder);
+    // The display needs a window manager. The program starts in the folder, which is its home too;
+    // its window is given a size.
+    DrivenProgram(const XDisplay& display, const QString& folder, QSize size);
     ~DrivenProgram();
 
     void showTab(const char* page);

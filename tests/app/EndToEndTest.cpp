@@ -13,6 +13,9 @@ namespace {
 
 constexpr char kScan[] = PLINKETT_SOURCE_DIR "/examples/farm/901-bkgnd0.jpg";
 
+// High enough for the whole picture: no scroll bar takes of its width.
+constexpr QSize kWindow(1000, 920);
+
 struct DrawnArea
 {
     const char* name;
@@ -181,7 +184,7 @@ private:
     // Returns what the window showed at the end.
     std::vector<QImage> makeTheBook()
     {
-        DrivenProgram program(display, home());
+        DrivenProgram program(display, home(), kWindow);
         program.showTab("tabProject");
         program.fill("txProjectName", "Farm");
         program.fill("txProjectId", "905");
@@ -217,7 +220,7 @@ private:
 
     std::vector<QImage> openAgain()
     {
-        DrivenProgram program(display, home());
+        DrivenProgram program(display, home(), kWindow);
         program.press("ctrl+o");
         program.chooseFile("Open project", path("farm.oidpro"));
         buildAndPrint(program);
@@ -261,7 +264,7 @@ private:
 
 int main(int argc, char* argv[])
 {
-    const XDisplay display("1280x800");
+    const XDisplay display("1280x1024");
     QProcess windowManager;
     windowManager.setProcessEnvironment(display.environment());
     windowManager.start("openbox", QStringList());

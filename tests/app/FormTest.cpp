@@ -191,7 +191,8 @@ private slots:
         QTest::newRow("Areas") << QStringList{tabs,          "btPreviousPicture", "btNextPicture",
                                               "btLoadImage", "btDeletePicture",   "btPickPoly",
                                               "btAddPoly",   "btDelPoly",         "txPolyName",
-                                              "txOidOfArea", "btEditPolyCode",    tabs};
+                                              "txOidOfArea", "btEditPolyCode",    "pictureScroll",
+                                              tabs};
         QTest::newRow("Script") << QStringList{tabs, "inlay"};
         QTest::newRow("Build") << QStringList{tabs,          "btBuild",   "chDebugMode",
                                               "btCopyToPen", "txConsole", tabs};

@@ -6,7 +6,10 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QLayout>
 #include <QLineEdit>
+#include <QTabWidget>
+#include <QWheelEvent>
 
 namespace {
 
@@ -24,6 +27,41 @@ class PicturesTest : public QObject
     Q_OBJECT
 
 private slots:
+    void aPictureHigherThanTheTabIsScrolledToItsLastLine()
+    {
+        WindowFixture w;
+        w.makePicture("900-bkgnd0.jpg", {200, 400});
+        w.open(projectFile({kArea}));
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        PolyEditorWidget& picture = *w.get<PolyEditorWidget>("polyArea");
+        QTRY_VERIFY(picture.height() >= 2 * picture.width());
+        QVERIFY(picture.visibleRegion().boundingRect().top() == 0);
+
+        const QPointF middle(100, 100);
+        QWheelEvent down(middle, picture.mapToGlobal(middle.toPoint()), {}, {0, -120 * 100},
+                         Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        for (int page = 0; page < 10; ++page) {
+            QCoreApplication::sendEvent(picture.parentWidget(), &down);
+        }
+        QTRY_COMPARE(picture.visibleRegion().boundingRect().bottom(), picture.height() - 1);
+        w.click("btAddPoly");
+        w.clickAt({0, 2 * picture.width()});
+        QVERIFY(w.saved().find("POLY polygon2\r\n        0.00   200.00\r\nEND") !=
+                std::string::npos);
+    }
+
+    void aPictureLowerThanTheTabHasItsWholeWidth()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        PolyEditorWidget& picture = *w.get<PolyEditorWidget>("polyArea");
+        QTRY_COMPARE(picture.size(), picture.parentWidget()->size());
+        QCOMPARE(picture.width(),
+                 w.get<QWidget>("tabAreas")->contentsRect().width() -
+                     2 * w.get<QLayout>("verticalLayout_2")->contentsMargins().left());
+    }
+
     void previousWrapsAndNextAsksForMore()
     {
         WindowFixture w;
