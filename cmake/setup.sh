@@ -8,7 +8,7 @@ build_packages=(
 run_packages=(espeak-ng ffmpeg libqt5svg5 fonts-dejavu-core fonts-noto-color-emoji)
 test_packages=(
     libgtest-dev libgmock-dev locales
-    libtiff-tools imagemagick qt5-image-formats-plugins
+    libtiff-tools qt5-image-formats-plugins
     xvfb xauth openbox xdotool
 )
 
