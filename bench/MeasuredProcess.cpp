@@ -4,6 +4,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <ctime>
 
 namespace {
 
@@ -23,6 +24,17 @@ double peakSoFar(qint64 processId)
     return 0;
 }
 
+// All threads of a process, in seconds.
+double processorTime(qint64 processId)
+{
+    clockid_t clock;
+    timespec time{};
+    if (clock_getcpuclockid(static_cast<pid_t>(processId), &clock) == 0) {
+        clock_gettime(clock, &time);
+    }
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
 }  // namespace
 
 double peakMemoryOf(const QString& program, const QStringList& arguments)
@@ -39,6 +51,29 @@ double peakMemoryOf(const QString& program, const QStringList& arguments)
         peak = std::max(peak, peakSoFar(process.processId()));
     }
     return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0 ? peak : 0;
+}
+
+double processorTimeUntilRest(const QString& program, const QStringList& arguments)
+{
+    constexpr int kPollInterval = 20;  // ms
+    constexpr int kRest = 15;          // polls
+    QProcess process;
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(program, arguments);
+    double used = 0;
+    for (int resting = 0; resting < kRest;) {
+        if (process.waitForFinished(kPollInterval) || process.state() == QProcess::NotRunning) {
+            return 0;
+        }
+        const double now = processorTime(process.processId());
+        // A blinking caret is no work.
+        constexpr double kNothing = 0.002;
+        resting = now - used < kNothing ? resting + 1 : 0;
+        used = std::max(used, now);
+    }
+    process.kill();
+    process.waitForFinished();
+    return used;
 }
 
 BusyProcess::BusyProcess()

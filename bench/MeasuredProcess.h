@@ -6,6 +6,10 @@
 // not be run, failed, or the system does not tell.
 double peakMemoryOf(const QString& program, const QStringList& arguments);
 
+// Starts a program, waits until it has used no processor time for a while, and ends it: the time
+// that all its threads have used until then, in seconds; 0 when it ended by itself.
+double processorTimeUntilRest(const QString& program, const QStringList& arguments);
+
 // A process that keeps one processor busy while it lives: this program, started once more with
 // kBusyOption, which has to call stayBusy then.
 class BusyProcess
