@@ -1,4 +1,5 @@
 // The form: its objects, their types, texts, tool tips and ranges, and how it is used by keyboard.
+#include "app/Translations.h"
 #include "tests/app/WindowFixture.h"
 
 #include <QAction>
@@ -14,6 +15,7 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QToolBar>
+#include <QTranslator>
 
 class FormTest : public QObject
 {
@@ -228,11 +230,25 @@ private slots:
         }
     }
 
+    void fitsOnASmallScreen_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const char* const language : {"en", "de", "fr", "nl"}) {
+            QTest::newRow(language) << QString(language);
+        }
+    }
+
+    // 1280 x 720 pixels at 200 %, in every language.
     void fitsOnASmallScreen()
     {
+        QFETCH(QString, language);
+        QTranslator translator;
+        QVERIFY(loadTranslation(translator, {language}));
+        QCoreApplication::installTranslator(&translator);
         WindowFixture w;
-        QVERIFY(w.window.minimumSizeHint().width() <= 1280);
-        QVERIFY(w.window.minimumSizeHint().height() <= 720);
+        const QSize smallest = w.window.minimumSizeHint();
+        QVERIFY2(smallest.width() <= 640, qPrintable(QString::number(smallest.width())));
+        QVERIFY2(smallest.height() <= 360, qPrintable(QString::number(smallest.height())));
     }
 
     void theScriptEditorKnowsTheScriptLanguage()
