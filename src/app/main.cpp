@@ -1,4 +1,5 @@
 #include "app/MainWindow.h"
+#include "app/ScreenFit.h"
 #include "app/Translations.h"
 
 #include <QApplication>
@@ -17,6 +18,7 @@ int main(int argc, char* argv[])
     }
 
     MainWindow window;
+    fitOntoScreen(window);
     window.show();
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() > 1) {

@@ -1,4 +1,5 @@
 // The form: its objects, their types, texts, tool tips and ranges, and how it is used by keyboard.
+#include "app/ScreenFit.h"
 #include "app/Translations.h"
 #include "tests/app/WindowFixture.h"
 
@@ -11,6 +12,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -249,6 +251,26 @@ private slots:
         const QSize smallest = w.window.minimumSizeHint();
         QVERIFY2(smallest.width() <= 640, qPrintable(QString::number(smallest.width())));
         QVERIFY2(smallest.height() <= 360, qPrintable(QString::number(smallest.height())));
+    }
+
+    void startsMaximisedOnAScreenThatIsTooSmallForIt()
+    {
+        MainWindow window;
+        const QSize screen = window.screen()->availableSize();
+        window.resize(screen.width() + 1, screen.height() / 2);
+        fitOntoScreen(window);
+        QVERIFY(window.isMaximized());
+        QCOMPARE(window.size(), QSize(screen.width(), screen.height() / 2));
+    }
+
+    void keepsItsSizeOnAScreenThatIsLargeEnough()
+    {
+        MainWindow window;
+        const QSize screen = window.screen()->availableSize();
+        window.resize(screen);
+        fitOntoScreen(window);
+        QVERIFY(!window.isMaximized());
+        QCOMPARE(window.size(), screen);
     }
 
     void theScriptEditorKnowsTheScriptLanguage()
