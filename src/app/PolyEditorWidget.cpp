@@ -140,11 +140,18 @@ void PolyEditorWidget::askForHeight()
     }
 }
 
+// A picture like a thread would be scaled to far more than any screen shows.
+constexpr qint64 kMostScaledPixels = 64 * 1024 * 1024;
+
 void PolyEditorWidget::drawImage(QPainter& painter)
 {
     const int shownHeight = heightForWidth(width());
     const qreal ratio = devicePixelRatioF();
     const QSize pixels = (QSizeF(width(), shownHeight) * ratio).toSize();
+    if (qint64(pixels.width()) * pixels.height() > kMostScaledPixels) {
+        painter.drawImage(QRect(0, 0, width(), shownHeight), image);  // only what is seen of it
+        return;
+    }
     if (scaledImage.size() != pixels) {
         scaledImage = QPixmap::fromImage(
             image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));

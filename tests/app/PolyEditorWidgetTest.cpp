@@ -124,6 +124,16 @@ private slots:
         QCOMPARE(shown.pixel(100, 101), QColor(1, 2, 3));
     }
 
+    // Scaled to the width it would have billions of pixels; only what is seen is painted.
+    void aPictureLikeAThreadIsShown()
+    {
+        Shown shown;
+        QImage image(2, 60000, QImage::Format_RGB32);
+        image.fill(QColor(0, 0, 0));
+        image.save(QString::fromStdString(shown.folder.file("900-bkgnd0.jpg")));
+        QCOMPARE(shown.pixel(100, 159), QColor(0, 0, 0));
+    }
+
     void nothingIsPaintedWithoutAPicture()
     {
         Shown shown;
