@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QContextMenuEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLayout>
@@ -152,6 +153,38 @@ private slots:
         check(1, "actionSave", "Save", "Ctrl+S");
         check(2, "action_Save_As", "&Save As...", "Ctrl+Shift+S");
         QCOMPARE(w.window.toolBarArea(w.get<QToolBar>("toolBar")), Qt::TopToolBarArea);
+    }
+
+    // Shortcuts of a hidden or torn-off tool bar are dead, and no menu would bring it back.
+    void theToolBarCannotBeLost()
+    {
+        WindowFixture w;
+        QToolBar* const toolBar = w.get<QToolBar>("toolBar");
+        QWidget* const button = toolBar->widgetForAction(w.get<QAction>("actionSave"));
+        for (QWidget* const place : {static_cast<QWidget*>(toolBar), button}) {
+            QContextMenuEvent rightClick(QContextMenuEvent::Mouse, {3, 3},
+                                         place->mapToGlobal({3, 3}));
+            QCoreApplication::sendEvent(place, &rightClick);
+            QCOMPARE(QApplication::activePopupWidget(), nullptr);
+        }
+        QVERIFY(!toolBar->isFloatable());
+    }
+
+    void ctrlTabLeavesTheScriptEditor()
+    {
+        WindowFixture w;
+        QTabWidget* const tabs = w.get<QTabWidget>("ribbonTab");
+        tabs->setCurrentIndex(2);
+        w.window.activateWindow();
+        QWidget& surface = w.get<KVQtHighlightEditCtrl>("codeEditor")->surface();
+        surface.setFocus();
+        QTest::keyClick(&surface, Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(w.tab(), "Build");
+        QCOMPARE(w.script(), "");
+        tabs->setCurrentIndex(2);
+        surface.setFocus();
+        QTest::keyClick(&surface, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(w.tab(), "Areas");
     }
 
     void numbersHaveTheirRanges()
