@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QDragEnterEvent>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScrollArea>
@@ -17,7 +18,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
 {
     Q_INIT_RESOURCE(plinkett);  // the icons
     ui->setupUi(this);
-    setAcceptDrops(true);
+    takeDrops();
     letPictureScroll();
     ui->polyArea->setProject(&project);
     connect(ui->polyArea, &PolyEditorWidget::clickedLB, this, &MainWindow::onPolyAreaClickedLB);
@@ -33,6 +34,15 @@ MainWindow::~MainWindow()
     setDefaultPrintf(nullptr);
     project.redirectPrintf(defaultPrintf());
     mi_printf = defaultPrintf();
+}
+
+// Fields take drops of their own: the path of a project would be typed into them.
+void MainWindow::takeDrops()
+{
+    for (QLineEdit* const field : findChildren<QLineEdit*>()) {
+        field->setAcceptDrops(false);
+    }
+    setAcceptDrops(true);
 }
 
 // A picture is as wide as the tab; one that is higher can be scrolled, so that every spot of it can
@@ -159,16 +169,23 @@ static QString draggedProject(const QMimeData& data)
     return path.endsWith(".oidpro", Qt::CaseInsensitive) ? path : QString();
 }
 
+// A file manager that moves files deletes what was accepted as moved.
+static void takeCopy(QDropEvent& event)
+{
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
     const bool free = QApplication::activeModalWidget() == nullptr;
     if (free && !draggedProject(*event->mimeData()).isEmpty()) {
-        event->acceptProposedAction();
+        takeCopy(*event);
     }
 }
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
-    event->acceptProposedAction();
+    takeCopy(*event);
     openProject(draggedProject(*event->mimeData()));
 }

@@ -73,8 +73,9 @@ private:
     // compiler object included), or into the form. Called before and after changes alike.
     void ProjectDataWasChanged(bool toProject);
     void prepareTextEditor();
-    // Points all messages of the project at the console.
+    void takeDrops();
     void letPictureScroll();
+    // Points all messages of the project at the console.
     void printIntoConsole();
 
     // Selects an area of the current picture, or none for an index that it does not have.

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QSpinBox>
+#include <QTabWidget>
 #include <QUrl>
 
 namespace {
@@ -177,6 +178,60 @@ private slots:
         w.click("btNextPicture");
         QCOMPARE(w.field("txProjDPI"), "300");
         QCOMPARE(w.script(), "sub cow");
+    }
+
+    void ctrlSInTheScriptEditorSaves()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(2);
+        w.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&w.window));
+        QWidget& surface = w.get<KVQtHighlightEditCtrl>("codeEditor")->surface();
+        surface.setFocus();
+        QTest::keyClicks(&surface, "sub cow");
+        QTest::keyClick(&surface, Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(readFile(w.folder.file("book.oidpro")), projectFile({kCow}, "sub cow"));
+    }
+
+    // The project itself stays where it is, also when the file manager offers to move it.
+    void aDroppedProjectFileIsNotMoved()
+    {
+        WindowFixture w;
+        writeFile(w.folder.file("book.oidpro"), projectFile({kCow}));
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(w.path("book.oidpro"))});
+        const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent enter({5, 5}, offered, &data, Qt::LeftButton, Qt::ShiftModifier);
+        enter.setDropAction(Qt::MoveAction);
+        QCoreApplication::sendEvent(&w.window, &enter);
+        QCOMPARE(enter.dropAction(), Qt::CopyAction);
+        QDropEvent drop({5, 5}, offered, &data, Qt::LeftButton, Qt::ShiftModifier);
+        drop.setDropAction(Qt::MoveAction);
+        QCoreApplication::sendEvent(&w.window, &drop);
+        QCOMPARE(drop.dropAction(), Qt::CopyAction);
+        QCOMPARE(w.field("txProjectName"), "Zoo");
+    }
+
+    // As text the path would be typed into the field.
+    void aProjectFileDroppedOntoAFieldIsOpened()
+    {
+        WindowFixture w;
+        writeFile(w.folder.file("book.oidpro"), projectFile({kCow}));
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(w.path("book.oidpro"))});
+        data.setText(w.path("book.oidpro"));
+        for (QLineEdit* const field : w.window.findChildren<QLineEdit*>()) {
+            if (field->window() != &w.window) {
+                continue;
+            }
+            w.type("txProjectName", "Farm");
+            QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(field, &enter);
+            QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(field, &drop);
+            QCOMPARE(w.field("txProjectName"), "Zoo");
+        }
     }
 
     void aProjectFileDroppedOntoTheWindowIsOpened()
