@@ -49,7 +49,6 @@ void MainWindow::on_btNextPicture_clicked()
     picture.paperWidth = image.widthMM();
     picture.paperHeight = image.heightMM();
     picture.dpi = static_cast<int>(image.dotsPerMeterX() / kDotsPerMetre + 0.4444);
-    keepEdits();  // while the paper fields still belong to another picture, or to none
     project.pictures.push_back(std::move(picture));
     showPicture(count);
 }
@@ -84,6 +83,7 @@ QImage MainWindow::importPicture(int n)
     if (path.isEmpty()) {
         return {};
     }
+    keepEdits();  // the copy is named by the id; and the paper fields belong to the old picture
     QImageReader reader(path);
     reader.setAutoTransform(true);  // photos come in upright
     reader.setDecideFormatFromContent(true);

@@ -8,6 +8,8 @@
 #include <QFileDialog>
 #include <QLayout>
 #include <QLineEdit>
+#include <QProgressDialog>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QWheelEvent>
 
@@ -104,6 +106,31 @@ private slots:
         QCOMPARE(w.field("txProjPaperHeight"), "50");
         QCOMPARE(w.field("txProjDPI"), "600");
         QCOMPARE(QImage(w.path("900-bkgnd1.jpg")).size(), QSize(2362, 1181));
+    }
+
+    // Pictures are named by the id; the copy must be found under the one that is kept.
+    void aPictureIsKeptUnderAnIdThatWasJustTyped()
+    {
+        WindowFixture w;
+        w.dialogs.chooseFile(w.path("book.oidpro"));
+        w.trigger("action_Save_As");
+        w.get<QSpinBox>("txProjectId")->setValue(905);
+        w.makePicture("scan.png", {600, 300}, 11811);
+        w.dialogs.chooseFile(w.path("scan.png"));
+        w.click("btNextPicture");
+        QCOMPARE(QString::fromStdString(w.folder.listing()), "905-bkgnd0.jpg book.oidpro scan.png");
+        QCOMPARE(w.get<QSpinBox>("txProjectId")->value(), 905);
+    }
+
+    void aPictureIsReplacedUnderAnIdThatWasJustTyped()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        w.get<QSpinBox>("txProjectId")->setValue(905);
+        w.makePicture("scan.png", {60, 60});
+        w.dialogs.chooseFile(w.path("scan.png"));
+        w.click("btLoadImage");
+        QCOMPARE(QImage(w.path("905-bkgnd0.jpg")).size(), QSize(60, 60));
     }
 
     void aNewPictureCannotBeReadIsSaid()
@@ -258,6 +285,23 @@ private slots:
         QCOMPARE(QImage(w.path("900-print1.tiff")).size(), QSize(200, 100));
         QVERIFY(w.console().startsWith("Creating pixel image...\n      0%\n     10%\n"));
         QCOMPARE(QDir::current(), QDir(QString::fromStdString(w.folder.path())));
+    }
+
+    void creatingCanBeCancelledAndLeavesNoHalfPrintImage()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea, kArea}), 2);
+        w.type("txProjDPI", "2400");
+        QTimer cancel;
+        connect(&cancel, &QTimer::timeout, [&] {
+            QProgressDialog* const progress = w.window.findChild<QProgressDialog*>();
+            if (progress != nullptr && progress->isVisible()) {
+                progress->cancel();
+            }
+        });
+        cancel.start(10);
+        w.click("btCreateImage");
+        QCOMPARE(w.folder.listing(), std::string("900-bkgnd0.jpg 900-bkgnd1.jpg book.oidpro"));
     }
 
     void createWithoutAPictureFileSaysSo()
