@@ -3,6 +3,7 @@
 // screen.
 #include "app/MainWindow.h"
 #include "app/PolyEditorWidget.h"
+#include "base/PlatformFiles.h"
 #include "bench/EditorBench.h"
 #include "bench/MeasuredProcess.h"
 
@@ -133,7 +134,7 @@ bool measureRepaints()
     for (int i = 0; i < kAreas; ++i) {
         project.pictures[0].polys.push_back(makeArea(i));
     }
-    const QString scan = QString::fromStdString(project.pathImageSource(0));
+    const QString scan = QString::fromStdString(Platform::nativePath(project.pathImageSource(0)));
     makeScan(scan);
 
     PolyEditorWidget editor;
