@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QDragEnterEvent>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
@@ -128,7 +129,8 @@ void MainWindow::openProject(const QString& path)
 {
     ui->txConsole->clear();
     printIntoConsole();
-    const bool opened = project.open(path.toStdString());
+    // Creating print images, for one, goes to another folder.
+    const bool opened = project.open(QFileInfo(path).absoluteFilePath().toStdString());
 
     ui->ribbonTab->setCurrentWidget(opened ? ui->tabProject : ui->tabBuild);
     // First the index: the form would show, and later write back, the sizes of another page.

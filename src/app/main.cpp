@@ -3,7 +3,6 @@
 #include "app/Translations.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -22,7 +21,7 @@ int main(int argc, char* argv[])
     window.show();
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() > 1) {
-        window.openProject(QFileInfo(arguments[1]).absoluteFilePath());
+        window.openProject(arguments[1]);
     }
     return QApplication::exec();
 }

@@ -121,6 +121,30 @@ private slots:
         QCOMPARE(readFile(w.folder.file("other.oidpro")), projectFile({kCow}));
     }
 
+    void saveOfAProjectThatHasVanishedAsksForAName()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        QVERIFY(QFile::remove(w.path("book.oidpro")));
+        w.dialogs.chooseFile(w.path("other.oidpro"));
+        w.trigger("actionSave");
+        QCOMPARE(w.dialogs.seen().last(), "Save project");
+        QCOMPARE(readFile(w.folder.file("other.oidpro")), projectFile({kCow}));
+    }
+
+    // The program may go to another folder later, for one to make print images.
+    void aRelativePathLeadsToTheProjectEverAfter()
+    {
+        WindowFixture w;
+        writeFile(w.folder.file("book.oidpro"), projectFile({kCow}));
+        const QString before = QDir::currentPath();
+        QDir::setCurrent(QString::fromStdString(w.folder.path()));
+        w.window.openProject("book.oidpro");
+        QDir::setCurrent(before);
+        w.type("txProjectName", "Farm");
+        QCOMPARE(w.saved(), projectFile({kCow}, "", "PRODUCT 900, \"Farm\""));
+    }
+
     void whatIsTypedAboutThePaperGoesIntoTheProjectAtOnce()
     {
         WindowFixture w;
