@@ -2,6 +2,7 @@
 #include "app/MainWindow.h"
 
 #include "base/TextHelpers.h"
+#include "oid/OidTable.h"
 #include "ui_MainWindow.h"
 
 #include <algorithm>
@@ -31,7 +32,9 @@ void MainWindow::selectPolygon(int i)
         // Setting the fields fires their handlers, which write the same values back.
         const std::string name = picture->polys[static_cast<size_t>(i)].name;
         ui->txPolyName->setText(QString::fromStdString(name));
-        ui->txOidOfArea->setValue(project.oids[name].oid);
+        const Oid::OidProject::OID entry = project.oids[name];
+        ui->txOidOfArea->setValue(entry.oid);
+        project.oids[name] = entry;  // it may be beyond the range of the field
     }
     ui->polyArea->repaint();
 }
@@ -111,7 +114,7 @@ void MainWindow::on_txPolyName_textChanged(const QString& arg1)
 void MainWindow::on_txOidOfArea_valueChanged(int arg1)
 {
     if (const Oid::POLY* const area = selectedArea()) {
-        project.oids[area->name].oid = arg1;
+        project.oids[area->name] = Oid::tableEntry(arg1);
     }
 }
 

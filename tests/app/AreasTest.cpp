@@ -190,6 +190,43 @@ private slots:
         QCOMPARE(w.saved(), projectFile({area("cow", 4321, 10, 10, 20)}));
     }
 
+    void selectingAnAreaKeepsANumberThatTheFieldCannotShow()
+    {
+        WindowFixture w;
+        const std::string project =
+            projectFile({area("cow", 40000, 10, 10, 10) + area("hen", 1002, 30, 10, 10)});
+        w.open(project, 1);
+        showAreas(w);
+        w.clickAt(at(w, 35, 15));
+        w.clickAt(at(w, 15, 15));
+        QCOMPARE(w.get<QSpinBox>("txOidOfArea")->value(), 32767);
+        QCOMPARE(w.saved(), project);
+    }
+
+    // The new name's own number goes, on purpose: both are one area to the pen.
+    void aNameThatAnotherAreaHasTakesTheNumberOfTheRenamedOne()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 10) + area("hen", 1002, 30, 10, 10)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        w.get<QLineEdit>("txPolyName")->setText("hen");
+        QCOMPARE(w.saved(),
+                 projectFile({area("hen", 1001, 10, 10, 10) + area("hen", 1001, 30, 10, 10)}));
+    }
+
+    void zeroIsANumberThatCanBeTyped()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        QSpinBox* const oid = w.get<QSpinBox>("txOidOfArea");
+        oid->selectAll();
+        QTest::keyClicks(oid, "0");
+        QCOMPARE(w.saved(), projectFile({area("cow", 0, 10, 10, 20)}));
+    }
+
     void gotoCodeFindsTheSub()
     {
         WindowFixture w;

@@ -204,6 +204,37 @@ private slots:
         QCOMPARE(current(w), 0);
     }
 
+    void aPictureForAFolderThatHasVanishedIsNotTaken()
+    {
+        WindowFixture w;
+        const TemporaryFolder scans;
+        const QString scan = QString::fromStdString(scans.file("scan.png"));
+        QVERIFY(QImage(60, 60, QImage::Format_RGB32).save(scan));
+        w.open(projectFile({kArea}), 1);
+        QVERIFY(QDir(QString::fromStdString(w.folder.path())).removeRecursively());
+        w.dialogs.chooseFile(scan);
+        w.dialogs.press("OK");
+        w.click("btNextPicture");
+        QCOMPARE(w.dialogs.seen().last(),
+                 "Warning: The picture could not be kept beside the project file.");
+        QCOMPARE(current(w), 0);
+    }
+
+    // Its head promises more pixels than there is memory for.
+    void aPictureThatIsTooLargeForTheMemoryIsNotTaken()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        QImage(1, 1, QImage::Format_RGB32).save(w.path("huge.bmp"));
+        std::string bytes = readFile(w.folder.file("huge.bmp"));
+        const std::string size("\x00\x00\x04\x00\x00\x00\x04\x00", 8);  // 262144 x 262144
+        writeFile(w.folder.file("huge.bmp"), bytes.replace(18, size.size(), size));
+        w.dialogs.chooseFile(w.path("huge.bmp"));
+        w.dialogs.press("OK");
+        w.click("btNextPicture");
+        QCOMPARE(w.dialogs.seen().last(), "Warning: Can't load that picture.");
+    }
+
     void aPhotoComesInUpright()
     {
         WindowFixture w;
@@ -285,6 +316,29 @@ private slots:
         QCOMPARE(QImage(w.path("900-print1.tiff")).size(), QSize(200, 100));
         QVERIFY(w.console().startsWith("Creating pixel image...\n      0%\n     10%\n"));
         QCOMPARE(QDir::current(), QDir(QString::fromStdString(w.folder.path())));
+    }
+
+    void aNumberThatWasJustTypedIsPrinted()
+    {
+        WindowFixture w;
+        const auto page = [](const char* oid) {
+            std::string project =
+                projectFile({std::string("OID ") + oid + "\r\nBOX cow 0 0 100 50\r\n"});
+            const std::string dpi = "DPI   300";
+            return project.replace(project.find(dpi), dpi.size(), "DPI   600");
+        };
+        w.open(page("1001"), 1);
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        w.clickAt(w.get<PolyEditorWidget>("polyArea")->toPix({10, 10}));
+        w.get<QSpinBox>("txOidOfArea")->setValue(4321);
+        w.click("btCreateImage");
+        const QImage printed(w.path("900-print0.tiff"));
+        w.open(page("4321"), 1);
+        w.click("btCreateImage");
+        QVERIFY(printed == QImage(w.path("900-print0.tiff")));
+        w.open(page("1001"), 1);
+        w.click("btCreateImage");
+        QVERIFY(printed != QImage(w.path("900-print0.tiff")));
     }
 
     void creatingCanBeCancelledAndLeavesNoHalfPrintImage()
