@@ -191,6 +191,43 @@ private slots:
         QVERIFY(!dropsTaken);
     }
 
+    void aSecondBuildFindsTheAssemblerBusy()
+    {
+        StandIns programs;
+        programs.add("tttool", "exec sleep 60\n");
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        w.click("btBuild");
+        QCOMPARE(w.console(), "Compiling yaml to gme...\ndone.");
+        w.click("btBuild");
+        QCOMPARE(w.console(), "Compiling yaml to gme...\nExecution of tttool failed");
+    }
+
+    void closingTheWindowEndsTheAssembler()
+    {
+        StandIns programs;
+        programs.add("tttool", "echo $$ > \"$0.log\"\nexec sleep 60\n");
+        {
+            WindowFixture w;
+            w.open(projectFile({kCow}, kScript), 1);
+            w.click("btBuild");
+            QTRY_VERIFY(programs.log("tttool").endsWith('\n'));
+            QVERIFY(QDir("/proc/" + programs.log("tttool").trimmed()).exists());
+        }
+        QVERIFY(!QDir("/proc/" + programs.log("tttool").trimmed()).exists());
+    }
+
+    void aProjectWhoseFolderHasVanishedIsNotBuilt()
+    {
+        StandIns programs;
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        QVERIFY(QDir(QString::fromStdString(w.folder.path())).removeRecursively());
+        w.click("btBuild");
+        QVERIFY(w.console().startsWith("Error: Can't open file "));
+        QVERIFY(!w.console().contains("done."));
+    }
+
     void copyingWithoutAPenSaysNothing()
     {
         WindowFixture w;
