@@ -4,9 +4,9 @@
 #include "app/FileDialogs.h"
 #include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
+#include "oid/PictureFile.h"
 #include "ui_MainWindow.h"
 
-#include <QImageReader>
 #include <QImageWriter>
 #include <QMessageBox>
 #include <QSaveFile>
@@ -84,10 +84,7 @@ QImage MainWindow::importPicture(int n)
         return {};
     }
     keepEdits();  // the copy is named by the id; and the paper fields belong to the old picture
-    QImageReader reader(path);
-    reader.setAutoTransform(true);  // photos come in upright
-    reader.setDecideFormatFromContent(true);
-    const QImage image = reader.read();
+    const QImage image = PictureFile(path).read();
     if (image.isNull()) {
         warn(tr("Can't load that picture."));
         return {};

@@ -1,8 +1,8 @@
 #include "app/PolyEditorWidget.h"
 
 #include "base/PlatformFiles.h"
+#include "oid/PictureFile.h"
 
-#include <QImageReader>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -67,9 +67,7 @@ void PolyEditorWidget::loadImage(const QString& path)
 void PolyEditorWidget::readImage(const QString& path)
 {
     const std::string native = Platform::nativePath(path.toStdString());
-    QImageReader reader(QString::fromStdString(native));
-    reader.setAutoTransform(true);  // photos come in upright
-    const QImage loaded = reader.read();
+    const QImage loaded = PictureFile(QString::fromStdString(native)).read();
     if (loaded.isNull()) {
         clearImage();
     } else {

@@ -1,10 +1,9 @@
 #include "oid/BackgroundReader.h"
 
-#include <QImageReader>
 #include <QString>
 
 #include "base/PlatformFiles.h"
-#include "base/PlatformMemory.h"
+#include "oid/PictureFile.h"
 #include "oid/PrintImage.h"
 
 namespace {
@@ -54,29 +53,18 @@ private:
 thread_local DecoderWarnings* DecoderWarnings::current = nullptr;
 QtMessageHandler DecoderWarnings::forward = nullptr;
 
-// Half of what there is: decoders need room besides, and other programs run too.
-bool fitsMemory(const QImageReader& reader)
-{
-    const QSize size = reader.size();
-    if (!size.isValid()) {
-        return true;  // the decoder will tell
-    }
-    const std::uint64_t pixels =
-        static_cast<std::uint64_t>(size.width()) * static_cast<std::uint64_t>(size.height());
-    return pixels * sizeof(QRgb) <= Platform::availableMemory() / 2;
-}
-
 }  // namespace
 
 bool readBackground(const std::string& path, QImage& image)
 {
     const DecoderWarnings warnings;
-    QImageReader reader(QString::fromStdString(Platform::nativePath(path)));
-    if (!fitsMemory(reader)) {
+    PictureFile file(QString::fromStdString(Platform::nativePath(path)));
+    if (!file.fitsMemory()) {
         mi_printf("Error: The image '%s' is too large for the memory\n", path.c_str());
         return false;
     }
-    if (!reader.read(&image)) {
+    image = file.read();
+    if (image.isNull()) {
         mi_printf("Error: Can't read the image '%s'\n", path.c_str());
         return false;
     }

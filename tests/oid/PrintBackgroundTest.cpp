@@ -4,6 +4,7 @@
 
 #include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
+#include "oid/BackgroundReader.h"
 #include "oid/PageBackground.h"
 #include "oid/PrintImage.h"
 #include "tests/helpers/CapturedMessages.h"
@@ -195,6 +196,23 @@ TEST(PrintBackground, AnImageLargerThanTheMemoryIsNotPrinted)
     EXPECT_EQ(messagesForBackground(bytes),
               "Creating pixel image...\n"
               "Error: The image 'FOLDER\\900-bkgnd0.jpg' is too large for the memory\n");
+}
+
+// As the window shows it, where the areas are drawn.
+TEST(PrintBackground, APhotoIsPrintedUpright)
+{
+    QImage photo(40, 20, QImage::Format_RGB32);
+    photo.fill(Qt::gray);
+    std::string bytes = fileBytes(photo, "JPG");
+    // An EXIF block that says: turn by a quarter (orientation 6).
+    const QByteArray exif = QByteArray::fromHex(
+        "ffe100224578696600004d4d002a00000008000101120003000000010006000000000000");
+    const TemporaryFolder folder;
+    writeFile(folder.file("photo.jpg"), bytes.insert(2, exif.toStdString()));
+    QImage read;
+    EXPECT_TRUE(readBackground(folder.file("photo.jpg"), read));
+    EXPECT_EQ(read.width(), 20);
+    EXPECT_EQ(read.height(), 40);
 }
 
 TEST(PrintBackground, WarningsThatDoNotConcernThePixelsAreNoDamage)
