@@ -9,6 +9,7 @@
 #include <QtMath>
 
 #include <algorithm>
+#include <cmath>
 
 constexpr int kGutterMargin = 4;  // pixels between the line numbers and the text
 
@@ -62,6 +63,14 @@ void KVQtHighlightEditCtrlInlay::draw_canvas(const QRect& shown)
     canvas.setDevicePixelRatio(view.ratio);
 }
 
+// Asks for a repaint. On some screens the edges of a row lie between two device pixels; the rounded
+// row would then stay as it was at one of them.
+void KVQtHighlightEditCtrlInlay::update_to_edges(const QRect& place)
+{
+    const bool whole = devicePixelRatioF() == std::floor(devicePixelRatioF());
+    update(whole ? place : place.adjusted(-1, -1, 1, 1));
+}
+
 // Asks for a repaint of the rows that no longer show what they should, and of the caret.
 void KVQtHighlightEditCtrlInlay::update_changed_rows()
 {
@@ -73,11 +82,11 @@ void KVQtHighlightEditCtrlInlay::update_changed_rows()
     const RowKeys keys(options, editor, view);
     for (int row = 0; row < view.lines; ++row) {
         if (drawn_rows[static_cast<std::size_t>(row)] != keys.of_row(row)) {
-            update(0, row * cell_height, width(), cell_height);
+            update_to_edges({0, row * cell_height, width(), cell_height});
         }
     }
-    update(drawn_caret);
-    update(caret_rectangle());
+    update_to_edges(drawn_caret);
+    update_to_edges(caret_rectangle());
 }
 
 TextView KVQtHighlightEditCtrlInlay::prepare_view()

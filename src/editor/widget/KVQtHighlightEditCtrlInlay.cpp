@@ -84,7 +84,7 @@ void KVQtHighlightEditCtrlInlay::blink()
 {
     if (hasFocus()) {
         caret_visible = !caret_visible;
-        update(caret_rectangle());
+        update_to_edges(caret_rectangle());
     } else if (area->hasFocus()) {
         setFocus();
     }

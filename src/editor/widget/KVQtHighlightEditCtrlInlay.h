@@ -151,6 +151,7 @@ private:
     // --- painting (InlayPainting.cpp) ---
     void draw_canvas(const QRect& shown);
     void update_changed_rows();
+    void update_to_edges(const QRect& place);
     TextView prepare_view();
     void draw_caret(QPainter& painter);
     int gutter_digits() const;

@@ -4,6 +4,7 @@
 #include "tests/editor/widget/EditorWindow.h"
 
 #include <QApplication>
+#include <QScreen>
 
 #include <cstdio>
 
@@ -42,6 +43,28 @@ bool isSharp(const QImage& picture, const QRect& place)
     return differing > place.height() / 4;
 }
 
+// What the window shows, without asking it to paint anything.
+QImage onScreen(const EditorWindow& window)
+{
+    QCoreApplication::processEvents();
+    const QWidget& shown = *window.control.window();
+    return shown.screen()->grabWindow(shown.winId()).toImage();
+}
+
+// Whether the rows that change with a selection are repainted to their edges.
+bool repaintsWhatChanges(EditorWindow& window)
+{
+    for (const int key : {Qt::Key_End, Qt::Key_Down, Qt::Key_Down, Qt::Key_Home, Qt::Key_Up}) {
+        window.key(key, Qt::ShiftModifier);
+        const QImage shown = onScreen(window);
+        window.surface.update();
+        if (onScreen(window) != shown) {
+            return false;
+        }
+    }
+    return true;
+}
+
 const char* fault(EditorWindow& window, qreal ratio)
 {
     window.surface.clearFocus();
@@ -60,7 +83,10 @@ const char* fault(EditorWindow& window, qreal ratio)
         hasInk(picture, devicePixels(window, kColumns, ratio))) {
         return "the text is not where the caret is";
     }
-    return isSharp(picture, first) ? "ok" : "the characters are not sharp";
+    if (!isSharp(picture, first)) {
+        return "the characters are not sharp";
+    }
+    return repaintsWhatChanges(window) ? "ok" : "something that has changed is not painted again";
 }
 
 }  // namespace
@@ -68,7 +94,7 @@ const char* fault(EditorWindow& window, qreal ratio)
 int main(int count, char** arguments)
 {
     QApplication application(count, arguments);
-    EditorWindow window(QString(kColumns, '&'));
+    EditorWindow window("|" + QString(kColumns, '&') + "\nsecond\nthird\nfourth");
     std::puts(fault(window, QApplication::arguments().value(1).toDouble()));
     return 0;
 }
