@@ -32,7 +32,8 @@ void waitUntil(const std::function<bool()>& isSo, const QString& what)
     }
 }
 
-DrivenProgram::DrivenProgram(const XDisplay& display, const QString& folder, QSize size)
+DrivenProgram::DrivenProgram(const XDisplay& display, const QString& folder, QSize size,
+                             const QStringList& arguments)
     : environment(display.environment())
 {
     environment.insert("HOME", folder);
@@ -41,7 +42,7 @@ DrivenProgram::DrivenProgram(const XDisplay& display, const QString& folder, QSi
     program.setProcessEnvironment(environment);
     program.setWorkingDirectory(folder);
     program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    program.start(PLINKETT_BIN_DIR "/plinkett", QStringList());
+    program.start(PLINKETT_BIN_DIR "/plinkett", arguments);
     window = waitForWindow("Plinkett");
     xdotool({"windowsize", "--sync", window, QString::number(size.width()),
              QString::number(size.height())});

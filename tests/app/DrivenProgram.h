@@ -12,9 +12,10 @@
 class DrivenProgram
 {
 public:
-    // The display needs a window manager. The program starts in the folder, which is its home too;
-    // its window is given a size.
-    DrivenProgram(const XDisplay& display, const QString& folder, QSize size);
+    // The display needs a window manager. The program starts in the folder, which is its home too,
+    // with these words on its command line; its window is given a size.
+    DrivenProgram(const XDisplay& display, const QString& folder, QSize size,
+                  const QStringList& arguments = {});
     ~DrivenProgram();
 
     void showTab(const char* page);

@@ -180,6 +180,23 @@ private slots:
         }
     }
 
+    void aProjectNamedOnTheCommandLineIsOpened()
+    {
+        const TemporaryFolder books;
+        writeFile(books.file("book.oidpro"), "PRODUCT 7, \"Zoo\"\n");
+        const std::string asSaved = "\xEF\xBB\xBFPRODUCT 7, \"Zoo\"\r\n";
+        try {
+            DrivenProgram program(display, QString::fromStdString(books.path()), kWindow,
+                                  {"book.oidpro"});
+            program.press("ctrl+s");
+            waitUntil([&] { return readFile(books.file("book.oidpro")).find(asSaved) == 0; },
+                      "the project saved again");
+            program.quit();
+        } catch (const std::exception& failure) {
+            QFAIL(failure.what());
+        }
+    }
+
 private:
     // Returns what the window showed at the end.
     std::vector<QImage> makeTheBook()
