@@ -66,7 +66,7 @@ bool StripCompressor::compress(const QRgb* rows, int width, int rowCount, Strip&
     }
     reserve(strip, largestResult(size));
 
-    isal_zstream deflate;
+    isal_zstream deflate{};  // its init does not set all that it reads
     isal_deflate_stateless_init(&deflate);
     deflate.gzip_flag = IGZIP_ZLIB;
     deflate.end_of_stream = 1;
