@@ -175,9 +175,13 @@ private slots:
                                               {command, "farm.oidpro"}, {}, other.path());
             QCOMPARE(run.status, 0);
         }
-        for (const char* name : {"905-Farm.yaml", "905-Farm.gme", "905-print0.tiff"}) {
+        for (const char* name : {"905-Farm.yaml", "905-Farm.gme"}) {
             QVERIFY2(readFile(folder.file(name)) == readFile(other.file(name)), name);
         }
+        // The pixels; how they are compressed may differ by a few bytes from run to run.
+        const QImage printed(path("905-print0.tiff"));
+        QVERIFY(!printed.isNull());
+        QVERIFY(printed == QImage(QString::fromStdString(other.file("905-print0.tiff"))));
     }
 
     void aProjectNamedOnTheCommandLineIsOpened()
