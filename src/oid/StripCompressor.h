@@ -15,7 +15,9 @@ struct Strip
 };
 
 // Turns rows of the page into strips: red, green and blue of each pixel as the difference from the
-// pixel on its left (TIFF's horizontal predictor), then Deflate. One for each thread.
+// pixel on its left (TIFF's horizontal predictor), then Deflate. One for each thread. The same rows
+// may become some bytes longer or shorter: which repetitions ISA-L finds depends, now and then, on
+// the address of its state (seen with version 2.30).
 class StripCompressor
 {
 public:
