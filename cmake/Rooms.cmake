@@ -44,10 +44,6 @@ function(plinkett_tests name)
                        PROPERTIES TIMEOUT ${TESTS_TIMEOUT} ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()
 
-# For the sanitizer: what Qt itself leaks in every program with widgets.
-set(PLINKETT_LEAK_OPTIONS
-    "suppressions=${CMAKE_SOURCE_DIR}/cmake/leaks-of-others.txt:print_suppressions=0")
-
 # One Qt Test class with its own main (QTEST_MAIN): plinkett_widget_test(NumEditTest LINKS qtsync)
 # builds NumEditTest.cpp and runs it on the offscreen platform.
 function(plinkett_widget_test name)
@@ -61,7 +57,7 @@ function(plinkett_widget_test name)
   endif()
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT ${TEST_TIMEOUT}
-                       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=${PLINKETT_LEAK_OPTIONS}")
+                       ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()
 
 # Test programs live beside, not among, the programs that authors use; they know where the source
