@@ -40,9 +40,6 @@ void KVQtHighlightEditCtrlInlay::ShowFindDialog(bool replace)
 
 void KVQtHighlightEditCtrlInlay::SetFindStringFromSelection()
 {
-    if (!editor.selection.has_range()) {
-        return;  // what was searched for last is worth more than nothing
-    }
     QString text = text_of(editor.get_selected_text());
     FindPrepareSearchString(text);
     find_dialog->set_find_text(text);

@@ -70,12 +70,22 @@ private slots:
         QCOMPARE(window.findDialog().find_text(), QString("cow"));
     }
 
-    void openingWithoutASelectionKeepsWhatWasSearchedFor()
+    void openingWithoutASelectionAsksForANewText()
     {
         EditorWindow window("c|ow duck");
         window.findDialog().set_find_text("duck");
         window.surface.OnEditFind();
-        QCOMPARE(window.findDialog().find_text(), QString("duck"));
+        QCOMPARE(window.findDialog().find_text(), QString());
+    }
+
+    void controlF3WithoutASelectionOpensTheDialog()
+    {
+        EditorWindow window("c|ow duck");
+        window.findDialog().set_find_text("duck");
+        window.key(Qt::Key_F3, Qt::ControlModifier);
+        QVERIFY(window.findDialog().isVisible());
+        QCOMPARE(window.findDialog().find_text(), QString());
+        QCOMPARE(window.shown(), QString("c|ow duck"));
     }
 
     void aMatchAtTheCaretIsFound()
