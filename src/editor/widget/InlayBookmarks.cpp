@@ -27,13 +27,16 @@ void KVQtHighlightEditCtrlInlay::GotoPrevBookmark()
     goto_bookmark(-1);
 }
 
-// Once around the text, from the line beside the caret's; the caret's own line does not count.
+// Once around the text, from the line beside the caret's; the caret's own line does not count. A
+// caret below the text has no line of its own.
 void KVQtHighlightEditCtrlInlay::goto_bookmark(int step)
 {
     const BUFFER& text = buffer;
     const int count = text.line_count();
-    int line = std::clamp(editor.selection.end.line, 0, count - 1);
-    for (int i = 1; i < count; ++i) {
+    const int own = std::max(0, editor.selection.end.line);
+    const bool below = own >= count;
+    int line = below && step > 0 ? -1 : std::min(own, count);
+    for (int left = below ? count : count - 1; left > 0; --left) {
         line = (line + step + count) % count;
         if (text.line(line).bookmark) {
             editor.selection.set(line, 0);

@@ -90,6 +90,17 @@ private slots:
         QCOMPARE(window.shown(), QString("|a\nb\nc"));
     }
 
+    void fromBelowTheTextTheLastLineIsReachedBothWays()
+    {
+        for (const auto modifier : {Qt::NoModifier, Qt::ShiftModifier}) {
+            EditorWindow window("a\nb\nc");
+            bookmark(window, {2});
+            window.click(window.gutter(2));
+            window.key(Qt::Key_F2, modifier);
+            QCOMPARE(window.shown(), QString("a\nb\n|c"));
+        }
+    }
+
     void aBookmarkMovesWithTheSecondHalfOfASplitLine()
     {
         EditorWindow window("a|b");
