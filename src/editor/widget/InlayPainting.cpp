@@ -36,14 +36,15 @@ void KVQtHighlightEditCtrlInlay::paintEvent(QPaintEvent* event)
         canvas = QImage(pixels, QImage::Format_RGB32);
         drawn_rows.clear();
     }
-    draw_canvas(event->rect());
+    draw_canvas(event->region());
     QPainter painter(this);
     painter.drawImage(0, 0, canvas);
     draw_caret(painter);
 }
 
-// Brings the rows that are going to be shown up to date.
-void KVQtHighlightEditCtrlInlay::draw_canvas(const QRect& shown)
+// Brings the rows that are going to be shown up to date. Where only a part of a row is shown,
+// though all of it is new, the rest is asked for.
+void KVQtHighlightEditCtrlInlay::draw_canvas(const QRegion& region)
 {
     const TextView view = prepare_view();
     prepare_glyphs(view.ratio);
@@ -51,6 +52,7 @@ void KVQtHighlightEditCtrlInlay::draw_canvas(const QRect& shown)
     const RowKeys keys(options, editor, view);
     canvas.setDevicePixelRatio(1);
     TextPainter painter(canvas, glyphs, options, editor, view);
+    const QRect shown = region.boundingRect();
     const int last = std::min(shown.bottom() / cell_height, view.lines - 1);
     for (int row = std::max(0, shown.top() / cell_height); row <= last; ++row) {
         std::optional<quint64>& drawn = drawn_rows[static_cast<std::size_t>(row)];
@@ -58,9 +60,18 @@ void KVQtHighlightEditCtrlInlay::draw_canvas(const QRect& shown)
         if (drawn != wanted) {
             painter.draw_row(row);
             drawn = wanted;
+            if (!QRegion(row_rectangle(row)).subtracted(region).isEmpty()) {
+                update_to_edges(row_rectangle(row));
+            }
         }
     }
     canvas.setDevicePixelRatio(view.ratio);
+}
+
+// The last one may be cut.
+QRect KVQtHighlightEditCtrlInlay::row_rectangle(int row) const
+{
+    return QRect(0, row * cell_height, width(), cell_height) & rect();
 }
 
 // Asks for a repaint. On some screens the edges of a row lie between two device pixels; the rounded
@@ -82,7 +93,7 @@ void KVQtHighlightEditCtrlInlay::update_changed_rows()
     const RowKeys keys(options, editor, view);
     for (int row = 0; row < view.lines; ++row) {
         if (drawn_rows[static_cast<std::size_t>(row)] != keys.of_row(row)) {
-            update_to_edges({0, row * cell_height, width(), cell_height});
+            update_to_edges(row_rectangle(row));
         }
     }
     update_to_edges(drawn_caret);
@@ -94,7 +105,7 @@ TextView KVQtHighlightEditCtrlInlay::prepare_view()
     TextView view;
     view.first_line = first_visible_line();
     view.first_column = first_visible_column();
-    view.lines = height() / cell_height + 1;  // the last one may be cut
+    view.lines = height() / cell_height + 1;
     view.columns = std::max(0, width() - gutter_width()) / cell_width + 1;
     view.gutter_digits = gutter_digits();
     view.text_left = gutter_width();

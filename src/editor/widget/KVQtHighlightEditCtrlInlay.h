@@ -149,8 +149,9 @@ private:
     void undo_or_redo(void (BACKEND::*step)());
 
     // --- painting (InlayPainting.cpp) ---
-    void draw_canvas(const QRect& shown);
+    void draw_canvas(const QRegion& region);
     void update_changed_rows();
+    QRect row_rectangle(int row) const;
     void update_to_edges(const QRect& place);
     TextView prepare_view();
     void draw_caret(QPainter& painter);

@@ -283,6 +283,15 @@ private slots:
         QVERIFY(window.holdsColor(window.picture(), window.cell(0, 0), kBlack));
     }
 
+    void aRowOfWhichOnlyTheCaretIsRepaintedIsCompletedWhenItHasChanged()
+    {
+        EditorWindow window("a b c|");
+        PaintWatch watch(window.surface);
+        window.control.options().show_whitespace = true;
+        window.surface.update(window.cell(0, 5));
+        QTRY_VERIFY(watch.painted().contains(window.cell(0, 1).center()));
+    }
+
     void aTypedLetterRepaintsItsLineAlone()
     {
         EditorWindow window("a\nb|\nc");
