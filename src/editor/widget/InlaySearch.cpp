@@ -153,7 +153,6 @@ void KVQtHighlightEditCtrlInlay::OnEditReplaceAll()
     editor.dirty = true;
     const CARET snapped = editor.snap_to_position(caret);
     editor.selection.set(snapped.line, snapped.column);
-    text_width = buffer.width();
     UpdateAllViews();
 }
 

@@ -70,13 +70,28 @@ void KVQtHighlightEditCtrlInlay::keep_caret_in_text()
     }
 }
 
-// Lines grow where they change, so only those are looked at; a text that becomes narrower keeps its
-// width until it is set as a whole.
+// The whole text is looked at only when the widest line has become shorter or has moved.
 void KVQtHighlightEditCtrlInlay::note_width()
 {
     const BUFFER& text = buffer;
     for (const int line : text.changed_lines(0, text.line_count() - 1)) {
-        text_width = std::max(text_width, text.line(line).length());
+        note_width_of(line);
+    }
+    if (text.line(widest_line).length() == text_width) {
+        return;
+    }
+    text_width = 0;
+    for (int line = 0; line < text.line_count(); ++line) {
+        note_width_of(line);
+    }
+}
+
+void KVQtHighlightEditCtrlInlay::note_width_of(int line)
+{
+    const BUFFER& text = buffer;
+    if (text.line(line).length() > text_width) {
+        text_width = text.line(line).length();
+        widest_line = line;
     }
 }
 

@@ -48,7 +48,6 @@ void KVQtHighlightEditCtrlInlay::setText(const QString& text)
     editor.selection.set(0, 0);
     buffer.set_text(text.toStdU16String());
     buffer.tabs_insert(editor.tab_width);
-    text_width = buffer.width();
     UpdateAllViews();
 }
 
@@ -65,7 +64,6 @@ void KVQtHighlightEditCtrlInlay::OnEditRedo()
 void KVQtHighlightEditCtrlInlay::undo_or_redo(void (BACKEND::*step)())
 {
     (editor.*step)();
-    text_width = buffer.width();
     UpdateAllViews();
     EnsureVisible(editor.selection.end);
 }

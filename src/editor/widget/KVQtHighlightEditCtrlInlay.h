@@ -162,6 +162,7 @@ private:
 
     void update_scroll_bars();
     void note_width();
+    void note_width_of(int line);
     void keep_caret_in_text();
     void blink();
 
@@ -174,7 +175,8 @@ private:
     QRect drawn_caret;
     int cell_width = 1;
     int cell_height = 1;
-    int text_width = 0;  // cells of the longest line, or more
+    int text_width = 0;  // cells of the widest line
+    int widest_line = 0;
 
     bool caret_visible = true;
     std::array<CARET, 2> brackets = {{{-1, -1}, {-1, -1}}};  // at the caret, and its partner

@@ -74,6 +74,40 @@ private slots:
         QCOMPARE(window.control.horizontalScrollBar()->maximum(), 0);
     }
 
+    void theHorizontalBarFollowsTheWidestLine_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QList<int>>("keys");
+        QTest::addColumn<int>("width");
+        const QString wide(120, 'y');
+        const QList<int> remove = {Qt::Key_Delete};
+        QTest::newRow("the line is removed") << "a\n^" + wide + "\n|b" << remove << 0;
+        QTest::newRow("the line becomes shorter") << "a^" + wide + "|\nb" << remove << 0;
+        QTest::newRow("another is the widest now")
+            << "^" + wide + "|\n" + wide.left(100) << remove << 100;
+        QTest::newRow("it moves down") << "|a\n" + wide << QList<int>{Qt::Key_Return} << 120;
+        QTest::newRow("it moves down and becomes shorter")
+            << "|a\n" + wide + "\nb"
+            << QList<int>{Qt::Key_Return, Qt::Key_Down, Qt::Key_End, Qt::Key_Backspace} << 119;
+        QTest::newRow("it moves up") << "^a\n|" + wide + "\nb" << remove << 120;
+        QTest::newRow("its end becomes a line")
+            << wide + "|" + wide << QList<int>{Qt::Key_Return} << 120;
+    }
+
+    void theHorizontalBarFollowsTheWidestLine()
+    {
+        QFETCH(QString, before);
+        QFETCH(QList<int>, keys);
+        QFETCH(int, width);
+        EditorWindow window(before);
+        for (const int key : keys) {
+            window.key(key);
+        }
+        const int columns = std::max(0, width + 1 - window.surface.GetVisibleSize().width());
+        QCOMPARE(window.control.horizontalScrollBar()->maximum(),
+                 columns * window.surface.char_width());
+    }
+
     void scrollByMovesByCellsWithinTheText()
     {
         EditorWindow window(longText());
