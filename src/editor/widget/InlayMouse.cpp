@@ -122,6 +122,8 @@ void KVQtHighlightEditCtrlInlay::mouseReleaseEvent(QMouseEvent* event)
     }
     store_modifiers(event->modifiers());
     if (dragging) {
+        // Keys may have changed the text since the mouse moved.
+        drop_position = place_in_text(drop_position, alt_held);
         if (!editor.selection.is_selected(drop_position)) {
             drop_selection();
         } else if (drop_position == press_position) {

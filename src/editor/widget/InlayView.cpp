@@ -175,11 +175,14 @@ KVTextEditor::CARET KVQtHighlightEditCtrlInlay::FromPoint(QPoint point, bool fre
     if (point.x() >= gutter) {
         caret.column = first_visible_column() + (cell_width / 2 + point.x() - gutter) / cell_width;
     }
-    if (!free) {
-        return editor.snap_to_position(caret);
-    }
-    caret.line = std::clamp(caret.line, 0, buffer.line_count() - 1);
-    return caret;
+    return place_in_text(caret, free);
+}
+
+// Snapped to the text, or with free only to its lines.
+KVTextEditor::CARET KVQtHighlightEditCtrlInlay::place_in_text(CARET caret, bool free) const
+{
+    const CARET snapped = editor.snap_to_position(caret);
+    return free ? CARET{snapped.line, caret.column} : snapped;
 }
 
 QRect KVQtHighlightEditCtrlInlay::CellRectangle(CARET caret) const

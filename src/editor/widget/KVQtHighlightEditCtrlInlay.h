@@ -160,6 +160,7 @@ private:
     void prepare_glyphs(qreal ratio);
     void find_brackets();
 
+    CARET place_in_text(CARET caret, bool free) const;
     void update_scroll_bars();
     void note_width();
     void note_width_of(int line);

@@ -130,6 +130,20 @@ private slots:
         QCOMPARE(window.text(), QString("two\none"));
     }
 
+    void aDropOnALineThatAKeyHasTakenAwayAddsNone()
+    {
+        EditorWindow window("|one");
+        window.key(Qt::Key_End);
+        window.type("\ntwo");
+        window.key(Qt::Key_Home, Qt::ShiftModifier);
+        window.press(window.point(1, 1));
+        window.move(window.point(1, 3));
+        window.key(Qt::Key_Z, Qt::ControlModifier);
+        window.place({0, 0}, {0, 2});
+        window.release(window.point(1, 3));
+        QCOMPARE(window.text(), QString("eon"));
+    }
+
     void theWholeTextDraggedOntoItselfStays()
     {
         EditorWindow window("one\ntwo");
