@@ -41,7 +41,8 @@ function(plinkett_tests name)
     set(TESTS_TIMEOUT 300)
   endif()
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
-                       PROPERTIES TIMEOUT ${TESTS_TIMEOUT} ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+                       PROPERTIES TIMEOUT ${TESTS_TIMEOUT} LABELS ${name}
+                                  ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()
 
 # One Qt Test class with its own main (QTEST_MAIN): plinkett_widget_test(NumEditTest LINKS qtsync)
