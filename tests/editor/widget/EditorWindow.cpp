@@ -6,6 +6,8 @@
 #include <QMouseEvent>
 #include <QtTest>
 
+#include <cmath>
+
 using KVTextEditor::CARET;
 
 namespace {
@@ -23,7 +25,26 @@ bool takeMark(QString& text, QChar mark, QChar otherMark, CARET& place)
     return true;
 }
 
+double channel(int value)
+{
+    const double part = value / 255.0;
+    return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+double luminance(QColor color)
+{
+    return 0.2126 * channel(color.red()) + 0.7152 * channel(color.green()) +
+           0.0722 * channel(color.blue());
+}
+
 }  // namespace
+
+double contrast(QColor a, QColor b)
+{
+    const double one = luminance(a) + 0.05;
+    const double other = luminance(b) + 0.05;
+    return std::max(one, other) / std::min(one, other);
+}
 
 EditorWindow::EditorWindow(const QString& marked, QSize size) : surface(control.surface())
 {
@@ -173,6 +194,28 @@ QRect EditorWindow::cell(int line, int column) const
 QColor EditorWindow::ground(const QImage& picture, int line, int column) const
 {
     return picture.pixelColor(cell(line, column).topLeft() * picture.devicePixelRatio());
+}
+
+// The colour in the cell that differs most from its background.
+QColor EditorWindow::ink(const QImage& picture, int line, int column) const
+{
+    const QColor empty = ground(picture, line, column);
+    const QRect place = cell(line, column);
+    QColor best = empty;
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+        for (int x = place.left(); x <= place.right(); ++x) {
+            const QColor found = picture.pixelColor(x, y);
+            if (contrast(found, empty) > contrast(best, empty)) {
+                best = found;
+            }
+        }
+    }
+    return best;
+}
+
+bool EditorWindow::isEmpty(const QImage& picture, int line, int column) const
+{
+    return ink(picture, line, column) == ground(picture, line, column);
 }
 
 QRect EditorWindow::gutterCell(int line, int column) const

@@ -7,6 +7,9 @@
 
 class KVQtFindDialog;
 
+// From 1 to 21, as the Web Content Accessibility Guidelines define it.
+double contrast(QColor a, QColor b);
+
 // The code editor in a window of its own, used with keys and mouse as an author does.
 class EditorWindow
 {
@@ -46,6 +49,8 @@ public:
     QImage picture();
     // The colour of the corner of a cell, which no character covers.
     QColor ground(const QImage& picture, int line, int column) const;
+    QColor ink(const QImage& picture, int line, int column) const;
+    bool isEmpty(const QImage& picture, int line, int column) const;
     // Whether something in this colour, or close to it, stands in the cell.
     static bool holdsColor(const QImage& picture, const QRect& cell, QColor color);
     QRect cell(int line, int column) const;
