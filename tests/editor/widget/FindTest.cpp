@@ -16,6 +16,19 @@ void find(EditorWindow& window, const QString& text, bool backwards = false)
     QTest::mouseClick(window.findDialog().btFind, Qt::LeftButton);
 }
 
+// An editor that searches for lower case and replaces by upper case.
+class RewritingEditor : public KVQtHighlightEditCtrlInlay
+{
+public:
+    using KVQtHighlightEditCtrlInlay::KVQtHighlightEditCtrlInlay;
+
+    KVQtFindDialog& findDialog() { return *findChild<KVQtFindDialog*>(); }
+
+protected:
+    void FindPrepareSearchString(QString& text) override { text = text.toLower(); }
+    void FindPrepareReplaceString(QString& text) override { text = text.toUpper(); }
+};
+
 QStringList labels(const KVQtFindDialog& dialog)
 {
     QStringList texts;
@@ -175,6 +188,50 @@ private slots:
         find(window, "cow");
         QVERIFY(window.surface.rect().contains(window.point(300, 200)));
         QVERIFY(window.surface.rect().contains(window.point(300, 202)));
+    }
+
+    void aHitEndsARectangle()
+    {
+        EditorWindow window("ab\ncow");
+        window.place({0, 0}, {1, 1}, true);
+        find(window, "cow", true);
+        QCOMPARE(window.rectangle(), QString("1,0-1,3"));
+    }
+
+    void anEditorMayRewriteWhatIsSearchedForAndWhatReplacesIt()
+    {
+        QAbstractScrollArea area;
+        RewritingEditor editor(&area);
+        editor.setText("COW cow duck");
+        editor.findDialog().set_find_text("Cow");
+        editor.OnEditFindNext();
+        QCOMPARE(editor.editor.selection.start, (KVTextEditor::CARET{0, 4}));
+
+        editor.findDialog().txReplace->setText("goose");
+        editor.OnEditDoReplace();
+        QCOMPARE(editor.text(), QString("COW GOOSE duck"));
+
+        editor.findDialog().set_find_text("DUCK");
+        editor.OnEditReplaceAll();
+        QCOMPARE(editor.text(), QString("COW GOOSE GOOSE"));
+
+        editor.OnEditSelectAll();
+        editor.OnEditFind();
+        QCOMPARE(editor.findDialog().find_text(), QString("cow goose goose"));
+    }
+
+    void theTabKeyGoesThroughTheDialogFromFieldToFieldAndThenToTheButtons()
+    {
+        EditorWindow window("cow");
+        window.surface.OnEditReplace();
+        KVQtFindDialog& dialog = window.findDialog();
+        QWidget* const expected[] = {dialog.txFind,    dialog.txReplace,    dialog.btFind,
+                                     dialog.btReplace, dialog.btReplaceAll, dialog.chBackwards};
+        for (QWidget* const widget : expected) {
+            QCOMPARE(dialog.focusWidget(), widget);
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(dialog.focusWidget(), dialog.txFind);
     }
 
     void replaceTakesThePlaceOfTheSelectionWhateverIsSearchedFor()
