@@ -44,6 +44,14 @@ private slots:
         QCOMPARE(window.shown(), QString("^one\ntwo|"));
     }
 
+    void controlAEndsARectangle()
+    {
+        EditorWindow window("one\ntwo");
+        window.place({0, 1}, {1, 2}, true);
+        window.key(Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(window.rectangle(), QString("0,0-1,3"));
+    }
+
     void controlCAndControlInsertCopy()
     {
         EditorWindow window("o^ne\ntw|o");
@@ -151,6 +159,15 @@ private slots:
         QTest::sendKeyEvent(QTest::Click, &window.surface, Qt::Key_V, "@",
                             Qt::ControlModifier | Qt::AltModifier);
         QCOMPARE(window.shown(), QString("@|"));
+    }
+
+    void controlAndBackspaceTypeNothing()
+    {
+        EditorWindow window("one|");
+        QTest::sendKeyEvent(QTest::Click, &window.surface, Qt::Key_Backspace, "\x7f",
+                            Qt::ControlModifier);
+        QCOMPARE(window.shown(), QString("one|"));
+        QVERIFY(!window.surface.editor.can_undo());
     }
 
     void keysThatMeanNothingHereAreLeftToTheWindow()

@@ -98,7 +98,7 @@ private slots:
                  kEdit + kFind + QStringList({"Undo\tCtrl+Z", "Redo\tCtrl+Y", "-"}) + kBookmarks);
     }
 
-    void itHasATitleAndItsEntriesHaveDifferentPictures()
+    void itHasATitleAndItsEntriesHaveDifferentPicturesOfTwoColours()
     {
         EditorWindow window("a");
         window.type("b c");
@@ -111,6 +111,11 @@ private slots:
                     const QImage picture = action->icon().pixmap(16, 16).toImage();
                     QCOMPARE(picture.size(), QSize(16, 16));
                     QVERIFY(!pictures.contains(picture));
+                    QSet<QRgb> colors;
+                    for (int i = 0; i < 16 * 16; ++i) {
+                        colors << picture.pixel(i % 16, i / 16);
+                    }
+                    QCOMPARE(colors.size(), 2);
                     pictures << picture;
                 }
             }

@@ -50,6 +50,18 @@ private slots:
         QVERIFY(window.surface.hasFocus());
     }
 
+    void theFocusOfTheControlIsHandedOn()
+    {
+        EditorWindow window("abc");
+        window.surface.clearFocus();
+        window.control.setFocus();
+        QVERIFY(window.surface.hasFocus());
+        window.surface.clearFocus();
+        window.control.setFocusProxy(nullptr);
+        window.control.setFocus();
+        QTRY_VERIFY(window.surface.hasFocus());
+    }
+
     void draggingSelects()
     {
         EditorWindow window("|abc\ndef");

@@ -90,6 +90,15 @@ private slots:
         QCOMPARE(window.rectangle(), QString("0,2-1,5 block"));
     }
 
+    void shiftAndArrowsWithoutAltMakeItAStreamSelection()
+    {
+        EditorWindow window("one\ntwo");
+        window.place({0, 1}, {1, 1}, true);
+        window.key(Qt::Key_Right, Qt::ShiftModifier);
+        QCOMPARE(window.shown(), QString("o^ne\ntw|o"));
+        QVERIFY(!window.selection().block);
+    }
+
     void controlAndRightGoToTheEndOfTheWord()
     {
         EditorWindow window("s|ay hello");

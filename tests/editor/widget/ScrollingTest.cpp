@@ -1,8 +1,13 @@
 #include "tests/editor/widget/EditorWindow.h"
 
+#include <QClipboard>
 #include <QScrollBar>
 #include <QWheelEvent>
 #include <QtTest>
+
+#include <functional>
+
+Q_DECLARE_METATYPE(std::function<void(EditorWindow&)>)
 
 namespace {
 
@@ -42,6 +47,8 @@ private slots:
         const QSize size = surface.GetVisibleSize();
         QCOMPARE(size.width(), (surface.width() - surface.gutter_width()) / surface.char_width());
         QCOMPARE(size.height(), surface.height() / surface.line_height());
+        window.surface.resize(window.surface.gutter_width() / 2, 50);
+        QCOMPARE(surface.GetVisibleSize().width(), 0);
     }
 
     void theVerticalBarEndsWithTheLastLine()
@@ -120,6 +127,53 @@ private slots:
         window.surface.ScrollBy(0, std::numeric_limits<int>::max());
         QCOMPARE(window.control.verticalScrollBar()->value(),
                  window.control.verticalScrollBar()->maximum());
+    }
+
+    void theViewFollowsTheCaret_data()
+    {
+        QTest::addColumn<std::function<void(EditorWindow&)>>("command");
+        const auto row = [](const char* name, std::function<void(EditorWindow&)> command) {
+            QTest::newRow(name) << std::move(command);
+        };
+        row("typing", [](EditorWindow& window) { window.type("x"); });
+        row("deleting", [](EditorWindow& window) { window.key(Qt::Key_Delete); });
+        row("upper case", [](EditorWindow& window) {
+            window.key(Qt::Key_U, Qt::ControlModifier | Qt::ShiftModifier);
+        });
+        row("pasting", [](EditorWindow& window) {
+            QApplication::clipboard()->setText("x");
+            window.surface.OnEditPaste();
+        });
+        row("cutting", [](EditorWindow& window) { window.surface.OnEditCut(); });
+        row("undoing", [](EditorWindow& window) {
+            window.surface.editor.push_undo_state();
+            window.surface.OnEditUndo();
+        });
+        row("redoing", [](EditorWindow& window) {
+            window.surface.editor.push_undo_state();
+            window.surface.OnEditUndo();
+            window.surface.ScrollBy(-kLines, -kLines);
+            window.surface.OnEditRedo();
+        });
+        row("replacing", [](EditorWindow& window) {
+            window.place({kLines - 1, 250}, {kLines - 1, 251});
+            window.surface.OnEditDoReplace();
+        });
+        row("a composed character", [](EditorWindow& window) {
+            QInputMethodEvent event;
+            event.setCommitString("x");
+            QApplication::sendEvent(&window.surface, &event);
+        });
+    }
+
+    void theViewFollowsTheCaret()
+    {
+        using COMMAND = std::function<void(EditorWindow&)>;
+        QFETCH(COMMAND, command);
+        EditorWindow window(longText());
+        window.place({kLines - 1, 250}, {kLines - 1, 250});
+        command(window);
+        QVERIFY(!window.surface.CellRectangle(window.caret()).isEmpty());
     }
 
     void theWheelScrolls()

@@ -240,6 +240,26 @@ private slots:
         QCOMPARE(window.shown(), QString("|new"));
         QCOMPARE(window.surface.editor.undo_bytes, charge);
     }
+
+    void setTextEndsARectangle()
+    {
+        EditorWindow window("one\ntwo");
+        window.place({0, 1}, {1, 2}, true);
+        window.selection().active = true;
+        window.control.setText("new");
+        QCOMPARE(window.rectangle(), QString("0,0-0,0"));
+        QVERIFY(!window.selection().active);
+    }
+
+    void aNewEditorHasItsRulesAndLimits()
+    {
+        const EditorWindow window;
+        const auto& editor = window.surface.editor;
+        QVERIFY(editor.keywords_class2 == (std::set<std::u16string>{u"bar", u"foo"}));
+        QCOMPARE(editor.keyword_table[u'b'].at(u"bar"), 6);
+        QCOMPARE(editor.tab_width, 4);
+        QCOMPARE(editor.undo_limit, 104857600);
+    }
 };
 
 QTEST_MAIN(TypedCharactersTest)
