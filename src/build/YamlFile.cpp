@@ -51,7 +51,7 @@ bool makeYAML(Oid::OidProject& project, const std::string& path)
 {
     const std::string description = project.compiler.yaml(project.productId, project.productName);
     if (!writeFile(path, "\xEF\xBB\xBF" + description + scriptCodes(project))) {
-        project.print("Error: Can't open file '%s'\n", path.c_str());
+        project.print("Error: Can't open file '%s'\n", Platform::nativePath(path).c_str());
         return false;
     }
     return true;

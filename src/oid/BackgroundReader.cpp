@@ -57,19 +57,20 @@ QtMessageHandler DecoderWarnings::forward = nullptr;
 
 bool readBackground(const std::string& path, QImage& image)
 {
+    const std::string native = Platform::nativePath(path);
     const DecoderWarnings warnings;
-    PictureFile file(QString::fromStdString(Platform::nativePath(path)));
+    PictureFile file(QString::fromStdString(native));
     if (!file.fitsMemory()) {
-        mi_printf("Error: The image '%s' is too large for the memory\n", path.c_str());
+        mi_printf("Error: The image '%s' is too large for the memory\n", native.c_str());
         return false;
     }
     image = file.read();
     if (image.isNull()) {
-        mi_printf("Error: Can't read the image '%s'\n", path.c_str());
+        mi_printf("Error: Can't read the image '%s'\n", native.c_str());
         return false;
     }
     if (warnings.tellOfDamage()) {
-        mi_printf("Error: The image '%s' is damaged\n", path.c_str());
+        mi_printf("Error: The image '%s' is damaged\n", native.c_str());
         return false;
     }
     return true;

@@ -76,7 +76,8 @@ bool setResolution(TIFF* image, int dotsPerMetre)
 
 }  // namespace
 
-TiffWriter::TiffWriter(const std::string& target) : path(target), file(target) {}
+TiffWriter::TiffWriter(const std::string& target) : path(Platform::nativePath(target)), file(target)
+{}
 
 TiffWriter::~TiffWriter()
 {

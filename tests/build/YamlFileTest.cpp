@@ -93,7 +93,8 @@ TEST_F(YamlFile, ThatCannotBeWrittenIsReportedAndNotHalfWritten)
     project.redirectPrintf(CapturedMessages::print);
     project.projectPath = folder.file("100%s/zoo.oidpro");
     EXPECT_FALSE(makeYAML(project));
-    EXPECT_EQ(messages.text(), "Error: Can't open file '" + project.pathYaml() + "'\n");
+    EXPECT_EQ(messages.text(),
+              "Error: Can't open file '" + folder.file("100%s/950-Zoo.yaml") + "'\n");
     EXPECT_EQ(folder.listing(), "");
 }
 

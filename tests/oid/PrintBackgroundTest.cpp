@@ -142,9 +142,9 @@ std::uint32_t crc(const std::string& bytes)
 }
 
 const char* const kDamaged = "Creating pixel image...\n"
-                             "Error: The image 'FOLDER\\900-bkgnd0.jpg' is damaged\n";
+                             "Error: The image 'FOLDER/900-bkgnd0.jpg' is damaged\n";
 const char* const kUnreadable = "Creating pixel image...\n"
-                                "Error: Can't read the image 'FOLDER\\900-bkgnd0.jpg'\n";
+                                "Error: Can't read the image 'FOLDER/900-bkgnd0.jpg'\n";
 
 }  // namespace
 
@@ -195,7 +195,7 @@ TEST(PrintBackground, AnImageLargerThanTheMemoryIsNotPrinted)
     bytes.replace(header + 17, 4, bigEndian(crc(bytes.substr(header, 17))));
     EXPECT_EQ(messagesForBackground(bytes),
               "Creating pixel image...\n"
-              "Error: The image 'FOLDER\\900-bkgnd0.jpg' is too large for the memory\n");
+              "Error: The image 'FOLDER/900-bkgnd0.jpg' is too large for the memory\n");
 }
 
 // As the window shows it, where the areas are drawn.

@@ -138,10 +138,9 @@ TEST(PrintFile, AFolderThatIsNotThereIsAnErrorBeforeAnythingIsDrawn)
     book.setBackground(colourfulPicture(4, 4));
     fs::create_symlink(book.folder.file("missing/file"), book.printFile());
     EXPECT_FALSE(book.print());
-    const std::string path = book.folder.path() + "\\900-print0.tiff";
     EXPECT_EQ(book.messages, "Creating pixel image...\n"
                              "Error: Can't open file '" +
-                                 path + "'\n");
+                                 book.printFile() + "'\n");
     EXPECT_EQ(book.folder.listing(), "900-bkgnd0.jpg 900-print0.tiff");
 }
 
@@ -151,11 +150,10 @@ TEST(PrintFile, AFullDiskIsAnError)
     book.setBackground(colourfulPicture(4, 4));
     fs::create_symlink("/dev/full", book.printFile());
     EXPECT_FALSE(book.print());
-    const std::string path = book.folder.path() + "\\900-print0.tiff";
     EXPECT_EQ(book.messages, "Creating pixel image...\n"
                              "      0%\n"
                              "Error: Can't write file '" +
-                                 path + "'\n");
+                                 book.printFile() + "'\n");
 }
 
 TEST(PrintFile, ProgressIsToldOnTheCallingThreadUpToAHundred)
