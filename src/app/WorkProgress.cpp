@@ -6,6 +6,7 @@ WorkProgress::WorkProgress(QWidget& worker, const QString& text, const QString& 
     : window(worker), dialog(text, cancel, 0, 0, &worker)
 {
     window.setAcceptDrops(false);
+    dialog.setWindowTitle(worker.windowTitle());
     dialog.setWindowModality(Qt::WindowModal);
     dialog.setMinimumDuration(500);  // short work shows no dialog
     dialog.setAutoReset(false);

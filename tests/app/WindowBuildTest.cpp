@@ -150,6 +150,26 @@ private slots:
         QVERIFY(cancelled);
     }
 
+    void theProgressBearsTheNameOfTheWindow()
+    {
+        StandIns programs;
+        programs.add("Text2Speech", "exec sleep 60\n");
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        QString title;
+        QTimer look;
+        connect(&look, &QTimer::timeout, [&] {
+            QProgressDialog* const progress = w.window.findChild<QProgressDialog*>();
+            if (progress != nullptr && progress->isVisible()) {
+                title = progress->windowTitle();
+                progress->cancel();
+            }
+        });
+        look.start(10);
+        w.click("btBuild");
+        QCOMPARE(title, QString("Plinkett"));
+    }
+
     // Also while one text takes long; what is half spoken is not kept.
     void theSpeechCanBeCancelledInTheMiddleOfAText()
     {
