@@ -171,7 +171,8 @@ bool KVQtHighlightEditCtrlInlay::replace_all_in(std::u16string& text)
     constexpr int kPatience = 1000;          // ms
     KVTextEditor::ReplaceAll pass(text, find.toStdU16String(), replacement.toStdU16String());
     pass.limit = replace_all_limit;
-    QProgressDialog note(tr("Replacing..."), tr("Cancel"), 0, 0, this);
+    QProgressDialog note(tr("Replacing..."), tr("Cancel"), 0, 0, find_dialog);
+    note.setWindowTitle(find_dialog->windowTitle());
     note.setWindowModality(Qt::ApplicationModal);
     note.setMinimumDuration(kPatience);
     note.setAutoClose(false);
@@ -192,7 +193,7 @@ bool KVQtHighlightEditCtrlInlay::replace_all_in(std::u16string& text)
     }
     note.hide();
     if (state == KVTextEditor::ReplaceAll::tooLarge) {
-        QMessageBox::warning(this, tr("Warning"),
+        QMessageBox::warning(find_dialog, tr("Warning"),
                              tr("The text would become too large. It stays as it was."));
         return false;
     }

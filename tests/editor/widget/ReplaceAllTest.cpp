@@ -28,6 +28,8 @@ public:
             auto* const note = window.surface.findChild<QProgressDialog*>();
             if (note != nullptr && note->isVisible()) {
                 text = note->labelText();
+                title = note->windowTitle();
+                owner = note->parentWidget();
                 modal = note->isModal();
                 auto* const button = note->findChild<QPushButton*>();
                 buttonText = button->text();
@@ -39,6 +41,8 @@ public:
 
     QString text;
     QString buttonText;
+    QString title;
+    QWidget* owner = nullptr;
     bool modal = false;
 };
 
@@ -123,6 +127,16 @@ private slots:
         QVERIFY(canceller.modal);
         QCOMPARE(window.shown(), QString("a c|ow"));
         QVERIFY(!window.surface.editor.can_undo());
+    }
+
+    // So that the keyboard is back in it afterwards.
+    void theNoteBelongsToTheFindDialog()
+    {
+        EditorWindow window("cow");
+        const Canceller canceller(window);
+        replaceAll(window, "cow", "cow cow");
+        QCOMPARE(canceller.owner, &window.findDialog());
+        QCOMPARE(canceller.title, window.findDialog().windowTitle());
     }
 
     void aTextThatWouldBecomeTooLargeStaysAsItWas()
