@@ -1,12 +1,14 @@
 #include "app/FileDialogs.h"
 
 #include "app/MainWindow.h"
+#include "app/ScreenFit.h"
 
 #include <QComboBox>
 #include <QFileDialog>
 
 static QString chosenFile(QFileDialog& dialog)
 {
+    shrinkOntoScreen(dialog);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 

@@ -296,14 +296,49 @@ private slots:
         QCOMPARE(window.size(), QSize(screen.width(), screen.height() / 2));
     }
 
+    void startsMaximisedOnAScreenThatHasNoRoomForItsTitleBar()
+    {
+        MainWindow window;
+        window.resize(window.screen()->availableSize());
+        fitOntoScreen(window);
+        QVERIFY(window.isMaximized());
+    }
+
     void keepsItsSizeOnAScreenThatIsLargeEnough()
     {
         MainWindow window;
         const QSize screen = window.screen()->availableSize();
-        window.resize(screen);
+        const QSize size(screen.width(), screen.height() * 9 / 10);
+        window.resize(size);
         fitOntoScreen(window);
         QVERIFY(!window.isMaximized());
-        QCOMPARE(window.size(), screen);
+        QCOMPARE(window.size(), size);
+    }
+
+    void aFileDialogIsNoLargerThanTheScreen_data()
+    {
+        QTest::addColumn<QString>("opener");
+        QTest::newRow("open") << "action_Open";
+        QTest::newRow("save as") << "action_Save_As";
+    }
+    void aFileDialogIsNoLargerThanTheScreen()
+    {
+        QFETCH(QString, opener);
+        const QFont font = QApplication::font();
+        QFont large = font;
+        large.setPixelSize(40);  // with it the dialog asks for more than the screen has
+        QApplication::setFont(large);
+        WindowFixture w;
+        QSize dialogSize;
+        w.dialogs.look([&](QWidget& dialog) {
+            dialogSize = dialog.size();
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+        w.trigger(opener.toLatin1());
+        QApplication::setFont(font);
+        const QSize screen = w.window.screen()->availableSize();
+        QCOMPARE(dialogSize.width(), screen.width());
+        QVERIFY(dialogSize.height() < screen.height());
     }
 
     void theScriptEditorKnowsTheScriptLanguage()
