@@ -50,14 +50,14 @@ void MainWindow::takeDrops()
 // be touched on any screen.
 void MainWindow::letPictureScroll()
 {
-    auto* const scroll = new QScrollArea;
-    delete ui->verticalLayout_2->replaceWidget(ui->polyArea, scroll);
-    scroll->setObjectName("pictureScroll");
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setWidget(ui->polyArea);
+    pictureScroll = new QScrollArea;
+    delete ui->verticalLayout_2->replaceWidget(ui->polyArea, pictureScroll);
+    pictureScroll->setObjectName("pictureScroll");
+    pictureScroll->setFrameShape(QFrame::NoFrame);
+    pictureScroll->setWidgetResizable(true);
+    pictureScroll->setWidget(ui->polyArea);
     // The tab shows through; the scroll area has switched this on.
-    scroll->viewport()->setAutoFillBackground(false);
+    pictureScroll->viewport()->setAutoFillBackground(false);
     ui->polyArea->setAutoFillBackground(false);
 }
 
@@ -135,6 +135,7 @@ void MainWindow::openProject(const QString& path)
     ui->ribbonTab->setCurrentWidget(opened ? ui->tabProject : ui->tabBuild);
     // First the index: the form would show, and later write back, the sizes of another page.
     ui->polyArea->currentPicture = 0;
+    showTopOfPicture();
     selectPolygon(-1);
     ProjectDataWasChanged(false);
     ui->polyArea->repaint();

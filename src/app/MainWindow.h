@@ -11,6 +11,7 @@
 namespace Ui {
 class MainWindow;
 }
+class QScrollArea;
 
 // The one window. It owns the one project, which all its controls edit; form and project are kept
 // in step by ProjectDataWasChanged alone. The slots are connected by their names
@@ -89,6 +90,7 @@ private:
     // Carries such edits into the project before the form is filled anew, which would lose them.
     void keepEdits();
     void showPicture(int index);
+    void showTopOfPicture();
     // Asks for a picture file and keeps a copy of it as picture n of the project. The null image
     // when the author cancelled or it failed (then that was said).
     QImage importPicture(int n);
@@ -104,4 +106,5 @@ private:
     int mode = pick;
     int selectedPoly = -1;
     std::unique_ptr<Ui::MainWindow> ui;
+    QScrollArea* pictureScroll = nullptr;
 };

@@ -10,6 +10,8 @@
 #include <QImageWriter>
 #include <QMessageBox>
 #include <QSaveFile>
+#include <QScrollArea>
+#include <QScrollBar>
 
 bool MainWindow::formWasEdited() const
 {
@@ -28,8 +30,15 @@ void MainWindow::showPicture(int index)
 {
     keepEdits();
     ui->polyArea->currentPicture = index;
+    showTopOfPicture();
     ui->polyArea->repaint();
     ProjectDataWasChanged(false);
+}
+
+// A page is read from its top.
+void MainWindow::showTopOfPicture()
+{
+    pictureScroll->verticalScrollBar()->setValue(0);
 }
 
 void MainWindow::on_btNextPicture_clicked()

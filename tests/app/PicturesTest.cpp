@@ -9,6 +9,8 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QProgressDialog>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QWheelEvent>
@@ -50,6 +52,26 @@ private slots:
         w.clickAt({0, 2 * picture.width()});
         QVERIFY(w.saved().find("POLY polygon2\r\n        0.00   200.00\r\nEND") !=
                 std::string::npos);
+    }
+
+    void anotherPageIsShownFromItsTop()
+    {
+        WindowFixture w;
+        w.makePicture("900-bkgnd0.jpg", {200, 400});
+        w.makePicture("900-bkgnd1.jpg", {200, 400});
+        w.open(projectFile({kArea, kArea}));
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        const PolyEditorWidget& picture = *w.get<PolyEditorWidget>("polyArea");
+        QScrollBar& bar = *w.get<QScrollArea>("pictureScroll")->verticalScrollBar();
+        QTRY_VERIFY(picture.height() >= 2 * picture.width());
+        bar.setValue(bar.maximum());
+        QVERIFY(picture.y() < 0);
+        w.click("btNextPicture");
+        QCOMPARE(picture.y(), 0);
+
+        bar.setValue(bar.maximum());
+        w.open(projectFile({kArea, kArea}));
+        QCOMPARE(picture.y(), 0);
     }
 
     void aPictureLowerThanTheTabHasItsWholeWidth()
