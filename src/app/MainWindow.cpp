@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/DecimalComma.h"
 #include "app/FileDialogs.h"
 #include "base/FileSystem.h"
 #include "oid/PrintImage.h"
@@ -21,6 +22,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     ui->setupUi(this);
     takeDrops();
     letPictureScroll();
+    takeDecimalCommas();
     ui->polyArea->setProject(&project);
     connect(ui->polyArea, &PolyEditorWidget::clickedLB, this, &MainWindow::onPolyAreaClickedLB);
     setDefaultPrintf(KVQtStdoutWidget::redirectPrintf);
@@ -59,6 +61,12 @@ void MainWindow::letPictureScroll()
     // The tab shows through; the scroll area has switched this on.
     pictureScroll->viewport()->setAutoFillBackground(false);
     ui->polyArea->setAutoFillBackground(false);
+}
+
+void MainWindow::takeDecimalCommas()
+{
+    ui->txProjPaperWidth->setValidator(new DecimalComma(this));
+    ui->txProjPaperHeight->setValidator(new DecimalComma(this));
 }
 
 void MainWindow::printIntoConsole()

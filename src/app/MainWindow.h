@@ -76,6 +76,7 @@ private:
     void prepareTextEditor();
     void takeDrops();
     void letPictureScroll();
+    void takeDecimalCommas();
     // Points all messages of the project at the console.
     void printIntoConsole();
 

@@ -160,6 +160,16 @@ private slots:
         QCOMPARE(w.field("txProjDPI"), "600");
     }
 
+    void aDecimalCommaInThePaperSizeBecomesAPoint()
+    {
+        WindowFixture w;
+        w.open(projectFile({""}), 1);
+        w.type("txProjPaperWidth", "210,5");
+        QCOMPARE(w.field("txProjPaperWidth"), QString("210.5"));
+        w.type("txProjPaperHeight", "148,4");
+        QVERIFY(w.saved().find("PAPER 210.5 148.4\r\n") != std::string::npos);
+    }
+
     void paperFieldsWithoutAPictureChangeNoPicture()
     {
         WindowFixture w;
