@@ -385,5 +385,9 @@
         <source>Do you really want to delete this picture?</source>
         <translation>Soll dieses Bild wirklich gelöscht werden?</translation>
     </message>
+    <message>
+        <source>Print images made: %1 of %2</source>
+        <translation>Druckbilder erzeugt: %1 von %2</translation>
+    </message>
 </context>
 </TS>

@@ -385,5 +385,9 @@
         <source>Do you really want to delete this picture?</source>
         <translation>Do you really want to delete this picture?</translation>
     </message>
+    <message>
+        <source>Print images made: %1 of %2</source>
+        <translation>Print images made: %1 of %2</translation>
+    </message>
 </context>
 </TS>

@@ -385,5 +385,9 @@
         <source>Do you really want to delete this picture?</source>
         <translation>Voulez-vous vraiment supprimer cette image ?</translation>
     </message>
+    <message>
+        <source>Print images made: %1 of %2</source>
+        <translation>Images à imprimer créées : %1 sur %2</translation>
+    </message>
 </context>
 </TS>

@@ -385,5 +385,9 @@
         <source>Do you really want to delete this picture?</source>
         <translation>Wilt u deze afbeelding echt verwijderen?</translation>
     </message>
+    <message>
+        <source>Print images made: %1 of %2</source>
+        <translation>Afdrukafbeeldingen gemaakt: %1 van %2</translation>
+    </message>
 </context>
 </TS>

@@ -8,19 +8,26 @@
 #include "oid/PrintImage.h"
 #include "ui_MainWindow.h"
 
+#include <QStatusBar>
+
 void MainWindow::on_btCreateImage_clicked()
 {
     ProjectDataWasChanged(true);
     FileSystem::setCurrentDirectory(FileSystem::getDirectoryOfPath(project.projectPath));
     const int count = static_cast<int>(project.pictures.size());
+    int made = 0;
+    ui->statusbar->clearMessage();
     WorkProgress progress(*this, tr("Creating the print images..."), tr("Cancel"));
     bool goOn = true;
     for (int i = 0; i < count && goOn; ++i) {
-        makeImage(i, project, [&](int percent) {
+        const bool written = makeImage(i, project, [&](int percent) {
             goOn = progress.tell(100 * i + percent, 100 * count);
             return goOn;
         });
+        made += written ? 1 : 0;
     }
+    // Short work shows no progress, and the console is on another tab.
+    ui->statusbar->showMessage(tr("Print images made: %1 of %2").arg(made).arg(count));
 }
 
 void MainWindow::on_btBuild_clicked()

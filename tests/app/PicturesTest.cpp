@@ -12,6 +12,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QWheelEvent>
 
@@ -381,6 +382,19 @@ private slots:
         cancel.start(10);
         w.click("btCreateImage");
         QCOMPARE(w.folder.listing(), std::string("900-bkgnd0.jpg 900-bkgnd1.jpg book.oidpro"));
+    }
+
+    void theStatusBarCountsThePrintImages()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea, kArea}), 2);
+        w.type("txProjDPI", "100");
+        QFile::remove(w.path("900-bkgnd0.jpg"));
+        w.click("btCreateImage");
+        QCOMPARE(w.get<QStatusBar>("statusbar")->currentMessage(),
+                 QString("Print images made: 1 of 2"));
+        w.open(projectFile({kArea}), 1);
+        QCOMPARE(w.get<QStatusBar>("statusbar")->currentMessage(), QString());
     }
 
     void createWithoutAPictureFileSaysSo()
