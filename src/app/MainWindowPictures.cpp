@@ -13,6 +13,8 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include <algorithm>
+
 bool MainWindow::formWasEdited() const
 {
     return ui->txProjectName->isModified() || ui->txProjectId->value() != project.productId ||
@@ -101,6 +103,23 @@ QImage MainWindow::importPicture(int n)
     return keepCopy(image, project.pathImageSource(n)) ? image : QImage();
 }
 
+// What shines through a picture is the paper. JPEG knows no transparency and would make it black.
+static QImage onWhitePaper(const QImage& image)
+{
+    if (!image.hasAlphaChannel()) {
+        return image;
+    }
+    QImage paper = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < paper.height(); ++y) {
+        QRgb* const row = reinterpret_cast<QRgb*>(paper.scanLine(y));
+        std::transform(row, row + paper.width(), row, [](QRgb pixel) {
+            const int white = 255 - qAlpha(pixel);
+            return qRgb(qRed(pixel) + white, qGreen(pixel) + white, qBlue(pixel) + white);
+        });
+    }
+    return paper;
+}
+
 bool MainWindow::keepCopy(const QImage& image, const std::string& path)
 {
     if (project.projectPath.empty()) {
@@ -114,8 +133,8 @@ bool MainWindow::keepCopy(const QImage& image, const std::string& path)
         return false;
     }
     QSaveFile file(QString::fromStdString(Platform::nativePath(path)));
-    const bool kept =
-        file.open(QIODevice::WriteOnly) && QImageWriter(&file, "jpg").write(image) && file.commit();
+    const bool kept = file.open(QIODevice::WriteOnly) &&
+                      QImageWriter(&file, "jpg").write(onWhitePaper(image)) && file.commit();
     if (!kept) {
         warn(tr("The picture could not be kept beside the project file."));
     }

@@ -281,6 +281,25 @@ private slots:
         QCOMPARE(QImage(w.path("900-bkgnd1.jpg")).size(), QSize(40, 80));
     }
 
+    void whatShinesThroughAPictureIsWhite()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        QImage image(32, 16, QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        for (int x = 16; x < 32; ++x) {
+            for (int y = 0; y < 16; ++y) {
+                image.setPixelColor(x, y, QColor(0, 0, 0, 127));
+            }
+        }
+        QVERIFY(image.save(w.path("clear.png")));
+        w.dialogs.chooseFile(w.path("clear.png"));
+        w.click("btNextPicture");
+        const QImage kept(w.path("900-bkgnd1.jpg"));
+        QCOMPARE(kept.pixelColor(4, 4), QColor(255, 255, 255));
+        QCOMPARE(kept.pixelColor(28, 4), QColor(128, 128, 128));
+    }
+
     void theDialogShowsAllKindsOfPictures()
     {
         WindowFixture w;
