@@ -389,5 +389,9 @@
         <source>Print images made: %1 of %2</source>
         <translation>Afdrukafbeeldingen gemaakt: %1 van %2</translation>
     </message>
+    <message>
+        <source>Print images made: %1 of %2. Less than 600 DPI, too coarse for the dots: %3</source>
+        <translation>Afdrukafbeeldingen gemaakt: %1 van %2. Minder dan 600 DPI, te grof voor de punten: %3</translation>
+    </message>
 </context>
 </TS>

@@ -15,7 +15,7 @@ void MainWindow::on_btCreateImage_clicked()
     ProjectDataWasChanged(true);
     FileSystem::setCurrentDirectory(FileSystem::getDirectoryOfPath(project.projectPath));
     const int count = static_cast<int>(project.pictures.size());
-    int made = 0;
+    std::vector<int> made;
     ui->statusbar->clearMessage();
     WorkProgress progress(*this, tr("Creating the print images..."), tr("Cancel"));
     bool goOn = true;
@@ -24,10 +24,29 @@ void MainWindow::on_btCreateImage_clicked()
             goOn = progress.tell(100 * i + percent, 100 * count);
             return goOn;
         });
-        made += written ? 1 : 0;
+        if (written) {
+            made.push_back(i);
+        }
     }
-    // Short work shows no progress, and the console is on another tab.
-    ui->statusbar->showMessage(tr("Print images made: %1 of %2").arg(made).arg(count));
+    tellOfPrintImages(made);
+}
+
+void MainWindow::tellOfPrintImages(const std::vector<int>& made)
+{
+    constexpr int kLeastDpi = 600;
+    QStringList coarse;
+    for (const int i : made) {
+        if (project.pictures[static_cast<size_t>(i)].dpi < kLeastDpi) {
+            const std::string path = project.pathImageOutput(i);
+            coarse << QString::fromStdString(FileSystem::getFilenameOfPath(path));
+        }
+    }
+    const QString text =
+        coarse.isEmpty() ? tr("Print images made: %1 of %2")
+                         : tr("Print images made: %1 of %2. Less than 600 DPI, too coarse for the "
+                              "dots: %3");
+    const QString counted = text.arg(made.size()).arg(project.pictures.size());
+    ui->statusbar->showMessage(coarse.isEmpty() ? counted : counted.arg(coarse.join(", ")));
 }
 
 void MainWindow::on_btBuild_clicked()
