@@ -385,13 +385,5 @@
         <source>Do you really want to delete this picture?</source>
         <translation>Soll dieses Bild wirklich gelöscht werden?</translation>
     </message>
-    <message>
-        <source>Print images made: %1 of %2</source>
-        <translation>Druckbilder erzeugt: %1 von %2</translation>
-    </message>
-    <message>
-        <source>Print images made: %1 of %2. Less than 600 DPI, too coarse for the dots: %3</source>
-        <translation>Druckbilder erzeugt: %1 von %2. Weniger als 600 DPI, zu grob für die Punkte: %3</translation>
-    </message>
 </context>
 </TS>

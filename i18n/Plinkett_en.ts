@@ -385,13 +385,5 @@
         <source>Do you really want to delete this picture?</source>
         <translation>Do you really want to delete this picture?</translation>
     </message>
-    <message>
-        <source>Print images made: %1 of %2</source>
-        <translation>Print images made: %1 of %2</translation>
-    </message>
-    <message>
-        <source>Print images made: %1 of %2. Less than 600 DPI, too coarse for the dots: %3</source>
-        <translation>Print images made: %1 of %2. Less than 600 DPI, too coarse for the dots: %3</translation>
-    </message>
 </context>
 </TS>

@@ -385,13 +385,5 @@
         <source>Do you really want to delete this picture?</source>
         <translation>Voulez-vous vraiment supprimer cette image ?</translation>
     </message>
-    <message>
-        <source>Print images made: %1 of %2</source>
-        <translation>Images à imprimer créées : %1 sur %2</translation>
-    </message>
-    <message>
-        <source>Print images made: %1 of %2. Less than 600 DPI, too coarse for the dots: %3</source>
-        <translation>Images à imprimer créées : %1 sur %2. Moins de 600 PPP, trop grossières pour les points : %3</translation>
-    </message>
 </context>
 </TS>

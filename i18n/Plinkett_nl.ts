@@ -385,13 +385,5 @@
         <source>Do you really want to delete this picture?</source>
         <translation>Wilt u deze afbeelding echt verwijderen?</translation>
     </message>
-    <message>
-        <source>Print images made: %1 of %2</source>
-        <translation>Afdrukafbeeldingen gemaakt: %1 van %2</translation>
-    </message>
-    <message>
-        <source>Print images made: %1 of %2. Less than 600 DPI, too coarse for the dots: %3</source>
-        <translation>Afdrukafbeeldingen gemaakt: %1 van %2. Minder dan 600 DPI, te grof voor de punten: %3</translation>
-    </message>
 </context>
 </TS>

@@ -14,7 +14,6 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScrollArea>
-#include <QStatusBar>
 #include <QUrl>
 
 MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWindow)
@@ -137,7 +136,6 @@ void MainWindow::on_action_Open_triggered()
 void MainWindow::openProject(const QString& path)
 {
     ui->txConsole->clear();
-    ui->statusbar->clearMessage();
     printIntoConsole();
     // Creating print images, for one, goes to another folder.
     const bool opened = project.open(QFileInfo(path).absoluteFilePath().toStdString());

@@ -7,7 +7,6 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace Ui {
 class MainWindow;
@@ -100,9 +99,6 @@ private:
     bool keepCopy(const QImage& image, const std::string& path);
     void warn(const QString& text);
 
-    // Says in the status bar which print images were made: short work shows no progress, and the
-    // console is on another tab.
-    void tellOfPrintImages(const std::vector<int>& made);
     // The speech step of a build, with its progress.
     SpeechOutcome createSoundFiles();
     void copyGmeToTipToi();

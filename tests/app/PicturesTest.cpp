@@ -12,22 +12,12 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QStatusBar>
 #include <QTabWidget>
 #include <QWheelEvent>
 
 namespace {
 
 const std::string kArea = "OID 1001\r\nPOLY cow\r\nEND\r\n\r\n";
-
-// Two pages of the size of a stamp.
-std::string smallPages(int dpi, int otherDpi)
-{
-    const auto page = [](int resolution) {
-        return "IMAGE\r\nPAPER 20.0 10.0\r\nDPI   " + std::to_string(resolution) + "\r\n" + kArea;
-    };
-    return "PRODUCT 900, \"Zoo\"\r\n" + page(dpi) + page(otherDpi) + "SCRIPT\r\n";
-}
 
 int current(WindowFixture& w)
 {
@@ -410,28 +400,6 @@ private slots:
         cancel.start(10);
         w.click("btCreateImage");
         QCOMPARE(w.folder.listing(), std::string("900-bkgnd0.jpg 900-bkgnd1.jpg book.oidpro"));
-    }
-
-    void theStatusBarCountsThePrintImages()
-    {
-        WindowFixture w;
-        w.open(smallPages(600, 600), 2);
-        QFile::remove(w.path("900-bkgnd0.jpg"));
-        w.click("btCreateImage");
-        QCOMPARE(w.get<QStatusBar>("statusbar")->currentMessage(),
-                 QString("Print images made: 1 of 2"));
-        w.open(projectFile({kArea}), 1);
-        QCOMPARE(w.get<QStatusBar>("statusbar")->currentMessage(), QString());
-    }
-
-    void theStatusBarNamesPrintImagesTooCoarseForDots()
-    {
-        WindowFixture w;
-        w.open(smallPages(600, 599), 2);
-        w.click("btCreateImage");
-        QCOMPARE(w.get<QStatusBar>("statusbar")->currentMessage(),
-                 QString("Print images made: 2 of 2. Less than 600 DPI, too coarse for the dots: "
-                         "900-print1.tiff"));
     }
 
     void createWithoutAPictureFileSaysSo()
