@@ -51,7 +51,7 @@ bool startProgram(const std::string& program, const Oid::OidProject& project, co
                   ProcessRunner& runner)
 {
     mi_printf("Compiling yaml to gme...\n");
-    const std::string command = program + " assemble " + commandPath(project.pathYaml());
+    const std::string command = program + " " + commandPath(project.pathYaml());
     const bool started = runner.exec(KVString(command), false);
     mi_printf(started ? "done.\n" : failure);
     return started;
@@ -65,9 +65,10 @@ bool startAssembler(const Oid::OidProject& project, const std::string& builtIn,
     const std::string toolFolder = findToolFolder();
     if (toolFolder.empty()) {
         explainInstallation();
-        return startProgram(commandPath(builtIn), project, "Execution of the assembler failed\n",
-                            runner);
+        const char* const words = runner.readsLatin1() ? " assemble --latin1" : " assemble";
+        return startProgram(commandPath(builtIn) + words, project,
+                            "Execution of the assembler failed\n", runner);
     }
     const LongerPath withTool(toolFolder);
-    return startProgram("tttool", project, "Execution of tttool failed\n", runner);
+    return startProgram("tttool assemble", project, "Execution of tttool failed\n", runner);
 }

@@ -17,6 +17,9 @@ public:
     // Of the last program that has ended; -1 when it crashed or did not start.
     virtual int exitCode() const = 0;
 
+    // True when programs' output is shown as Latin-1, so that one that can should print it.
+    virtual bool readsLatin1() const { return false; }
+
     // Shows a text; a line appears when it is complete.
     virtual void echo(const char* text) = 0;
     // A print function whose texts are shown here.

@@ -226,6 +226,15 @@ TEST_F(BuildingAGame, WithoutTttoolOurAssemblerTakesItsPlace)
     EXPECT_THAT(runner.shown(), testing::EndsWith("Compiling yaml to gme...\ndone.\n"));
 }
 
+TEST_F(BuildingAGame, OurAssemblerPrintsWhatTheRunnerReads)
+{
+    runner.latin1 = true;
+    build();
+    EXPECT_THAT(
+        runner.commands,
+        ElementsAre("\"/our tools/plinkett-cli.exe\" assemble --latin1 \"" + yaml() + "\" &"));
+}
+
 TEST_F(BuildingAGame, TheInstructionsNameTheFolderOfPrograms)
 {
     Platform::setEnvironmentVariable("ProgramFiles", "/opt/programs");

@@ -20,6 +20,7 @@ public:
         return lastExitCode >= 0;
     }
     int exitCode() const override { return lastExitCode; }
+    bool readsLatin1() const override { return latin1; }
     void echo(const char* text) override { CapturedMessages::print("%s", text); }
     PrintFunction printFunction() override { return CapturedMessages::print; }
 
@@ -28,6 +29,7 @@ public:
 
     std::vector<std::string> commands;  // with " &" behind one that was not waited for
     std::function<int(const std::string& command)> program;  // returns its exit code, -1: no start
+    bool latin1 = false;
 
 private:
     CapturedMessages messages;

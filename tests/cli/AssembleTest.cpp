@@ -64,6 +64,14 @@ TEST_F(Assemble, SaysWhatIsWrongAndFails)
     EXPECT_EQ(result({"nothing.yaml"}), "status 1\nError: nothing.yaml: the file cannot be read\n");
 }
 
+TEST_F(Assemble, MessagesComeInLatin1WhereThatIsWanted)
+{
+    EXPECT_EQ(result({"T\u00fcr \u20ac.yaml"}),
+              "status 1\nError: T\u00fcr \u20ac.yaml: the file cannot be read\n");
+    EXPECT_EQ(result({"T\u00fcr \u20ac.yaml", "--latin1"}),
+              "status 1\nError: T\xfcr ?.yaml: the file cannot be read\n");
+}
+
 TEST_F(Assemble, WarningsAreNoFailure)
 {
     writeFile(folder.file("cow.yaml"), std::string(kDescription) + "  cow: $x := 2\n");

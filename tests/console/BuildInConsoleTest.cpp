@@ -243,7 +243,8 @@ private slots:
         QVERIFY(buildGame(bench->project, false, bench->console, options));
         waitForEnd();
         QCOMPARE(shown(), QString() + kWarning + kAssembling + "made by us\n");
-        QCOMPARE(ours.calls(), "assemble\n" + bench->folder.file("900-Zoo.yaml") + "\n\n");
+        QCOMPARE(ours.calls(),
+                 "assemble\n--latin1\n" + bench->folder.file("900-Zoo.yaml") + "\n\n");
     }
 
 private:

@@ -85,6 +85,7 @@ private slots:
     {
         console->echo(QByteArray("K\xFCh\n\0lost\n", 10));
         QCOMPARE(paragraphs(), QStringList{"Küh"});
+        QVERIFY(console->readsLatin1());
     }
 
     void aBoxedTextIsCentredBetweenBars()

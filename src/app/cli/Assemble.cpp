@@ -1,9 +1,24 @@
 #include "app/cli/Commands.h"
+#include "base/PlatformFormat.h"
 #include "gme/Assembler.h"
+
+#include <QString>
+
+#include <cstdarg>
 
 namespace {
 
 constexpr std::size_t kMostOperands = 2;  // the game file may stand behind the YAML file
+
+// What Latin-1 does not have becomes a question mark.
+int printInLatin1(const char* format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    const std::string text = Platform::formatText(format, arguments);
+    va_end(arguments);
+    return defaultPrintf()("%s", QString::fromStdString(text).toLatin1().constData());
+}
 
 int assemble(const Arguments& arguments)
 {
@@ -20,7 +35,8 @@ int assemble(const Arguments& arguments)
         }
         options.gameFile = arguments.value("-o");
     }
-    return gme::assemble(options, defaultPrintf()) ? kFine : kFailed;
+    const PrintFunction print = arguments.has("--latin1") ? printInLatin1 : defaultPrintf();
+    return gme::assemble(options, print) ? kFine : kFailed;
 }
 
 }  // namespace
@@ -32,7 +48,8 @@ Command assembleCommand()
             "FILE.yaml [OUT.gme]",
             "Makes the pen's game file from a game description, beside it unless OUT is given.",
             {{"-o", "OUT.gme", "the game file to write"},
-             {"--no-date", nullptr, "the game file holds 19700101 instead of today's date"}},
+             {"--no-date", nullptr, "the game file holds 19700101 instead of today's date"},
+             {"--latin1", nullptr, "messages come in Latin-1 instead of UTF-8"}},
             assemble,
             kMostOperands,
             kFailed};

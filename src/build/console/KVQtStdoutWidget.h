@@ -31,6 +31,7 @@ public:
     bool stopExecution();
     bool isRunning() const { return m_running; }
     int exitCode() const override { return m_exitCode; }
+    bool readsLatin1() const override { return true; }
     // Called about ten times a second while exec waits; it may call stopExecution.
     void setWhileWaiting(std::function<void()> step);
 
