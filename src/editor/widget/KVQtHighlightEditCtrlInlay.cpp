@@ -10,7 +10,8 @@ KVQtHighlightEditCtrlInlay::KVQtHighlightEditCtrlInlay(QAbstractScrollArea* scro
     : QWidget(scrollArea->viewport()),
       editor(&buffer),
       area(scrollArea),
-      find_dialog(new KVQtFindDialog(this))
+      find_dialog(new KVQtFindDialog(this)),
+      blink_timer(this)
 {
     EditorAccessible::install();
     setObjectName("inlay");

@@ -138,6 +138,9 @@ private slots:
         window.key(Qt::Key_F3, Qt::ShiftModifier);
         QCOMPARE(window.shown(), QString("^cow| cow cow"));
         QVERIFY(window.findDialog().backwards());
+        window.key(Qt::Key_F3);
+        QCOMPARE(window.shown(), QString("cow ^cow| cow"));
+        QVERIFY(!window.findDialog().backwards());
     }
 
     void controlF2AndF2AndShiftF2AreForBookmarks()

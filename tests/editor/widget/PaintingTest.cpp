@@ -1,7 +1,12 @@
+#include "editor/widget/KVQtFindDialog.h"
 #include "tests/editor/widget/EditorWindow.h"
 
+#include <QClipboard>
 #include <QProcess>
 #include <QtTest>
+
+using COMMAND = void (KVQtHighlightEditCtrlInlay::*)();
+Q_DECLARE_METATYPE(COMMAND)
 
 namespace {
 
@@ -191,6 +196,14 @@ private slots:
         QVERIFY(bar());  // a command shows it at once
     }
 
+    void theCaretIsShownAndHiddenForHalfASecond()
+    {
+        EditorWindow window;
+        const auto* const timer = window.surface.findChild<QTimer*>();
+        QCOMPARE(timer->interval(), 500);  // ms on, and as long off
+        QVERIFY(timer->isActive() && !timer->isSingleShot());
+    }
+
     void typedTextIsPaintedAlsoWhenTheCaretBlinksFirst()
     {
         EditorWindow window("|");
@@ -217,6 +230,41 @@ private slots:
         const QRect line(0, window.cell(1, 0).top(), window.surface.width(),
                          window.surface.line_height());
         QCOMPARE(watch.painted(), QRegion(line));
+    }
+
+    void eachCommandOfTheMenuRepaintsWhatItChanges_data()
+    {
+        using SURFACE = KVQtHighlightEditCtrlInlay;
+        QTest::addColumn<COMMAND>("command");
+        const auto row = [](const char* name, COMMAND command) { QTest::newRow(name) << command; };
+        row("cut", &SURFACE::OnEditCut);
+        row("paste", &SURFACE::OnEditPaste);
+        row("select all", &SURFACE::OnEditSelectAll);
+        row("find next", &SURFACE::OnEditFindNext);
+        row("replace", &SURFACE::OnEditDoReplace);
+        row("replace all", &SURFACE::OnEditReplaceAll);
+        row("undo", &SURFACE::OnEditUndo);
+        row("redo", &SURFACE::OnEditRedo);
+        row("toggle bookmark", &SURFACE::OnViewToggleBookmark);
+        row("next bookmark", &SURFACE::GotoNextBookmark);
+        row("previous bookmark", &SURFACE::GotoPrevBookmark);
+    }
+
+    void eachCommandOfTheMenuRepaintsWhatItChanges()
+    {
+        QFETCH(COMMAND, command);
+        QApplication::clipboard()->setText("x");
+        EditorWindow window("one two");
+        window.type("a b");
+        window.surface.OnEditUndo();
+        window.place({0, 4}, {0, 5});
+        window.surface.ToggleBookmark(0);
+        window.surface.buffer.line(1).bookmark = true;
+        window.surface.UpdateAllViews();
+        window.findDialog().set_find_text("ne");
+        PaintWatch watch(window.surface);
+        (window.surface.*command)();
+        QVERIFY(watch.painted().contains(window.cell(0, 4).topLeft()));
     }
 
     void aMovedCaretIsRepaintedWhereItWasAndWhereItIs()
