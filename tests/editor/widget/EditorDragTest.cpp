@@ -108,6 +108,24 @@ private slots:
         QCOMPARE(window.text(), QString("ab\ncd\neaf\ngch"));
     }
 
+    void movingWithAltToAFreeColumnFillsTheLineUp()
+    {
+        EditorWindow window("a^bc|d");
+        window.drag(window.point(0, 2), window.point(0, 8), Qt::AltModifier);
+        QCOMPARE(window.shown(), QString("ad    ^bc|"));
+    }
+
+    void anotherButtonDoesNotEndTheGesture()
+    {
+        EditorWindow window("a^bc|def");
+        window.press(window.point(0, 2));
+        QTest::mousePress(&window.surface, Qt::RightButton, Qt::NoModifier, window.point(0, 5));
+        QTest::mouseRelease(&window.surface, Qt::RightButton, Qt::NoModifier, window.point(0, 5));
+        window.move(window.point(0, 5));
+        window.release(window.point(0, 5));
+        QCOMPARE(window.shown(), QString("ade^bc|f"));
+    }
+
     void theCursorTellsMovingFromCopying()
     {
         EditorWindow window("a^bc|def");

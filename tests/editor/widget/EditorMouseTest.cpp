@@ -135,6 +135,13 @@ private slots:
         QCOMPARE(window.shown(), QString("one\n^two\nsix\n|ten"));
     }
 
+    void movingWithinTheLineThatWasPressedInTheGutterKeepsIt()
+    {
+        EditorWindow window("|one\ntwo\nsix");
+        window.drag(window.gutter(1), window.gutter(1) + QPoint(3, 1));
+        QCOMPARE(window.shown(), QString("one\n^two\n|six"));
+    }
+
     void draggingUpInTheGutterSelectsWholeLines()
     {
         EditorWindow window("|one\ntwo\nsix\nten");

@@ -139,6 +139,15 @@ private slots:
         QCOMPARE(window.ground(picture, 0, 6), kWhite);
     }
 
+    void theBracketAtTheCaretComesBeforeTheOneInFrontOfIt()
+    {
+        EditorWindow window("[]|()");
+        const QImage picture = window.picture();
+        QCOMPARE(window.ground(picture, 0, 0), kWhite);
+        QVERIFY(window.ground(picture, 0, 2) != kWhite);
+        QVERIFY(window.ground(picture, 0, 3) != kWhite);
+    }
+
     void aBracketWithoutPartnerIsNotHighlighted()
     {
         EditorWindow window("|(abc");
@@ -164,6 +173,18 @@ private slots:
             QCOMPARE(focused.pixelColor(place.left() + 1, y), kBlack);
         }
         QCOMPARE(window.ground(window.picture(), 0, 2), kWhite);
+    }
+
+    void theCaretIsRepaintedWhenTheFocusComesAndGoes()
+    {
+        EditorWindow window("ab|c");
+        const QPoint caret = window.cell(0, 2).topLeft();
+        PaintWatch leaving(window.surface);
+        window.surface.clearFocus();
+        QVERIFY(leaving.painted().contains(caret));
+        PaintWatch coming(window.surface);
+        window.surface.setFocus();
+        QVERIFY(coming.painted().contains(caret));
     }
 
     void theCaretHasTheInverseColourOfTheBackground()
