@@ -62,6 +62,15 @@ private slots:
         QCOMPARE(window.shown(), QString("one\nx|"));
     }
 
+    void aRectangleEndsWithTheText()
+    {
+        EditorWindow window("|one\ntwo");
+        window.click(window.gutter(1));
+        window.key(Qt::Key_Home, Qt::ShiftModifier | Qt::AltModifier);
+        window.type("x");
+        QCOMPARE(window.text(), QString("one\nxtwo"));
+    }
+
     void deletingEmptiesTheLine()
     {
         for (const int key : {Qt::Key_Delete, Qt::Key_Backspace}) {

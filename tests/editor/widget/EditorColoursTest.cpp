@@ -121,6 +121,12 @@ private slots:
         QCOMPARE(options.color_of_role(6), kSecondKeyword);
     }
 
+    void aCommandColoursAlsoWhatIsOutOfView()
+    {
+        EditorWindow window(QString("\n").repeated(300) + "if");
+        QCOMPARE(window.surface.buffer.line(300).at(0).color, 4);
+    }
+
     void whatHasChangedIsColouredBeforeItIsDrawn()
     {
         EditorWindow window("xx");

@@ -81,13 +81,15 @@ private slots:
 
     void theGutterStaysWhenTheNumbersAreSwitchedOff()
     {
-        EditorWindow window(QString("\n").repeated(999));
-        window.control.options().show_line_numbers = false;
-        window.control.UpdateAllViews();
-        QCOMPARE(window.surface.gutter_width(), 3 * window.surface.char_width() + 4);
-        const QImage picture = window.picture();
-        for (int x = 0; x < window.surface.gutter_width(); ++x) {
-            QCOMPARE(picture.pixelColor(x, window.surface.line_height() / 2), kWhite);
+        for (const int lines : {1, 1000}) {
+            EditorWindow window(QString("\n").repeated(lines - 1));
+            window.control.options().show_line_numbers = false;
+            window.control.UpdateAllViews();
+            QCOMPARE(window.surface.gutter_width(), 3 * window.surface.char_width() + 4);
+            const QImage picture = window.picture();
+            for (int x = 0; x < window.surface.gutter_width(); ++x) {
+                QCOMPARE(picture.pixelColor(x, window.surface.line_height() / 2), kWhite);
+            }
         }
     }
 
@@ -122,6 +124,18 @@ private slots:
         QCOMPARE(window.ground(picture, 0, 1), kWhite);
         QCOMPARE(window.ground(picture, 1, 5), kSelection);
         QCOMPARE(window.ground(picture, 1, 6), kWhite);
+    }
+
+    void aStreamSelectionThatBecomesARectangleIsDrawnAnew()
+    {
+        EditorWindow window("abcdef\nghijkl");
+        window.place({0, 2}, {1, 4});
+        QCOMPARE(window.ground(window.picture(), 0, 5), kSelection);
+        window.place({0, 2}, {1, 4}, true);
+        const QImage picture = window.picture();
+        QCOMPARE(window.ground(picture, 0, 5), kWhite);
+        QCOMPARE(window.ground(picture, 1, 1), kWhite);
+        QCOMPARE(window.ground(picture, 1, 3), kSelection);
     }
 
     void bracketsThatMatchAreHighlighted()
@@ -318,6 +332,14 @@ private slots:
         for (int line = 0; line < 4; ++line) {
             QVERIFY(watch.painted().contains(window.cell(line, 0)));
         }
+    }
+
+    void scrollingRepaintsEverything()
+    {
+        EditorWindow window(QString("a\n").repeated(100));
+        PaintWatch watch(window.surface);
+        window.surface.ScrollBy(0, 1);
+        QCOMPARE(watch.painted(), QRegion(window.surface.rect()));
     }
 
     void changedOptionsRepaintEverything()

@@ -200,6 +200,14 @@ private slots:
         QCOMPARE(window.surface.first_visible_column(), 0);
     }
 
+    void theCornerOfARectangleBehindTheLinesCanBeSeen()
+    {
+        EditorWindow window("one\ntwo");
+        window.place({0, 1}, {1, 200}, true);
+        window.control.EnsureVisible(window.caret());
+        QVERIFY(window.surface.rect().contains(window.cell(1, 200)));
+    }
+
     void ensureVisiblePutsAFarLineIntoTheMiddleWhenAskedTo()
     {
         EditorWindow window(longText());
@@ -216,6 +224,12 @@ private slots:
                  (KVTextEditor::CARET{10, 0}));
         QCOMPARE(window.surface.FromPoint(QPoint(5, window.surface.line_height())),
                  (KVTextEditor::CARET{11, 0}));
+        window.control.EnsureVisible({kLines - 1, 300});
+        const int column = window.surface.first_visible_column();
+        QCOMPARE(window.surface.FromPoint(window.point(kLines - 1, column + 2)),
+                 (KVTextEditor::CARET{kLines - 1, column + 2}));
+        QCOMPARE(window.surface.FromPoint(window.gutter(kLines - 1)),
+                 (KVTextEditor::CARET{kLines - 1, 0}));
     }
 
     void aSmallerWindowKeepsTheRangesRight()
