@@ -76,7 +76,8 @@ void GlyphCache::clear()
     pair_stencils.clear();
 }
 
-void GlyphCache::draw(QImage& canvas, const QRect& place, char16_t ch, QRgb color, QRgb background)
+void GlyphCache::drawChar(QImage& canvas, const QRect& place, char16_t ch, QRgb color,
+                          QRgb background)
 {
     Stencil& stencil = stencils[ch];
     if (stencil.coverage.isNull()) {

@@ -25,7 +25,7 @@ public:
 
     // Draws a code unit into a cell of a 32-bit canvas. What does not fit into the cell is cut off,
     // and so is what lies outside the canvas.
-    void draw(QImage& canvas, const QRect& place, char16_t ch, QRgb color, QRgb background);
+    void drawChar(QImage& canvas, const QRect& place, char16_t ch, QRgb color, QRgb background);
     // One half of a character that is a surrogate pair and so takes two cells.
     void draw_pair(QImage& canvas, const QRect& place, char16_t high, char16_t low, Half half,
                    QRgb color, QRgb background);

@@ -118,7 +118,7 @@ void TextPainter::draw_cell(const QRect& place, const LINE& cells, int column, G
     if (cell.ch == u' ' || cell.ch == u'\t') {
         if (options.show_whitespace) {
             const char16_t mark = cell.ch == u'\t' ? kTabMark : kSpaceMark;
-            glyphs.draw(canvas, place, mark, color_of(kLineNumberRole, ground), background);
+            glyphs.drawChar(canvas, place, mark, color_of(kLineNumberRole, ground), background);
         }
         return;
     }
@@ -133,7 +133,7 @@ void TextPainter::draw_cell(const QRect& place, const LINE& cells, int column, G
     } else if (QChar::isLowSurrogate(cell.ch) && QChar::isHighSurrogate(previous)) {
         glyphs.draw_pair(canvas, place, previous, cell.ch, GlyphCache::right, color, background);
     } else {
-        glyphs.draw(canvas, place, cell.ch, color, background);
+        glyphs.drawChar(canvas, place, cell.ch, color, background);
     }
 }
 
@@ -147,8 +147,8 @@ void TextPainter::draw_gutter(int row)
         const QRgb color = color_of(bookmark ? kKeywordRole : kLineNumberRole, plain);
         int column = view.gutter_digits - static_cast<int>(number.size());
         for (const char digit : number) {
-            glyphs.draw(canvas, gutter_cell(row, column), static_cast<char16_t>(digit), color,
-                        grounds[plain]);
+            glyphs.drawChar(canvas, gutter_cell(row, column), static_cast<char16_t>(digit), color,
+                            grounds[plain]);
             ++column;
         }
     }
