@@ -20,15 +20,17 @@ public:
 
     // Goes on for so many characters.
     State run(std::size_t characters);
-    // The whole text as it is now, finished or not.
-    std::u16string text() const;
+    // The whole text as it is now, finished or not; the pass is over then.
+    std::u16string takeText();
 
     // The pass stops when the text is longer; in characters, 1 GB unless changed.
     std::size_t limit = std::size_t(1) << 29;
 
 private:
     std::size_t remaining() const;
-    void takeNext();
+    // Takes at most so many characters, but none behind one with which an occurrence may end; says
+    // how many it took.
+    std::size_t takeNext(std::size_t most);
     bool searchEndsHere() const;
 
     std::u16string search;

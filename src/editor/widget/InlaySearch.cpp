@@ -9,6 +9,7 @@
 #include <QProgressDialog>
 
 #include <algorithm>
+#include <utility>
 
 void KVQtHighlightEditCtrlInlay::FindPrepareSearchString(QString& /*text*/) {}
 
@@ -142,34 +143,35 @@ void KVQtHighlightEditCtrlInlay::OnEditDoReplace()
 
 void KVQtHighlightEditCtrlInlay::OnEditReplaceAll()
 {
-    std::u16string replaced = buffer.get_all_text(u"\r\n");
-    if (!replace_all_in(replaced)) {
+    const std::optional<std::u16string> replaced = replace_all_in(buffer.get_all_text(u"\r\n"));
+    if (!replaced) {
         return;
     }
     editor.push_undo_state();
     const CARET caret = editor.selection.end;
     // Intended: tabs stay unexpanded until their lines are edited.
-    buffer.set_text(replaced);
+    buffer.set_text(*replaced);
     editor.dirty = true;
     const CARET snapped = editor.snap_to_position(caret);
     editor.selection.set(snapped.line, snapped.column);
     UpdateAllViews();
 }
 
-// False when there is nothing to search for, or when the author or the size of the text ended it.
+// Nothing when there is nothing to search for, or when the author or the size of the text ended it.
 // After a second a note says what goes on and offers to cancel.
-bool KVQtHighlightEditCtrlInlay::replace_all_in(std::u16string& text)
+std::optional<std::u16string> KVQtHighlightEditCtrlInlay::replace_all_in(std::u16string text)
 {
     QString find = find_dialog->find_text();
     QString replacement = find_dialog->replace_text();
     FindPrepareSearchString(find);
     FindPrepareReplaceString(replacement);
     if (find.isEmpty()) {
-        return false;
+        return std::nullopt;
     }
     constexpr std::size_t kPiece = 1 << 16;  // characters between two looks at the window
     constexpr int kPatience = 1000;          // ms
-    KVTextEditor::ReplaceAll pass(text, find.toStdU16String(), replacement.toStdU16String());
+    KVTextEditor::ReplaceAll pass(std::move(text), find.toStdU16String(),
+                                  replacement.toStdU16String());
     pass.limit = replace_all_limit;
     QProgressDialog note(tr("Replacing..."), tr("Cancel"), 0, 0, find_dialog);
     note.setWindowTitle(find_dialog->windowTitle());
@@ -186,7 +188,7 @@ bool KVQtHighlightEditCtrlInlay::replace_all_in(std::u16string& text)
             note.show();
             QCoreApplication::processEvents();
             if (note.wasCanceled()) {
-                return false;
+                return std::nullopt;
             }
         }
         state = pass.run(kPiece);
@@ -195,8 +197,7 @@ bool KVQtHighlightEditCtrlInlay::replace_all_in(std::u16string& text)
     if (state == KVTextEditor::ReplaceAll::tooLarge) {
         QMessageBox::warning(find_dialog, tr("Warning"),
                              tr("The text would become too large. It stays as it was."));
-        return false;
+        return std::nullopt;
     }
-    text = pass.text();
-    return true;
+    return pass.takeText();
 }

@@ -142,7 +142,7 @@ private:
     bool DoFindNext(bool wrap);
     bool find_forward(const std::u16string& text, bool wrap, CARET& found) const;
     bool find_backward(const std::u16string& text, bool wrap, CARET& found) const;
-    bool replace_all_in(std::u16string& text);
+    std::optional<std::u16string> replace_all_in(std::u16string text);
 
     void goto_bookmark(int step);
     void go_to(CARET caret);
