@@ -21,6 +21,13 @@ inline double microseconds(const std::function<void()>& work)
     return taken.count();
 }
 
+inline double median(std::vector<double> values)
+{
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
 // The median time of one call in microseconds, after one call to warm up.
 inline double medianMicroseconds(int times, const std::function<void()>& work)
 {
@@ -29,8 +36,23 @@ inline double medianMicroseconds(int times, const std::function<void()>& work)
     for (int i = 0; i < times; ++i) {
         taken.push_back(microseconds(work));
     }
-    std::nth_element(taken.begin(), taken.begin() + times / 2, taken.end());
-    return taken[times / 2];
+    return median(taken);
+}
+
+// How many times longer than one work another takes: medians of calls in turns, so that what else
+// the machine does touches both.
+inline double timesLonger(int times, const std::function<void()>& other,
+                          const std::function<void()>& one)
+{
+    other();
+    one();
+    std::vector<double> takenByOther;
+    std::vector<double> takenByOne;
+    for (int i = 0; i < times; ++i) {
+        takenByOther.push_back(microseconds(other));
+        takenByOne.push_back(microseconds(one));
+    }
+    return median(takenByOther) / median(takenByOne);
 }
 
 // A row of the table: what, how much, and the limit where there is one.

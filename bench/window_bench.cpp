@@ -17,6 +17,7 @@
 #include <cstdio>
 #include <cstring>
 
+using EditorBench::median;
 using EditorBench::medianMicroseconds;
 
 namespace {
@@ -34,12 +35,6 @@ bool row(const char* what, double ms, const char* other, double otherMs, double 
 {
     std::printf("| %s | %.3g ms | %s | %.3g ms | %g ms |\n", what, ms, other, otherMs, limitMs);
     return ms <= limitMs;
-}
-
-double median(std::vector<double> values)
-{
-    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
-    return values[values.size() / 2];
 }
 
 // Processor time in ms until the program rests: its window is open and painted.
