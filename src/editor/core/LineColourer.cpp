@@ -32,13 +32,13 @@ template <class CELL>
 void LineColourer<CELL>::colour(LINE& line) const
 {
     CELL* cells = line.cells_to_colour();
-    write(writer, cells, line.length(), kPlainRole);
     line.changed = false;
     bool behindWord = false;
     for (int column = 0; column < line.length();) {
         const RUN run = runAt(line, column, behindWord);
-        write(writer, cells + column, run.length, run.role);
-        column += std::max(run.length, 1);
+        const int length = std::max(run.length, 1);
+        write(writer, cells + column, length, run.role);
+        column += length;
         behindWord = blocktype_of(cells[column - 1].ch) == BLOCKTYPE_WORD;
     }
 }

@@ -23,7 +23,7 @@ public:
     static void write(CELL_WRITER fn, CELL* cell, int n, COLORINDEX role);
 
 private:
-    // A comment, string or keyword; no length where none begins.
+    // A comment, string or keyword; plain and without length where none begins.
     struct RUN
     {
         int length = 0;
