@@ -120,6 +120,24 @@ double repaintTime(QWidget& widget, QSize size)
     return medianMicroseconds(kRepaints, [&] { widget.repaint(); }) / 1e3;
 }
 
+// A corner comes and goes.
+double changedRepaintTime(PolyEditorWidget& editor, Oid::POLY& area)
+{
+    const Oid::PNT corner = area.points.front();
+    bool there = false;
+    return medianMicroseconds(kRepaints,
+                              [&] {
+                                  if (there) {
+                                      area.points.pop_back();
+                                  } else {
+                                      area.points.push_back({corner.x, corner.y + 5});
+                                  }
+                                  there = !there;
+                                  editor.repaint();
+                              }) /
+           1e3;
+}
+
 bool measureRepaints()
 {
     const QTemporaryDir folder;
@@ -143,6 +161,8 @@ bool measureRepaints()
         good = row(qPrintable(what), repaintTime(editor, size), "scaling in each paint",
                    repaintTime(plain, size), 50) &&
                good;
+        const double changed = changedRepaintTime(editor, project.pictures[0].polys.back());
+        std::printf("| the same with a corner more or less | %.3g ms | | | |\n", changed);
     }
     return good;
 }

@@ -90,6 +90,7 @@ void PolyEditorWidget::setImage(QImage loaded)
 {
     image = std::move(loaded);
     scaledImage = {};
+    page = {};
 }
 
 void PolyEditorWidget::mousePressEvent(QMouseEvent* /*event*/) {}
@@ -115,8 +116,7 @@ void PolyEditorWidget::paintEvent(QPaintEvent* /*event*/)
         return;
     }
     QPainter painter(this);
-    drawImage(painter);
-    drawAreas(painter);
+    drawPage(painter);
 }
 
 void PolyEditorWidget::readCurrentImage()
@@ -141,33 +141,53 @@ void PolyEditorWidget::askForHeight()
 // A picture like a thread would be scaled to far more than any screen shows.
 constexpr qint64 kMostScaledPixels = 64 * 1024 * 1024;
 
-void PolyEditorWidget::drawImage(QPainter& painter)
+void PolyEditorWidget::drawPage(QPainter& painter)
 {
-    const int shownHeight = heightForWidth(width());
+    const QRect place(0, 0, width(), heightForWidth(width()));
     const qreal ratio = devicePixelRatioF();
-    const QSize pixels = (QSizeF(width(), shownHeight) * ratio).toSize();
+    const QSize pixels = (QSizeF(place.size()) * ratio).toSize();
+    const DrawnAreas areas = areasToDraw();
     if (qint64(pixels.width()) * pixels.height() > kMostScaledPixels) {
-        painter.drawImage(QRect(0, 0, width(), shownHeight), image);  // only what is seen of it
+        painter.drawImage(place, image);  // only what is seen of it
+        draw(painter, areas);
         return;
     }
     if (scaledImage.size() != pixels) {
         scaledImage = QPixmap::fromImage(
             image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        page = {};
     }
-    painter.drawPixmap(QRect(0, 0, width(), shownHeight), scaledImage);
+    if (page.isNull() || areas.selected != areasOnPage.selected ||
+        areas.corners != areasOnPage.corners) {
+        page = scaledImage;
+        page.setDevicePixelRatio(ratio);
+        QPainter onPage(&page);
+        draw(onPage, areas);
+        areasOnPage = areas;
+    }
+    painter.drawPixmap(place, page);
 }
 
-void PolyEditorWidget::drawAreas(QPainter& painter) const
+PolyEditorWidget::DrawnAreas PolyEditorWidget::areasToDraw() const
 {
-    const std::vector<Oid::POLY>& areas = picture()->polys;
-    for (size_t i = 0; i < areas.size(); ++i) {
-        const bool selected = static_cast<int>(i) == selectedPoly;
-        painter.setPen(selected ? QColor(255, 32, 32) : QColor(32, 96, 255));
-        painter.setBrush(selected ? QColor(255, 32, 32, 64) : QColor(0, 255, 196, 64));
-        QPolygon corners;
-        for (const Oid::PNT& point : areas[i].points) {
+    DrawnAreas areas;
+    areas.selected = selectedPoly;
+    for (const Oid::POLY& area : picture()->polys) {
+        QPolygon& corners = areas.corners.emplace_back();
+        for (const Oid::PNT& point : area.points) {
             corners << toPix(point);
         }
+    }
+    return areas;
+}
+
+void PolyEditorWidget::draw(QPainter& painter, const DrawnAreas& areas)
+{
+    for (size_t i = 0; i < areas.corners.size(); ++i) {
+        const bool selected = static_cast<int>(i) == areas.selected;
+        painter.setPen(selected ? QColor(255, 32, 32) : QColor(32, 96, 255));
+        painter.setBrush(selected ? QColor(255, 32, 32, 64) : QColor(0, 255, 196, 64));
+        const QPolygon& corners = areas.corners[i];
         painter.drawPolygon(corners, Qt::OddEvenFill);
         if (corners.size() == 1) {
             painter.drawPoint(corners[0]);  // the first corner of a new area

@@ -4,7 +4,10 @@
 
 #include <QImage>
 #include <QPixmap>
+#include <QPolygon>
 #include <QWidget>
+
+#include <vector>
 
 // Shows one picture of the project at the widget's full width, with its areas, and says where it
 // was clicked. Points are in percent of the width, for x and for y, so that they do not depend on
@@ -50,11 +53,23 @@ private:
     void readImage(const QString& path);
     void readCurrentImage();
     void askForHeight();
-    void drawImage(QPainter& painter);
-    void drawAreas(QPainter& painter) const;
+    // What the areas look like, in the widget's pixels.
+    struct DrawnAreas
+    {
+        std::vector<QPolygon> corners;
+        int selected = -1;
+    };
+
+    void drawPage(QPainter& painter);
+    DrawnAreas areasToDraw() const;
+    static void draw(QPainter& painter, const DrawnAreas& areas);
 
     Oid::OidProject* project = nullptr;
     QImage image;
-    QPixmap scaledImage;  // the image as it was last painted: scaling costs much more than painting
+    // Scaling costs much more than painting, and so do many areas: both are kept for the next
+    // paint.
+    QPixmap scaledImage;
+    QPixmap page;  // the scaled image with the areas on it
+    DrawnAreas areasOnPage;
     int askedHeight = 0;  // what the layout knows of the picture
 };

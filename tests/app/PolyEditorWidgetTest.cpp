@@ -189,6 +189,34 @@ private slots:
         QCOMPARE(shown.pixel(120, 60), QColor(32, 96, 255));
     }
 
+    // What has been painted before is kept, but not for longer than it is true.
+    void everyChangeOfTheAreasIsPainted()
+    {
+        const QColor paper(255, 255, 255);
+        const QColor area(191, 255, 240);  // a quarter of its colour on white
+        Shown shown({square("cow", 10, 10, 10)});
+        QCOMPARE(shown.pixel(30, 30), area);
+        shown.widget.selectedPoly = 0;
+        QCOMPARE(shown.pixel(30, 30), QColor(255, 199, 199));
+        shown.widget.selectedPoly = -1;
+        QCOMPARE(shown.pixel(30, 30), area);
+
+        QCOMPARE(shown.pixel(70, 30), paper);
+        shown.project.pictures[0].polys.push_back(square("pig", 30, 10, 10));
+        QCOMPARE(shown.pixel(70, 30), area);
+        shown.project.pictures[0].polys[1].points[0] = {35, 20};
+        QCOMPARE(shown.pixel(62, 21), paper);
+        shown.project.pictures[0].polys.pop_back();
+        QCOMPARE(shown.pixel(70, 30), paper);
+
+        shown.widget.resize(400, 320);
+        QCOMPARE(shown.pixel(30, 30), paper);
+        QCOMPARE(shown.pixel(60, 60), area);
+        shown.savePicture(0, QColor(0, 0, 0));
+        shown.widget.loadedPath.clear();
+        QCOMPARE(shown.pixel(60, 60), QColor(0, 64, 49));
+    }
+
     void areasFarOutsideThePictureDoNoHarm()
     {
         Shown shown({square("far", -1e300, -1e300, 1e300)});
