@@ -16,8 +16,7 @@ void KVQtHighlightEditCtrlInlay::OnEditCopy()
         return;  // what is on the clipboard is worth more than nothing
     }
     QMimeData* const copied = new QMimeData;  // the clipboard's from now on
-    const std::u16string text = editor.get_selected_text().get_all_text(u"\r\n");
-    copied->setText(QString::fromStdU16String(text));
+    copied->setText(text_of(editor.get_selected_text()));
     if (editor.selection.block) {
         copied->setData(kRectangleFormat, QByteArray());
     }

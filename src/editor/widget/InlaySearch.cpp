@@ -25,11 +25,6 @@ void KVQtHighlightEditCtrlInlay::OnEditReplace()
     ShowFindDialog(true);
 }
 
-static QString text_of(const KVQtHighlightEditCtrlInlay::BUFFER& buffer)
-{
-    return QString::fromStdU16String(buffer.get_all_text(u"\r\n"));
-}
-
 void KVQtHighlightEditCtrlInlay::ShowFindDialog(bool replace)
 {
     const QString text = find_dialog->find_text();

@@ -38,7 +38,12 @@ KVQtHighlightEditCtrlInlay::~KVQtHighlightEditCtrlInlay() = default;
 
 QString KVQtHighlightEditCtrlInlay::text() const
 {
-    return QString::fromStdU16String(buffer.get_all_text(u"\r\n"));
+    return text_of(buffer);
+}
+
+QString KVQtHighlightEditCtrlInlay::text_of(const BUFFER& lines)
+{
+    return QString::fromStdU16String(lines.get_all_text(u"\r\n"));
 }
 
 void KVQtHighlightEditCtrlInlay::setText(const QString& text)

@@ -67,10 +67,9 @@ public:
     void GotoNextBookmark();
     void GotoPrevBookmark();
 
-    // --- clipboard and drag-and-drop of text (InlayClipboard.cpp) ---
+    // --- clipboard (InlayClipboard.cpp) ---
     // The format that marks the text on the clipboard as a rectangle.
     static const char* const kRectangleFormat;
-    static QString SelectedText(const BUFFER& selected);
 
 public slots:
     void OnEditUndo();
@@ -145,8 +144,8 @@ private:
     std::optional<std::u16string> replace_all_in(std::u16string text);
 
     void goto_bookmark(int step);
-    void go_to(CARET caret);
     void undo_or_redo(void (BACKEND::*step)());
+    static QString text_of(const BUFFER& lines);  // joined with CR LF
 
     // --- painting (InlayPainting.cpp) ---
     void draw_canvas(const QRegion& region);
