@@ -47,12 +47,14 @@ void GlyphCache::blend(QImage& canvas, const QRect& place, const Stencil& stenci
                        QRgb background)
 {
     const QRect inside = stencil.ink.translated(place.topLeft()) & place & canvas.rect();
-    for (int y = inside.top(); y <= inside.bottom(); ++y) {
-        const uchar* coverage = stencil.coverage.constScanLine(y - place.top()) - place.left();
-        QRgb* const pixels = reinterpret_cast<QRgb*>(canvas.scanLine(y));
-        for (int x = inside.left(); x <= inside.right(); ++x) {
-            if (coverage[x] != 0) {
-                pixels[x] = mix(color, background, coverage[x]);
+    const QPoint first = inside.topLeft() - place.topLeft();  // in the stencil
+    for (int row = 0; row < inside.height(); ++row) {
+        const uchar* const coverage = stencil.coverage.constScanLine(first.y() + row) + first.x();
+        QRgb* const pixels =
+            reinterpret_cast<QRgb*>(canvas.scanLine(inside.top() + row)) + inside.left();
+        for (int i = 0; i < inside.width(); ++i) {
+            if (coverage[i] != 0) {
+                pixels[i] = mix(color, background, coverage[i]);
             }
         }
     }
