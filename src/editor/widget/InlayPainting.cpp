@@ -50,7 +50,6 @@ void KVQtHighlightEditCtrlInlay::draw_canvas(const QRegion& region)
     prepare_glyphs(view.ratio);
     drawn_rows.resize(static_cast<std::size_t>(view.lines));
     const RowKeys keys(options, editor, view);
-    canvas.setDevicePixelRatio(1);
     TextPainter painter(canvas, glyphs, options, editor, view);
     const QRect shown = region.boundingRect();
     const int last = std::min(shown.bottom() / cell_height, view.lines - 1);
