@@ -112,6 +112,7 @@ TextView KVQtHighlightEditCtrlInlay::prepare_view()
     view.ratio = devicePixelRatioF();
     if (editor.is_dirty()) {
         brackets_known = false;
+        note_width();  // colouring forgets which lines have changed
         editor.colorize(KVTextEditor::write_cell_color, view.first_line,
                         view.first_line + view.lines);
     }

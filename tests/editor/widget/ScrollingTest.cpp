@@ -115,6 +115,15 @@ private slots:
                  columns * window.surface.char_width());
     }
 
+    void theHorizontalBarKnowsALineThatWasPaintedBeforeTheViewsWereUpdated()
+    {
+        EditorWindow window("widest\na");
+        window.surface.editor.buffer->line(1).set(std::u16string(200, u'y').c_str());
+        window.surface.grab();
+        window.control.UpdateAllViews();
+        QVERIFY(window.control.horizontalScrollBar()->maximum() > 0);
+    }
+
     void scrollByMovesByCellsWithinTheText()
     {
         EditorWindow window(longText());
