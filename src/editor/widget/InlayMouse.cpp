@@ -60,7 +60,8 @@ void KVQtHighlightEditCtrlInlay::OnLButtonDown(QPoint point)
     const CARET caret = FromPoint(point, alt_held);
     press_position = drop_position = caret;
     if (!inGutter && editor.selection.is_selected(caret)) {
-        start_drag_and_drop(caret);
+        dragging = true;
+        update_cursor();
     } else if (shift_held) {
         editor.mouse_click(caret, true, alt_held);
     } else {
@@ -72,13 +73,6 @@ void KVQtHighlightEditCtrlInlay::OnLButtonDown(QPoint point)
         }
     }
     UpdateAllViews();
-}
-
-void KVQtHighlightEditCtrlInlay::start_drag_and_drop(CARET caret)
-{
-    dragging = true;
-    drop_position = caret;
-    update_cursor();
 }
 
 void KVQtHighlightEditCtrlInlay::mouseMoveEvent(QMouseEvent* event)
@@ -155,12 +149,12 @@ KVTextEditor::CARET KVQtHighlightEditCtrlInlay::remove_selection_before_drop()
     const int firstLine = removed.block ? removed.start.line : removed.end.line;
     const bool behindIt = target.line >= firstLine && target.line <= removed.end.line &&
                           target.column >= removed.end.column;
-    const bool lastLine = removed.end.line >= text.line_count() && removed.start.line > 0;
+    const bool endsBelowText = removed.end.line >= text.line_count() && removed.start.line > 0;
     const int characters = characters_before_drop(removed);
     const int free = std::max(0, target.column - text.line(target.line).length());
 
     editor.delete_selected_range();
-    if (lastLine) {
+    if (endsBelowText) {
         buffer.erase_lines(removed.start.line, 1);  // its line break has been taken along
     }
     if (!removed.block && target.line >= removed.end.line) {

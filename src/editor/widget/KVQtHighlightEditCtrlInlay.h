@@ -127,7 +127,6 @@ private:
     // --- mouse (InlayMouse.cpp) ---
     void OnLButtonDown(QPoint point);
     void OnLButtonDblClk(QPoint point);
-    void start_drag_and_drop(CARET caret);
     void extend_line_selection(CARET caret);
     void drop_selection();
     CARET remove_selection_before_drop();
