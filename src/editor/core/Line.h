@@ -77,6 +77,10 @@ public:
     // Tabs. A width below 1 counts as 1.
     void tabs_insert(int width);
     void tabs_remove();
+    // Characters, not cells: fillers do not count.
+    int characters_between(int first, int end) const;  // in the cells first to end (exclusive)
+    // The column behind so many characters and their fillers, at most the length.
+    int column_behind(int characters) const;
 
     // The cells, for writing roles; only indices from 0 to length() - 1.
     CELL* cells_to_colour() { return cells.get(); }

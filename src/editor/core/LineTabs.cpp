@@ -73,6 +73,27 @@ void Line<CELL>::tabs_remove()
 }
 
 template <class CELL>
+int Line<CELL>::characters_between(int first, int end) const
+{
+    int characters = 0;
+    for (int column = std::max(first, 0); column < std::min(end, used); ++column) {
+        characters += is_filler_at(column) ? 0 : 1;
+    }
+    return characters;
+}
+
+template <class CELL>
+int Line<CELL>::column_behind(int characters) const
+{
+    int column = 0;
+    while (column < used && (characters > 0 || is_filler_at(column))) {
+        characters -= is_filler_at(column) ? 0 : 1;
+        ++column;
+    }
+    return column;
+}
+
+template <class CELL>
 bool Line<CELL>::tabs_are_expanded(int width) const
 {
     for (int column = 0; column < used; ++column) {
@@ -123,6 +144,8 @@ void Line<CELL>::expand_tabs(int width, std::int64_t tabs)
 
 template void Line<EdChar>::tabs_insert(int);
 template void Line<EdChar>::tabs_remove();
+template int Line<EdChar>::characters_between(int, int) const;
+template int Line<EdChar>::column_behind(int) const;
 template bool Line<EdChar>::tabs_are_expanded(int) const;
 template void Line<EdChar>::refresh_fillers();
 template void Line<EdChar>::expand_tabs(int, std::int64_t);

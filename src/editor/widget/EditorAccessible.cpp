@@ -15,43 +15,29 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
     return editor == nullptr ? nullptr : new EditorAccessible(editor);
 }
 
-// Counts characters up to the position; those that only fill up a tab do not count.
 int offsetOf(const BUFFER& buffer, CARET position)
 {
-    int offset = 0;
-    const int last = std::min(position.line, buffer.line_count() - 1);
-    for (int i = 0; i <= last; ++i) {
-        const auto& line = buffer.line(i);
-        const int end =
-            i == position.line ? std::min(position.column, line.length()) : line.length();
-        for (int column = 0; column < end; ++column) {
-            offset += line.is_filler_at(column) ? 0 : 1;
-        }
-        offset += i < position.line && i + 1 < buffer.line_count() ? 1 : 0;
+    const int breaks = std::min(position.line, buffer.line_count() - 1);
+    int offset = std::max(breaks, 0);
+    for (int i = 0; i <= breaks; ++i) {
+        const int length = buffer.line(i).length();
+        offset +=
+            buffer.line(i).characters_between(0, i == position.line ? position.column : length);
     }
     return offset;
 }
 
 CARET positionAt(const BUFFER& buffer, int offset)
 {
-    for (int i = 0; i < buffer.line_count(); ++i) {
-        const auto& line = buffer.line(i);
-        int column = 0;
-        for (; column < line.length(); ++column) {
-            if (line.is_filler_at(column)) {
-                continue;
-            }
-            if (offset == 0) {
-                return {i, column};
-            }
-            --offset;
+    const int last = buffer.line_count() - 1;
+    for (int i = 0; i < last; ++i) {
+        const int characters = buffer.line(i).characters_between(0, buffer.line(i).length());
+        if (offset <= characters) {
+            return {i, buffer.line(i).column_behind(offset)};
         }
-        if (offset == 0 || i + 1 == buffer.line_count()) {
-            return {i, line.length()};
-        }
-        --offset;
+        offset -= characters + 1;  // with the line break
     }
-    return {0, 0};
+    return {last, buffer.line(last).column_behind(offset)};
 }
 
 }  // namespace

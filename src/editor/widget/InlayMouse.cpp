@@ -8,28 +8,6 @@
 
 #include <algorithm>
 
-using LINE = KVTextEditor::Line<KVTextEditor::EdChar>;
-
-// Characters, not cells: those that only fill up a tab do not count.
-static int characters_between(const LINE& line, int first, int end)
-{
-    int count = 0;
-    for (int column = first; column < std::min(end, line.length()); ++column) {
-        count += line.is_filler_at(column) ? 0 : 1;
-    }
-    return count;
-}
-
-static int column_behind(const LINE& line, int characters)
-{
-    int column = 0;
-    while (column < line.length() && (characters > 0 || line.is_filler_at(column))) {
-        characters -= line.is_filler_at(column) ? 0 : 1;
-        ++column;
-    }
-    return column;
-}
-
 void KVQtHighlightEditCtrlInlay::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton) {
@@ -161,7 +139,7 @@ KVTextEditor::CARET KVQtHighlightEditCtrlInlay::remove_selection_before_drop()
         target.line -= removed.height() - 1;
     }
     if (behindIt) {
-        target.column = column_behind(text.line(target.line), characters) + free;
+        target.column = text.line(target.line).column_behind(characters) + free;
     }
     return target;
 }
@@ -171,9 +149,9 @@ KVTextEditor::CARET KVQtHighlightEditCtrlInlay::remove_selection_before_drop()
 int KVQtHighlightEditCtrlInlay::characters_before_drop(const SELECTION& removed) const
 {
     const int first = removed.block ? drop_position.line : removed.start.line;
-    return characters_between(buffer.line(first), 0, removed.start.column) +
-           characters_between(buffer.line(drop_position.line), removed.end.column,
-                              drop_position.column);
+    return buffer.line(first).characters_between(0, removed.start.column) +
+           buffer.line(drop_position.line)
+               .characters_between(removed.end.column, drop_position.column);
 }
 
 // The scroll area knows what to do, but only with what reaches its viewport.

@@ -95,6 +95,32 @@ TEST(LineTabs, AnEmptyLineStaysUnchanged)
     EXPECT_FALSE(line.changed);
 }
 
+TEST(LineTabs, FillersAreNoCharacters)
+{
+    const TextLine line = expandedLine(u"a\tb\tc", 4);  // a>__b>__c
+    EXPECT_EQ(line.characters_between(0, 9), 5);
+    EXPECT_EQ(line.characters_between(1, 5), 2);
+    EXPECT_EQ(line.characters_between(2, 4), 0);
+}
+
+TEST(LineTabs, CharactersAreCountedWithinTheLine)
+{
+    EXPECT_EQ(lineOf(u"abc").characters_between(-5, 100), 3);
+}
+
+TEST(LineTabs, TheColumnBehindATabIsBehindItsFillers)
+{
+    const TextLine line = expandedLine(u"a\tb", 4);
+    EXPECT_EQ(line.column_behind(1), 1);
+    EXPECT_EQ(line.column_behind(2), 4);
+    EXPECT_EQ(line.column_behind(3), 5);
+}
+
+TEST(LineTabs, NoColumnLiesBehindTheLine)
+{
+    EXPECT_EQ(lineOf(u"abc").column_behind(4), 3);
+}
+
 TEST(LineTabs, TheReservedRoomIsEnoughForEveryTabAtItsWidest)
 {
     EXPECT_EQ(expandedLine(u"ab\td", 4).capacity(), 7);
