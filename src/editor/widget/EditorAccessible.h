@@ -11,7 +11,7 @@ class EditorAccessible : public QAccessibleWidget, public QAccessibleTextInterfa
 public:
     // To be called before the first editor is made; more often does no harm.
     static void install();
-    // Tells assistive programs, where there are any, that the caret has moved or the text changed.
+    // Tells assistive programs, where there are any, where the caret stands now.
     static void announceCaret(KVQtHighlightEditCtrlInlay* editor);
 
     explicit EditorAccessible(KVQtHighlightEditCtrlInlay* editor);

@@ -16,7 +16,7 @@ class GlyphCache
 public:
     enum Half { left = 0, right = 1 };
 
-    // The largest cell in device pixels, and how many of them make one pixel of the font.
+    // The size of the largest cell in device pixels; ratio of them make one pixel of the font.
     void set_font(const QFont& font, QSize cell, qreal ratio);
     // Empties the cache: set_font comes before the next drawing.
     void clear();

@@ -18,7 +18,7 @@ void KVQtHighlightEditCtrlInlay::SetFont(const QString& family, int pointSize)
     font.setKerning(false);
     setFont(font);
 
-    constexpr char16_t kFirst = 20, kLast = 126;
+    constexpr char16_t kFirst = 20, kLast = 126;  // Intended: also the last control characters
     const QFontMetrics metrics(font);
     cell_width = 4;  // at least
     for (char16_t c = kFirst; c <= kLast; ++c) {
