@@ -2,12 +2,15 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstddef>
 #include <cstdio>
+#include <fstream>
 #include <functional>
 #include <string>
 #include <vector>
 
-// What the parts of editor_bench share: timing, and the script that they edit.
+// What the parts of editor_bench share: measuring, and the script that they edit. window_bench
+// measures in the same way.
 namespace EditorBench {
 
 constexpr int kKeys = 61;
@@ -53,6 +56,16 @@ inline double timesLonger(int times, const std::function<void()>& other,
         takenByOne.push_back(microseconds(one));
     }
     return median(takenByOther) / median(takenByOne);
+}
+
+// The memory that this process has in RAM, in bytes; 0 where the system does not tell in this way.
+inline double residentMemory()
+{
+    constexpr double kPageSize = 4096;
+    double pages = 0;
+    double residentPages = 0;
+    std::ifstream("/proc/self/statm") >> pages >> residentPages;
+    return residentPages * kPageSize;
 }
 
 // A row of the table: what, how much, and the limit where there is one.

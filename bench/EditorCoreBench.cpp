@@ -1,8 +1,5 @@
 // The editor without its window: keys, whole-text operations, memory.
 
-#include <fstream>
-#include <memory>
-
 #include "bench/EditorBench.h"
 #include "editor/core/EditorBackend.h"
 
@@ -121,10 +118,8 @@ void printHistory(int lines, const std::string& size, double limit)
         undone.push_back(microseconds(undo));
         redone.push_back(microseconds(redo));
     }
-    std::sort(undone.begin(), undone.end());
-    std::sort(redone.begin(), redone.end());
-    printRow("undo with colouring, " + size, undone[kKeys / 2] / 1000, "ms", limit);
-    printRow("redo with colouring, " + size, redone[kKeys / 2] / 1000, "ms", limit);
+    printRow("undo with colouring, " + size, median(undone) / 1000, "ms", limit);
+    printRow("redo with colouring, " + size, median(redone) / 1000, "ms", limit);
 }
 
 // The time of an operation on a fresh text, without the preparation.
@@ -137,8 +132,7 @@ double wholeText(int lines, const std::function<void(Editing&)>& prepare,
         prepare(e);
         taken.push_back(microseconds([&] { operation(e); }));
     }
-    std::sort(taken.begin(), taken.end());
-    return taken[taken.size() / 2];
+    return median(taken);
 }
 
 // A text opened for the first time: no storage of an earlier one to use again.
@@ -156,8 +150,7 @@ double openNew(int lines)
             rules.colour();
         }));
     }
-    std::sort(taken.begin(), taken.end());
-    return taken[taken.size() / 2];
+    return median(taken);
 }
 
 void nothing(Editing&) {}
@@ -226,16 +219,6 @@ void printLines()
              medianMicroseconds(kKeys, [&] { e.buffer.insert_rows(e.middle, 1); }), "µs");
     printRow("erase a line in the middle of 100,000",
              medianMicroseconds(kKeys, [&] { e.buffer.erase_lines(e.middle, 1); }), "µs");
-}
-
-// Of this process, in bytes; 0 where the system does not tell in this way.
-double residentMemory()
-{
-    constexpr double kPageSize = 4096;
-    double pages = 0;
-    double residentPages = 0;
-    std::ifstream("/proc/self/statm") >> pages >> residentPages;
-    return residentPages * kPageSize;
 }
 
 // Runs first, as memory that the process got once stays its own.

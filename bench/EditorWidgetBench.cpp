@@ -12,7 +12,6 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
-#include <fstream>
 #include <memory>
 
 namespace EditorBench {
@@ -176,15 +175,6 @@ double opening(EDITOR& editor, const QString& text)
     });
 }
 
-double resident()
-{
-    constexpr double kPageSize = 4096;
-    double pages = 0;
-    double residentPages = 0;
-    std::ifstream("/proc/self/statm") >> pages >> residentPages;
-    return residentPages * kPageSize;
-}
-
 // Of a process of its own, as memory that a process got once stays its own.
 double memoryOf(const QString& editor)
 {
@@ -200,10 +190,10 @@ void printMemoryOf()
     EDITOR editor;
     editor.open("x");
     settle();
-    const double before = resident();
+    const double before = residentMemory();
     editor.open(script(kScript));
     settle();
-    std::printf("%.0f\n", resident() - before);
+    std::printf("%.0f\n", residentMemory() - before);
 }
 
 void printCompared(const char* what, double ours, double peer, const char* unit, double limit)
@@ -291,8 +281,7 @@ double replaceAll(int occurrences)
             ours.page().repaint();
         }));
     }
-    std::sort(taken.begin(), taken.end());
-    return taken[taken.size() / 2];
+    return median(taken);
 }
 
 void printGrowth()

@@ -1,5 +1,6 @@
 // Measures the script editor and prints the tables of docs/performance.md.
 //   editor_bench [core|widget]
+//   editor_bench memory editor|peer   only the bytes that a text takes; the widget table runs this
 
 #include "bench/EditorBench.h"
 
