@@ -155,7 +155,7 @@ private slots:
         QCOMPARE(QImage(w.path("905-bkgnd0.jpg")).size(), QSize(60, 60));
     }
 
-    void aNewPictureCannotBeReadIsSaid()
+    void thatANewPictureCannotBeReadIsSaid()
     {
         WindowFixture w;
         w.open(projectFile({kArea}), 1);

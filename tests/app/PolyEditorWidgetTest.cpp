@@ -220,7 +220,7 @@ private slots:
     void areasFarOutsideThePictureDoNoHarm()
     {
         Shown shown({square("far", -1e300, -1e300, 1e300)});
-        QCOMPARE(shown.pixel(100, 50).isValid(), true);
+        QCOMPARE(shown.pixel(100, 50), QColor(255, 255, 255));
     }
 };
 

@@ -9,7 +9,8 @@
 
 namespace {
 
-// The name of what is translated: the source texts that a translation file holds, by context.
+// The source texts that a translation file holds, each behind its context: "MainWindow/Project".
+// Those without a translation are added to unfinished.
 QStringList sourceTexts(const QString& file, QStringList* unfinished)
 {
     QFile ts(file);
@@ -59,8 +60,8 @@ private slots:
         }
     }
 
-    // The German file is compared with what lupdate finds in the sources now; the build makes that
-    // list beside the test.
+    // Compared with what lupdate finds in the sources now; the build makes that list beside the
+    // test.
     void isComplete()
     {
         QFETCH(QString, file);

@@ -21,7 +21,7 @@ public:
     {
         qputenv("PATH", QByteArray::fromStdString(folder.path()) + ":" + oldPath);
         qunsetenv("TIPTOITOOL");
-        // The last argument but two is the name of the WAV file: -f FILE -t TEXT.
+        // The WAV file is named behind -f.
         add("Text2Speech",
             "echo \"$@\" >> \"$0.log\"\n"
             "while [ $# -gt 1 ]; do [ \"$1\" = -f ] && echo wav > \"$2\"; shift; done\n");
@@ -129,10 +129,11 @@ private slots:
     void theSpeechCanBeCancelled()
     {
         StandIns programs;
-        programs.add("Text2Speech", "sleep 0.3\n");
+        programs.add("Text2Speech", "echo \"$@\" >> \"$0.log\"\nsleep 0.3\n");
         WindowFixture w;
+        constexpr int kTexts = 20;
         std::string script = "sub cow\r\n";
-        for (int i = 0; i < 20; ++i) {
+        for (int i = 0; i < kTexts; ++i) {
             script += "say \"Moo " + std::to_string(i) + "\"\r\n";
         }
         w.open(projectFile({kCow}, script + "end sub\r\n"), 1);
@@ -148,6 +149,8 @@ private slots:
         cancel.start(10);
         w.click("btBuild");
         QVERIFY(cancelled);
+        QVERIFY(programs.log("Text2Speech").count('\n') < kTexts);
+        QVERIFY(w.console().endsWith("Stopped build process."));
     }
 
     void theProgressBearsTheNameOfTheWindow()
