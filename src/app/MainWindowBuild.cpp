@@ -28,7 +28,6 @@ void MainWindow::on_btBuild_clicked()
     ui->txConsole->clear();
     ProjectDataWasChanged(true);
     printIntoConsole();
-    mi_printf = KVQtStdoutWidget::redirectPrintf;
     const bool debugMode = ui->chDebugMode->checkState() == Qt::Checked;
     BuildOptions options;
     options.createSoundFiles = [this] { return createSoundFiles(); };
