@@ -166,6 +166,24 @@ void PolyEditorWidget::drawPage(QPainter& painter)
         areasOnPage = areas;
     }
     painter.drawPixmap(place, page);
+    drawBelow(painter, areas, place.height());
+}
+
+// Areas may reach below the picture, where the page ends: it may be lower than the tab, or its file
+// may be missing.
+void PolyEditorWidget::drawBelow(QPainter& painter, DrawnAreas areas, int pageHeight) const
+{
+    const QRect below = rect().adjusted(0, pageHeight, 0, 0);
+    if (below.isEmpty()) {
+        return;
+    }
+    for (QPolygon& corners : areas.corners) {
+        if (corners.boundingRect().bottom() < below.top()) {
+            corners.clear();
+        }
+    }
+    painter.setClipRect(below);
+    draw(painter, areas);
 }
 
 PolyEditorWidget::DrawnAreas PolyEditorWidget::areasToDraw() const

@@ -63,6 +63,7 @@ private:
     void drawPage(QPainter& painter);
     DrawnAreas areasToDraw() const;
     static void draw(QPainter& painter, const DrawnAreas& areas);
+    void drawBelow(QPainter& painter, DrawnAreas areas, int pageHeight) const;
 
     Oid::OidProject* project = nullptr;
     QImage image;

@@ -189,6 +189,24 @@ private slots:
         QCOMPARE(shown.pixel(120, 60), QColor(32, 96, 255));
     }
 
+    // A picture may be lower than the tab, or its file may be missing.
+    void anAreaIsAlsoPaintedBelowThePicture()
+    {
+        Shown shown(
+            {square("cow", 10, 40, 20), square("hen", 40, 60, 10), square("pig", 60, 5, 10)});
+        const QColor free(1, 2, 3);
+        const QColor area(1, 65, 51);  // a quarter of its colour on what is there
+        QCOMPARE(shown.pixel(30, 90), QColor(191, 255, 240));
+        QCOMPARE(shown.pixel(30, 110), area);
+        QCOMPARE(shown.pixel(30, 119), area);
+        QCOMPARE(shown.pixel(20, 110), QColor(32, 96, 255));
+        QCOMPARE(shown.pixel(90, 130), area);
+        QCOMPARE(shown.pixel(130, 130), free);
+        shown.widget.selectedPoly = 1;
+        QCOMPARE(shown.pixel(90, 130), QColor(65, 9, 10));
+        QCOMPARE(shown.pixel(30, 110), area);
+    }
+
     // What has been painted before is kept, but not for longer than it is true.
     void everyChangeOfTheAreasIsPainted()
     {
