@@ -1,4 +1,5 @@
 // Opening and saving projects, and the way of what was typed into them.
+#include "build/console/KVQtStdoutWidget.h"
 #include "tests/app/WindowFixture.h"
 
 #include <QDir>
@@ -35,6 +36,32 @@ private slots:
         QCOMPARE(w.script(), "sub cow\r\nend sub\r\n");
         QCOMPARE(w.get<PolyEditorWidget>("polyArea")->currentPicture, 0);
         QCOMPARE(w.console(), "");
+    }
+
+    void theNumberOfTheProductIsShown()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}, "", "PRODUCT 7, \"Zoo\""));
+        QCOMPARE(w.get<QSpinBox>("txProjectId")->value(), 7);
+    }
+
+    void openingEmptiesTheConsole()
+    {
+        WindowFixture w;
+        w.window.openProject(w.path("none.oidpro"));
+        w.open(projectFile({kCow}), 1);
+        QCOMPARE(w.console(), "");
+    }
+
+    // The newest console gets all messages; one that is gone gets none.
+    void openingBringsTheMessagesBackIntoTheConsole()
+    {
+        WindowFixture w;
+        {
+            const KVQtStdoutWidget other;
+        }
+        w.window.openProject(w.path("none.oidpro"));
+        QCOMPARE(w.console(), "Error: Can't open file '" + w.path("none.oidpro") + "'");
     }
 
     void theLoadersMessagesStandInTheConsole()
@@ -108,6 +135,28 @@ private slots:
         w.dialogs.press("OK");
         w.trigger("action_Save_As");
         QCOMPARE(w.dialogs.seen().last(), "Warning: The file could not be saved to the drive");
+    }
+
+    void afterSaveAsTheFormShowsTheNumbersAsTheyAreStored()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        w.type("txProjDPI", "0600");
+        w.type("txProjPaperWidth", "210.50");
+        w.dialogs.chooseFile(w.path("other.oidpro"));
+        w.trigger("action_Save_As");
+        QCOMPARE(w.field("txProjDPI"), "600");
+        QCOMPARE(w.field("txProjPaperWidth"), "210.5");
+    }
+
+    void saveLeavesTheFormAsItWasTyped()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        w.type("txProjDPI", "0600");
+        QVERIFY(w.saved().find("DPI   600\r\n") != std::string::npos);
+        QCOMPARE(w.field("txProjDPI"), "0600");
+        QCOMPARE(w.dialogs.seen(), QStringList({"Open project"}));
     }
 
     void saveThatFailsAsksForAnotherName()
@@ -297,15 +346,31 @@ private slots:
         QVERIFY(!enter.isAccepted());
     }
 
-    void anyOtherFileIsNotTaken()
+    void onlyOneProjectFileIsTaken_data()
     {
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<bool>("taken");
+        QTest::newRow("one") << QStringList{"book.oidpro"} << true;
+        QTest::newRow("in capitals") << QStringList{"BOOK.OIDPRO"} << true;
+        QTest::newRow("two") << QStringList{"book.oidpro", "zoo.oidpro"} << false;
+        QTest::newRow("a picture") << QStringList{"picture.png"} << false;
+        QTest::newRow("none") << QStringList() << false;
+    }
+
+    void onlyOneProjectFileIsTaken()
+    {
+        QFETCH(QStringList, files);
         WindowFixture w;
         QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(w.path("picture.png"))});
+        QList<QUrl> urls;
+        for (const QString& file : files) {
+            urls << QUrl::fromLocalFile(w.path(file.toLatin1()));
+        }
+        data.setUrls(urls);
         QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         enter.ignore();
         QCoreApplication::sendEvent(&w.window, &enter);
-        QVERIFY(!enter.isAccepted());
+        QTEST(enter.isAccepted(), "taken");
     }
 };
 
