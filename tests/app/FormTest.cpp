@@ -11,6 +11,8 @@
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QMenuBar>
+#include <QMetaMethod>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -155,6 +157,43 @@ private slots:
         QCOMPARE(w.window.toolBarArea(w.get<QToolBar>("toolBar")), Qt::TopToolBarArea);
     }
 
+    void hasAStatusBarThatShowsNothingAndNoMenuBar()
+    {
+        WindowFixture w;
+        QCOMPARE(w.get<QStatusBar>("statusbar")->currentMessage(), "");
+        QVERIFY(w.window.findChild<QMenuBar*>() == nullptr);
+    }
+
+    void hasItsSlotsInTheirOrder()
+    {
+        const QMetaObject& window = MainWindow::staticMetaObject;
+        QStringList slotNames;
+        for (int i = window.methodOffset(); i < window.methodCount(); ++i) {
+            slotNames << window.method(i).methodSignature();
+        }
+        QCOMPARE(slotNames, QStringList({"on_action_Open_triggered()",
+                                         "on_action_Save_As_triggered()",
+                                         "on_btAddPoly_clicked()",
+                                         "onPolyAreaClickedLB(Oid::PNT)",
+                                         "on_btDelPoly_clicked()",
+                                         "on_btPickPoly_clicked()",
+                                         "on_txPolyName_textEdited(QString)",
+                                         "on_txProjPaperWidth_textChanged(QString)",
+                                         "on_txProjPaperHeight_textChanged(QString)",
+                                         "on_txProjDPI_textChanged(QString)",
+                                         "on_btBuild_clicked()",
+                                         "on_btCreateImage_clicked()",
+                                         "on_actionSave_triggered()",
+                                         "on_btCopyToPen_clicked()",
+                                         "on_txOidOfArea_valueChanged(int)",
+                                         "on_txPolyName_textChanged(QString)",
+                                         "on_btDeletePicture_clicked()",
+                                         "on_btPreviousPicture_clicked()",
+                                         "on_btNextPicture_clicked()",
+                                         "on_btLoadImage_clicked()",
+                                         "on_btEditPolyCode_clicked()"}));
+    }
+
     // Shortcuts of a hidden or torn-off tool bar are dead, and no menu would bring it back.
     void theToolBarCannotBeLost()
     {
@@ -206,6 +245,7 @@ private slots:
         const PolyEditorWidget* const picture = w.get<PolyEditorWidget>("polyArea");
         QCOMPARE(picture->cursor().shape(), Qt::ArrowCursor);
         QVERIFY(!picture->autoFillBackground());
+        QVERIFY(!picture->parentWidget()->autoFillBackground());
     }
 
     // The project is not copied into a fresh form.

@@ -130,6 +130,18 @@ private slots:
         QCOMPARE(QImage(w.path("900-bkgnd1.jpg")).size(), QSize(2362, 1181));
     }
 
+    void inAProjectThatWasNeverOpenedMessagesStandInTheConsole()
+    {
+        WindowFixture w;
+        w.dialogs.chooseFile(w.path("book.oidpro"));
+        w.trigger("action_Save_As");
+        w.makePicture("scan.png");
+        w.dialogs.chooseFile(w.path("scan.png"));
+        w.click("btNextPicture");
+        w.click("btAddPoly");
+        QCOMPARE(w.console(), "OID  1001 assigned to 'polygon1'");
+    }
+
     // Pictures are named by the id; the copy must be found under the one that is kept.
     void aPictureIsKeptUnderAnIdThatWasJustTyped()
     {

@@ -124,6 +124,17 @@ private slots:
         w.open(projectFile({kCow}, kScript), 1);
         w.click("btBuild");
         QVERIFY(mi_printf == printToStandardOutput);
+        w.open(projectFile({kCow}, kScript), 1);
+        QVERIFY(mi_printf == printToStandardOutput);
+    }
+
+    void afterTheWindowMessagesGoToStandardOutput()
+    {
+        {
+            const WindowFixture w;
+        }
+        QVERIFY(mi_printf == printToStandardOutput);
+        QVERIFY(defaultPrintf() == printToStandardOutput);
     }
 
     void theSpeechCanBeCancelled()
