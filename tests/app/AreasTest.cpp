@@ -57,6 +57,46 @@ private slots:
         QCOMPARE(w.field("txPolyName"), "hen");
     }
 
+    void aClickPicksFromThePictureThatIsShown()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20), area("hen", 1002, 30, 20, 20)}), 2);
+        showAreas(w);
+        w.click("btNextPicture");
+        w.clickAt(at(w, 15, 15));
+        QCOMPARE(selected(w), -1);
+        w.clickAt(at(w, 40, 30));
+        QCOMPARE(w.field("txPolyName"), "hen");
+    }
+
+    // What is done to it counts for the area of that number on the new picture.
+    void theSelectionStaysWhenThePictureChanges()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20), area("hen", 1002, 30, 20, 20), ""}), 3);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        w.click("btNextPicture");
+        QCOMPARE(selected(w), 0);
+        QCOMPARE(w.field("txPolyName"), "cow");
+        w.type("txPolyName", "pig");
+        QCOMPARE(w.saved(),
+                 projectFile({area("cow", 1001, 10, 10, 20), area("pig", 1002, 30, 20, 20), ""}));
+    }
+
+    void addingGoesOnOnAnotherPicture()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20), area("hen", 1002, 30, 20, 20)}), 2);
+        showAreas(w);
+        w.click("btAddPoly");
+        w.click("btNextPicture");
+        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->cursor().shape(), Qt::CrossCursor);
+        w.clickAt({0, w.get<PolyEditorWidget>("polyArea")->width() / 2});
+        QVERIFY(w.saved().find("       30.00    40.00\r\n        0.00    50.00\r\nEND") !=
+                std::string::npos);
+    }
+
     void aClickOutsideEveryAreaDeselectsAndLeavesTheFields()
     {
         WindowFixture w;
@@ -98,6 +138,75 @@ private slots:
         w.click("btPickPoly");
         QCOMPARE(w.get<PolyEditorWidget>("polyArea")->cursor().shape(), Qt::ArrowCursor);
         QCOMPARE(selected(w), -1);
+    }
+
+    void afterPickingOrDeletingAClickAddsNoCorner()
+    {
+        for (const char* const tool : {"btPickPoly", "btDelPoly"}) {
+            WindowFixture w;
+            w.open(projectFile({area("cow", 1001, 10, 10, 20)}), 1);
+            showAreas(w);
+            w.click("btAddPoly");
+            w.click(tool);
+            const std::string before = w.saved();
+            w.clickAt(at(w, 45, 45));
+            QCOMPARE(w.saved(), before);
+        }
+    }
+
+    void openingAProjectSelectsNothing()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        w.open(projectFile({area("hen", 1002, 10, 10, 20)}), 1);
+        QCOMPARE(selected(w), -1);
+        w.type("txPolyName", "pig");
+        QCOMPARE(w.saved(), projectFile({area("hen", 1002, 10, 10, 20)}));
+    }
+
+    void afterAFailedOpenThePictureWidgetStillKnowsItsArea()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        w.window.openProject(w.path("none.oidpro"));
+        QCOMPARE(selected(w), 0);
+        w.type("txPolyName", "pig");
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}), 1);
+        QCOMPARE(selected(w), -1);
+    }
+
+    void aPickedAreaAndANewCornerArePaintedAtOnce()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}), 1);
+        showAreas(w);
+        const auto painted = [&](const std::function<void()>& use) {
+            QCoreApplication::processEvents();
+            PaintCounter paints(*w.get<PolyEditorWidget>("polyArea"));
+            use();
+            return paints.count > 0;
+        };
+        QVERIFY(painted([&] { w.clickAt(at(w, 15, 15)); }));
+        QVERIFY(painted([&] { w.clickAt(at(w, 45, 45)); }));
+        w.click("btAddPoly");
+        QVERIFY(painted([&] { w.clickAt(at(w, 45, 45)); }));
+    }
+
+    // Only the three tools end or begin adding.
+    void addingGoesOnInAnotherProject()
+    {
+        WindowFixture w;
+        w.open(projectFile({""}), 1);
+        w.click("btAddPoly");
+        w.open(projectFile({"OID 7\r\nPOLY hen\r\nEND\r\n\r\n"}), 1);
+        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->cursor().shape(), Qt::CrossCursor);
+        showAreas(w);
+        w.clickAt({0, w.get<PolyEditorWidget>("polyArea")->width() / 2});
+        QVERIFY(w.saved().find("POLY hen\r\n        0.00    50.00\r\nEND") != std::string::npos);
     }
 
     void addingOnAPictureWithoutAreasIsIgnored()
@@ -225,6 +334,21 @@ private slots:
         oid->selectAll();
         QTest::keyClicks(oid, "0");
         QCOMPARE(w.saved(), projectFile({area("cow", 0, 10, 10, 20)}));
+    }
+
+    // Its number went with the name of another area.
+    void aNameThatHasLostItsNumberGetsZero()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 10) + area("cow", 1001, 30, 10, 10)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        w.type("txPolyName", "hen");
+        w.clickAt(at(w, 35, 15));
+        QCOMPARE(w.field("txPolyName"), "cow");
+        QCOMPARE(w.get<QSpinBox>("txOidOfArea")->value(), 0);
+        QCOMPARE(w.saved(),
+                 projectFile({area("hen", 1001, 10, 10, 10) + area("cow", 0, 30, 10, 10)}));
     }
 
     void gotoCodeFindsTheSub()

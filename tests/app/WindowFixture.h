@@ -48,6 +48,20 @@ public:
     MainWindow window;
 };
 
+// How often a widget is painted from now on, at once or by the event loop.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
 // A project of pictures, each given by its lines between DPI and the next IMAGE.
 std::string projectFile(const std::vector<std::string>& pictures, const std::string& script = "",
                         const std::string& product = "PRODUCT 900, \"Zoo\"");
