@@ -31,6 +31,15 @@ void showAreas(WindowFixture& w)
     QTest::qWait(1);
 }
 
+std::string lines(int count)
+{
+    std::string text;
+    for (int i = 0; i < count; ++i) {
+        text += "x = 1\r\n";
+    }
+    return text;
+}
+
 int selected(WindowFixture& w)
 {
     return w.get<PolyEditorWidget>("polyArea")->selectedPoly;
@@ -280,9 +289,31 @@ private slots:
             QCOMPARE(w.saved(), projectFile({"OID 1001\r\nPOLY " + name->text().toStdString() +
                                              "\r\nEND\r\n\r\n"}));
         }
-        // The old names are free again: the next area of that name gets a number of its own.
+    }
+
+    // All reaction to a name is to the change of its text.
+    void theSlotForAnEditedNameDoesNothing()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        QVERIFY(QMetaObject::invokeMethod(&w.window, "on_txPolyName_textEdited",
+                                          Q_ARG(QString, "hen ")));
+        QCOMPARE(w.field("txPolyName"), "cow");
+        QCOMPARE(w.saved(), projectFile({area("cow", 1001, 10, 10, 20)}));
+    }
+
+    void aNameThatWasGivenUpHasNoNumberAnyMore()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("polygon1", 1001, 10, 10, 20), ""}), 2);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        w.type("txPolyName", "door");
+        w.click("btNextPicture");
         w.click("btAddPoly");
-        QCOMPARE(w.field("txPolyName"), "polygon2");
+        QCOMPARE(w.field("txPolyName"), "polygon1");
         QCOMPARE(w.get<QSpinBox>("txOidOfArea")->value(), 1002);
     }
 
@@ -363,6 +394,41 @@ private slots:
         QCOMPARE(selection.end.line, 1);
         QCOMPARE(selection.end.column, 0);
         QVERIFY(!selection.has_range());
+    }
+
+    void gotoCodeSearchesFromTheTopAndScrollsToTheSub()
+    {
+        WindowFixture w;
+        const std::string script = lines(300) + "sub cow\r\nend sub\r\n" + lines(300);
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}, script), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        w.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&w.window));
+        auto& surface = w.get<KVQtHighlightEditCtrl>("codeEditor")->surface();
+        surface.OnEditSelectAll();
+        w.click("btEditPolyCode");
+        const auto& selection = surface.editor.selection;
+        QCOMPARE(selection.end.line, 300);
+        QCOMPARE(selection.end.column, 0);
+        QVERIFY(!selection.has_range());
+        QVERIFY(surface.rect().contains(surface.CellRectangle(selection.end)));
+        QVERIFY(surface.hasFocus());
+    }
+
+    void gotoCodeScrollsToALineThatItAdds()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}, lines(300)), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        w.click("btEditPolyCode");
+        auto& surface = w.get<KVQtHighlightEditCtrl>("codeEditor")->surface();
+        QCOMPARE(w.script(), QString::fromStdString(lines(300)) + "\r\nsub cow\r\nendsub\r\n");
+        QCOMPARE(surface.editor.selection.end.line, 303);
+        QVERIFY(surface.rect().contains(surface.CellRectangle({303, 0})));
+        QVERIFY(!surface.editor.is_dirty());  // coloured
+        QVERIFY(!surface.editor.can_undo());  // a plain append
     }
 
     // Plain text search: no word boundaries, on purpose.
