@@ -30,13 +30,14 @@ void DialogAnswers::cancel()
 
 void DialogAnswers::press(const QString& button)
 {
-    answers.emplace_back([button](QWidget& dialog) {
+    answers.emplace_back([this, button](QWidget& dialog) {
         for (QAbstractButton* const candidate : dialog.findChildren<QAbstractButton*>()) {
             if (candidate->text().remove('&') == button) {
                 QTest::mouseClick(candidate, Qt::LeftButton);
                 return;
             }
         }
+        shown << "no button: " + button;
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
 }

@@ -21,7 +21,8 @@ public:
     void chooseFile(const QString& path);
     // For every dialog: Escape.
     void cancel();
-    // For message boxes: the button with this text, its "&" left out.
+    // For message boxes: the button with this text, its "&" left out. A box without it is closed
+    // and noted as such.
     void press(const QString& button);
     void look(std::function<void(QWidget&)> lookAt);
 

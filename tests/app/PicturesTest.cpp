@@ -130,6 +130,67 @@ private slots:
         QCOMPARE(QImage(w.path("900-bkgnd1.jpg")).size(), QSize(2362, 1181));
     }
 
+    void theResolutionIsThatOfTheRowsAndLosesItsFraction_data()
+    {
+        QTest::addColumn<int>("dotsPerMetre");
+        QTest::addColumn<QString>("dpi");
+        QTest::newRow("71.98") << 2834 << "72";
+        QTest::newRow("76.5") << 3012 << "76";
+        QTest::newRow("76.7") << 3020 << "77";
+        QTest::newRow("600") << 23622 << "600";
+    }
+
+    void theResolutionIsThatOfTheRowsAndLosesItsFraction()
+    {
+        QFETCH(int, dotsPerMetre);
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        QImage image(120, 120, QImage::Format_RGB32);
+        image.setDotsPerMeterX(dotsPerMetre);
+        image.setDotsPerMeterY(1000);
+        QVERIFY(image.save(w.path("scan.png")));
+        w.dialogs.chooseFile(w.path("scan.png"));
+        w.click("btNextPicture");
+        QTEST(w.field("txProjDPI"), "dpi");
+        QCOMPARE(w.field("txProjPaperHeight"), "120");
+    }
+
+    void anotherPictureIsPaintedAtOnce()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea, kArea}), 2);
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        const auto painted = [&](const char* button) {
+            QTest::qWait(1);
+            const PaintCounter paints(*w.get<PolyEditorWidget>("polyArea"));
+            w.click(button);
+            return paints.count > 0;
+        };
+        QVERIFY(painted("btNextPicture"));
+        QVERIFY(painted("btPreviousPicture"));
+    }
+
+    void aReplacedPictureIsShown()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea, kArea}), 2);
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        PolyEditorWidget* const picture = w.get<PolyEditorWidget>("polyArea");
+        const auto shown = [&] { return picture->grab().toImage().pixelColor(50, 50); };
+        const QColor before = shown();
+        QImage black(60, 30, QImage::Format_RGB32);
+        black.fill(Qt::black);
+        QVERIFY(black.save(w.path("scan.png")));
+        w.dialogs.chooseFile(w.path("scan.png"));
+        w.dialogs.press("Yes");
+        w.click("btLoadImage");
+        QVERIFY(!picture->loadedPath.empty());  // at once
+        QCOMPARE(shown(), QColor(0, 0, 0));
+        QCOMPARE(QImage(w.path("900-bkgnd1.jpg")).size(), QSize(200, 100));
+        w.click("btNextPicture");
+        QCOMPARE(shown(), before);
+    }
+
     void inAProjectThatWasNeverOpenedMessagesStandInTheConsole()
     {
         WindowFixture w;
@@ -178,6 +239,19 @@ private slots:
         QCOMPARE(w.dialogs.seen().last(), "Warning: Can't load that picture.");
         QCOMPARE(current(w), 0);
         QVERIFY(!QFile::exists(w.path("900-bkgnd1.jpg")));
+    }
+
+    void aBrokenPictureIsRefusedBeforeTheQuestion()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        writeFile(w.folder.file("broken.png"), "no picture");
+        w.dialogs.chooseFile(w.path("broken.png"));
+        w.dialogs.press("OK");
+        w.click("btLoadImage");
+        QCOMPARE(w.dialogs.seen(), QStringList({"Open project", "Import Picture",
+                                                "Warning: Can't load that picture."}));
+        QCOMPARE(QImage(w.path("900-bkgnd0.jpg")).size(), QSize(200, 100));
     }
 
     void aPictureInTheWayIsOnlyOverwrittenOnYes()
@@ -372,6 +446,31 @@ private slots:
         QCOMPARE(QImage(w.path("900-print1.tiff")).size(), QSize(200, 100));
         QVERIFY(w.console().startsWith("Creating pixel image...\n      0%\n     10%\n"));
         QCOMPARE(QDir::current(), QDir(QString::fromStdString(w.folder.path())));
+    }
+
+    void createMakesTheImagesOfAnIdThatWasJustTyped()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        w.type("txProjDPI", "60");
+        w.makePicture("905-bkgnd0.jpg");
+        w.get<QSpinBox>("txProjectId")->setValue(905);
+        w.click("btCreateImage");
+        QVERIFY(QFile::exists(w.path("905-print0.tiff")));
+        QVERIFY(!QFile::exists(w.path("900-print0.tiff")));
+    }
+
+    void createGoesOnBehindAPictureWithoutItsFile()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea, kArea}));
+        w.makePicture("900-bkgnd1.jpg");
+        w.click("btNextPicture");
+        w.type("txProjDPI", "60");
+        w.click("btCreateImage");
+        QVERIFY(w.console().startsWith("No image was loaded for this picture.\n"));
+        QVERIFY(!QFile::exists(w.path("900-print0.tiff")));
+        QVERIFY(QFile::exists(w.path("900-print1.tiff")));
     }
 
     void aNumberThatWasJustTypedIsPrinted()

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QDragEnterEvent>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QSpinBox>
@@ -79,6 +80,20 @@ private slots:
         QCOMPARE(w.tab(), "Build");
         QCOMPARE(w.console(), "Error: Can't open file '" + w.path("none.oidpro") + "'");
         QCOMPARE(w.field("txProjectName"), "my project");
+    }
+
+    void theDialogsShowProjectFiles()
+    {
+        WindowFixture w;
+        for (const char* const action : {"action_Open", "action_Save_As"}) {
+            QStringList filters;
+            w.dialogs.look([&](QWidget& dialog) {
+                filters = static_cast<QFileDialog&>(dialog).nameFilters();
+                QTest::keyClick(&dialog, Qt::Key_Escape);
+            });
+            w.trigger(action);
+            QCOMPARE(filters, QStringList({"Project files (*.oidpro)"}));
+        }
     }
 
     void cancellingOpenChangesNothing()
