@@ -1,4 +1,5 @@
 // Building from the window: the console, the speech with its progress, the assembler, the pen.
+#include "base/PlatformDrives.h"
 #include "oid/PrintImage.h"
 #include "tests/app/WindowFixture.h"
 
@@ -48,7 +49,36 @@ private:
     TemporaryFolder folder;
 };
 
+// The drives that this computer has, for these tests.
+std::vector<std::string> pluggedIn;
+
+// A folder that stands for the drive of a pen.
+struct PluggedInPen
+{
+    PluggedInPen()
+    {
+        writeFile(folder.file("tiptoi.ico"), "");
+        pluggedIn = {folder.path()};
+    }
+    ~PluggedInPen() { pluggedIn.clear(); }
+    PluggedInPen(const PluggedInPen&) = delete;
+    PluggedInPen& operator=(const PluggedInPen&) = delete;
+
+    TemporaryFolder folder;
+};
+
 }  // namespace
+
+// Linked in place of those of the system: real drives cannot be plugged in by a test.
+std::vector<std::string> Platform::penVolumes()
+{
+    return pluggedIn;
+}
+
+bool Platform::folderHolds(const std::string& folder, const std::string& name)
+{
+    return QFile::exists(QString::fromStdString(folder + "/" + name));
+}
 
 class WindowBuildTest : public QObject
 {
@@ -110,6 +140,18 @@ private slots:
         w.click("btBuild");
         QVERIFY(QString::fromStdString(readFile(w.folder.file("900-Zoo.yaml")))
                     .contains("P(say_adam_line_2)"));
+    }
+
+    // The box has two states; a third would not count.
+    void aHalfCheckedDebugModeIsNone()
+    {
+        StandIns programs;
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        w.get<QCheckBox>("chDebugMode")->setCheckState(Qt::PartiallyChecked);
+        w.click("btBuild");
+        QVERIFY(!QString::fromStdString(readFile(w.folder.file("900-Zoo.yaml")))
+                     .contains("say_adam_line"));
     }
 
     // After a build the messages of the print images go to standard output, until the next build.
@@ -260,6 +302,31 @@ private slots:
         w.click("btBuild");
         QVERIFY(w.console().startsWith("Error: Can't open file "));
         QVERIFY(!w.console().contains("done."));
+    }
+
+    void theGameIsCopiedToThePenAsItWasBuilt()
+    {
+        const PluggedInPen pen;
+        WindowFixture w;
+        const std::string project = projectFile({kCow}, kScript);
+        w.open(project, 1);
+        writeFile(w.folder.file("900-Zoo.gme"), "game");
+        w.type("txProjDPI", "600");
+        w.click("btCopyToPen");
+        QCOMPARE(w.console(), "Copy to Pen...\ndone.");
+        QCOMPARE(readFile(pen.folder.file("900-Zoo.gme")), std::string("game"));
+        QCOMPARE(readFile(w.folder.file("book.oidpro")), project);
+        QCOMPARE(w.folder.listing(), std::string("900-Zoo.gme 900-bkgnd0.jpg book.oidpro"));
+    }
+
+    void copyingAGameThatIsNotBuiltYetFails()
+    {
+        const PluggedInPen pen;
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        w.click("btCopyToPen");
+        QCOMPARE(w.console(), "Copy to Pen...\nfailed.");
+        QCOMPARE(pen.folder.listing(), std::string("tiptoi.ico"));
     }
 
     void copyingWithoutAPenSaysNothing()
