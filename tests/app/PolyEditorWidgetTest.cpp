@@ -1,7 +1,10 @@
 // The picture with its areas: coordinates, clicks, and what is painted.
 #include "app/PolyEditorWidget.h"
+#include "tests/app/PaintCounter.h"
 #include "tests/helpers/TemporaryFolder.h"
 
+#include <QMouseEvent>
+#include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -30,13 +33,14 @@ struct Shown
         image.save(QString::fromStdString(folder.file("900-bkgnd" + std::to_string(n) + ".jpg")));
     }
 
-    QColor pixel(int x, int y)
+    QImage picture()
     {
         QImage shot(widget.size(), QImage::Format_RGB32);
         shot.fill(QColor(1, 2, 3));  // what shows where nothing is painted
         widget.render(&shot, {}, {}, {});
-        return shot.pixelColor(x, y);
+        return shot;
     }
+    QColor pixel(int x, int y) { return picture().pixelColor(x, y); }
 
     TemporaryFolder folder;
     Oid::OidProject project;
@@ -116,6 +120,19 @@ private slots:
         QCOMPARE(clicks.count(), 1);
     }
 
+    void aClickBetweenPixelsIsAtTheNearestOne()
+    {
+        qRegisterMetaType<Oid::PNT>();
+        Shown shown;
+        QSignalSpy clicks(&shown.widget, &PolyEditorWidget::clickedLB);
+        QMouseEvent release(QEvent::MouseButtonRelease, QPointF(99.6, 80.4), Qt::LeftButton,
+                            Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&shown.widget, &release);
+        const Oid::PNT point = clicks[0][0].value<Oid::PNT>();
+        QCOMPARE(point.x, 50.0);
+        QCOMPARE(point.y, 40.0);
+    }
+
     void thePictureTakesTheFullWidthAndKeepsItsShape()
     {
         Shown shown;
@@ -146,6 +163,42 @@ private slots:
         Shown shown({}, false);
         QCOMPARE(shown.pixel(180, 20), QColor(200, 255, 255));
         QVERIFY(shown.pixel(100, 66) != QColor(200, 255, 255));  // the line across
+    }
+
+    void thePlaceholderSaysThatNoImageIsLoaded()
+    {
+        QImage expected(150, 100, QImage::Format_RGB32);
+        expected.fill(QColor(200, 255, 255));
+        QPainter painter(&expected);
+        painter.drawText(10, 10, "NO IMAGE LOADED");
+        painter.drawLine(0, 0, 150, 100);
+        painter.end();
+
+        Shown shown({}, false);
+        shown.widget.resize(150, 101);
+        QCOMPARE(shown.picture(),
+                 expected.scaled(150, 101, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    }
+
+    void aFileIsShownWhereverItLies()
+    {
+        Shown shown;
+        shown.savePicture(7, QColor(0, 0, 0));
+        QCOMPARE(shown.pixel(100, 50), QColor(255, 255, 255));
+        shown.widget.loadImage(QString::fromStdString(shown.folder.file("900-bkgnd7.jpg")));
+        QCOMPARE(shown.pixel(100, 50), QColor(0, 0, 0));
+        shown.widget.clearImage();
+        QCOMPARE(shown.pixel(180, 20), QColor(200, 255, 255));
+    }
+
+    void aLoadedFileIsPaintedAtOnce()
+    {
+        Shown shown;
+        shown.widget.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&shown.widget));
+        const PaintCounter paints(shown.widget);
+        shown.widget.loadImage("no such file");
+        QCOMPARE(paints.count, 1);
     }
 
     void thePictureIsReadOnceUntilItsPathChanges()
@@ -187,6 +240,16 @@ private slots:
         Shown shown({line, dot, Oid::POLY()});
         QCOMPARE(shown.pixel(50, 20), QColor(32, 96, 255));
         QCOMPARE(shown.pixel(120, 60), QColor(32, 96, 255));
+    }
+
+    void whatAnOutlineGoesRoundTwiceIsNotFilled()
+    {
+        Oid::POLY twice = square("cow", 10, 10, 10);
+        const std::vector<Oid::PNT> once = twice.points;
+        twice.points.insert(twice.points.end(), once.begin(), once.end());
+        Shown shown({twice});
+        QCOMPARE(shown.pixel(30, 30), QColor(255, 255, 255));
+        QCOMPARE(shown.pixel(20, 30), QColor(32, 96, 255));
     }
 
     // A picture may be lower than the tab, or its file may be missing.

@@ -4,6 +4,7 @@
 #include "app/PolyEditorWidget.h"
 #include "editor/widget/KVQtHighlightEditCtrl.h"
 #include "tests/app/DialogAnswers.h"
+#include "tests/app/PaintCounter.h"
 #include "tests/helpers/TemporaryFolder.h"
 
 #include <QImage>
@@ -46,20 +47,6 @@ public:
     TemporaryFolder folder;
     DialogAnswers dialogs;
     MainWindow window;
-};
-
-// How often a widget is painted from now on, at once or by the event loop.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
-    {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-
-    int count = 0;
 };
 
 // A project of pictures, each given by its lines between DPI and the next IMAGE.
