@@ -254,6 +254,35 @@ private slots:
         QCOMPARE(w.saved(), projectFile({area("cow", 1001, 10, 10, 10)}));
     }
 
+    void deletingWithoutASelectedAreaIsIgnored()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20), ""}), 2);
+        showAreas(w);
+        w.click("btAddPoly");
+        w.click("btNextPicture");  // which has no area of that number
+        w.click("btDelPoly");
+        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->cursor().shape(), Qt::CrossCursor);
+        w.click("btPreviousPicture");
+        w.click("btPickPoly");
+        w.click("btDelPoly");
+        QCOMPARE(w.saved(), projectFile({area("cow", 1001, 10, 10, 20) +
+                                             "OID 1002\r\nPOLY polygon2\r\nEND\r\n\r\n",
+                                         ""}));
+    }
+
+    void nameAndNumberWithoutASelectedAreaAreIgnored()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        w.clickAt(at(w, 45, 45));
+        w.type("txPolyName", "hen");
+        w.get<QSpinBox>("txOidOfArea")->setValue(77);
+        QCOMPARE(w.saved(), projectFile({area("cow", 1001, 10, 10, 20)}));
+    }
+
     void deletingTheOnlyAreaSelectsNothing()
     {
         WindowFixture w;
