@@ -244,6 +244,19 @@ private slots:
         QCOMPARE(w.field("txProjDPI"), "77");
     }
 
+    // Those of another picture would be written into the first one by the next transfer.
+    void openingShowsThePaperOfTheFirstPicture()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow, kCow}), 2);
+        w.click("btNextPicture");
+        std::string other = projectFile({kCow, kCow});
+        other.replace(other.rfind("DPI   300"), 9, "DPI   600");
+        w.open(other, 2);
+        QCOMPARE(w.field("txProjDPI"), "300");
+        QCOMPARE(w.saved(), other);
+    }
+
     void openingAnotherProjectStartsAtItsFirstPicture()
     {
         WindowFixture w;
