@@ -4,12 +4,20 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTabWidget>
 
 WindowFixture::WindowFixture()
 {
     window.show();
     QVERIFY2(QTest::qWaitForWindowExposed(&window), "the window does not appear");
+}
+
+WindowFixture::~WindowFixture()
+{
+    const QStringList unexpected = dialogs.seen().filter(QRegularExpression("^unexpected: "));
+    QVERIFY2(unexpected.isEmpty(), qPrintable(unexpected.join('\n')));
+    QVERIFY2(dialogs.allGiven(), "a dialog that was expected has not come");
 }
 
 void WindowFixture::click(const char* button)

@@ -16,6 +16,8 @@ class WindowFixture
 {
 public:
     WindowFixture();
+    // Fails the test when a dialog came that nobody expected, or one that was expected did not.
+    ~WindowFixture();
 
     // A control by its name in the form.
     template <class T>
