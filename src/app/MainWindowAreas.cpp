@@ -5,7 +5,7 @@
 #include "oid/OidTable.h"
 #include "ui_MainWindow.h"
 
-#include <algorithm>
+#include <utility>
 
 Oid::POLY* MainWindow::selectedArea() const
 {

@@ -1,7 +1,6 @@
 #include "tests/app/DrivenProgram.h"
 
 #include <QDeadlineTimer>
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTabBar>

@@ -7,7 +7,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLayout>
-#include <QLineEdit>
 #include <QProgressDialog>
 #include <QScrollArea>
 #include <QScrollBar>

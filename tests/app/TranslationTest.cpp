@@ -1,7 +1,6 @@
 // The translations: complete, and installed for the first language that there is one for.
 #include "app/Translations.h"
 
-#include <QDirIterator>
 #include <QFile>
 #include <QTest>
 #include <QTranslator>

@@ -6,7 +6,6 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QFile>
-#include <QPlainTextEdit>
 #include <QProgressDialog>
 
 namespace {

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cstdio>
-#include <iterator>
 #include <new>
 
 #include "app/cli/Commands.h"

@@ -1,5 +1,3 @@
-#include <utility>
-
 #include "editor/core/EditorBackend.h"
 
 namespace KVTextEditor {
