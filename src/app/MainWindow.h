@@ -28,6 +28,8 @@ public:
     void openProject(const QString& path);
 
 private slots:
+    // Their order, that of the meta-object, is part of the design, too.
+
     // MainWindow.cpp: the project file
     void on_action_Open_triggered();
     void on_action_Save_As_triggered();
@@ -48,10 +50,13 @@ private slots:
     void on_btBuild_clicked();
     void on_btCreateImage_clicked();
 
+    // MainWindow.cpp
     void on_actionSave_triggered();
 
+    // MainWindowBuild.cpp
     void on_btCopyToPen_clicked();
 
+    // MainWindowAreas.cpp
     void on_txOidOfArea_valueChanged(int arg1);
     void on_txPolyName_textChanged(const QString& arg1);
 
@@ -61,6 +66,7 @@ private slots:
     void on_btNextPicture_clicked();
     void on_btLoadImage_clicked();
 
+    // MainWindowAreas.cpp
     void on_btEditPolyCode_clicked();
 
 protected:
