@@ -167,8 +167,10 @@ private slots:
     {
         const TemporaryFolder other;
         for (const char* name : {"farm.oidpro", "905-bkgnd0.jpg", "905-audio"}) {
+            std::error_code error;
             std::filesystem::copy(folder.file(name), other.file(name),
-                                  std::filesystem::copy_options::recursive);
+                                  std::filesystem::copy_options::recursive, error);
+            QVERIFY2(!error, name);  // the book was not made
         }
         for (const char* command : {"build", "print"}) {
             const ProgramRun run = runProgram(PLINKETT_BIN_DIR "/plinkett-cli",
@@ -283,12 +285,26 @@ private:
     int pictureWidth = 0;
 };
 
-int main(int argc, char* argv[])
+// A window that appears while the window manager is starting may never be shown.
+static void waitForWindowManager(const XDisplay& display)
+{
+    waitUntil(
+        [&] {
+            QProcess question;
+            question.setProcessEnvironment(display.environment());
+            question.start("xdotool", {"get_desktop"});
+            return question.waitForFinished() && question.exitCode() == 0;
+        },
+        "the window manager");
+}
+
+static int runOnItsScreen(int argc, char* argv[])
 {
     const XDisplay display("1280x1024");
     QProcess windowManager;
     windowManager.setProcessEnvironment(display.environment());
     windowManager.start("openbox", QStringList());
+    waitForWindowManager(display);
     // The test itself lives on that screen too: there its layouts are the program's.
     qputenv("DISPLAY", display.name().toLatin1());
     qputenv("QT_QPA_PLATFORM", "xcb");
@@ -302,6 +318,16 @@ int main(int argc, char* argv[])
     windowManager.terminate();
     windowManager.waitForFinished();
     return failures;
+}
+
+int main(int argc, char* argv[])
+{
+    try {
+        return runOnItsScreen(argc, argv);
+    } catch (const std::exception& failure) {  // caught, so that screen and window manager end
+        qCritical("%s", failure.what());
+        return 1;
+    }
 }
 
 #include "EndToEndTest.moc"
