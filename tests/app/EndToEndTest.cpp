@@ -140,16 +140,19 @@ public:
     explicit EndToEndTest(const XDisplay& screen) : display(screen) {}
 
 private slots:
-    void aBookIsMadeAndIsTheSameWhenItIsOpenedAgain()
+    // Once for all tests: it takes long.
+    void initTestCase()
     {
-        std::vector<QImage> made;
-        std::vector<QImage> opened;
         try {
             made = makeTheBook();
             opened = openAgain();
         } catch (const std::exception& failure) {
             QFAIL(failure.what());
         }
+    }
+
+    void aBookIsMadeAndIsTheSameWhenItIsOpenedAgain()
+    {
         QCOMPARE(readFile(folder.file("farm.oidpro")), projectFile(pictureWidth));
         QCOMPARE(readFile(folder.file("again.oidpro")), readFile(folder.file("farm.oidpro")));
         QCOMPARE(
@@ -283,6 +286,8 @@ private:
     TemporaryFolder settings;
     TemporaryFolder folder;
     int pictureWidth = 0;
+    std::vector<QImage> made;  // what the window showed of the project
+    std::vector<QImage> opened;
 };
 
 // A window that appears while the window manager is starting may never be shown.
