@@ -26,7 +26,7 @@ QColor EditorOptions::color_of_role(KVTextEditor::COLORINDEX role) const
 }
 
 // Relative luminance and contrast: WCAG 2.1.
-static double luminance(QColor color)
+static double luminance(const QColor& color)
 {
     const auto linear = [](double channel) {
         return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
@@ -35,13 +35,13 @@ static double luminance(QColor color)
            0.0722 * linear(color.blueF());
 }
 
-static double contrast(QColor a, QColor b)
+static double contrast(const QColor& a, const QColor& b)
 {
     const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-QColor legible_on(QColor color, QColor background)
+QColor legible_on(const QColor& color, const QColor& background)
 {
     constexpr double kLegible = 4.5;
     if (contrast(color, background) >= kLegible) {

@@ -27,4 +27,4 @@ struct EditorOptions
 
 // The colour itself where it can be read on the background (a contrast of at least 4.5 to 1 as the
 // Web Content Accessibility Guidelines define it), else black or white.
-QColor legible_on(QColor color, QColor background);
+QColor legible_on(const QColor& color, const QColor& background);
