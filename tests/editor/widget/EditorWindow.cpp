@@ -126,6 +126,13 @@ void EditorWindow::type(const QString& text)
     }
 }
 
+void EditorWindow::compose(const QString& text)
+{
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QApplication::sendEvent(&surface, &event);
+}
+
 QPoint EditorWindow::point(int line, int column) const
 {
     return {

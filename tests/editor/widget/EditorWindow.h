@@ -32,6 +32,8 @@ public:
 
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void type(const QString& text);
+    // The text comes from an input method, as composed characters do.
+    void compose(const QString& text);
 
     // The left edge of a cell in the middle of its line's height.
     QPoint point(int line, int column) const;

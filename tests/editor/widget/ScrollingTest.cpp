@@ -168,11 +168,7 @@ private slots:
             window.place({kLines - 1, 250}, {kLines - 1, 251});
             window.surface.OnEditDoReplace();
         });
-        row("a composed character", [](EditorWindow& window) {
-            QInputMethodEvent event;
-            event.setCommitString("x");
-            QApplication::sendEvent(&window.surface, &event);
-        });
+        row("a composed character", [](EditorWindow& window) { window.compose("x"); });
     }
 
     void theViewFollowsTheCaret()

@@ -4,13 +4,6 @@
 
 namespace {
 
-void commit(EditorWindow& window, const QString& text)
-{
-    QInputMethodEvent event;
-    event.setCommitString(text);
-    QApplication::sendEvent(&window.surface, &event);
-}
-
 void undo(EditorWindow& window)
 {
     window.key(Qt::Key_Z, Qt::ControlModifier);
@@ -188,8 +181,8 @@ private slots:
     void composedCharactersAreTyped()
     {
         EditorWindow window("a|");
-        commit(window, QString::fromUtf8("é"));
-        commit(window, QString::fromUtf8("漢字"));
+        window.compose(QString::fromUtf8("é"));
+        window.compose(QString::fromUtf8("漢字"));
         QCOMPARE(window.shown(), QString::fromUtf8("aé漢字|"));
     }
 
@@ -197,7 +190,7 @@ private slots:
     {
         EditorWindow window("a^b|");
         QTest::keyPress(&window.surface, Qt::Key_C, Qt::ControlModifier);
-        commit(window, QString::fromUtf8("ü"));
+        window.compose(QString::fromUtf8("ü"));
         QCOMPARE(window.shown(), QString::fromUtf8("aü|"));
     }
 
