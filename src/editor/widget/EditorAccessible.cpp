@@ -3,6 +3,7 @@
 #include "editor/widget/KVQtHighlightEditCtrlInlay.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -40,6 +41,23 @@ CARET positionAt(const BUFFER& buffer, int offset)
     return {last, buffer.line(last).column_behind(offset)};
 }
 
+// How many characters two texts have in common at their beginning. A pair of surrogates is one.
+int commonBeginning(const QString& a, const QString& b)
+{
+    const auto end = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first;
+    const int length = static_cast<int>(end - a.begin());
+    return length > 0 && a.at(length - 1).isHighSurrogate() ? length - 1 : length;
+}
+
+// The same at their end, behind their first `begin` code units.
+int commonEnd(const QString& a, const QString& b, int begin)
+{
+    const auto end =
+        std::mismatch(a.rbegin(), a.rend() - begin, b.rbegin(), b.rend() - begin).first;
+    const int length = static_cast<int>(end - a.rbegin());
+    return length > 0 && a.at(a.size() - length).isLowSurrogate() ? length - 1 : length;
+}
+
 }  // namespace
 
 void EditorAccessible::install()
@@ -48,18 +66,36 @@ void EditorAccessible::install()
     Q_UNUSED(installed)
 }
 
-void EditorAccessible::announceCaret(KVQtHighlightEditCtrlInlay* editor)
+void EditorAccessible::announce(KVQtHighlightEditCtrlInlay* editor)
 {
-    if (QAccessible::isActive()) {
-        QAccessibleTextCursorEvent event(editor,
-                                         offsetOf(editor->buffer, editor->editor.selection.end));
-        QAccessible::updateAccessibility(&event);
+    if (!QAccessible::isActive()) {
+        return;
     }
+    auto* const accessible =
+        static_cast<EditorAccessible*>(QAccessible::queryAccessibleInterface(editor));
+    if (const auto change = accessible->change()) {
+        QAccessible::updateAccessibility(change.get());
+    }
+    QAccessibleTextCursorEvent caret(editor, accessible->cursorPosition());
+    QAccessible::updateAccessibility(&caret);
 }
 
 EditorAccessible::EditorAccessible(KVQtHighlightEditCtrlInlay* editor)
-    : QAccessibleWidget(editor, QAccessible::EditableText)
+    : QAccessibleWidget(editor, QAccessible::EditableText), announced(wholeText())
 {}
+
+std::unique_ptr<QAccessibleTextUpdateEvent> EditorAccessible::change()
+{
+    const QString before = std::exchange(announced, wholeText());
+    if (before == announced) {
+        return nullptr;
+    }
+    const int begin = commonBeginning(before, announced);
+    const int same = begin + commonEnd(before, announced, begin);
+    return std::make_unique<QAccessibleTextUpdateEvent>(
+        widget(), begin, before.mid(begin, before.size() - same),
+        announced.mid(begin, announced.size() - same));
+}
 
 KVQtHighlightEditCtrlInlay& EditorAccessible::editor() const
 {

@@ -2,6 +2,8 @@
 
 #include <QAccessibleWidget>
 
+#include <memory>
+
 class KVQtHighlightEditCtrlInlay;
 
 // The editor as screen readers and other assistive programs see it: an editable text of several
@@ -11,10 +13,14 @@ class EditorAccessible : public QAccessibleWidget, public QAccessibleTextInterfa
 public:
     // To be called before the first editor is made; more often does no harm.
     static void install();
-    // Tells assistive programs, where there are any, where the caret stands now.
-    static void announceCaret(KVQtHighlightEditCtrlInlay* editor);
+    // Tells assistive programs, where there are any, what is new in the editor.
+    static void announce(KVQtHighlightEditCtrlInlay* editor);
 
     explicit EditorAccessible(KVQtHighlightEditCtrlInlay* editor);
+
+    // What has changed in the text since this was called last (since the interface was made, at
+    // first), as one piece that replaces another; nullptr where nothing has.
+    std::unique_ptr<QAccessibleTextUpdateEvent> change();
 
     void* interface_cast(QAccessible::InterfaceType type) override;
     QAccessible::State state() const override;
@@ -37,4 +43,6 @@ public:
 private:
     KVQtHighlightEditCtrlInlay& editor() const;
     QString wholeText() const;
+
+    QString announced;  // the text that assistive programs know of
 };

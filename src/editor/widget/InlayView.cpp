@@ -49,7 +49,7 @@ void KVQtHighlightEditCtrlInlay::UpdateAllViews()
     caret_visible = true;
     update_changed_rows();
     updateMicroFocus();
-    EditorAccessible::announceCaret(this);
+    EditorAccessible::announce(this);
 }
 
 // A selection of the last line as a whole ends below the text. When only its caret is left, typing

@@ -1,3 +1,4 @@
+#include "editor/widget/EditorAccessible.h"
 #include "tests/editor/widget/EditorWindow.h"
 
 #include <QAccessible>
@@ -13,6 +14,16 @@ QAccessibleInterface& accessible(EditorWindow& window)
 QAccessibleTextInterface& accessibleText(EditorWindow& window)
 {
     return *accessible(window).textInterface();
+}
+
+// "offset: 'removed' > 'inserted'", or nothing where the text is as it was.
+QString changeOf(EditorWindow& window)
+{
+    const auto change = static_cast<EditorAccessible&>(accessible(window)).change();
+    return change == nullptr ? QString()
+                             : QString("%1: '%2' > '%3'")
+                                   .arg(QString::number(change->changePosition()),
+                                        change->textRemoved(), change->textInserted());
 }
 
 }  // namespace
@@ -58,6 +69,62 @@ private slots:
         QCOMPARE(window.shown(), QString("a\tb|\ncd"));
         accessibleText(window).setCursorPosition(1000);
         QCOMPARE(window.shown(), QString("a\tb\ncd|"));
+    }
+
+    void anEditIsAnnouncedAsTheTextThatReplacesAnother_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("change");
+
+        QTest::newRow("a letter") << "ab|c"
+                                  << "x"
+                                  << "2: '' > 'x'";
+        QTest::newRow("a letter like its neighbour") << "aa|a"
+                                                     << "a"
+                                                     << "3: '' > 'a'";
+        QTest::newRow("over a selection") << "a\n^bc\nd|e"
+                                          << "x"
+                                          << "2: 'bc\nd' > 'x'";
+        QTest::newRow("a tab") << "a\nb|"
+                               << "\t"
+                               << "3: '' > '\t'";
+        QTest::newRow("pairs that begin alike") << "^😀|"
+                                                << "😁"
+                                                << "0: '😀' > '😁'";
+        QTest::newRow("pairs that end alike") << "^😀|"
+                                              << "🨀"
+                                              << "0: '😀' > '🨀'";
+    }
+
+    void anEditIsAnnouncedAsTheTextThatReplacesAnother()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, typed);
+        EditorWindow window(before);
+        accessible(window);
+        window.compose(typed);
+        QTEST(changeOf(window), "change");
+    }
+
+    void removedTextIsAnnounced()
+    {
+        EditorWindow window("ab|\nc");
+        accessible(window);
+        window.key(Qt::Key_Backspace);
+        QCOMPARE(changeOf(window), QString("1: 'b' > ''"));
+        window.key(Qt::Key_Delete);
+        QCOMPARE(changeOf(window), QString("1: '\n' > ''"));
+        window.key(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(changeOf(window), QString("1: '' > '\n'"));
+    }
+
+    void aCaretThatMovesIsNoChangeOfTheText()
+    {
+        EditorWindow window("ab\nc|");
+        accessible(window);
+        window.key(Qt::Key_Up);
+        QCOMPARE(changeOf(window), QString());
     }
 
     void theSelectionIsReadAndMade()
