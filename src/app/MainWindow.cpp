@@ -55,6 +55,7 @@ void MainWindow::letPictureScroll()
     pictureScroll = new QScrollArea;
     delete ui->verticalLayout_2->replaceWidget(ui->polyArea, pictureScroll);
     pictureScroll->setObjectName("pictureScroll");
+    pictureScroll->setAccessibleName(ui->polyArea->accessibleName());
     pictureScroll->setFrameShape(QFrame::NoFrame);
     pictureScroll->setWidgetResizable(true);
     pictureScroll->setWidget(ui->polyArea);

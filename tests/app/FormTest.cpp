@@ -3,6 +3,7 @@
 #include "app/Translations.h"
 #include "tests/app/WindowFixture.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -293,6 +294,20 @@ private slots:
             reached << QApplication::focusWidget()->objectName();
         }
         QCOMPARE(reached, order);
+    }
+
+    void everyControlHasANameForScreenReaders_data() { everyControlIsReachedByTab_data(); }
+
+    // A label is the name of its field only where both have the same parent.
+    void everyControlHasANameForScreenReaders()
+    {
+        QFETCH(QStringList, order);
+        WindowFixture w;
+        for (const QString& control : order) {
+            QAccessibleInterface* const read =
+                QAccessible::queryAccessibleInterface(w.window.findChild<QWidget*>(control));
+            QVERIFY2(!read->text(QAccessible::Name).isEmpty(), qPrintable(control));
+        }
     }
 
     void controlsThatShowASymbolHaveAName()
