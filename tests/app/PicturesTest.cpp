@@ -1,4 +1,5 @@
 // Going from picture to picture, importing them, and making their print images.
+#include "tests/app/ProgressCancel.h"
 #include "tests/app/WindowFixture.h"
 
 #include <QAbstractItemView>
@@ -7,7 +8,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLayout>
-#include <QProgressDialog>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
@@ -21,6 +21,14 @@ const std::string kArea = "OID 1001\r\nPOLY cow\r\nEND\r\n\r\n";
 int current(WindowFixture& w)
 {
     return w.get<PolyEditorWidget>("polyArea")->currentPicture;
+}
+
+// The page takes seconds to print: long enough for a progress dialog on any machine.
+void makeLarge(WindowFixture& w)
+{
+    w.type("txProjPaperWidth", "600");
+    w.type("txProjPaperHeight", "300");
+    w.type("txProjDPI", "2400");
 }
 
 }  // namespace
@@ -499,17 +507,21 @@ private slots:
     {
         WindowFixture w;
         w.open(projectFile({kArea, kArea}), 2);
-        w.type("txProjDPI", "2400");
-        QTimer cancel;
-        connect(&cancel, &QTimer::timeout, [&] {
-            QProgressDialog* const progress = w.window.findChild<QProgressDialog*>();
-            if (progress != nullptr && progress->isVisible()) {
-                progress->cancel();
-            }
-        });
-        cancel.start(10);
+        makeLarge(w);
+        const ProgressCancel cancel(w.window);
         w.click("btCreateImage");
+        QVERIFY(cancel.done);
         QCOMPARE(w.folder.listing(), std::string("900-bkgnd0.jpg 900-bkgnd1.jpg book.oidpro"));
+    }
+
+    void theProgressOfCreatingCountsEveryPicture()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea, kArea, kArea}), 3);
+        makeLarge(w);
+        const ProgressCancel cancel(w.window);
+        w.click("btCreateImage");
+        QCOMPARE(cancel.steps, 300);
     }
 
     void createWithoutAPictureFileSaysSo()

@@ -1,12 +1,12 @@
 // Building from the window: the console, the speech with its progress, the assembler, the pen.
 #include "base/PlatformDrives.h"
 #include "oid/PrintImage.h"
+#include "tests/app/ProgressCancel.h"
 #include "tests/app/WindowFixture.h"
 
 #include <QCheckBox>
 #include <QDir>
 #include <QFile>
-#include <QProgressDialog>
 
 namespace {
 
@@ -189,18 +189,9 @@ private slots:
             script += "say \"Moo " + std::to_string(i) + "\"\r\n";
         }
         w.open(projectFile({kCow}, script + "end sub\r\n"), 1);
-        QTimer cancel;
-        bool cancelled = false;
-        connect(&cancel, &QTimer::timeout, [&] {
-            QProgressDialog* const progress = w.window.findChild<QProgressDialog*>();
-            if (progress != nullptr && progress->isVisible() && !cancelled) {
-                cancelled = true;
-                progress->cancel();
-            }
-        });
-        cancel.start(10);
+        const ProgressCancel cancel(w.window);
         w.click("btBuild");
-        QVERIFY(cancelled);
+        QVERIFY(cancel.done);
         QVERIFY(programs.log("Text2Speech").count('\n') < kTexts);
         QVERIFY(w.console().endsWith("Stopped build process."));
     }
@@ -211,18 +202,9 @@ private slots:
         programs.add("Text2Speech", "exec sleep 60\n");
         WindowFixture w;
         w.open(projectFile({kCow}, kScript), 1);
-        QString title;
-        QTimer look;
-        connect(&look, &QTimer::timeout, [&] {
-            QProgressDialog* const progress = w.window.findChild<QProgressDialog*>();
-            if (progress != nullptr && progress->isVisible()) {
-                title = progress->windowTitle();
-                progress->cancel();
-            }
-        });
-        look.start(10);
+        const ProgressCancel cancel(w.window);
         w.click("btBuild");
-        QCOMPARE(title, QString("Plinkett"));
+        QCOMPARE(cancel.title, QString("Plinkett"));
     }
 
     // Also while one text takes long; what is half spoken is not kept.
@@ -235,18 +217,9 @@ private slots:
                      "[ -f \"$5\" ] || exit 1\nfor last; do :; done\necho ogg > \"$last\"\n");
         WindowFixture w;
         w.open(projectFile({kCow}, kScript), 1);
-        QTimer cancel;
-        bool aliveMeanwhile = false;
-        connect(&cancel, &QTimer::timeout, [&] {
-            QProgressDialog* const progress = w.window.findChild<QProgressDialog*>();
-            if (progress != nullptr && progress->isVisible()) {
-                aliveMeanwhile = true;
-                progress->cancel();
-            }
-        });
-        cancel.start(10);
+        const ProgressCancel cancel(w.window);
         w.click("btBuild");
-        QVERIFY(aliveMeanwhile);
+        QVERIFY(cancel.done);
         QVERIFY(w.console().endsWith("Stopped build process."));
         QCOMPARE(QDir(w.path("900-audio")).entryList(QDir::Files), QStringList());
         QVERIFY(w.window.acceptDrops());
