@@ -33,6 +33,7 @@ bool OutsideProgram::start(const KVString& commandLine, bool wait)
     }
     process.start(program, arguments, QIODevice::ReadWrite);
     const bool started = process.waitForStarted(-1);
+    process.closeWriteChannel();  // nobody answers: a question must not wait for ever
     if (started && wait) {
         waitForEnd();
     }

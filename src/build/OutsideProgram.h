@@ -18,8 +18,9 @@ class OutsideProgram
 public:
     explicit OutsideProgram(QProcess& usedProcess) : process(usedProcess) {}
 
-    // True when the program has started; with wait it returns when the program has ended. The
-    // process tells about output, end and errors by its signals, also while this waits.
+    // True when the program has started. It reads nothing but the end of its standard input. With
+    // wait this returns when the program has ended. The process tells about output, end and errors
+    // by its signals, also while this waits.
     bool start(const KVString& commandLine, bool wait);
     // Called about ten times a second while start waits; it may stop the process.
     void setWhileWaiting(std::function<void()> step) { whileWaiting = std::move(step); }

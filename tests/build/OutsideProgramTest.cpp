@@ -107,6 +107,17 @@ TEST_F(StartingAProgram, WhileItIsWaitedForItCanBeStopped)
     EXPECT_EQ(process.readAllStandardOutput(), "here\n");
 }
 
+TEST_F(StartingAProgram, AQuestionOfItsFindsTheEndOfItsInput)
+{
+    show.plan("keepinput\nprint gone on\n");
+    EXPECT_TRUE(start("show"));
+    EXPECT_EQ(process.readAllStandardOutput(), "gone on\n");
+    show.plan("keepinput\nprint gone on without waiting\n");
+    EXPECT_TRUE(OutsideProgram(process).start("show", false));
+    EXPECT_TRUE(process.waitForFinished(-1));
+    EXPECT_EQ(process.readAllStandardOutput(), "gone on without waiting\n");
+}
+
 TEST_F(StartingAProgram, WithoutWaitingItGoesOnByItself)
 {
     show.plan("await " + folder.file("signal") + "\nexit 3\n");
