@@ -17,7 +17,7 @@ function(plinkett_room name)
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
 endfunction()
 
-# A program: plinkett_program(plinkett-cli LINKS build oid). Its sources are the folder's *.cpp.
+# A program: plinkett_program(plinkett-cli LINKS publish oid). Its sources are the folder's *.cpp.
 function(plinkett_program name)
   cmake_parse_arguments(PROGRAM "" "" "LINKS;SOURCES" ${ARGN})
   if(NOT PROGRAM_SOURCES)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "build/SoundFiles.h"
 #include "oid/OidProject.h"
+#include "publish/SoundFiles.h"
 
 #include <QMainWindow>
 

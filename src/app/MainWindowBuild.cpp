@@ -3,9 +3,9 @@
 
 #include "app/WorkProgress.h"
 #include "base/FileSystem.h"
-#include "build/BuildDriver.h"
-#include "build/PenCopy.h"
 #include "oid/PrintImage.h"
+#include "publish/BuildDriver.h"
+#include "publish/PenCopy.h"
 #include "ui_MainWindow.h"
 
 void MainWindow::on_btCreateImage_clicked()

@@ -1,5 +1,5 @@
 // Opening and saving projects, and the way of what was typed into them.
-#include "build/console/KVQtStdoutWidget.h"
+#include "publish/console/KVQtStdoutWidget.h"
 #include "tests/app/WindowFixture.h"
 
 #include <QDir>

@@ -1,5 +1,5 @@
-#include "build/BuildDriver.h"
-#include "build/console/KVQtStdoutWidget.h"
+#include "publish/BuildDriver.h"
+#include "publish/console/KVQtStdoutWidget.h"
 
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"

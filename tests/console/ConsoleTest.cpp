@@ -1,4 +1,4 @@
-#include "build/console/KVQtStdoutWidget.h"
+#include "publish/console/KVQtStdoutWidget.h"
 
 #include "tests/helpers/Environment.h"
 #include "tests/helpers/FakeProgram.h"

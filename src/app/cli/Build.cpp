@@ -2,9 +2,9 @@
 
 #include "app/cli/Commands.h"
 #include "base/PlatformProcess.h"
-#include "build/BuildDriver.h"
-#include "build/TerminalRunner.h"
 #include "oid/OidProject.h"
+#include "publish/BuildDriver.h"
+#include "publish/TerminalRunner.h"
 
 namespace {
 

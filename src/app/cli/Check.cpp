@@ -1,6 +1,6 @@
 #include "app/cli/Commands.h"
-#include "build/CompileProject.h"
 #include "oid/OidProject.h"
+#include "publish/CompileProject.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "app/cli/Commands.h"
-#include "build/PenCopy.h"
-#include "build/TerminalRunner.h"
 #include "oid/OidProject.h"
+#include "publish/PenCopy.h"
+#include "publish/TerminalRunner.h"
 
 namespace {
 

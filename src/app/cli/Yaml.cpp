@@ -1,7 +1,7 @@
 #include "app/cli/Commands.h"
-#include "build/CompileProject.h"
-#include "build/YamlFile.h"
 #include "oid/OidProject.h"
+#include "publish/CompileProject.h"
+#include "publish/YamlFile.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "build/SoundFiles.h"
+#include "publish/SoundFiles.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -6,9 +6,9 @@
 #include "base/FileSystem.h"
 #include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
-#include "tests/build/RecordingRunner.h"
 #include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
+#include "tests/publish/RecordingRunner.h"
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;

@@ -1,4 +1,4 @@
-#include "build/YamlFile.h"
+#include "publish/YamlFile.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "build/TerminalRunner.h"
+#include "publish/TerminalRunner.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "build/SoundFiles.h"
+#include "publish/SoundFiles.h"
 
 #include <vector>
 
@@ -6,10 +6,10 @@
 #include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"
 #include "base/TextHelpers.h"
-#include "build/OutsideProgram.h"
-#include "build/ProcessRunner.h"
-#include "build/WorkingFolder.h"
 #include "oid/OidProject.h"
+#include "publish/OutsideProgram.h"
+#include "publish/ProcessRunner.h"
+#include "publish/WorkingFolder.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "build/BuildDriver.h"
+#include "publish/BuildDriver.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -7,9 +7,9 @@
 #include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
-#include "tests/build/RecordingRunner.h"
 #include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
+#include "tests/publish/RecordingRunner.h"
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;

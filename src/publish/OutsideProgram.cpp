@@ -1,4 +1,4 @@
-#include "build/OutsideProgram.h"
+#include "publish/OutsideProgram.h"
 
 #include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"

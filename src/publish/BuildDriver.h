@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "build/SoundFiles.h"
+#include "publish/SoundFiles.h"
 
 class ProcessRunner;
 namespace Oid {

@@ -1,4 +1,4 @@
-#include "build/console/GatheredOutput.h"
+#include "publish/console/GatheredOutput.h"
 
 #include <algorithm>
 

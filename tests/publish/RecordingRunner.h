@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "build/ProcessRunner.h"
+#include "publish/ProcessRunner.h"
 #include "tests/helpers/CapturedMessages.h"
 
 // A runner that starts nothing: it remembers the command lines and does what the test wants done

@@ -8,9 +8,9 @@
 #include <functional>
 
 #include "base/KVString.h"
-#include "build/OutsideProgram.h"
-#include "build/ProcessRunner.h"
-#include "build/console/GatheredOutput.h"
+#include "publish/OutsideProgram.h"
+#include "publish/ProcessRunner.h"
+#include "publish/console/GatheredOutput.h"
 
 // The console: shows text line by line, runs one outside program at a time and shows what it
 // prints, and is where redirected printf output goes. It remembers a generous but limited number of

@@ -1,10 +1,10 @@
-#include "build/Assembling.h"
+#include "publish/Assembling.h"
 
 #include "base/PlatformProcess.h"
-#include "build/OutsideProgram.h"
-#include "build/ProcessRunner.h"
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
+#include "publish/OutsideProgram.h"
+#include "publish/ProcessRunner.h"
 
 namespace {
 

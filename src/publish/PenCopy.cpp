@@ -1,10 +1,10 @@
-#include "build/PenCopy.h"
+#include "publish/PenCopy.h"
 
 #include <algorithm>
 
 #include "base/FileSystem.h"
-#include "build/ProcessRunner.h"
 #include "oid/OidProject.h"
+#include "publish/ProcessRunner.h"
 
 static bool isPen(const std::string& volume)
 {

@@ -1,4 +1,4 @@
-#include "build/OutsideProgram.h"
+#include "publish/OutsideProgram.h"
 
 #include "tests/helpers/Environment.h"
 #include "tests/helpers/FakeProgram.h"

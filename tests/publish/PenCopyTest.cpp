@@ -1,12 +1,12 @@
-#include "build/PenCopy.h"
+#include "publish/PenCopy.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
 
 #include "oid/OidProject.h"
-#include "tests/build/RecordingRunner.h"
 #include "tests/helpers/SmallDisk.h"
 #include "tests/helpers/TemporaryFolder.h"
+#include "tests/publish/RecordingRunner.h"
 
 namespace fs = std::filesystem;
 

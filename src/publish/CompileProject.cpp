@@ -1,4 +1,4 @@
-#include "build/CompileProject.h"
+#include "publish/CompileProject.h"
 
 #include "oid/OidProject.h"
 #include "ttbasic/CompileScript.h"

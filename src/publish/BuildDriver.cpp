@@ -1,15 +1,15 @@
-#include "build/BuildDriver.h"
+#include "publish/BuildDriver.h"
 
 #include <QDir>
 
 #include "base/PlatformFiles.h"
-#include "build/Assembling.h"
-#include "build/CompileProject.h"
-#include "build/ProcessRunner.h"
-#include "build/WorkingFolder.h"
-#include "build/YamlFile.h"
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
+#include "publish/Assembling.h"
+#include "publish/CompileProject.h"
+#include "publish/ProcessRunner.h"
+#include "publish/WorkingFolder.h"
+#include "publish/YamlFile.h"
 
 namespace {
 

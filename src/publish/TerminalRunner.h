@@ -2,8 +2,8 @@
 
 #include <QProcess>
 
-#include "build/OutsideProgram.h"
-#include "build/ProcessRunner.h"
+#include "publish/OutsideProgram.h"
+#include "publish/ProcessRunner.h"
 
 // The command line's way of running programs: everything that the console would show goes to
 // standard output as it arrives.
