@@ -3,6 +3,7 @@
 #include "app/DecimalComma.h"
 #include "app/FileDialogs.h"
 #include "base/FileSystem.h"
+#include "oid/OpenProject.h"
 #include "oid/PrintImage.h"
 #include "qtsync/KVQtSync.h"
 #include "ui_MainWindow.h"
@@ -139,7 +140,8 @@ void MainWindow::openProject(const QString& path)
     ui->txConsole->clear();
     printIntoConsole();
     // Creating print images, for one, goes to another folder.
-    const bool opened = project.open(QFileInfo(path).absoluteFilePath().toStdString());
+    const std::string file = QFileInfo(path).absoluteFilePath().toStdString();
+    const bool opened = Oid::openProject(project, file);
 
     ui->ribbonTab->setCurrentWidget(opened ? ui->tabProject : ui->tabBuild);
     // First the index: the form would show, and later write back, the sizes of another page.

@@ -2,11 +2,11 @@
 
 #include <cmath>
 #include <cstring>
-#include <memory>
+#include <iterator>
 
-#include "base/FileSystem.h"
 #include "base/TextHelpers.h"
 #include "oid/OidTable.h"
+#include "oid/ShorthandLines.h"
 
 namespace Oid {
 
@@ -40,23 +40,8 @@ void cutComment(char* line)
 
 }  // namespace
 
-bool OidProject::open(const std::string& filePath)
-{
-    const std::string path = filePath;  // which clear would empty if it is the project's own
-    clear();
-    const std::unique_ptr<FILE, int (*)(FILE*)> file(FileSystem::myfopen(path, "rb"), fclose);
-    if (file == nullptr) {
-        print("Error: Can't open file '%s'\n", path.c_str());
-        fflush(stdout);
-        return false;
-    }
-    projectPath = path;
-    ProjectReader(*this).read(file.get());
-    return true;
-}
-
-ProjectReader::ProjectReader(OidProject& emptyProject)
-    : project(emptyProject), nextOid(tableEntry(kFirstLoadedOid))
+ProjectReader::ProjectReader(OidProject& emptyProject, SavedEmptyPages savedEmptyPages)
+    : project(emptyProject), emptyPages(savedEmptyPages), nextOid(tableEntry(kFirstLoadedOid))
 {}
 
 void ProjectReader::read(FILE* projectFile)
@@ -66,11 +51,24 @@ void ProjectReader::read(FILE* projectFile)
     char line[kLineBuffer];
     while (fgets(line, sizeof line, file) != nullptr) {
         lineNumber = numberAfter(lineNumber);
+        if (isNextShorthand(line)) {
+            ++shorthands;
+            continue;
+        }
         cutComment(line);
         readLine(line);
+        if (*skipWhite(line) != '\0') {
+            shorthands = 0;  // they were not the end of the picture
+        }
     }
     // Intended: the last picture is kept without areas, too; every project read has a picture.
     finishPicture();
+}
+
+bool ProjectReader::isNextShorthand(const char* line) const
+{
+    const std::string_view text(line, strcspn(line, "\r\n"));
+    return shorthands < std::size(kShorthandLines) && text == kShorthandLines[shorthands];
 }
 
 void ProjectReader::readLine(const char* text)
@@ -143,12 +141,14 @@ void ProjectReader::readProduct(const char*& text)
 }
 
 // IMAGE: the next picture begins, with the paper and the resolution of the one before.
-// Intended: a picture without areas is dropped.
+// Intended: one without areas is dropped, being a mere head; unless it was saved and is wanted.
 void ProjectReader::readImage(const char*&)
 {
-    if (!picture.polys.empty()) {
+    const bool saved = insideImage && shorthands == std::size(kShorthandLines);
+    if (!picture.polys.empty() || (saved && emptyPages == SavedEmptyPages::kept)) {
         finishPicture();
     }
+    insideImage = true;
 }
 
 // PAPER w h

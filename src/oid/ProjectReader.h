@@ -7,17 +7,25 @@
 
 namespace Oid {
 
+// What becomes of a page that was saved without areas.
+enum class SavedEmptyPages {
+    dropped,  // unless it is the last
+    kept
+};
+
 // Reads a project file (docs/project-file.md) into a project that has just been cleared. Nothing in
 // a file stops the reading: what is wrong is reported through the project's print function.
 class ProjectReader
 {
 public:
-    explicit ProjectReader(OidProject& project);
+    ProjectReader(OidProject& project, SavedEmptyPages emptyPages);
 
     // Reads from the file's beginning to its end.
     void read(FILE* file);
 
 private:
+    // True for the comment line that Save writes next at the end of a picture.
+    bool isNextShorthand(const char* line) const;
     void readLine(const char* text);
     void readVertices(const char*& text);
     void readKeyword(const char*& text);
@@ -44,8 +52,11 @@ private:
     void finishPicture();
 
     OidProject& project;
+    const SavedEmptyPages emptyPages;
     FILE* file = nullptr;
-    PICTURE picture;  // the one under construction
+    PICTURE picture;             // the one under construction
+    bool insideImage = false;    // behind an IMAGE line
+    std::size_t shorthands = 0;  // so many of their comment lines stand right above
     OidProject::OID nextOid;
     int lineNumber = 0;
     bool insidePolygon = false;  // lines hold vertices of the picture's last area

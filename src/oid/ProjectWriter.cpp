@@ -3,6 +3,7 @@
 #include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
 #include "oid/OidProject.h"
+#include "oid/ShorthandLines.h"
 
 // Writes the format of docs/project-file.md. Names are written as they are, without any escape.
 namespace Oid {
@@ -42,9 +43,6 @@ std::string areaText(const POLY& area, int oid)
     return text + "END\r\n\r\n";
 }
 
-constexpr char kShorthands[] = "# BOX    name x y w h\r\n"
-                               "# CIRCLE name xm ym R\r\n";
-
 // Intended: "%%" becomes "%", as in a format string; any other "%" stays.
 std::string scriptText(const std::string& source)
 {
@@ -74,7 +72,9 @@ bool OidProject::save(std::string path)
         for (const POLY& area : picture.polys) {
             write(file, areaText(area, oids[area.name].oid));  // a name without entry gets OID 0
         }
-        write(file, kShorthands);
+        for (const std::string_view line : kShorthandLines) {
+            write(file, std::string(line) + "\r\n");
+        }
     }
     write(file, "SCRIPT # -----------------------\r\n" + scriptText(compiler.source));
     if (!replacement.commit()) {

@@ -1,4 +1,5 @@
 // Opening and saving projects, and the way of what was typed into them.
+#include "base/PlatformFiles.h"
 #include "publish/console/KVQtStdoutWidget.h"
 #include "tests/app/WindowFixture.h"
 
@@ -37,6 +38,21 @@ private slots:
         QCOMPARE(w.script(), "sub cow\r\nend sub\r\n");
         QCOMPARE(w.get<PolyEditorWidget>("polyArea")->currentPicture, 0);
         QCOMPARE(w.console(), "");
+    }
+
+    // The page behind it would show its picture.
+    void aPageWithoutAreasIsThereAgain()
+    {
+        WindowFixture w;
+        const std::string saved = projectFile({kCow, "", kCow});
+        w.open(saved, 3);
+        w.click("btNextPicture");
+        w.click("btNextPicture");
+        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->currentPicture, 2);
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        QTRY_COMPARE(Platform::nativePath(w.get<PolyEditorWidget>("polyArea")->loadedPath),
+                     w.folder.file("900-bkgnd2.jpg"));
+        QCOMPARE(w.saved(), saved);
     }
 
     void theNumberOfTheProductIsShown()

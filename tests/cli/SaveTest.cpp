@@ -33,6 +33,22 @@ TEST(Save, WritesTheProjectAsTheWindowDoes)
     EXPECT_EQ(folder.listing(), "in.oidpro out.oidpro");
 }
 
+TEST(Save, PagesWithoutAreasStay)
+{
+    const TemporaryFolder folder;
+    std::string text = "\xEF\xBB\xBFPRODUCT 17, \"Zoo\"\r\n";
+    for (const char* const areas : {"", "OID 1001\r\nPOLY cow\r\nEND\r\n\r\n", ""}) {
+        text += "IMAGE\r\nPAPER 10.0 20.0\r\nDPI   300\r\n";
+        text += areas;
+        text += "# BOX    name x y w h\r\n# CIRCLE name xm ym R\r\n";
+    }
+    text += "SCRIPT # -----------------------\r\n";
+    writeFile(folder.file("in.oidpro"), text);
+    EXPECT_EQ(resultOf(cli({"save", folder.file("in.oidpro"), "-o", folder.file("out.oidpro")})),
+              "status 0\n");
+    EXPECT_EQ(readFile(folder.file("out.oidpro")), text);
+}
+
 TEST(Save, AProjectMayReplaceItself)
 {
     const TemporaryFolder folder;

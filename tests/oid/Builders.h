@@ -43,15 +43,20 @@ inline Oid::OidProject projectWith(std::vector<Oid::POLY> areas)
 // A project file read from text, and what the author saw meanwhile.
 struct Loaded
 {
-    explicit Loaded(const std::string& text)
+    explicit Loaded(const std::string& text) : Loaded(text, openAlone) {}
+    Loaded(const std::string& text, bool (*open)(Oid::OidProject&, const std::string&))
     {
         const TemporaryFolder folder;
         writeFile(folder.file("book.oidpro"), text);
         CapturedMessages captured;
         setDefaultPrintf(CapturedMessages::print);
-        ok = project.open(folder.file("book.oidpro"));
+        ok = open(project, folder.file("book.oidpro"));
         setDefaultPrintf(nullptr);
         messages = captured.take();
+    }
+    static bool openAlone(Oid::OidProject& opened, const std::string& path)
+    {
+        return opened.open(path);
     }
 
     Oid::OidProject project;

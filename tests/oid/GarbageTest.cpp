@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "oid/OidRawCodes.h"
+#include "oid/OpenProject.h"
 #include "tests/oid/Builders.h"
 
 // Files that no writer made, the same ones in every run.
@@ -62,6 +63,7 @@ public:
                                              "16384",
                                              "2147483647",
                                              "#",
+                                             "\n# BOX    name x y w h\n# CIRCLE name xm ym R\n",
                                              "K\xC3\xBC",
                                              "\xEF\xBB\xBF",
                                              "\0"s,
@@ -111,6 +113,13 @@ void expectSavedAndReadBack(const std::string& text)
     const std::string saved = savedAreas(loaded.project);
     Loaded again(saved);
     EXPECT_EQ(savedAreas(again.project), saved);
+
+    Loaded withEmptyPages(text, Oid::openProject);
+    EXPECT_EQ(withEmptyPages.messages, loaded.messages);
+    EXPECT_EQ(withEmptyPages.project.oids.size(), loaded.project.oids.size());
+    const std::string savedPages = savedAreas(withEmptyPages.project);
+    Loaded samePages(savedPages, Oid::openProject);
+    EXPECT_EQ(savedAreas(samePages.project), savedPages);
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include "app/cli/Commands.h"
 #include "base/PlatformProcess.h"
-#include "oid/OidProject.h"
+#include "oid/OpenProject.h"
 #include "publish/BuildDriver.h"
 #include "publish/TerminalRunner.h"
 
@@ -23,7 +23,7 @@ bool showProgress(int done, int total)
 int build(const Arguments& arguments)
 {
     Oid::OidProject project;
-    if (!project.open(arguments.operands[0])) {
+    if (!Oid::openProject(project, arguments.operands[0])) {
         return kFailed;
     }
     TerminalRunner runner;

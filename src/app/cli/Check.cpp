@@ -1,5 +1,5 @@
 #include "app/cli/Commands.h"
-#include "oid/OidProject.h"
+#include "oid/OpenProject.h"
 #include "publish/CompileProject.h"
 
 namespace {
@@ -7,8 +7,8 @@ namespace {
 int check(const Arguments& arguments)
 {
     Oid::OidProject project;
-    const bool compiled =
-        project.open(arguments.operands[0]) && compileProject(project, arguments.has("--debug"));
+    const bool compiled = Oid::openProject(project, arguments.operands[0]) &&
+                          compileProject(project, arguments.has("--debug"));
     return compiled ? kFine : kFailed;
 }
 

@@ -1,5 +1,5 @@
 #include "app/cli/Commands.h"
-#include "oid/OidProject.h"
+#include "oid/OpenProject.h"
 #include "publish/PenCopy.h"
 #include "publish/TerminalRunner.h"
 
@@ -8,7 +8,7 @@ namespace {
 int copy(const Arguments& arguments)
 {
     Oid::OidProject project;
-    if (!project.open(arguments.operands[0])) {
+    if (!Oid::openProject(project, arguments.operands[0])) {
         return kFailed;
     }
     TerminalRunner runner;

@@ -1,7 +1,7 @@
 #include <optional>
 
 #include "app/cli/Commands.h"
-#include "oid/OidProject.h"
+#include "oid/OpenProject.h"
 #include "oid/PrintImage.h"
 
 namespace {
@@ -27,7 +27,7 @@ int print(const Arguments& arguments)
         }
     }
     Oid::OidProject project;
-    if (!project.open(arguments.operands[0])) {
+    if (!Oid::openProject(project, arguments.operands[0])) {
         return kFailed;
     }
     const int last = static_cast<int>(project.pictures.size()) - 1;

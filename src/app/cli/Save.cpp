@@ -1,12 +1,12 @@
 #include "app/cli/Commands.h"
-#include "oid/OidProject.h"
+#include "oid/OpenProject.h"
 
 namespace {
 
 int save(const Arguments& arguments)
 {
     Oid::OidProject project;
-    if (!project.open(arguments.operands[0])) {
+    if (!Oid::openProject(project, arguments.operands[0])) {
         return kFailed;
     }
     const std::string& path = arguments.value("-o");

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "oid/OidProject.h"
+
+namespace Oid {
+
+// Opens a project as window and command line do: like OidProject::open, but every page that was
+// saved without areas is there again, at its place, with its own paper and resolution. So the pages
+// behind it keep their numbers, by which their pictures' files are named.
+bool openProject(OidProject& project, const std::string& path);
+
+}  // namespace Oid
