@@ -90,6 +90,10 @@ void MainWindow::on_btLoadImage_clicked()
 
 QImage MainWindow::importPicture(int n)
 {
+    if (project.projectPath.empty()) {
+        warn(tr("Save the project first: its pictures are kept beside the project file."));
+        return {};
+    }
     const QString path = askForPicture(this);
     if (path.isEmpty()) {
         return {};
@@ -122,14 +126,10 @@ static QImage onWhitePaper(const QImage& image)
 
 bool MainWindow::keepCopy(const QImage& image, const std::string& path)
 {
-    if (project.projectPath.empty()) {
-        warn(tr("Save the project first: its pictures are kept beside the project file."));
-        return false;
-    }
     if (FileSystem::doesFileExist(path) &&
-        QMessageBox::question(this, tr("Overwrite Picture"),
-                              tr("Do you want to overwrite the picture in the cache?"),
-                              QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes) {
+        QMessageBox::question(
+            this, tr("Overwrite Picture"), tr("Do you want to overwrite the picture in the cache?"),
+            QMessageBox::Yes | QMessageBox::No, QMessageBox::No) != QMessageBox::Yes) {
         return false;
     }
     QSaveFile file(QString::fromStdString(Platform::nativePath(path)));

@@ -292,16 +292,27 @@ private slots:
         QCOMPARE(w.saved(), projectFile({kArea}));
     }
 
+    // Said before a file is chosen in vain.
     void aNeverSavedProjectHasNoPlaceForPictures()
     {
         WindowFixture w;
-        w.makePicture("scan.png");
-        w.dialogs.chooseFile(w.path("scan.png"));
         w.dialogs.press("OK");
         w.click("btNextPicture");
-        QCOMPARE(w.dialogs.seen().last(), "Warning: Save the project first: its pictures are kept "
-                                          "beside the project file.");
+        QCOMPARE(w.dialogs.seen(), QStringList{"Warning: Save the project first: its pictures are "
+                                               "kept beside the project file."});
         QVERIFY(!QFile::exists("900-bkgnd0.jpg"));
+    }
+
+    void returnDoesNotOverwriteAPicture()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 2);
+        w.makePicture("scan.png", {60, 60});
+        w.dialogs.chooseFile(w.path("scan.png"));
+        w.dialogs.look([](QWidget& question) { QTest::keyClick(&question, Qt::Key_Return); });
+        w.click("btNextPicture");
+        QCOMPARE(current(w), 0);
+        QCOMPARE(QImage(w.path("900-bkgnd1.jpg")).size(), QSize(200, 100));
     }
 
     void aCopyThatCannotBeWrittenIsSaid()
