@@ -342,6 +342,10 @@
         <translation>Die Datei konnte nicht auf dem Laufwerk gespeichert werden</translation>
     </message>
     <message>
+        <source>This book has the number %1 now. Save it to keep that.</source>
+        <translation>Dieses Buch hat jetzt die Nummer %1. Erst mit dem Speichern bleibt das so.</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>Warnung</translation>
     </message>
@@ -384,6 +388,29 @@
     <message>
         <source>Do you really want to delete this picture?</source>
         <translation>Soll dieses Bild wirklich gelöscht werden?</translation>
+    </message>
+</context>
+<context>
+    <name>NumberBar</name>
+    <message>
+        <source>This book gets another number</source>
+        <translation>Dieses Buch bekommt eine andere Nummer</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Both books keep their number</source>
+        <translation>Beide Bücher behalten ihre Nummer</translation>
+    </message>
+    <message>
+        <source>The number %1 is also that of %2 in this folder: the books would use the same pictures.</source>
+        <translation>Die Nummer %1 hat in diesem Ordner auch %2: Die Bücher würden dieselben Bilder benutzen.</translation>
+    </message>
+    <message>
+        <source>Take number %1</source>
+        <translation>Nummer %1 nehmen</translation>
     </message>
 </context>
 </TS>

@@ -342,6 +342,10 @@
         <translation>The file could not be saved to the drive</translation>
     </message>
     <message>
+        <source>This book has the number %1 now. Save it to keep that.</source>
+        <translation>This book has the number %1 now. Save it to keep that.</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>Warning</translation>
     </message>
@@ -384,6 +388,29 @@
     <message>
         <source>Do you really want to delete this picture?</source>
         <translation>Do you really want to delete this picture?</translation>
+    </message>
+</context>
+<context>
+    <name>NumberBar</name>
+    <message>
+        <source>This book gets another number</source>
+        <translation>This book gets another number</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Keep</translation>
+    </message>
+    <message>
+        <source>Both books keep their number</source>
+        <translation>Both books keep their number</translation>
+    </message>
+    <message>
+        <source>The number %1 is also that of %2 in this folder: the books would use the same pictures.</source>
+        <translation>The number %1 is also that of %2 in this folder: the books would use the same pictures.</translation>
+    </message>
+    <message>
+        <source>Take number %1</source>
+        <translation>Take number %1</translation>
     </message>
 </context>
 </TS>

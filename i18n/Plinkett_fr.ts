@@ -342,6 +342,10 @@
         <translation>Le fichier n&apos;a pas pu être enregistré sur le disque</translation>
     </message>
     <message>
+        <source>This book has the number %1 now. Save it to keep that.</source>
+        <translation>Ce livre a maintenant le numéro %1. Enregistrez-le pour que cela reste.</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>Avertissement</translation>
     </message>
@@ -384,6 +388,29 @@
     <message>
         <source>Do you really want to delete this picture?</source>
         <translation>Voulez-vous vraiment supprimer cette image ?</translation>
+    </message>
+</context>
+<context>
+    <name>NumberBar</name>
+    <message>
+        <source>This book gets another number</source>
+        <translation>Ce livre reçoit un autre numéro</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Garder</translation>
+    </message>
+    <message>
+        <source>Both books keep their number</source>
+        <translation>Les deux livres gardent leur numéro</translation>
+    </message>
+    <message>
+        <source>The number %1 is also that of %2 in this folder: the books would use the same pictures.</source>
+        <translation>Le numéro %1 est aussi celui de %2 dans ce dossier : les livres utiliseraient les mêmes images.</translation>
+    </message>
+    <message>
+        <source>Take number %1</source>
+        <translation>Prendre le numéro %1</translation>
     </message>
 </context>
 </TS>

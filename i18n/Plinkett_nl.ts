@@ -342,6 +342,10 @@
         <translation>Het bestand kon niet op de schijf worden opgeslagen</translation>
     </message>
     <message>
+        <source>This book has the number %1 now. Save it to keep that.</source>
+        <translation>Dit boek heeft nu het nummer %1. Sla het op om dat te behouden.</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>Waarschuwing</translation>
     </message>
@@ -384,6 +388,29 @@
     <message>
         <source>Do you really want to delete this picture?</source>
         <translation>Wilt u deze afbeelding echt verwijderen?</translation>
+    </message>
+</context>
+<context>
+    <name>NumberBar</name>
+    <message>
+        <source>This book gets another number</source>
+        <translation>Dit boek krijgt een ander nummer</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behouden</translation>
+    </message>
+    <message>
+        <source>Both books keep their number</source>
+        <translation>Beide boeken behouden hun nummer</translation>
+    </message>
+    <message>
+        <source>The number %1 is also that of %2 in this folder: the books would use the same pictures.</source>
+        <translation>Het nummer %1 is in deze map ook dat van %2: de boeken zouden dezelfde afbeeldingen gebruiken.</translation>
+    </message>
+    <message>
+        <source>Take number %1</source>
+        <translation>Nummer %1 nemen</translation>
     </message>
 </context>
 </TS>

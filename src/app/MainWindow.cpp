@@ -2,6 +2,7 @@
 
 #include "app/DecimalComma.h"
 #include "app/FileDialogs.h"
+#include "app/NumberBar.h"
 #include "base/FileSystem.h"
 #include "oid/OpenProject.h"
 #include "oid/PrintImage.h"
@@ -9,12 +10,14 @@
 #include "ui_MainWindow.h"
 
 #include <QApplication>
+#include <QBoxLayout>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScrollArea>
+#include <QStatusBar>
 #include <QUrl>
 
 MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWindow)
@@ -24,6 +27,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     takeDrops();
     letPictureScroll();
     takeDecimalCommas();
+    prepareNotices();
     ui->polyArea->setProject(&project);
     connect(ui->polyArea, &PolyEditorWidget::clickedLB, this, &MainWindow::onPolyAreaClickedLB);
     setDefaultPrintf(KVQtStdoutWidget::redirectPrintf);
@@ -69,6 +73,23 @@ void MainWindow::takeDecimalCommas()
 {
     ui->txProjPaperWidth->setValidator(new DecimalComma(this));
     ui->txProjPaperHeight->setValidator(new DecimalComma(this));
+}
+
+// Above the tabs, one below the other.
+void MainWindow::prepareNotices()
+{
+    ui->horizontalLayout_3->setDirection(QBoxLayout::TopToBottom);
+    numberBar = new NumberBar;
+    ui->horizontalLayout_3->insertWidget(0, numberBar);
+    connect(numberBar, &NumberBar::numberTaken, this, &MainWindow::takeNumber);
+}
+
+void MainWindow::takeNumber(int number)
+{
+    ui->txProjectId->setValue(number);
+    keepEdits();
+    statusBar()->showMessage(
+        tr("This book has the number %1 now. Save it to keep that.").arg(number));
 }
 
 void MainWindow::printIntoConsole()
@@ -150,13 +171,14 @@ void MainWindow::openProject(const QString& path)
     selectPolygon(-1);
     ProjectDataWasChanged(false);
     ui->polyArea->repaint();
+    numberBar->opened(project);
 }
 
 void MainWindow::on_action_Save_As_triggered()
 {
     const QString path = askForProjectToSave(this);
     ProjectDataWasChanged(true);
-    if (!path.isEmpty() && !project.save(path.toStdString())) {
+    if (!path.isEmpty() && !saveProject(path.toStdString())) {
         warn(tr("The file could not be saved to the drive"));
     }
     ProjectDataWasChanged(false);
@@ -165,9 +187,18 @@ void MainWindow::on_action_Save_As_triggered()
 void MainWindow::on_actionSave_triggered()
 {
     ProjectDataWasChanged(true);
-    if (!FileSystem::doesFileExist(project.projectPath) || !project.save(project.projectPath)) {
+    if (!FileSystem::doesFileExist(project.projectPath) || !saveProject(project.projectPath)) {
         on_action_Save_As_triggered();
     }
+}
+
+bool MainWindow::saveProject(const std::string& path)
+{
+    const bool saved = project.save(path);
+    if (saved) {
+        numberBar->saved(project);
+    }
+    return saved;
 }
 
 void MainWindow::warn(const QString& text)

@@ -11,6 +11,7 @@
 namespace Ui {
 class MainWindow;
 }
+class NumberBar;
 class QScrollArea;
 
 // The one window. It owns the one project, which all its controls edit; form and project are kept
@@ -83,8 +84,13 @@ private:
     void takeDrops();
     void letPictureScroll();
     void takeDecimalCommas();
+    void prepareNotices();
+    void takeNumber(int number);
     // Points all messages of the project at the console.
     void printIntoConsole();
+
+    // Writes the project, into which the form has been carried, and all that goes with that.
+    bool saveProject(const std::string& path);
 
     // Selects an area of the current picture, or none for an index that it does not have.
     void selectPolygon(int i);
@@ -114,4 +120,5 @@ private:
     int selectedPoly = -1;
     std::unique_ptr<Ui::MainWindow> ui;
     QScrollArea* pictureScroll = nullptr;
+    NumberBar* numberBar = nullptr;
 };

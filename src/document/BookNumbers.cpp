@@ -1,0 +1,89 @@
+#include "document/BookNumbers.h"
+
+#include "base/FileSystem.h"
+#include "base/PlatformFiles.h"
+#include "base/TextHelpers.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <set>
+
+namespace {
+
+constexpr int kNoNumber = 0;
+constexpr int kFirstNumber = 900;  // from here on home-made books have theirs
+constexpr int kLastNumber = 999;
+
+QFileInfo fileInfo(const std::string& path)
+{
+    return QFileInfo(QString::fromStdString(Platform::nativePath(path)));
+}
+
+// What the line PRODUCT says, which stands before the pictures and the script.
+int numberOfProject(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return kNoNumber;
+    }
+    while (!file.atEnd()) {
+        const std::string line = file.readLine().toStdString();
+        const char* text =
+            line.compare(0, 3, "\xEF\xBB\xBF") == 0 ? line.c_str() + 3 : line.c_str();
+        const std::string word = parseString(text);
+        if (word == "PRODUCT") {
+            return parseInt(text);
+        }
+        if (word == "IMAGE" || word == "SCRIPT") {
+            break;
+        }
+    }
+    return kNoNumber;
+}
+
+QFileInfoList projectsIn(const QDir& folder)
+{
+    return folder.entryInfoList({"*.oidpro"}, QDir::Files, QDir::Name);
+}
+
+// The number that the name of a game file, a picture or an audio folder begins with: 900 of
+// "900-bkgnd0.jpg".
+int numberOfFile(const QString& name)
+{
+    const int end = name.indexOf('-');
+    return end > 0 ? name.leftRef(end).toInt() : kNoNumber;
+}
+
+}  // namespace
+
+QStringList projectsOfSameNumber(const std::string& projectPath, int number)
+{
+    const QFileInfo own = fileInfo(projectPath);
+    QStringList names;
+    for (const QFileInfo& project : projectsIn(own.absoluteDir())) {
+        if (project != own && numberOfProject(project.filePath()) == number) {
+            names << project.fileName();
+        }
+    }
+    return names;
+}
+
+int nextFreeNumber(const std::string& projectPath)
+{
+    const QDir folder = fileInfo(projectPath).absoluteDir();
+    std::set<int> taken;
+    for (const QFileInfo& project : projectsIn(folder)) {
+        taken.insert(numberOfProject(project.filePath()));
+    }
+    for (const QString& name : folder.entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot)) {
+        taken.insert(numberOfFile(name));
+    }
+    for (int number = kFirstNumber; number <= kLastNumber; ++number) {
+        if (taken.count(number) == 0) {
+            return number;
+        }
+    }
+    return kNoNumber;
+}
