@@ -19,6 +19,26 @@ constexpr char kSound[] = ".ogg";
 constexpr char kSpeech[] = ".wav";  // for a while only
 constexpr int kStopped = -1;        // exit code of a program that crashed or was stopped
 
+constexpr char kSpeechInLatin1[] = "TEXT2SPEECH_LATIN1";
+
+// While this lives our speech program prints in the encoding that its output is shown in. A
+// variable, not an option: another speech program may take its place.
+class ReadableSpeechMessages
+{
+public:
+    explicit ReadableSpeechMessages(const ProcessRunner& runner)
+        : before(Platform::environmentVariable(kSpeechInLatin1))
+    {
+        Platform::setEnvironmentVariable(kSpeechInLatin1, runner.readsLatin1() ? "1" : "");
+    }
+    ~ReadableSpeechMessages() { Platform::setEnvironmentVariable(kSpeechInLatin1, before); }
+    ReadableSpeechMessages(const ReadableSpeechMessages&) = delete;
+    ReadableSpeechMessages& operator=(const ReadableSpeechMessages&) = delete;
+
+private:
+    std::string before;
+};
+
 // A text that has no audio file yet.
 struct NewText
 {
@@ -147,6 +167,7 @@ SpeechOutcome createSoundFiles(const Oid::OidProject& project, ProcessRunner& ru
         return SpeechOutcome::complete;
     }
     FileSystem::createDirectory(folder);
+    const ReadableSpeechMessages readable(runner);
 
     SpeechOutcome outcome = SpeechOutcome::complete;
     const int total = static_cast<int>(texts.size());

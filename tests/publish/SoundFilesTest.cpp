@@ -261,3 +261,22 @@ TEST_F(SoundFiles, CancellingKeepsWhatIsDone)
     EXPECT_FALSE(fs::exists(audio("say_eve_B.ogg")));
     EXPECT_EQ(runner.commands.size(), 2U);
 }
+
+TEST_F(SoundFiles, SpeechIsAskedForLatin1WhereItsOutputIsShownSo)
+{
+    std::string asked;
+    runner.program = [&](const std::string& command) {
+        asked += Platform::environmentVariable("TEXT2SPEECH_LATIN1") + ";";
+        return run(command);
+    };
+    say("say_eve_Hi", "eve", "Hi");
+    create();
+    EXPECT_EQ(asked, ";;");
+
+    asked.clear();
+    runner.latin1 = true;
+    say("say_eve_Ho", "eve", "Ho");
+    create();
+    EXPECT_EQ(asked, "1;1;");
+    EXPECT_EQ(Platform::environmentVariable("TEXT2SPEECH_LATIN1"), "");
+}

@@ -192,6 +192,17 @@ TEST_F(Text2Speech, AnUnknownLanguageIsNamed)
     EXPECT_EQ(folder.listing(), "");
 }
 
+TEST_F(Text2Speech, MessagesComeInLatin1WhereThatIsWanted)
+{
+    const std::string plain = "the folder 'Kühe €' does not exist";
+    const std::string latin1 = "the folder 'K\xFChe ?' does not exist";
+    const std::vector<std::string> words = {"-f", "Kühe €/out.wav", "-t", "Moo"};
+    EXPECT_EQ(resultOf(run(words)), failure(plain));
+    EXPECT_EQ(resultOf(run(words, {"TEXT2SPEECH_LATIN1=1"})), failure(latin1));
+    EXPECT_EQ(resultOf(run({"-f", "Kühe.wav", "-t", "Moo"}, {"TEXT2SPEECH_LATIN1=1"})),
+              "status 0\nK\xFChe.wav\n");
+}
+
 TEST_F(Text2Speech, MbrolaVoicesAndVariantsAreNoLanguages)
 {
     for (const std::string language : {"mb-de1", "mb/mb-de1", "de+f2", "gmw/de", ""}) {

@@ -1,3 +1,5 @@
+#include <QString>
+
 #include <cstdio>
 
 #include "base/PlatformProcess.h"
@@ -6,22 +8,36 @@
 
 namespace {
 
-constexpr char kHelp[] = "Usage: Text2Speech [OPTIONS] -f FILE.wav -t TEXT\n"
-                         "\n"
-                         "Speaks a text into a WAV file, by espeak-ng.\n"
-                         "\n"
-                         "  -f FILE.wav  the file\n"
-                         "  -t TEXT      what is said (UTF-8)\n"
-                         "  -v LANGUAGE  the language, such as en (the default), de or fr\n"
-                         "  -a AGE       of the speaker, 1 to 99 years (30)\n"
-                         "  -g f|m       a woman or a man (m)\n"
-                         "  -q           quiet: only errors are printed\n"
-                         "  -l           lists the languages\n"
-                         "  -h           prints this help\n";
+constexpr char kHelp[] =
+    "Usage: Text2Speech [OPTIONS] -f FILE.wav -t TEXT\n"
+    "\n"
+    "Speaks a text into a WAV file, by espeak-ng.\n"
+    "\n"
+    "  -f FILE.wav  the file\n"
+    "  -t TEXT      what is said (UTF-8)\n"
+    "  -v LANGUAGE  the language, such as en (the default), de or fr\n"
+    "  -a AGE       of the speaker, 1 to 99 years (30)\n"
+    "  -g f|m       a woman or a man (m)\n"
+    "  -q           quiet: only errors are printed\n"
+    "  -l           lists the languages\n"
+    "  -h           prints this help\n"
+    "\n"
+    "Messages come in Latin-1 instead of UTF-8 while the environment variable\n"
+    "TEXT2SPEECH_LATIN1 is set.\n";
+
+// In UTF-8; in Latin-1 for a console that shows the output so. What that does not have becomes a
+// question mark.
+void print(FILE* stream, const std::string& text)
+{
+    const bool latin1 = !Platform::environmentVariable("TEXT2SPEECH_LATIN1").empty();
+    const QByteArray bytes =
+        latin1 ? QString::fromStdString(text).toLatin1() : QByteArray::fromStdString(text);
+    fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stream);
+}
 
 int fail(const std::string& reason)
 {
-    fprintf(stderr, "Text2Speech: %s\n", reason.c_str());
+    print(stderr, "Text2Speech: " + reason + "\n");
     return 1;
 }
 
@@ -55,7 +71,7 @@ int carryOut(const Request& request)
         return fail(problem);
     }
     if (!request.quiet) {
-        printf("%s\n", request.file.c_str());
+        print(stdout, request.file + "\n");
     }
     return 0;
 }
