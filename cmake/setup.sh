@@ -5,7 +5,8 @@ build_packages=(
     cmake ninja-build g++
     qtbase5-dev qttools5-dev qttools5-dev-tools libyaml-cpp-dev pkg-config libtiff-dev libisal-dev
 )
-run_packages=(espeak-ng ffmpeg libqt5svg5 fonts-dejavu-core fonts-noto-color-emoji)
+run_packages=(espeak-ng ffmpeg libqt5svg5 qttranslations5-l10n
+    fonts-dejavu-core fonts-noto-color-emoji)
 test_packages=(
     libgtest-dev libgmock-dev locales
     libtiff-tools qt5-image-formats-plugins

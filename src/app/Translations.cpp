@@ -1,7 +1,20 @@
 #include "app/Translations.h"
 
+#include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QLocale>
-#include <QTranslator>
+
+Translations::Translations(const QStringList& languages)
+{
+    if (!loadTranslation(ours, languages)) {
+        return;
+    }
+    QCoreApplication::installTranslator(&ours);
+    // The language of ours, not the author's first one: a window speaks one language.
+    if (loadQtTranslation(ofQt, ours.language())) {
+        QCoreApplication::installTranslator(&ofQt);
+    }
+}
 
 bool loadTranslation(QTranslator& translator, const QStringList& languages)
 {
@@ -13,4 +26,10 @@ bool loadTranslation(QTranslator& translator, const QStringList& languages)
         }
     }
     return false;
+}
+
+bool loadQtTranslation(QTranslator& translator, const QString& language)
+{
+    return translator.load("qtbase_" + language,
+                           QLibraryInfo::location(QLibraryInfo::TranslationsPath));
 }

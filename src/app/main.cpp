@@ -4,17 +4,13 @@
 
 #include <QApplication>
 #include <QLocale>
-#include <QTranslator>
 
 int main(int argc, char* argv[])
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
-    QTranslator translator;
-    if (loadTranslation(translator, QLocale::system().uiLanguages())) {
-        QCoreApplication::installTranslator(&translator);
-    }
+    const Translations translations(QLocale::system().uiLanguages());
 
     MainWindow window;
     fitOntoScreen(window);

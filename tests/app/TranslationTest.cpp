@@ -1,9 +1,14 @@
 // The translations: complete, and installed for the first language that there is one for.
+#include "app/MainWindow.h"
 #include "app/Translations.h"
 
+#include <QAction>
+#include <QDialogButtonBox>
 #include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
-#include <QTranslator>
 #include <QXmlStreamReader>
 
 namespace {
@@ -96,7 +101,78 @@ private slots:
         QCOMPARE(loaded({"en-GB", "de-DE"}), "Project");
         QCOMPARE(loaded({"ja-JP"}), "none");
     }
+
+    void theDialogsButtonsSpeakTheLanguageOfTheWindow_data()
+    {
+        QTest::addColumn<QStringList>("languages");
+        QTest::addColumn<QStringList>("buttons");
+        const QStringList english = {"Yes", "No",     "Yes to All", "No to All",
+                                     "OK",  "Cancel", "Open",       "Save"};
+        const QStringList german = {"Ja", "Nein",      "Ja, alle", "Nein, keine",
+                                    "OK", "Abbrechen", "Öffnen",   "Speichern"};
+        const QStringList french = {"Oui", "Non",     "Oui à tout", "Non à tout",
+                                    "OK",  "Annuler", "Ouvrir",     "Enregistrer"};
+        const QStringList dutch = {"Ja", "Nee",       "Ja op alles", "Nee op alles",
+                                   "OK", "Annuleren", "Openen",      "Opslaan"};
+        QTest::newRow("German") << QStringList{"de-DE"} << german;
+        QTest::newRow("German of Austria") << QStringList{"de-AT"} << german;
+        QTest::newRow("French") << QStringList{"fr-FR"} << french;
+        QTest::newRow("Dutch") << QStringList{"nl-NL"} << dutch;
+        QTest::newRow("English") << QStringList{"en-GB", "de-DE"} << english;
+        QTest::newRow("one that only Qt has") << QStringList{"pl-PL"} << english;
+        QTest::newRow("one that only Qt has, then French")
+            << QStringList{"pl-PL", "fr-FR"} << french;
+    }
+
+    void theDialogsButtonsSpeakTheLanguageOfTheWindow()
+    {
+        QFETCH(QStringList, languages);
+        const Translations translations(languages);
+        QStringList buttons;
+        for (const auto button : {QMessageBox::Yes, QMessageBox::No, QMessageBox::YesToAll,
+                                  QMessageBox::NoToAll, QMessageBox::Ok, QMessageBox::Cancel}) {
+            QMessageBox box;
+            buttons << box.addButton(button)->text().remove('&');
+        }
+        for (const auto mode : {QFileDialog::AcceptOpen, QFileDialog::AcceptSave}) {
+            QFileDialog dialog;
+            dialog.setOption(QFileDialog::DontUseNativeDialog);
+            dialog.setAcceptMode(mode);
+            buttons << dialog.findChild<QDialogButtonBox*>()->buttons()[0]->text().remove('&');
+        }
+        QTEST(buttons, "buttons");
+    }
+
+    void shortcutsAreTheSameInEveryLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const char* const language : {"de", "en", "fr", "nl"}) {
+            QTest::newRow(language) << language;
+        }
+    }
+
+    void shortcutsAreTheSameInEveryLanguage()
+    {
+        QFETCH(QString, language);
+        const Translations translations({language});
+        const MainWindow window;
+        const auto keys = [&](const char* action) {
+            return window.findChild<QAction*>(action)->shortcut();
+        };
+        QCOMPARE(keys("action_Open"), QKeySequence(Qt::CTRL | Qt::Key_O));
+        QCOMPARE(keys("actionSave"), QKeySequence(Qt::CTRL | Qt::Key_S));
+        QCOMPARE(keys("action_Save_As"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    }
+
+    void theTextsReturnToEnglishWithTheTranslations()
+    {
+        {
+            const Translations german({"de-DE"});
+            QCOMPARE(QCoreApplication::translate("MainWindow", "Project"), "Projekt");
+        }
+        QCOMPARE(QCoreApplication::translate("MainWindow", "Project"), "Project");
+    }
 };
 
-QTEST_GUILESS_MAIN(TranslationTest)
+QTEST_MAIN(TranslationTest)
 #include "TranslationTest.moc"
