@@ -12,9 +12,18 @@ namespace {
 constexpr int kFirstAssignedOid = 1001;
 
 // Behind all numbers in use. Intended: gaps are never filled again.
-int behind(int next, int usedOid)
+int nextNumber(const std::map<std::string, OidProject::OID>& oids)
 {
-    return usedOid >= next ? numberAfter(usedOid) : next;
+    int next = kFirstAssignedOid;
+    for (const auto& entry : oids) {
+        next = entry.second.oid >= next ? numberAfter(entry.second.oid) : next;
+    }
+    return next;
+}
+
+void tellNumber(const OidProject& project, const std::string& name, int oid)
+{
+    project.print("OID %5d assigned to '%s'\n", oid, name.c_str());
 }
 
 }  // namespace
@@ -33,9 +42,8 @@ int numberAfter(int oid)
 // back when it is used again.
 void OidProject::updateUsedOIDs()
 {
-    int next = kFirstAssignedOid;
+    int next = nextNumber(oids);
     for (auto& entry : oids) {
-        next = behind(next, entry.second.oid);
         entry.second = tableEntry(entry.second.oid);
     }
     auto near = oids.end();  // names often follow each other: cow1, cow2, cow3
@@ -44,11 +52,29 @@ void OidProject::updateUsedOIDs()
             const std::size_t count = oids.size();
             near = std::next(oids.try_emplace(near, area.name, tableEntry(next)));
             if (oids.size() > count) {
-                print("OID %5d assigned to '%s'\n", next, area.name.c_str());
+                tellNumber(*this, area.name, next);
                 next = numberAfter(next);
             }
         }
     }
+}
+
+void giveNewNumber(OidProject& project, const std::string& name)
+{
+    const int next = nextNumber(project.oids);
+    project.oids[name] = tableEntry(next);
+    tellNumber(project, name, next);
+}
+
+bool numberAllAreas(OidProject& project)
+{
+    auto& oids = project.oids;
+    for (auto entry = oids.begin(); entry != oids.end();) {
+        entry = entry->second.oid == 0 ? oids.erase(entry) : std::next(entry);
+    }
+    const std::size_t count = oids.size();
+    project.updateUsedOIDs();
+    return oids.size() > count;
 }
 
 }  // namespace Oid

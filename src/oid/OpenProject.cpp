@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "base/FileSystem.h"
+#include "oid/OidTable.h"
 #include "oid/ProjectReader.h"
 
 namespace Oid {
@@ -33,7 +34,9 @@ bool OidProject::open(const std::string& path)
 
 bool openProject(OidProject& project, const std::string& path)
 {
-    return openWith(project, path, SavedEmptyPages::kept);
+    const bool opened = openWith(project, path, SavedEmptyPages::kept);
+    numberAllAreas(project);
+    return opened;
 }
 
 }  // namespace Oid

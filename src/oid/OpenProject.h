@@ -8,7 +8,8 @@ namespace Oid {
 
 // Opens a project as window and command line do: like OidProject::open, but every page that was
 // saved without areas is there again, at its place, with its own paper and resolution. So the pages
-// behind it keep their numbers, by which their pictures' files are named.
+// behind it keep their numbers, by which their pictures' files are named. And an area of number 0,
+// which is none to the pen, gets a number, which is printed.
 bool openProject(OidProject& project, const std::string& path);
 
 }  // namespace Oid

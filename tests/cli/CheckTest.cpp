@@ -26,6 +26,12 @@ TEST(Check, AProjectWithoutMistakesPrintsNothing)
               "status 0\n");
 }
 
+TEST(Check, AnAreaOfNumberZeroGetsANumber)
+{
+    EXPECT_EQ(checked("OID 0\nBOX cow 1 1 5 5\nSCRIPT\nsub cow\nend sub\n"),
+              "status 0\nOID  1001 assigned to 'cow'\n");
+}
+
 TEST(Check, AMissingProjectIsReported)
 {
     EXPECT_EQ(resultOf(cli({"check", "no/such.oidpro"})),

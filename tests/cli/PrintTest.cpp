@@ -37,6 +37,16 @@ TEST(Print, MakesTheImagesOfAllPictures)
               "17-bkgnd0.jpg 17-bkgnd1.jpg 17-print0.tiff 17-print1.tiff book.oidpro");
 }
 
+TEST(Print, AnAreaOfNumberZeroGetsANumber)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("book.oidpro"),
+              "PRODUCT 17 Zoo\nPAPER 20 10\nDPI 300\nOID 0\nBOX a 1 1 20 20\n");
+    writeBackground(folder.file("17-bkgnd0.jpg"));
+    EXPECT_EQ(resultOf(cli({"print", folder.file("book.oidpro")})),
+              "status 0\nOID  1001 assigned to 'a'\n" + kProgress);
+}
+
 TEST(Print, OnePictureMayBeChosen)
 {
     const TemporaryFolder folder;

@@ -64,6 +64,15 @@ TEST(Save, AProjectMayReplaceItself)
                               "SCRIPT # -----------------------\r\n");
 }
 
+TEST(Save, AnAreaOfNumberZeroGetsANumber)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("in.oidpro"), "BOX cow 1 1 2 2\nOID 0\nBOX hen 1 1 2 2\n");
+    EXPECT_EQ(resultOf(cli({"save", folder.file("in.oidpro"), "-o", folder.file("out.oidpro")})),
+              "status 0\nOID 10001 assigned to 'hen'\n");
+    EXPECT_NE(readFile(folder.file("out.oidpro")).find("OID 10001\r\nPOLY hen"), std::string::npos);
+}
+
 TEST(Save, AFileThatCannotBeWrittenIsReported)
 {
     const TemporaryFolder folder;

@@ -95,6 +95,22 @@ TEST(OidTable, NumbersStopAtTheLargestInteger)
     EXPECT_EQ(numbered(project), "OID 2147483647 assigned to 'z'\n");
 }
 
+TEST(OidTable, ZeroCountsAsNoNumberWhenAllAreasAreNumbered)
+{
+    CapturedMessages captured;
+    Oid::OidProject project = projectWith({area("cow"), area("hen"), area("cow")});
+    project.redirectPrintf(CapturedMessages::print);
+    project.oids["cow"] = {0, 0};
+    project.oids["hen"] = {1500, 0};
+    project.oids["deleted"] = {0, 0};
+    EXPECT_TRUE(Oid::numberAllAreas(project));
+    EXPECT_EQ(captured.take(), "OID  1501 assigned to 'cow'\n");
+    EXPECT_EQ(areasOf(project), "0: cow 1501\n0: hen 1500\n0: cow 1501\n");
+    EXPECT_EQ(project.oids.count("deleted"), 0U);
+    EXPECT_FALSE(Oid::numberAllAreas(project));
+    EXPECT_EQ(captured.take(), "");
+}
+
 TEST(OidTable, AfterLoadingNumbersGoOnAboveTheLoadedOnes)
 {
     Loaded loaded("POLY cow\nEND\n");

@@ -200,3 +200,12 @@ TEST(OpenProject, AFileThatCannotBeOpenedIsReportedAndLeavesAFreshProject)
     EXPECT_EQ(captured.take(), "Error: Can't open file '" + folder.file("none.oidpro") + "'\n");
     EXPECT_TRUE(project.pictures.empty());
 }
+
+TEST(OpenProject, AnAreaOfNumberZeroGetsANumber)
+{
+    const std::string file = "OID 0\nPOLY cow\nEND\nPOLY hen\nEND\nPOLY cow\nEND\n";
+    const Loaded loaded(file, Oid::openProject);
+    EXPECT_EQ(loaded.messages, "OID  1001 assigned to 'cow'\n");
+    EXPECT_EQ(areasOf(loaded.project), "0: cow 1001\n0: hen 1\n0: cow 1001\n");
+    EXPECT_EQ(areasOf(Loaded(file).project), "0: cow 0\n0: hen 1\n0: cow 0\n");
+}
