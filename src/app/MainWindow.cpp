@@ -128,6 +128,7 @@ void MainWindow::ProjectDataWasChanged(bool toProject)
     if (toProject) {
         project.compiler = ttbasic();
         project.compiler.source = ui->codeEditor->text().toStdString();
+        numberAllAreas();
     } else {
         ui->codeEditor->setText(QString::fromStdString(project.compiler.source));
     }

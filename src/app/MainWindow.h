@@ -1,5 +1,6 @@
 #pragma once
 
+#include "oid/AreaNaming.h"
 #include "oid/OidProject.h"
 #include "publish/SoundFiles.h"
 
@@ -96,6 +97,10 @@ private:
     void selectPolygon(int i);
     // The selected area of the current picture, null when there is none.
     Oid::POLY* selectedArea() const;
+    // Fills the fields of the selected area; without one they keep what they show.
+    void showSelectedArea();
+    // No area goes without a number into a file or a game.
+    void numberAllAreas();
     void setMode(Mode newMode, Qt::CursorShape cursor);
 
     // True when the form holds a name, id or script that the project does not have yet.
@@ -116,6 +121,7 @@ private:
     void copyGmeToTipToi();
 
     Oid::OidProject project;
+    Oid::AreaNaming naming{project};
     int mode = pick;
     int selectedPoly = -1;
     std::unique_ptr<Ui::MainWindow> ui;

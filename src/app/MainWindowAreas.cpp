@@ -28,15 +28,33 @@ void MainWindow::selectPolygon(int i)
     const bool exists = i >= 0 && i < static_cast<int>(picture->polys.size());
     selectedPoly = exists ? i : -1;
     ui->polyArea->selectedPoly = selectedPoly;
-    if (exists) {
-        // Setting the fields fires their handlers, which write the same values back.
-        const std::string name = picture->polys[static_cast<size_t>(i)].name;
-        ui->txPolyName->setText(QString::fromStdString(name));
-        const Oid::OidProject::OID entry = project.oids[name];
-        ui->txOidOfArea->setValue(entry.oid);
-        project.oids[name] = entry;  // it may be beyond the range of the field
-    }
+    showSelectedArea();
     ui->polyArea->repaint();
+}
+
+void MainWindow::showSelectedArea()
+{
+    naming.finish();
+    const Oid::POLY* const area = selectedArea();
+    if (area == nullptr) {
+        return;
+    }
+    // Setting the fields fires their handlers, which write the same values back.
+    ui->txPolyName->setText(QString::fromStdString(area->name));
+    const Oid::OidProject::OID entry = project.oids[area->name];
+    ui->txOidOfArea->setValue(entry.oid);
+    project.oids[area->name] = entry;  // it may be beyond the range of the field
+}
+
+void MainWindow::numberAllAreas()
+{
+    if (!Oid::numberAllAreas(project)) {
+        return;
+    }
+    naming.finish();
+    if (const Oid::POLY* const area = selectedArea()) {
+        ui->txOidOfArea->setValue(project.oids[area->name].oid);
+    }
 }
 
 void MainWindow::setMode(Mode newMode, Qt::CursorShape cursor)
@@ -97,17 +115,8 @@ void MainWindow::on_txPolyName_textEdited(const QString& /*arg1*/) {}
 
 void MainWindow::on_txPolyName_textChanged(const QString& arg1)
 {
-    Oid::POLY* const area = selectedArea();
-    if (area == nullptr) {
-        return;
-    }
-    const std::string oldName = area->name;
-    area->name = arg1.toStdString();
-    const auto entry = project.oids.find(oldName);
-    if (entry != project.oids.end()) {
-        const Oid::OidProject::OID oid = entry->second;
-        project.oids.erase(entry);
-        project.oids[area->name] = oid;
+    if (Oid::POLY* const area = selectedArea()) {
+        naming.rename(*area, arg1.toStdString());
     }
 }
 

@@ -1,8 +1,12 @@
 // Drawing, picking, naming, numbering and deleting areas, and the way to their code.
 #include "tests/app/WindowFixture.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QSpinBox>
+
+#include <random>
 
 namespace {
 
@@ -38,6 +42,83 @@ std::string lines(int count)
         text += "x = 1\r\n";
     }
     return text;
+}
+
+// Two pages of three areas, and the numbers that their names should have.
+struct NamedPages
+{
+    struct Drawn
+    {
+        std::string name;
+        double left;
+    };
+
+    // The name that no area has any more loses its number to the new one; where others still have
+    // it, they get the next one.
+    void rename(Drawn& drawn, const std::string& name)
+    {
+        if (name == drawn.name) {
+            return;
+        }
+        int next = 1001;
+        for (const auto& entry : numbers) {
+            next = std::max(next, entry.second + 1);
+        }
+        const std::string old = std::exchange(drawn.name, name);
+        numbers[name] = numbers[old];
+        numbers.erase(old);
+        for (const std::vector<Drawn>& page : pages) {
+            for (const Drawn& other : page) {
+                numbers.try_emplace(other.name, next);
+            }
+        }
+    }
+
+    std::string file() const
+    {
+        std::vector<std::string> texts;
+        for (const std::vector<Drawn>& page : pages) {
+            std::string& text = texts.emplace_back();
+            for (const Drawn& drawn : page) {
+                text += area(drawn.name.c_str(), numbers.at(drawn.name), drawn.left, 10, 10);
+            }
+        }
+        return projectFile(texts);
+    }
+
+    std::vector<std::vector<Drawn>> pages = {{{"c", 10}, {"cow", 30}, {"x", 50}},
+                                             {{"co", 10}, {"cow2", 30}, {"cow", 50}}};
+    std::map<std::string, int> numbers = {
+        {"c", 1001}, {"cow", 1002}, {"x", 1003}, {"co", 1004}, {"cow2", 1005}};
+};
+
+void pressRandomKey(QLineEdit& name, std::mt19937& random)
+{
+    const auto anyOf = [&](const QStringList& texts) {
+        return texts[static_cast<int>(random() % static_cast<unsigned>(texts.size()))];
+    };
+    switch (random() % 8) {
+    case 0:
+        QTest::keySequence(&name, QKeySequence::Undo);
+        break;
+    case 1:
+        QTest::keySequence(&name, QKeySequence::Redo);
+        break;
+    case 2:
+        QTest::keyClick(&name, Qt::Key_Backspace);
+        break;
+    case 3:
+        QApplication::clipboard()->setText(anyOf({"cow2", "co", "x", "a hen"}));
+        QTest::keySequence(&name, QKeySequence::SelectAll);
+        QTest::keySequence(&name, QKeySequence::Paste);
+        break;
+    case 4:
+        QTest::keySequence(&name, QKeySequence::SelectAll);
+        QTest::keyClicks(&name, anyOf({"c", "x", " "}));
+        break;
+    default:
+        QTest::keyClicks(&name, name.text() == "c" ? "o" : name.text() == "co" ? "w" : "2");
+    }
 }
 
 int selected(WindowFixture& w)
@@ -384,20 +465,32 @@ private slots:
                  projectFile({area("hen", 1001, 10, 10, 10) + area("hen", 1001, 30, 10, 10)}));
     }
 
-    void zeroIsANumberThatCanBeTyped()
+    // As 0 would be in print; it can be typed on the way to another number.
+    void aNumberOfZeroIsReplacedOnSaving()
     {
         WindowFixture w;
-        w.open(projectFile({area("cow", 1001, 10, 10, 20)}), 1);
+        w.open(projectFile({area("cow", 1001, 10, 10, 10) + area("hen", 1500, 30, 10, 10)}), 1);
         showAreas(w);
         w.clickAt(at(w, 15, 15));
         QSpinBox* const oid = w.get<QSpinBox>("txOidOfArea");
         oid->selectAll();
         QTest::keyClicks(oid, "0");
-        QCOMPARE(w.saved(), projectFile({area("cow", 0, 10, 10, 20)}));
+        QCOMPARE(w.saved(),
+                 projectFile({area("cow", 1501, 10, 10, 10) + area("hen", 1500, 30, 10, 10)}));
+        QCOMPARE(oid->value(), 1501);
+        QCOMPARE(w.console(), "OID  1501 assigned to 'cow'");
     }
 
-    // Its number went with the name of another area.
-    void aNameThatHasLostItsNumberGetsZero()
+    void aZeroInTheFileIsReplacedOnSaving()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 10), area("hen", 0, 30, 10, 10)}), 2);
+        QCOMPARE(w.saved(),
+                 projectFile({area("cow", 1001, 10, 10, 10), area("hen", 1002, 30, 10, 10)}));
+    }
+
+    // Its number goes with the one that is renamed.
+    void anAreaThatKeepsASharedNameGetsANewNumber()
     {
         WindowFixture w;
         w.open(projectFile({area("cow", 1001, 10, 10, 10) + area("cow", 1001, 30, 10, 10)}), 1);
@@ -406,9 +499,73 @@ private slots:
         w.type("txPolyName", "hen");
         w.clickAt(at(w, 35, 15));
         QCOMPARE(w.field("txPolyName"), "cow");
-        QCOMPARE(w.get<QSpinBox>("txOidOfArea")->value(), 0);
+        QCOMPARE(w.get<QSpinBox>("txOidOfArea")->value(), 1002);
+        QCOMPARE(w.console(), "OID  1002 assigned to 'cow'");
         QCOMPARE(w.saved(),
-                 projectFile({area("hen", 1001, 10, 10, 10) + area("cow", 0, 30, 10, 10)}));
+                 projectFile({area("hen", 1001, 10, 10, 10) + area("cow", 1002, 30, 10, 10)}));
+    }
+
+    void anAreaWhoseNameIsPassedWhileTypingKeepsItsNumber()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 10) + area("pig", 1002, 30, 10, 10)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 35, 15));
+        w.type("txPolyName", "cow");
+        QCOMPARE(w.saved(),
+                 projectFile({area("cow", 1002, 10, 10, 10) + area("cow", 1002, 30, 10, 10)}));
+        QTest::keyClick(w.get<QLineEdit>("txPolyName"), '2');
+        QCOMPARE(w.saved(),
+                 projectFile({area("cow", 1001, 10, 10, 10) + area("cow2", 1002, 30, 10, 10)}));
+    }
+
+    void theNumberThatANameTookOverStaysWhenAnotherAreaIsSelected()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 10) + area("pig", 1002, 30, 10, 10)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 35, 15));
+        w.type("txPolyName", "cow");
+        w.clickAt(at(w, 15, 15));
+        w.type("txPolyName", "dog");
+        QCOMPARE(w.saved(),
+                 projectFile({area("dog", 1002, 10, 10, 10) + area("cow", 1003, 30, 10, 10)}));
+    }
+
+    // Letters, deletions, pastes and undo. Whatever comes on the way, only the first and the last
+    // name count.
+    void randomKeysGiveTheNumbersOfTheNamesThatComeOut()
+    {
+        NamedPages model;
+        WindowFixture w;
+        w.open(model.file(), 2);
+        showAreas(w);
+        QLineEdit* const name = w.get<QLineEdit>("txPolyName");
+        std::mt19937 random(2);
+        size_t page = 0;
+        int passedNames = 0;
+        for (int turn = 0; turn < 80; ++turn) {
+            if (random() % 3 == 0) {
+                w.click("btPreviousPicture");
+                page = 1 - page;
+            }
+            NamedPages::Drawn& drawn = model.pages[page][random() % 3];
+            w.clickAt(at(w, 45, 45));  // the model knows of no index that is kept
+            w.clickAt(at(w, drawn.left + 1, 11));
+            QCOMPARE(name->text().toStdString(), drawn.name);
+            QCOMPARE(w.get<QSpinBox>("txOidOfArea")->value(), model.numbers[drawn.name]);
+            const NamedPages before = model;
+            const std::string nameBefore = drawn.name;
+            for (unsigned key = random() % 8; key > 0; --key) {
+                pressRandomKey(*name, random);
+                model.numbers = before.numbers;
+                drawn.name = nameBefore;
+                model.rename(drawn, name->text().toStdString());
+                QCOMPARE(w.saved(), model.file());
+                passedNames += key > 1 && before.numbers.count(drawn.name) == 1 ? 1 : 0;
+            }
+        }
+        QVERIFY2(passedNames > 50, qPrintable(QString::number(passedNames)));
     }
 
     void gotoCodeFindsTheSub()
