@@ -35,6 +35,7 @@ void MainWindow::showPicture(int index)
     showTopOfPicture();
     ui->polyArea->repaint();
     ProjectDataWasChanged(false);
+    showSelectedArea();
 }
 
 // A page is read from its top.

@@ -168,10 +168,37 @@ private slots:
         w.clickAt(at(w, 15, 15));
         w.click("btNextPicture");
         QCOMPARE(selected(w), 0);
-        QCOMPARE(w.field("txPolyName"), "cow");
+        QCOMPARE(w.field("txPolyName"), "hen");
+        QCOMPARE(w.get<QSpinBox>("txOidOfArea")->value(), 1002);
         w.type("txPolyName", "pig");
         QCOMPARE(w.saved(),
                  projectFile({area("cow", 1001, 10, 10, 20), area("pig", 1002, 30, 20, 20), ""}));
+    }
+
+    // On a picture without an area of that number nothing is selected, until one comes that has it.
+    void withoutASelectedAreaTheFieldsKeepTheLastOneAndChangeNothing()
+    {
+        WindowFixture w;
+        const std::string project =
+            projectFile({area("cow", 1001, 10, 10, 10) + area("hen", 1002, 30, 10, 10),
+                         area("pig", 1003, 10, 10, 10),
+                         area("ape", 1004, 10, 10, 10) + area("ant", 1005, 30, 10, 10)});
+        w.open(project, 3);
+        showAreas(w);
+        w.clickAt(at(w, 35, 15));
+        w.click("btNextPicture");
+        QCOMPARE(w.field("txPolyName"), "hen");
+        QCOMPARE(w.get<QSpinBox>("txOidOfArea")->value(), 1002);
+        w.type("txPolyName", "dog");
+        w.get<QSpinBox>("txOidOfArea")->setValue(7);
+        QCOMPARE(w.saved(), project);
+        w.click("btPreviousPicture");
+        QCOMPARE(w.field("txPolyName"), "hen");
+        QCOMPARE(w.get<QSpinBox>("txOidOfArea")->value(), 1002);
+        w.click("btPreviousPicture");
+        QCOMPARE(w.field("txPolyName"), "ant");
+        QCOMPARE(w.get<QSpinBox>("txOidOfArea")->value(), 1005);
+        QCOMPARE(w.saved(), project);
     }
 
     void addingGoesOnOnAnotherPicture()
