@@ -3,6 +3,7 @@
 #include "app/DecimalComma.h"
 #include "app/FileDialogs.h"
 #include "app/NumberBar.h"
+#include "app/StorableName.h"
 #include "base/FileSystem.h"
 #include "oid/OpenProject.h"
 #include "oid/PrintImage.h"
@@ -28,6 +29,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     letPictureScroll();
     takeDecimalCommas();
     prepareNotices();
+    new StorableName(ui->txPolyName);
     ui->polyArea->setProject(&project);
     connect(ui->polyArea, &PolyEditorWidget::clickedLB, this, &MainWindow::onPolyAreaClickedLB);
     setDefaultPrintf(KVQtStdoutWidget::redirectPrintf);

@@ -1,6 +1,7 @@
 // The areas of the current picture: drawing, picking, naming, numbering, and the way to their code.
 #include "app/MainWindow.h"
 
+#include "app/StorableName.h"
 #include "base/TextHelpers.h"
 #include "oid/OidTable.h"
 #include "ui_MainWindow.h"
@@ -115,7 +116,9 @@ void MainWindow::on_txPolyName_textEdited(const QString& /*arg1*/) {}
 
 void MainWindow::on_txPolyName_textChanged(const QString& arg1)
 {
-    if (Oid::POLY* const area = selectedArea()) {
+    Oid::POLY* const area = selectedArea();
+    // A name that was written by hand stays while it is only shown.
+    if (area != nullptr && arg1 != StorableName::of(QString::fromStdString(area->name))) {
         naming.rename(*area, arg1.toStdString());
     }
 }
@@ -148,7 +151,10 @@ static KVTextEditor::CARET codeOfArea(KVTextEditor::EditorBackend<KVTextEditor::
 void MainWindow::on_btEditPolyCode_clicked()
 {
     auto& editor = ui->codeEditor->editor();
-    const KVTextEditor::CARET caret = codeOfArea(editor, ui->txPolyName->text());
+    const Oid::POLY* const area = selectedArea();
+    const QString name =
+        area != nullptr ? QString::fromStdString(area->name) : ui->txPolyName->text();
+    const KVTextEditor::CARET caret = codeOfArea(editor, name);
     editor.selection.set(caret.line, caret.column);
     ui->ribbonTab->setCurrentWidget(ui->tabScript);
     ui->codeEditor->EnsureVisible(caret);

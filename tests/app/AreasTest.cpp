@@ -595,6 +595,87 @@ private slots:
         QVERIFY2(passedNames > 50, qPrintable(QString::number(passedNames)));
     }
 
+    void whatANameCannotHoldBecomesAnUnderscoreAsItIsTyped()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        w.type("txPolyName", "my #1 \"cow's\"");
+        QCOMPARE(w.field("txPolyName"), "my__1__cow_s_");
+        QCOMPARE(w.saved(), projectFile({area("my__1__cow_s_", 1001, 10, 10, 20)}));
+    }
+
+    void anUnderscoreThatWasTypedAsABlankCanBeUndone()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        QLineEdit* const name = w.get<QLineEdit>("txPolyName");
+        name->setFocus();
+        QTest::keyClick(name, Qt::Key_Home);
+        QTest::keyClicks(name, "my ");
+        QCOMPARE(name->text(), "my_cow");
+        QTest::keyClick(name, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(name->text(), "cow");
+        QCOMPARE(w.saved(), projectFile({area("cow", 1001, 10, 10, 20)}));
+    }
+
+    void whatANameCannotHoldBecomesAnUnderscoreAsItIsPasted()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        QLineEdit* const name = w.get<QLineEdit>("txPolyName");
+        name->selectAll();
+        QApplication::clipboard()->setText("my\tcow\nand #hen");
+        QTest::keyClick(name, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(name->text(), "my_cow_and__hen");
+        QCOMPARE(w.saved(), projectFile({area("my_cow_and__hen", 1001, 10, 10, 20)}));
+    }
+
+    void aNameThatNoLineOfTheFileHoldsIsRefused()
+    {
+        WindowFixture w;
+        w.open(projectFile({area("cow", 1001, 10, 10, 20)}), 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        QLineEdit* const name = w.get<QLineEdit>("txPolyName");
+        name->selectAll();
+        name->insert(QString(1018, 'n'));
+        QTest::keyClick(name, 'n');
+        QCOMPARE(name->text(), QString(1018, 'n'));
+        name->selectAll();
+        name->insert(QString(510, QChar(0xE4)));  // two bytes each
+        QCOMPARE(name->text(), QString(1018, 'n'));
+        w.open(w.saved(), 1);
+        w.clickAt(at(w, 15, 15));
+        QCOMPARE(name->text(), QString(1018, 'n'));
+    }
+
+    // A book made by hand may have such a name and play well; looking at it changes nothing.
+    void anAreaOfAHandWrittenNameIsShownAsItWouldBeStoredAndStaysUntilItIsEdited()
+    {
+        WindowFixture w;
+        const std::string project =
+            projectFile({area("\"cow\"", 1001, 10, 10, 10) + area("\"cow\"", 1001, 30, 10, 10)},
+                        "sub \"cow\"\r\nend sub\r\n");
+        w.open(project, 1);
+        showAreas(w);
+        w.clickAt(at(w, 15, 15));
+        QCOMPARE(w.field("txPolyName"), "_cow_");
+        w.click("btEditPolyCode");
+        QCOMPARE(w.script(), "sub \"cow\"\r\nend sub\r\n");
+        QCOMPARE(w.saved(), project);
+        showAreas(w);
+        QTest::keyClick(w.get<QLineEdit>("txPolyName"), '2');
+        QCOMPARE(w.saved(),
+                 projectFile({area("_cow_2", 1001, 10, 10, 10) + area("\"cow\"", 1002, 30, 10, 10)},
+                             "sub \"cow\"\r\nend sub\r\n"));
+    }
+
     void gotoCodeFindsTheSub()
     {
         WindowFixture w;
