@@ -13,6 +13,7 @@ namespace Ui {
 class MainWindow;
 }
 class NumberBar;
+class PictureCopy;
 class QScrollArea;
 
 // The one window. It owns the one project, which all its controls edit; form and project are kept
@@ -113,7 +114,7 @@ private:
     // when the author cancelled or it failed (then that was said).
     QImage importPicture(int n);
     // Writes the copy whole or not at all; says why when it was not kept.
-    bool keepCopy(const QImage& image, const std::string& path);
+    bool keepCopy(const PictureCopy& picture, const std::string& path);
     void warn(const QString& text);
 
     // The speech step of a build, with its progress.

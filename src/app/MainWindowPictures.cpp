@@ -3,17 +3,12 @@
 
 #include "app/FileDialogs.h"
 #include "base/FileSystem.h"
-#include "base/PlatformFiles.h"
-#include "oid/PictureFile.h"
+#include "oid/PictureCopy.h"
 #include "ui_MainWindow.h"
 
-#include <QImageWriter>
 #include <QMessageBox>
-#include <QSaveFile>
 #include <QScrollArea>
 #include <QScrollBar>
-
-#include <algorithm>
 
 bool MainWindow::formWasEdited() const
 {
@@ -100,32 +95,15 @@ QImage MainWindow::importPicture(int n)
         return {};
     }
     keepEdits();  // the copy is named by the id; and the paper fields belong to the old picture
-    const QImage image = PictureFile(path).read();
-    if (image.isNull()) {
+    const PictureCopy picture(path);
+    if (picture.image().isNull()) {
         warn(tr("Can't load that picture."));
         return {};
     }
-    return keepCopy(image, project.pathImageSource(n)) ? image : QImage();
+    return keepCopy(picture, project.pathImageSource(n)) ? picture.image() : QImage();
 }
 
-// What shines through a picture is the paper. JPEG knows no transparency and would make it black.
-static QImage onWhitePaper(const QImage& image)
-{
-    if (!image.hasAlphaChannel()) {
-        return image;
-    }
-    QImage paper = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < paper.height(); ++y) {
-        QRgb* const row = reinterpret_cast<QRgb*>(paper.scanLine(y));
-        std::transform(row, row + paper.width(), row, [](QRgb pixel) {
-            const int white = 255 - qAlpha(pixel);
-            return qRgb(qRed(pixel) + white, qGreen(pixel) + white, qBlue(pixel) + white);
-        });
-    }
-    return paper;
-}
-
-bool MainWindow::keepCopy(const QImage& image, const std::string& path)
+bool MainWindow::keepCopy(const PictureCopy& picture, const std::string& path)
 {
     if (FileSystem::doesFileExist(path) &&
         QMessageBox::question(
@@ -133,13 +111,11 @@ bool MainWindow::keepCopy(const QImage& image, const std::string& path)
             QMessageBox::Yes | QMessageBox::No, QMessageBox::No) != QMessageBox::Yes) {
         return false;
     }
-    QSaveFile file(QString::fromStdString(Platform::nativePath(path)));
-    const bool kept = file.open(QIODevice::WriteOnly) &&
-                      QImageWriter(&file, "jpg").write(onWhitePaper(image)) && file.commit();
-    if (!kept) {
+    if (!picture.keepAs(path)) {
         warn(tr("The picture could not be kept beside the project file."));
+        return false;
     }
-    return kept;
+    return true;
 }
 
 void MainWindow::on_btDeletePicture_clicked()

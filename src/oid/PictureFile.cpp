@@ -20,6 +20,12 @@ bool PictureFile::fitsMemory() const
     return pixels * sizeof(QRgb) <= Platform::availableMemory() / 2;
 }
 
+bool PictureFile::isUprightJpeg() const
+{
+    return reader.format() == "jpeg" &&
+           reader.transformation() == QImageIOHandler::TransformationNone;
+}
+
 QImage PictureFile::read()
 {
     return fitsMemory() ? reader.read() : QImage();

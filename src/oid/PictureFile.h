@@ -12,6 +12,9 @@ public:
     // False when decoding it would drive the machine out of memory.
     bool fitsMemory() const;
 
+    // True for a JPEG whose pixels are upright as they are stored. Asked before read.
+    bool isUprightJpeg() const;
+
     // The null image when it is no picture or does not fit. Decoders are lenient: damaged files may
     // give a picture, too.
     QImage read();

@@ -384,6 +384,21 @@ private slots:
         QCOMPARE(QImage(w.path("900-bkgnd1.jpg")).size(), QSize(40, 80));
     }
 
+    void aJpegIsKeptAsItCame()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        const std::string photo = readFile(PLINKETT_SOURCE_DIR "/examples/farm/901-bkgnd0.jpg");
+        writeFile(w.folder.file("photo.jpg"), photo);
+        w.dialogs.chooseFile(w.path("photo.jpg"));
+        w.click("btNextPicture");
+        QVERIFY(readFile(w.folder.file("900-bkgnd1.jpg")) == photo);
+        const QImage image(w.path("photo.jpg"));
+        QCOMPARE(w.field("txProjPaperWidth"), QString::number(image.widthMM()));
+        QCOMPARE(w.field("txProjDPI"),
+                 QString::number(int(image.dotsPerMeterX() / 39.37 + 0.4444)));
+    }
+
     void whatShinesThroughAPictureIsWhite()
     {
         WindowFixture w;
