@@ -8,6 +8,8 @@
 #include <string>
 
 #include "gme/Assembler.h"
+#include "gme/SourceText.h"
+#include "gme/Yaml.h"
 
 namespace {
 
@@ -63,8 +65,27 @@ void assemble(benchmark::State& state)
     std::filesystem::remove_all(folder);
 }
 
+// The description alone, from its bytes to the tree of its values.
+void readYaml(benchmark::State& state)
+{
+    const std::string source = descriptionOf(20000);
+    for (auto _ : state) {
+        gme::Messages messages("book.yaml", silent);
+        std::string text = source;
+        gme::YamlNode root;
+        if (!gme::makeText(text, messages) || !gme::readYaml(text, root, messages)) {
+            state.SkipWithError("the description cannot be read");
+            break;
+        }
+        benchmark::DoNotOptimize(root);
+    }
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * source.size()));
+    state.counters["bytes"] = static_cast<double>(source.size());
+}
+
 }  // namespace
 
 BENCHMARK(assemble)->Arg(1200)->Arg(12000)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(readYaml)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 BENCHMARK_MAIN();

@@ -30,7 +30,7 @@ public:
 
 private:
     bool checkPaths();
-    bool readYaml();
+    bool readYamlFile();
     bool resolve();
     bool writeFiles();
 
@@ -61,7 +61,8 @@ Assembly::Assembly(const AssembleOptions& options, PrintFunction print)
 
 bool Assembly::run()
 {
-    return checkPaths() && readYaml() && codesFile.read(codesMessages) && resolve() && writeFiles();
+    return checkPaths() && readYamlFile() && codesFile.read(codesMessages) && resolve() &&
+           writeFiles();
 }
 
 bool Assembly::checkPaths()
@@ -73,13 +74,12 @@ bool Assembly::checkPaths()
     return true;
 }
 
-bool Assembly::readYaml()
+bool Assembly::readYamlFile()
 {
     std::string text;
-    PreparedYaml yaml;
     YamlNode root;
     if (readBytes(yamlFile, text, messages) && makeText(text, messages) &&
-        prepareYaml(text, yaml, messages) && readYamlTree(yaml, root, messages)) {
+        readYaml(text, root, messages)) {
         readDescription(root, description, messages);
     }
     return !messages.hasErrors();

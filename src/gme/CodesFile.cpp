@@ -4,7 +4,6 @@
 #include "gme/CodesReader.h"
 #include "gme/CodesText.h"
 #include "gme/SourceText.h"
-#include "gme/YamlMapping.h"
 
 #include <algorithm>
 
@@ -18,8 +17,8 @@ void readContent(const YamlNode& root, GivenCodes& codes, Messages& messages)
     if (root.kind == YamlNode::Kind::Mapping) {
         values = lastValues(root, [&messages](const YamlNode& earlier, const YamlNode& last) {
             if (!isSameValue(earlier, last)) {
-                messages.warning(last.keyLine, last.key + " replaces the value of line " +
-                                                   std::to_string(earlier.keyLine));
+                messages.warning(last.keyPlace.line, last.key + " replaces the value of line " +
+                                                         std::to_string(earlier.keyPlace.line));
             }
         });
     }
@@ -64,10 +63,8 @@ bool CodesFile::read(Messages& messages)
         return false;
     }
     std::string text = oldBytes;
-    PreparedYaml yaml;
     YamlNode root;
-    if (makeText(text, messages) && prepareYaml(text, yaml, messages) &&
-        readYamlTree(yaml, root, messages)) {
+    if (makeText(text, messages) && readYaml(text, root, messages)) {
         readContent(root, known, messages);
     }
     return !messages.hasErrors();

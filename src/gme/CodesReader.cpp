@@ -2,9 +2,6 @@
 // codes file hold them.
 #include "gme/CodesReader.h"
 
-#include "gme/YamlMapping.h"
-#include "gme/YamlScalar.h"
-
 namespace gme {
 
 namespace {
@@ -17,10 +14,10 @@ std::optional<GivenCode> readCode(const YamlNode& node, const std::string& owner
     uint32_t code = 0;
     std::string problem;
     if (!readWholeNumber(node, kLargestCode, code, problem)) {
-        messages.error(node.keyLine, owner + ": the code " + problem);
+        messages.error(node.keyPlace.line, owner + ": the code " + problem);
         return std::nullopt;
     }
-    return GivenCode{static_cast<uint16_t>(code), node.keyLine};
+    return GivenCode{static_cast<uint16_t>(code), node.keyPlace.line};
 }
 
 bool isSameCode(const YamlNode& one, const YamlNode& other)
@@ -36,9 +33,9 @@ bool isSameCode(const YamlNode& one, const YamlNode& other)
 void warnAboutLostCode(const YamlNode& earlier, const YamlNode& last, Messages& messages)
 {
     if (!isSameCode(earlier, last)) {
-        messages.warning(last.keyLine, "area " + last.key + ": the code " + last.text +
-                                           " replaces " + earlier.text + " of line " +
-                                           std::to_string(earlier.keyLine));
+        messages.warning(last.keyPlace.line, "area " + last.key + ": the code " + last.text +
+                                                 " replaces " + earlier.text + " of line " +
+                                                 std::to_string(earlier.keyPlace.line));
     }
 }
 
@@ -56,7 +53,7 @@ void readScriptCodes(const YamlNode& section, std::map<std::string, GivenCode>& 
                      Messages& messages)
 {
     if (section.kind != YamlNode::Kind::Mapping) {
-        messages.error(section.keyLine, "scriptcodes: names with their codes are expected");
+        messages.error(section.keyPlace.line, "scriptcodes: names with their codes are expected");
         return;
     }
     const auto lost = [&messages](const YamlNode& earlier, const YamlNode& last) {

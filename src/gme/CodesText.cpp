@@ -2,7 +2,7 @@
 
 #include "base/TextHelpers.h"
 #include "base/Utf8.h"
-#include "gme/YamlScalar.h"
+#include "gme/Yaml.h"
 
 #include <algorithm>
 #include <string_view>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gme/YamlTree.h"
+#include "gme/Yaml.h"
 
 #include <cstdint>
 #include <map>

@@ -1,7 +1,5 @@
 #include "gme/CodesReader.h"
 #include "gme/Description.h"
-#include "gme/YamlMapping.h"
-#include "gme/YamlScalar.h"
 
 namespace gme {
 
@@ -36,8 +34,8 @@ private:
 void warnAboutLostValue(const YamlNode& earlier, const YamlNode& last, Messages& messages)
 {
     if (!isSameValue(earlier, last)) {
-        messages.warning(last.keyLine, last.key + " replaces the value of line " +
-                                           std::to_string(earlier.keyLine));
+        messages.warning(last.keyPlace.line, last.key + " replaces the value of line " +
+                                                 std::to_string(earlier.keyPlace.line));
     }
 }
 
@@ -75,7 +73,7 @@ void DescriptionReader::refuseUnsupported()
     for (const char* name : {"games", "speak", "timer"}) {
         const auto found = values.find(name);
         if (found != values.end()) {
-            messages.error(found->second->keyLine,
+            messages.error(found->second->keyPlace.line,
                            std::string(name) + ": this section is not supported");
         }
     }
@@ -88,7 +86,7 @@ void DescriptionReader::readProductId()
     if (node == nullptr) {
         messages.error(0, "product-id is missing");
     } else if (!readWholeNumber(*node, UINT32_MAX, description.productId, problem)) {
-        messages.error(node->keyLine, "product-id: " + problem);
+        messages.error(node->keyPlace.line, "product-id: " + problem);
     }
 }
 
@@ -101,10 +99,10 @@ void DescriptionReader::readText(const std::string& name, const std::string& fal
         return;
     }
     if (!isText(*node)) {
-        messages.error(node->keyLine, name + " must be a text");
+        messages.error(node->keyPlace.line, name + " must be a text");
         return;
     }
-    text = {node->text, node->line};
+    text = {node->text, node->place.line};
 }
 
 void DescriptionReader::readWelcome()
@@ -116,13 +114,13 @@ void DescriptionReader::readWelcome()
     const std::vector<YamlNode> single = {node->isScalar() ? *node : YamlNode()};
     for (const YamlNode& entry : node->isScalar() ? single : node->children) {
         if (!isText(entry) || node->kind == YamlNode::Kind::Mapping) {
-            messages.error(node->keyLine, "welcome must be a list of audio names");
+            messages.error(node->keyPlace.line, "welcome must be a list of audio names");
             return;
         }
-        description.welcome.push_back({entry.text, entry.line});
+        description.welcome.push_back({entry.text, entry.place.line});
     }
     if (description.welcome.size() > kMostLines) {
-        messages.error(node->keyLine, "welcome has more than 65535 play lists");
+        messages.error(node->keyPlace.line, "welcome has more than 65535 play lists");
     }
 }
 
@@ -130,7 +128,7 @@ void DescriptionReader::readScripts()
 {
     const YamlNode* section = value("scripts");
     const auto place = values.find("scripts");
-    const int line = place == values.end() ? 0 : place->second->keyLine;
+    const int line = place == values.end() ? 0 : place->second->keyPlace.line;
     if (section == nullptr ||
         (section->kind == YamlNode::Kind::Mapping && section->children.empty())) {
         messages.error(line, "scripts has no entry: the script of the project has no sub");
@@ -141,8 +139,9 @@ void DescriptionReader::readScripts()
         return;
     }
     const auto lost = [this](const YamlNode& earlier, const YamlNode& last) {
-        messages.warning(last.keyLine, "script " + last.key + " replaces the one of line " +
-                                           std::to_string(earlier.keyLine) + ", which is lost");
+        messages.warning(last.keyPlace.line, "script " + last.key + " replaces the one of line " +
+                                                 std::to_string(earlier.keyPlace.line) +
+                                                 ", which is lost");
     };
     for (const auto& [name, node] : lastValues(*section, lost)) {
         readScript(*node);
@@ -153,9 +152,10 @@ void DescriptionReader::readScripts()
 void DescriptionReader::readScript(const YamlNode& node)
 {
     ScriptSource& script = description.scripts[node.key];
-    script.line = node.keyLine;
+    script.line = node.keyPlace.line;
     if (isNull(node)) {
-        messages.error(node.keyLine, "script " + node.key + " has no lines (is its sub closed?)");
+        messages.error(node.keyPlace.line,
+                       "script " + node.key + " has no lines (is its sub closed?)");
         return;
     }
     if (node.kind != YamlNode::Kind::List) {
@@ -163,7 +163,7 @@ void DescriptionReader::readScript(const YamlNode& node)
         return;
     }
     if (node.children.size() > kMostLines) {
-        messages.error(node.keyLine, "script " + node.key + " has more than 65535 lines");
+        messages.error(node.keyPlace.line, "script " + node.key + " has more than 65535 lines");
         return;
     }
     for (size_t i = 0; i < node.children.size(); ++i) {
@@ -176,13 +176,14 @@ void DescriptionReader::readScriptLine(const YamlNode& node, const std::string& 
 {
     const std::string owner = "script " + script + ", its line " + std::to_string(number) + ": ";
     if (isText(node)) {
-        lines.push_back({node.text, node.line});
+        lines.push_back({node.text, node.place.line});
     } else if (isNull(node)) {
-        messages.error(node.line, owner + "there is no text");
+        messages.error(node.place.line, owner + "there is no text");
     } else if (node.isScalar()) {
-        messages.error(node.line, owner + quoted(node.text) + " is no command");
+        messages.error(node.place.line, owner + quoted(node.text) + " is no command");
     } else {
-        messages.error(node.line, owner + "a text is expected, not a list or a name with a colon");
+        messages.error(node.place.line,
+                       owner + "a text is expected, not a list or a name with a colon");
     }
 }
 
@@ -200,8 +201,9 @@ void DescriptionReader::readCodes()
 void readDescription(const YamlNode& root, Description& description, Messages& messages)
 {
     if (root.kind != YamlNode::Kind::Mapping) {
-        messages.error(root.line, "the file is no description of a game: names with values are "
-                                  "expected");
+        messages.error(root.place.line,
+                       "the file is no description of a game: names with values are "
+                       "expected");
         return;
     }
     DescriptionReader(root, description, messages).read();

@@ -3,6 +3,7 @@
 #include "base/FileSystem.h"
 #include "base/Utf8.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <string_view>
@@ -18,6 +19,11 @@ struct CloseFile
 };
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+// What is left without comments is far below this for the largest game that can be built.
+constexpr size_t kLargestYaml = 16U << 20;
+// The parser's time for a text grows with the longest gap in it.
+constexpr size_t kLongestGap = 4096;
 
 bool isAllowed(char32_t c)
 {
@@ -59,11 +65,27 @@ void unifyLineEnds(std::string& text)
     text.resize(to);
 }
 
+bool isPrintableAscii(char c)
+{
+    return c > ' ' && c <= '~';
+}
+
+bool isSpace(char32_t c)
+{
+    return c == ' ' || c == '\t' || c == '\n';
+}
+
 bool checkCharacters(std::string_view text, Messages& messages)
 {
     int line = 1;
+    size_t gap = 0;
     char32_t c = 0;
     while (!text.empty()) {
+        if (isPrintableAscii(text[0])) {  // nearly everything
+            text.remove_prefix(1);
+            gap = 0;
+            continue;
+        }
         if (!Utf8::takeCharacter(text, c)) {
             messages.error(line, "the text is not valid UTF-8");
             return false;
@@ -72,9 +94,32 @@ bool checkCharacters(std::string_view text, Messages& messages)
             messages.error(line, kindOf(c) + nameOf(c) + " is not allowed");
             return false;
         }
+        gap = isSpace(c) ? gap + 1 : 0;
+        if (gap > kLongestGap) {
+            messages.error(line, "more than 4096 blanks or line ends follow each other");
+            return false;
+        }
         line += c == '\n' ? 1 : 0;
     }
     return true;
+}
+
+// Intended: a tab may indent a line without anything but a comment, which the parser would refuse.
+// Returns the size of all other lines in bytes: what there is to parse.
+size_t blankTabs(std::string& text)
+{
+    size_t size = 0;
+    for (auto begin = text.begin(); begin != text.end();) {
+        const auto end = std::find(begin, text.end(), '\n');
+        const auto first = std::find_if(begin, end, [](char c) { return c != ' ' && c != '\t'; });
+        if (first == end || *first == '#') {
+            std::replace(begin, first, '\t', ' ');
+        } else {
+            size += static_cast<size_t>(end - begin);
+        }
+        begin = end == text.end() ? end : end + 1;
+    }
+    return size;
 }
 
 }  // namespace
@@ -105,7 +150,14 @@ bool makeText(std::string& bytes, Messages& messages)
         bytes.erase(0, kByteOrderMark.size());
     }
     unifyLineEnds(bytes);
-    return checkCharacters(bytes, messages);
+    if (!checkCharacters(bytes, messages)) {
+        return false;
+    }
+    if (blankTabs(bytes) > kLargestYaml) {
+        messages.error(0, "more than 16 MiB of YAML besides its comments");
+        return false;
+    }
+    return true;
 }
 
 }  // namespace gme

@@ -1,4 +1,4 @@
-#include "gme/YamlScalar.h"
+#include "gme/Yaml.h"
 
 #include <algorithm>
 #include <iterator>

@@ -5,11 +5,12 @@
 #include "gme/SourceText.h"
 #include "tests/gme/GameFolder.h"
 #include "tests/gme/PenSimulator.h"
+#include "tests/helpers/CapturedMessages.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <set>
-#include <yaml-cpp/yaml.h>
 
 namespace fs = std::filesystem;
 
@@ -38,11 +39,10 @@ GameNames::GameNames(const std::string& yamlFile)
 {
     gme::Messages messages(yamlFile, nullptr);
     std::string text;
-    gme::PreparedYaml yaml;
     gme::YamlNode root;
     gme::Description description;
     if (gme::readBytes(yamlFile, text, messages) && gme::makeText(text, messages) &&
-        gme::prepareYaml(text, yaml, messages) && gme::readYamlTree(yaml, root, messages)) {
+        gme::readYaml(text, root, messages)) {
         gme::readDescription(root, description, messages);
     }
     for (const auto& [name, script] : description.scripts) {
@@ -116,12 +116,21 @@ std::string GameNames::plays(const std::vector<std::vector<unsigned>>& media) co
     return text;
 }
 
+const gme::YamlNode& valueOf(const gme::YamlNode& mapping, const std::string& name)
+{
+    static const gme::YamlNode none;
+    const auto found =
+        std::find_if(mapping.children.begin(), mapping.children.end(),
+                     [&name](const gme::YamlNode& value) { return value.key == name; });
+    return found == mapping.children.end() ? none : *found;
+}
+
 // The same texts from what is expected.
-std::string expectedRegisters(const YAML::Node& tap)
+std::string expectedRegisters(const gme::YamlNode& tap)
 {
     std::map<std::string, std::string> sorted;
-    for (const auto& entry : tap["registers"]) {
-        sorted[entry.first.as<std::string>()] = entry.second.as<std::string>();
+    for (const gme::YamlNode& entry : valueOf(tap, "registers").children) {
+        sorted[entry.key] = entry.text;
     }
     std::string text;
     for (const auto& [name, value] : sorted) {
@@ -130,13 +139,13 @@ std::string expectedRegisters(const YAML::Node& tap)
     return text;
 }
 
-std::string expectedPlays(const YAML::Node& tap)
+std::string expectedPlays(const gme::YamlNode& tap)
 {
     std::string text;
-    for (const YAML::Node& files : tap["plays"]) {
+    for (const gme::YamlNode& files : valueOf(tap, "plays").children) {
         text += "[ ";
-        for (const YAML::Node& name : files) {
-            text += name.as<std::string>() + " ";
+        for (const gme::YamlNode& name : files.children) {
+            text += name.text + " ";
         }
         text += "] ";
     }
@@ -163,11 +172,16 @@ protected:
         }
     }
 
-    YAML::Node taps() const
+    // JSON is YAML, too.
+    std::vector<gme::YamlNode> taps() const
     {
-        for (const YAML::Node& entry : YAML::LoadFile((vectors() / "simulation.json").string())) {
-            if (entry["vector"].as<std::string>() == GetParam()) {
-                return entry["taps"];
+        CapturedMessages captured;
+        gme::Messages messages("simulation.json", CapturedMessages::print);
+        gme::YamlNode vectorList;
+        gme::readYaml(readFile((vectors() / "simulation.json").string()), vectorList, messages);
+        for (const gme::YamlNode& entry : vectorList.children) {
+            if (valueOf(entry, "vector").text == GetParam()) {
+                return valueOf(entry, "taps").children;
             }
         }
         return {};
@@ -187,9 +201,9 @@ TEST_P(PlayedVector, ShowsTheExpectedRegistersAndSoundsAfterEveryTap)
     PenSimulator pen(assembled.game);
 
     ASSERT_GT(taps().size(), 0U);
-    for (const YAML::Node& tap : taps()) {
-        SCOPED_TRACE(tap["name"].as<std::string>());
-        EXPECT_TRUE(pen.tap(tap["code"].as<uint32_t>()));
+    for (const gme::YamlNode& tap : taps()) {
+        SCOPED_TRACE(valueOf(tap, "name").text);
+        EXPECT_TRUE(pen.tap(static_cast<uint32_t>(std::stoul(valueOf(tap, "code").text))));
         EXPECT_EQ(names.nonZeroRegisters(pen), expectedRegisters(tap));
         EXPECT_EQ(names.plays(pen.takePlays()), expectedPlays(tap));
     }
