@@ -9,7 +9,7 @@ run_packages=(espeak-ng ffmpeg libqt5svg5 qttranslations5-l10n
     fonts-dejavu-core fonts-noto-color-emoji)
 test_packages=(
     libgtest-dev libgmock-dev locales
-    libtiff-tools qt5-image-formats-plugins
+    imagemagick libtiff-tools qt5-image-formats-plugins
     xvfb xauth openbox xdotool
 )
 
