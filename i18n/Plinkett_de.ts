@@ -391,6 +391,17 @@
     </message>
 </context>
 <context>
+    <name>ProductNameNote</name>
+    <message>
+        <source>Not possible in the name: %1</source>
+        <translation>Im Namen nicht möglich: %1</translation>
+    </message>
+    <message>
+        <source>%1 characters, at most %2</source>
+        <translation>%1 Zeichen, höchstens %2</translation>
+    </message>
+</context>
+<context>
     <name>NumberBar</name>
     <message>
         <source>This book gets another number</source>

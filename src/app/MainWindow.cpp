@@ -3,6 +3,7 @@
 #include "app/DecimalComma.h"
 #include "app/FileDialogs.h"
 #include "app/NumberBar.h"
+#include "app/ProductNameNote.h"
 #include "app/StorableName.h"
 #include "base/FileSystem.h"
 #include "oid/OpenProject.h"
@@ -30,6 +31,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     takeDecimalCommas();
     prepareNotices();
     new StorableName(ui->txPolyName);
+    new ProductNameNote(ui->txProjectName, ui->lbProjectNameProblems);
     ui->polyArea->setProject(&project);
     connect(ui->polyArea, &PolyEditorWidget::clickedLB, this, &MainWindow::onPolyAreaClickedLB);
     setDefaultPrintf(KVQtStdoutWidget::redirectPrintf);

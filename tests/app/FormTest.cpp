@@ -45,6 +45,7 @@ private slots:
         row("groupBox_3", "QGroupBox", "Project");
         row("label_8", "QLabel", "Project Name");
         row("txProjectName", "QLineEdit");
+        row("lbProjectNameProblems", "QLabel");
         row("label_9", "QLabel", "Project ID");
         row("widget", "QWidget");
         row("txProjectId", "QSpinBox");
