@@ -1,0 +1,319 @@
+#include "document/Document.h"
+
+#include <algorithm>
+#include <utility>
+
+// The history: which step is being made, going back and forth, and what is told of it. How each
+// edit is carried out stands in DocumentEdits.cpp.
+
+constexpr int kNoPage = -2;  // for what belongs to no page
+
+Document::Document(QObject* parent)
+    : QObject(parent),
+      contents(record),
+      history([this](const Step& step, bool forward) { forgetStep(step, forward); }),
+      naming(record)
+{
+    setClean();
+}
+
+Document::~Document() = default;
+
+void Document::restart()
+{
+    endGesture();
+    history.clear();
+    contents.restart();
+    selection = {};
+    state = ++states;
+    setClean();
+    note(Change::everything, -1);
+    tell();
+}
+
+bool Document::apply(const Edit& edit, Gesture gesture)
+{
+    if (gesture == Gesture::none || gesture != openGesture) {
+        endGesture();
+    }
+    asked = gesture;
+    const bool done = std::visit([this](const auto& one) { return carryOut(one); }, edit);
+    tell();
+    return done;
+}
+
+Gesture Document::newGesture()
+{
+    return Gesture(++gestures);
+}
+
+void Document::endGesture()
+{
+    naming.finish();
+    closeStep();
+    openGesture = Gesture::none;
+}
+
+void Document::takeBack(Gesture gesture)
+{
+    if (gesture == Gesture::none || gesture != openGesture) {
+        return;
+    }
+    naming.finish();
+    openGesture = Gesture::none;
+    if (open) {
+        Step step = contents.stepOf(*open);
+        open.reset();
+        if (carryOver(step, false)) {
+            forgetStep(step, true);
+        }
+        tell();
+    }
+}
+
+bool Document::follow(const Edit& edit)
+{
+    const Following all(*this);
+    return std::visit([this](const auto& one) { return carryOut(one); }, edit);
+}
+
+// A step in which the author still works takes part in what follows; else there is one of its own
+// kind. Before the first step there is nothing to go back to.
+Document::Following::Following(Document& followed) : document(followed)
+{
+    document.following = true;
+}
+
+Document::Following::~Following()
+{
+    if (document.open && document.open->silent) {
+        document.closeStep();
+    }
+    document.following = false;
+    document.tell();
+}
+
+Recording& Document::beginStep()
+{
+    if (!open) {
+        open.emplace();
+        open->selection = selection;
+        open->state = state;
+        open->silent = following;
+        openGesture = following ? Gesture::none : asked;
+    }
+    state = ++states;
+    note(Change::history, kNoPage);
+    return *open;
+}
+
+void Document::forgetUnchangedFiles(Recording& recording)
+{
+    std::vector<KeptFile>& files = recording.files;
+    const auto unchanged = [this](const KeptFile& file) {
+        const bool same = keptFiles.isAsKept(record.pathImageSource(file.page), file);
+        if (same) {
+            keptFiles.forget(file);
+        }
+        return same;
+    };
+    files.erase(std::remove_if(files.begin(), files.end(), unchanged), files.end());
+}
+
+void Document::closeStep()
+{
+    if (!open) {
+        return;
+    }
+    forgetUnchangedFiles(*open);
+    Step step = contents.stepOf(*open);
+    open.reset();
+    if (step.empty()) {
+        state = step.stateBefore;
+        return;
+    }
+    step.selectionAfter = selection;
+    step.stateAfter = state;
+    if (step.silent && !history.canUndo()) {
+        history.forgetUndone();
+        forgetStep(step, false);
+        return;
+    }
+    history.add(std::move(step));
+    while (history.isTooLarge(contents.parkedBytes())) {
+        history.dropOldest();
+    }
+}
+
+void Document::forgetStep(const Step& step, bool forward)
+{
+    contents.forget(step, forward);
+    for (const KeptFile& file : step.files) {
+        keptFiles.forget(file);
+    }
+}
+
+bool Document::canUndo() const
+{
+    return open.has_value() || history.canUndo();
+}
+
+bool Document::canRedo() const
+{
+    return !open && history.canRedo();
+}
+
+bool Document::undo()
+{
+    endGesture();
+    while (const Step* const last = history.lastDone()) {
+        const bool silent = last->silent;
+        if (!carryOver(*history.toUndo(), false)) {
+            break;
+        }
+        history.moveToUndone();
+        if (!silent) {
+            tell();
+            return true;
+        }
+    }
+    tell();
+    return false;
+}
+
+bool Document::redo()
+{
+    endGesture();
+    bool done = false;
+    while (history.canRedo() && (!done || history.redoGoesOn()) &&
+           carryOver(*history.toRedo(), true)) {
+        history.moveToDone();
+        done = true;
+    }
+    tell();
+    return done;
+}
+
+bool Document::carryOver(Step& step, bool forward)
+{
+    if (!exchangeFiles(step)) {
+        return false;
+    }
+    contents.apply(step, forward);
+    selection = forward ? step.selectionAfter : step.selectionBefore;
+    state = forward ? step.stateAfter : step.stateBefore;
+    noteStep(step);
+    return true;
+}
+
+// All or none.
+bool Document::exchangeFiles(Step& step)
+{
+    const auto exchange = [&](std::size_t i) {
+        return keptFiles.exchange(record.pathImageSource(step.files[i].page), step.files[i]);
+    };
+    for (std::size_t i = 0; i < step.files.size(); ++i) {
+        if (!exchange(i)) {
+            while (i-- > 0) {
+                exchange(i);
+            }
+            return false;
+        }
+    }
+    return true;
+}
+
+void Document::setClean()
+{
+    endGesture();
+    cleanState = state;
+    cleanProductName = record.productName;
+    cleanProductId = record.productId;
+    note(Change::history, kNoPage);
+    tell();
+}
+
+bool Document::isClean() const
+{
+    return state == cleanState && record.productName == cleanProductName &&
+           record.productId == cleanProductId;
+}
+
+void Document::setProduct(const std::string& name, int id)
+{
+    if (name == record.productName && id == record.productId) {
+        return;
+    }
+    record.productName = name;
+    record.productId = id;
+    note(Change::product | Change::history, kNoPage);
+    tell();
+}
+
+void Document::select(int page, int area)
+{
+    const Selection chosen{page, area};
+    if (chosen == selection) {
+        return;
+    }
+    endGesture();
+    selection = chosen;
+    if (Step* const last = history.toUndo(); last != nullptr && last->stateAfter == state) {
+        last->selectionAfter = chosen;  // so redoing leads to what the author chose then
+    }
+    note(Change::selection, page);
+    tell();
+}
+
+void Document::noteStep(const Step& step)
+{
+    note(Change::history, kNoPage);
+    note(Change::selection, kNoPage);
+    for (const AreaOrderChange& order : step.orders) {
+        note(Change::areas, -1);
+        news.changed.insert(news.changed.end(), order.areas.before.begin(),
+                            order.areas.before.end());
+        news.changed.insert(news.changed.end(), order.areas.after.begin(), order.areas.after.end());
+    }
+    for (const CornersChange& change : step.corners) {
+        note(Change::corners, contents.placeOf(change.area).page, change.area);
+    }
+    for (const auto& change : step.names) {
+        note(Change::names, contents.placeOf(change.key).page, change.key);
+    }
+    if (!step.numbers.empty()) {
+        note(Change::numbers, -1);
+    }
+    if (!step.pages.empty()) {
+        note(Change::pages, -1);
+    }
+    if (!step.papers.empty()) {
+        note(Change::paper, -1);
+    }
+    for (const KeptFile& file : step.files) {
+        note(Change::pictureFile, file.page);
+    }
+}
+
+void Document::note(unsigned what, int page, AreaId area)
+{
+    if (page != kNoPage) {
+        news.page = newsPageKnown && news.page != page ? -1 : page;
+        newsPageKnown = true;
+    }
+    news.what |= what;
+    if (area != AreaId::none) {
+        news.changed.push_back(area);
+    }
+}
+
+void Document::tell()
+{
+    if (news.what == 0 || following) {
+        return;
+    }
+    // Who hears of it may go on editing.
+    const Change told = std::exchange(news, Change());
+    newsPageKnown = false;
+    emit changed(told);
+}

@@ -1,0 +1,144 @@
+#pragma once
+
+#include <QObject>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "document/Change.h"
+#include "document/Contents.h"
+#include "document/History.h"
+#include "oid/AreaNaming.h"
+
+// Edits of one gesture, such as a drag or the typing of a name, are one step of the history.
+enum class Gesture : std::uint64_t { none = 0 };
+
+// The project that the author works on, with the selection and the history of its pages and areas.
+// They are changed by edits alone. The script has a history of its own, in its editor.
+class Document : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Document(QObject* parent = nullptr);
+    ~Document() override;
+
+    const Oid::OidProject& project() const { return record; }
+    // The record for what is no edit: reading, writing, building and printing it. After reading
+    // another project into it comes restart; pages and areas are not changed through it.
+    Oid::OidProject& projectRecord() { return record; }
+    // The record holds another project: it is as in its file, and nothing can be undone.
+    void restart();
+
+    // Carries the edit out, as a step of the history or, when the last one was of the same gesture,
+    // as a part of it. What is like that already makes no step. False, and nothing is changed, when
+    // the document has no such page or area, or a picture file could not be written.
+    bool apply(const Edit& edit, Gesture gesture = Gesture::none);
+    // One that no edit had yet.
+    Gesture newGesture();
+    // Nothing more belongs to the gesture.
+    void endGesture();
+    // Takes back all that the gesture did, as if it had never been.
+    void takeBack(Gesture gesture);
+
+    // Carries an edit out that the author did not ask for by itself: it comes and goes with the
+    // step before it.
+    bool follow(const Edit& edit);
+    // Turns the corners of the page's areas to the one orientation that print images use; follows.
+    void orientAreas(int page);
+    // The number of the area's name. A name without one is entered with 0; follows.
+    int numberOf(AreaId area);
+    // Gives a number to every area that has none or 0; follows.
+    void numberAllAreas();
+
+    bool canUndo() const;
+    bool canRedo() const;
+    // False when there is nothing to undo (or redo), or a picture file could not be written;
+    // nothing is changed then.
+    bool undo();
+    bool redo();
+
+    // Pages, areas, product are as in the file from now on.
+    void setClean();
+    bool isClean() const;
+
+    void setProduct(const std::string& name, int id);
+
+    int currentPage() const { return selection.page; }
+    // May be beyond the areas of the page; then no area is selected.
+    int selectedIndex() const { return selection.area; }
+    AreaId selectedArea() const { return contents.areaAt(selection.page, selection.area); }
+    void select(int page, int area);
+
+    AreaId areaAt(int page, int index) const { return contents.areaAt(page, index); }
+    // Page -1 when the area is not there.
+    Contents::Place placeOf(AreaId area) const { return contents.placeOf(area); }
+
+signals:
+    void changed(const Change& change);
+
+private:
+    // While it lives, what is done follows the last step.
+    class Following
+    {
+    public:
+        explicit Following(Document& followed);
+        ~Following();
+        Following(const Following&) = delete;
+        Following& operator=(const Following&) = delete;
+
+    private:
+        Document& document;
+    };
+
+    bool carryOut(const edit::AddArea& add);
+    bool carryOut(const edit::RemoveArea& remove);
+    bool carryOut(const edit::SetCorners& set);
+    bool carryOut(const edit::MoveAreas& move);
+    bool carryOut(const edit::RenameArea& rename);
+    bool carryOut(const edit::SetNumber& set);
+    bool carryOut(const edit::ReorderArea& reorder);
+    bool carryOut(const edit::SetPaper& set);
+    bool carryOut(const edit::AddPage& add);
+    bool carryOut(const edit::ReplacePicture& replace);
+
+    // Begins a step, unless this belongs to the one that is being made.
+    Recording& beginStep();
+    void closeStep();
+    void touchOrder(int page);
+    void touchNumber(const std::string& name);
+    void setCorners(AreaId area, std::vector<Oid::PNT> corners);
+    void numberNewAreas();
+    bool replaceFile(int page, const QByteArray& file);
+
+    // Both leave all as it was when a picture file could not be written.
+    bool carryOver(Step& step, bool forward);
+    bool exchangeFiles(Step& step);
+    void forgetUnchangedFiles(Recording& recording);
+    Oid::POLY* living(AreaId area);
+    void noteStep(const Step& step);
+    void note(unsigned what, int page, AreaId area = AreaId::none);
+    void tell();
+    void forgetStep(const Step& step, bool forward);
+
+    Oid::OidProject record;
+    Contents contents;
+    History history;
+    Oid::AreaNaming naming;
+    KeptFiles keptFiles;
+    Selection selection;
+
+    std::optional<Recording> open;  // the step that is being made
+    Gesture openGesture = Gesture::none;
+    Gesture asked = Gesture::none;  // of the edit that is being carried out
+    bool following = false;         // it is no step of the author's
+    std::uint64_t gestures = 0;
+    std::uint64_t states = 0;  // that the project has been in
+    std::uint64_t state = 0;
+    std::uint64_t cleanState = 0;
+    std::string cleanProductName;
+    int cleanProductId = 0;
+    Change news;  // since the last signal
+    bool newsPageKnown = false;
+};

@@ -1,0 +1,279 @@
+// How each edit is carried out: what it touches is recorded first, so that it can be undone.
+#include "document/Document.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "oid/OidTable.h"
+
+namespace {
+
+// In percent of the width: a millionth. Sums of such values are exact, so that areas can be moved
+// to and fro, and the way is all that the history has to keep.
+constexpr double kGrid = 1.0 / (1 << 20);
+
+double onGrid(double value)
+{
+    return std::round(value / kGrid) * kGrid;
+}
+
+}  // namespace
+
+// The area that an edit names; null for one that is not on any page.
+Oid::POLY* Document::living(AreaId area)
+{
+    return contents.placeOf(area).page >= 0 ? contents.area(area) : nullptr;
+}
+
+void Document::touchOrder(int page)
+{
+    const PageId id = contents.pageAt(page);
+    beginStep().orders.try_emplace(id, contents.areasOf(id));
+}
+
+void Document::touchNumber(const std::string& name)
+{
+    beginStep().numbers.try_emplace(name, contents.number(name));
+}
+
+bool Document::carryOut(const edit::AddArea& add)
+{
+    if (contents.pageAt(add.page) == PageId::none) {
+        return false;
+    }
+    touchOrder(add.page);
+    const std::size_t count = contents.areasOf(contents.pageAt(add.page)).size();
+    const std::size_t index =
+        add.index < 0 ? count : std::min(static_cast<std::size_t>(add.index), count);
+    const AreaId area = contents.addArea(add.page, index, add.area);
+    numberNewAreas();
+    note(Change::areas | Change::numbers, add.page, area);
+    return true;
+}
+
+// As OidProject::updateUsedOIDs does it, for all areas whose name is not in the table.
+void Document::numberNewAreas()
+{
+    for (const Oid::PICTURE& page : record.pictures) {
+        for (const Oid::POLY& area : page.polys) {
+            if (!contents.number(area.name)) {
+                touchNumber(area.name);
+            }
+        }
+    }
+    record.updateUsedOIDs();
+}
+
+bool Document::carryOut(const edit::RemoveArea& remove)
+{
+    const int page = contents.placeOf(remove.area).page;
+    if (page < 0) {
+        return false;
+    }
+    touchOrder(page);
+    contents.removeArea(remove.area);
+    note(Change::areas, page, remove.area);
+    return true;
+}
+
+void Document::setCorners(AreaId area, std::vector<Oid::PNT> corners)
+{
+    std::vector<Oid::PNT>& now = contents.area(area)->points;
+    const auto same = [](const Oid::PNT& a, const Oid::PNT& b) { return a.x == b.x && a.y == b.y; };
+    if (std::equal(now.begin(), now.end(), corners.begin(), corners.end(), same)) {
+        return;
+    }
+    beginStep().corners.try_emplace(area, now);
+    now = std::move(corners);
+    note(Change::corners, contents.placeOf(area).page, area);
+}
+
+bool Document::carryOut(const edit::SetCorners& set)
+{
+    if (living(set.area) == nullptr) {
+        return false;
+    }
+    setCorners(set.area, set.corners);
+    return true;
+}
+
+bool Document::carryOut(const edit::MoveAreas& move)
+{
+    for (const AreaId id : move.areas) {
+        if (living(id) == nullptr) {
+            return false;
+        }
+    }
+    if (move.by.x == 0 && move.by.y == 0) {
+        return true;
+    }
+    for (const AreaId id : move.areas) {
+        std::vector<Oid::PNT> corners = contents.area(id)->points;
+        for (Oid::PNT& corner : corners) {
+            corner = {onGrid(corner.x + move.by.x), onGrid(corner.y + move.by.y)};
+        }
+        setCorners(id, std::move(corners));
+    }
+    return true;
+}
+
+bool Document::carryOut(const edit::RenameArea& rename)
+{
+    Oid::POLY* const area = living(rename.area);
+    if (area == nullptr || area->name == rename.name) {
+        return area != nullptr;
+    }
+    beginStep().names.try_emplace(rename.area, area->name);
+    touchNumber(area->name);
+    touchNumber(rename.name);
+    naming.rename(*area, rename.name);
+    note(Change::names | Change::numbers, contents.placeOf(rename.area).page, rename.area);
+    return true;
+}
+
+bool Document::carryOut(const edit::SetNumber& set)
+{
+    const Oid::POLY* const area = living(set.area);
+    if (area == nullptr) {
+        return false;
+    }
+    const Number now = contents.number(area->name);
+    if (!now || now->oid != set.oid) {
+        touchNumber(area->name);
+        contents.setNumber(area->name, Oid::tableEntry(set.oid));
+        note(Change::numbers, contents.placeOf(set.area).page, set.area);
+    }
+    return true;
+}
+
+bool Document::carryOut(const edit::ReorderArea& reorder)
+{
+    const Contents::Place place = contents.placeOf(reorder.area);
+    const AreaId there = contents.areaAt(place.page, reorder.index);
+    if (place.page < 0 || there == AreaId::none) {
+        return false;
+    }
+    if (there != reorder.area) {
+        touchOrder(place.page);
+        contents.moveArea(reorder.area, static_cast<std::size_t>(reorder.index));
+        note(Change::areas, place.page, reorder.area);
+    }
+    return true;
+}
+
+bool Document::carryOut(const edit::SetPaper& set)
+{
+    const PageId id = contents.pageAt(set.page);
+    if (id == PageId::none) {
+        return false;
+    }
+    Oid::PICTURE& page = *contents.page(id);
+    if (page.paperWidth == set.width && page.paperHeight == set.height && page.dpi == set.dpi) {
+        return true;
+    }
+    beginStep().papers.try_emplace(id, Paper{page.paperWidth, page.paperHeight, page.dpi});
+    page.paperWidth = set.width;
+    page.paperHeight = set.height;
+    page.dpi = set.dpi;
+    note(Change::paper, set.page);
+    return true;
+}
+
+bool Document::replaceFile(int page, const QByteArray& file)
+{
+    KeptFile kept;
+    kept.page = page;
+    if (!keptFiles.replace(record.pathImageSource(page), file, kept)) {
+        return false;
+    }
+    std::vector<KeptFile>& files = beginStep().files;
+    const bool isKept = std::any_of(files.begin(), files.end(),
+                                    [&](const KeptFile& one) { return one.page == page; });
+    if (isKept) {
+        keptFiles.forget(kept);  // only what was there before the step comes back
+    } else {
+        files.push_back(kept);
+    }
+    note(Change::pictureFile, page);
+    return true;
+}
+
+bool Document::carryOut(const edit::AddPage& add)
+{
+    const int page = static_cast<int>(contents.pages().size());
+    if (!add.file.isEmpty() && !replaceFile(page, add.file)) {
+        return false;
+    }
+    Recording& recording = beginStep();
+    if (!recording.pages) {
+        recording.pages = contents.pages();
+    }
+    contents.addPage(add.page);
+    note(Change::pages, page);
+    return true;
+}
+
+bool Document::carryOut(const edit::ReplacePicture& replace)
+{
+    return contents.pageAt(replace.page) != PageId::none && replaceFile(replace.page, replace.file);
+}
+
+void Document::orientAreas(int page)
+{
+    const Following all(*this);
+    const PageId id = contents.pageAt(page);
+    if (id == PageId::none) {
+        return;
+    }
+    for (const AreaId area : contents.areasOf(id)) {
+        std::vector<Oid::PNT> corners = contents.area(area)->points;
+        Oid::ccwpoly(corners);
+        setCorners(area, std::move(corners));
+    }
+}
+
+int Document::numberOf(AreaId area)
+{
+    const Following all(*this);
+    const Oid::POLY* const found = living(area);
+    if (found == nullptr) {
+        return 0;
+    }
+    if (!contents.number(found->name)) {
+        touchNumber(found->name);
+        contents.setNumber(found->name, Oid::OidProject::OID());
+        note(Change::numbers, -1, area);
+    }
+    return contents.number(found->name)->oid;
+}
+
+void Document::numberAllAreas()
+{
+    const Following all(*this);
+    const auto hasNone = [this](const std::string& name) {
+        const Number number = contents.number(name);
+        return !number || number->oid == 0;
+    };
+    std::vector<std::string> unnumbered;
+    for (const Oid::PICTURE& page : record.pictures) {
+        for (const Oid::POLY& area : page.polys) {
+            if (hasNone(area.name)) {
+                unnumbered.push_back(area.name);
+            }
+        }
+    }
+    if (unnumbered.empty()) {
+        return;
+    }
+    for (const auto& entry : record.oids) {
+        if (entry.second.oid == 0) {
+            touchNumber(entry.first);
+        }
+    }
+    for (const std::string& name : unnumbered) {
+        touchNumber(name);
+    }
+    Oid::numberAllAreas(record);
+    note(Change::numbers, -1);
+}

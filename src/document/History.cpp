@@ -1,0 +1,51 @@
+#include "document/History.h"
+
+#include <utility>
+
+void History::clear()
+{
+    done.clear();
+    undone.clear();
+    bytes = 0;
+}
+
+void History::add(Step step)
+{
+    forgetUndone();
+    bytes += step.bytes();
+    done.push_back(std::move(step));
+}
+
+void History::forgetUndone()
+{
+    for (; !undone.empty(); undone.pop_back()) {
+        bytes -= undone.back().bytes();
+        forget(undone.back(), true);
+    }
+}
+
+bool History::isTooLarge(std::size_t bytesElsewhere) const
+{
+    return done.size() > 1 && bytes + bytesElsewhere > kMostBytes;
+}
+
+void History::dropOldest()
+{
+    do {
+        bytes -= done.front().bytes();
+        forget(done.front(), false);
+        done.pop_front();
+    } while (!done.empty() && done.front().silent);
+}
+
+void History::moveToUndone()
+{
+    undone.push_back(std::move(done.back()));
+    done.pop_back();
+}
+
+void History::moveToDone()
+{
+    done.push_back(std::move(undone.back()));
+    undone.pop_back();
+}
