@@ -2,19 +2,9 @@
 
 #include "app/cli/Commands.h"
 #include "oid/OpenProject.h"
-#include "oid/PrintImage.h"
+#include "oid/PrintJob.h"
 
 namespace {
-
-// All of them, even when one fails: the author gets all messages and as many images as possible.
-bool printPictures(Oid::OidProject& project, int first, int last)
-{
-    bool complete = true;
-    for (int n = first; n <= last; ++n) {
-        complete = makeImage(n, project) && complete;
-    }
-    return complete;
-}
 
 int print(const Arguments& arguments)
 {
@@ -35,7 +25,8 @@ int print(const Arguments& arguments)
         return usageError("there is no picture " + std::to_string(*chosen) + ", the last is " +
                           std::to_string(last));
     }
-    return printPictures(project, chosen.value_or(0), chosen.value_or(last)) ? kFine : kFailed;
+    const PrintJobResult result = makeImages(chosen.value_or(0), chosen.value_or(last), project);
+    return result.firstFailed < 0 ? kFine : kFailed;
 }
 
 }  // namespace
