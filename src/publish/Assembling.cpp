@@ -3,6 +3,7 @@
 #include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
+#include "publish/GameFile.h"
 #include "publish/OutsideProgram.h"
 #include "publish/ProcessRunner.h"
 
@@ -46,15 +47,39 @@ void explainInstallation()
     printToStandardOutput("-Set the environment variable TIPTOITOOL to this directory.\n");
 }
 
+// A failed assembler may have left the game file as it was, removed it, or left a part of a new
+// one.
+void sayNotMade(const std::string& game, const QDateTime& before, ProcessRunner& runner)
+{
+    const QDateTime now = timeOfChange(game);
+    std::string older = "There is no older one.";
+    if (now.isValid()) {
+        older = now == before ? "An older one of " + dayAndMinute(now) + " still lies there."
+                              : "What lies in its place is not whole.";
+    }
+    runner.echo(("The game file was not made. " + older + "\n").c_str());
+}
+
 // Intended: "done." tells that the program has started. What it has to say follows.
 bool startProgram(const std::string& program, const Oid::OidProject& project, const char* failure,
                   ProcessRunner& runner)
 {
     mi_printf("Compiling yaml to gme...\n");
+    const std::string game = project.pathGme();
+    const QDateTime before = timeOfChange(game);
     const std::string command = program + " " + commandPath(project.pathYaml());
-    const bool started = runner.exec(KVString(command), false);
-    mi_printf(started ? "done.\n" : failure);
-    return started;
+    if (!runner.exec(KVString(command), false)) {
+        mi_printf(failure);
+        sayNotMade(game, before, runner);
+        return false;
+    }
+    mi_printf("done.\n");
+    runner.whenEnded([game, before, &runner] {
+        if (runner.exitCode() != 0) {
+            sayNotMade(game, before, runner);
+        }
+    });
+    return true;
 }
 
 }  // namespace

@@ -1,18 +1,62 @@
 #include "publish/PenCopy.h"
 
 #include <algorithm>
+#include <filesystem>
 
 #include "base/FileSystem.h"
+#include "base/PlatformFiles.h"
+#include "base/TextHelpers.h"
 #include "oid/OidProject.h"
+#include "publish/GameFile.h"
 #include "publish/ProcessRunner.h"
 
-static bool isPen(const std::string& volume)
+namespace fs = std::filesystem;
+
+namespace {
+
+bool isPen(const std::string& volume)
 {
-    return Platform::folderHolds(volume, "tiptoi.ico");
+    return Platform::folderHolds(volume, kPenMark);
 }
 
-PenCopy copyGmeToPen(const Oid::OidProject& project, ProcessRunner& runner,
-                     const std::vector<std::string>& volumes)
+void say(const std::string& line, ProcessRunner& runner)
+{
+    runner.echo((line + "\n").c_str());
+}
+
+void sayWhenOutdated(const Oid::OidProject& project, const std::string& script,
+                     ProcessRunner& runner)
+{
+    if (isGameOutdated(project, script)) {
+        say("Warning: The game is of " + dayAndMinute(timeOfChange(project.pathGme())) +
+                "; the script, the areas or the speech have changed since then",
+            runner);
+    }
+}
+
+bool isSameFile(const std::string& one, const std::string& other)
+{
+    std::error_code ignored;
+    return fs::equivalent(fs::u8path(Platform::nativePath(one)),
+                          fs::u8path(Platform::nativePath(other)), ignored);
+}
+
+void sayOthersOfItsNumber(const std::string& root, const std::string& copy, int productId,
+                          ProcessRunner& runner)
+{
+    for (const std::string& name : gamesWithId(root, static_cast<std::uint32_t>(productId))) {
+        if (!isSameFile(root + FileSystem::directorySeparator + name, copy)) {
+            say("Warning: Another game on the pen has the number " + itostr(productId) +
+                    ", too: " + name,
+                runner);
+        }
+    }
+}
+
+}  // namespace
+
+PenCopy copyGmeToPen(const Oid::OidProject& project, const std::string& script,
+                     ProcessRunner& runner, const std::vector<std::string>& volumes)
 {
     const std::string gme = project.pathGme();
     const auto pen = std::find_if(volumes.begin(), volumes.end(), isPen);
@@ -20,9 +64,21 @@ PenCopy copyGmeToPen(const Oid::OidProject& project, ProcessRunner& runner,
         return PenCopy::noPen;
     }
     runner.echo("Copy to Pen...\n");
-    const std::string name = FileSystem::getFilenameOfPath(gme);
-    const bool copied =
-        FileSystem::copyFileContent(gme, *pen + FileSystem::directorySeparator + name);
-    runner.echo(copied ? "done.\n" : "failed.\n");
-    return copied ? PenCopy::done : PenCopy::failed;
+    sayWhenOutdated(project, script, runner);
+    const std::string copy =
+        *pen + FileSystem::directorySeparator + FileSystem::getFilenameOfPath(gme);
+    if (!FileSystem::copyFileContent(gme, copy)) {
+        runner.echo("failed.\n");
+        return PenCopy::failed;
+    }
+    runner.echo("done.\n");
+    say("Copied to " + Platform::nativePath(copy), runner);
+    sayOthersOfItsNumber(*pen, copy, project.productId, runner);
+    return PenCopy::done;
+}
+
+PenCopy copyGmeToPen(const Oid::OidProject& project, ProcessRunner& runner,
+                     const std::vector<std::string>& volumes)
+{
+    return copyGmeToPen(project, project.compiler.source, runner, volumes);
 }

@@ -16,7 +16,16 @@ enum class PenCopy {
     noPen  // nothing was printed
 };
 
-// Copies the project's game file into the root of the first volume that holds "tiptoi.ico" there.
-// A copy that is done has reached the device; one that failed leaves no half file on it.
+// A volume that holds this in its root is a pen.
+constexpr char kPenMark[] = "tiptoi.ico";
+
+// Copies the project's game file into the root of the first volume that is a pen. Says when the
+// game is older than the given script, the areas or the speech, where the copy lies, and which
+// other games on the pen have its number. A copy that is done has reached the device; one that
+// failed leaves no half file on it.
+PenCopy copyGmeToPen(const Oid::OidProject& project, const std::string& script,
+                     ProcessRunner& runner,
+                     const std::vector<std::string>& volumes = Platform::penVolumes());
+// The same with the script that the project holds.
 PenCopy copyGmeToPen(const Oid::OidProject& project, ProcessRunner& runner,
                      const std::vector<std::string>& volumes = Platform::penVolumes());

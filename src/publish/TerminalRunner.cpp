@@ -17,6 +17,7 @@ TerminalRunner::TerminalRunner()
     QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished),
                      &process, [this](int exitCode, QProcess::ExitStatus status) {
                          lastExitCode = status == QProcess::NormalExit ? exitCode : -1;
+                         takeSteps();
                      });
     QObject::connect(&process, &QProcess::errorOccurred, &process,
                      [this](QProcess::ProcessError error) {
@@ -27,7 +28,7 @@ TerminalRunner::TerminalRunner()
 
 bool TerminalRunner::exec(const KVString& commandLine, bool wait)
 {
-    if (process.state() != QProcess::NotRunning) {
+    if (isRunning()) {
         return false;
     }
     fflush(stdout);  // what was printed so far stands in front of the program's output
@@ -41,7 +42,7 @@ void TerminalRunner::echo(const char* text)
 
 void TerminalRunner::waitForEnd()
 {
-    if (process.state() != QProcess::NotRunning) {
+    if (isRunning()) {
         process.waitForFinished(-1);
     }
 }

@@ -13,6 +13,7 @@ public:
     TerminalRunner();
 
     bool exec(const KVString& commandLine, bool wait) override;
+    bool isRunning() const override { return process.state() != QProcess::NotRunning; }
     int exitCode() const override { return lastExitCode; }
     void echo(const char* text) override;
     PrintFunction printFunction() override { return printToStandardOutput; }

@@ -42,6 +42,12 @@ bool writeFile(const std::string& path, const std::string& text)
 
 }  // namespace
 
+std::string description(const Oid::OidProject& project, ttbasic& script)
+{
+    return "\xEF\xBB\xBF" + script.yaml(project.productId, project.productName) +
+           scriptCodes(project);
+}
+
 bool makeYAML(Oid::OidProject& project)
 {
     return makeYAML(project, project.pathYaml());
@@ -49,8 +55,7 @@ bool makeYAML(Oid::OidProject& project)
 
 bool makeYAML(Oid::OidProject& project, const std::string& path)
 {
-    const std::string description = project.compiler.yaml(project.productId, project.productName);
-    if (!writeFile(path, "\xEF\xBB\xBF" + description + scriptCodes(project))) {
+    if (!writeFile(path, description(project, project.compiler))) {
         project.print("Error: Can't open file '%s'\n", Platform::nativePath(path).c_str());
         return false;
     }

@@ -19,6 +19,7 @@ const std::string kBook = "PRODUCT 17, \"Zoo\"\r\n"
                           "SCRIPT\r\nsub lion\r\nsay eve \"Roar, \\o/ roar\"\r\nend sub\r\n";
 const std::string kSpeechFolder = PLINKETT_BIN_DIR "/tools/text2speech_win";
 const std::string kAssembling = "Compiling yaml to gme...\ndone.\n";
+const std::string kNotMade = "The game file was not made. There is no older one.\n";
 
 // A book with two texts (one of them the welcome), and stand-ins for the outside programs that
 // stand before the real ones on PATH.
@@ -80,13 +81,13 @@ TEST_F(Build, ASecondBuildSpeaksNothing)
 TEST_F(Build, WaitsForTheAssemblerAndFailsWithIt)
 {
     tttool.plan("print out\nexit 1\n");
-    EXPECT_EQ(build(), "status 1\n" + kAssembling + "out\n");
+    EXPECT_EQ(build(), "status 1\n" + kAssembling + "out\n" + kNotMade);
 }
 
 TEST_F(Build, AnAssemblerThatCrashesIsReported)
 {
     tttool.plan("crash\n");
-    EXPECT_EQ(build(), "status 1\n" + kAssembling + "ERROR: Program Crash\n");
+    EXPECT_EQ(build(), "status 1\n" + kAssembling + "ERROR: Program Crash\n" + kNotMade);
 }
 
 TEST_F(Build, AnAssemblerThatIsNotThereIsReported)
@@ -98,7 +99,8 @@ TEST_F(Build, AnAssemblerThatIsNotThereIsReported)
     EXPECT_EQ(resultOf(run), "status 1\n"
                              "Compiling yaml to gme...\n"
                              "ERROR: File not Found\n"
-                             "Execution of tttool failed\n");
+                             "Execution of tttool failed\n" +
+                                 kNotMade);
 }
 
 TEST_F(Build, TttoolIsFoundWhereTheVariableTells)

@@ -3,12 +3,15 @@
 #include "tests/cli/RunCli.h"
 #include "tests/helpers/TemporaryFolder.h"
 
-TEST(Copy, WithoutAPenNothingIsPrintedAndTheStatusTellsIt)
+TEST(Copy, WithoutAPenItIsToldWhatMakesADriveOne)
 {
     const TemporaryFolder folder;
     writeFile(folder.file("book.oidpro"), "PRODUCT 17, \"Zoo\"\r\n");
     writeFile(folder.file("17-Zoo.gme"), "game");
-    EXPECT_EQ(resultOf(cli({"copy", folder.file("book.oidpro")})), "status 1\n");
+    EXPECT_EQ(resultOf(cli({"copy", folder.file("book.oidpro")})),
+              "status 1\n"
+              "stderr: plinkett-cli: no pen was found: a drive is a pen when the file 'tiptoi.ico' "
+              "lies in its root\n");
 }
 
 TEST(Copy, AProjectThatCannotBeOpenedIsNamed)

@@ -71,6 +71,7 @@ class BuildInConsoleTest : public QObject
         "!!! Warning: Used OID 'lion' in script, but not in the image\n";
     static constexpr char kNoAudio[] = "Error: The text 'Zoo. Start.' has no audio file\n";
     static constexpr char kAssembling[] = "Compiling yaml to gme...\ndone.\n";
+    static constexpr char kNotMade[] = "The game file was not made. There is no older one.";
     static constexpr char kAssembled[] = "assembled\n";
 
 private slots:
@@ -177,7 +178,7 @@ private slots:
         QVERIFY(bench->console.exec("tttool", false));
         QVERIFY(!buildGame(bench->project, false, bench->console));
         QCOMPARE(shown(), QString() + kWarning + kNoAudio +
-                              "Compiling yaml to gme...\nExecution of tttool failed");
+                              "Compiling yaml to gme...\nExecution of tttool failed\n" + kNotMade);
         writeFile(bench->folder.file("signal"), "");
         waitForEnd();
         makesItInTheNextBuild();
@@ -204,7 +205,7 @@ private slots:
         QFETCH(int, exitCode);
         bench->tttool.plan(plan.toStdString());
         QVERIFY(build());  // which tells of its start only
-        QCOMPARE(shown(), kWarning + QString(kAssembling) + said);
+        QCOMPARE(shown(), kWarning + QString(kAssembling) + said + "\n" + kNotMade);
         QCOMPARE(bench->console.exitCode(), exitCode);
     }
 
@@ -213,7 +214,7 @@ private slots:
         fs::remove(bench->tttool.path());
         QVERIFY(!build());
         QCOMPARE(shown(), QString() + kWarning + "Compiling yaml to gme...\n" +
-                              "ERROR: File not Found\nExecution of tttool failed");
+                              "ERROR: File not Found\nExecution of tttool failed\n" + kNotMade);
     }
 
     void anAssemblerThatHangsUntilItIsStopped()
@@ -223,7 +224,7 @@ private slots:
         QVERIFY(bench->console.isRunning());
         QVERIFY(bench->console.stopExecution());
         waitForEnd();
-        QCOMPARE(shown(), QString() + kWarning + kAssembling + "ERROR: Program Crash");
+        QCOMPARE(shown(), QString() + kWarning + kAssembling + "ERROR: Program Crash\n" + kNotMade);
     }
 
     void anAssemblerThatPrintsAHundredMegabytes()

@@ -280,6 +280,25 @@ private slots:
         QCOMPARE(console->toPlainText(), QString());
     }
 
+    void stepsComeOnceAfterTheEndAndItsOutput_data()
+    {
+        QTest::addColumn<QString>("plan");
+        QTest::addColumn<QStringList>("shown");
+        QTest::newRow("ends") << "print here\nexit 7\n" << QStringList{"here", "", "7"};
+        QTest::newRow("crashes") << "crash\n" << QStringList{"ERROR: Program Crash", "-1"};
+    }
+
+    void stepsComeOnceAfterTheEndAndItsOutput()
+    {
+        QFETCH(QString, plan);
+        tool->plan(plan.toStdString());
+        QVERIFY(console->exec("tool", false));
+        console->whenEnded(
+            [this] { console->appendEcho(QString("%1\n").arg(console->exitCode())); });
+        waitForEnd();
+        QTEST(paragraphs(), "shown");
+    }
+
     void theSlotEndsTheExecution()
     {
         const QSignalSpy ended(console.get(), &KVQtStdoutWidget::executionFinished);

@@ -8,7 +8,9 @@
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
 #include "tests/helpers/Environment.h"
+#include "tests/helpers/SmallDisk.h"
 #include "tests/helpers/TemporaryFolder.h"
+#include "tests/publish/FileTimes.h"
 #include "tests/publish/RecordingRunner.h"
 
 namespace fs = std::filesystem;
@@ -49,6 +51,7 @@ protected:
     bool build(bool debugMode = false) { return buildGame(project, debugMode, runner, options); }
 
     std::string yaml() const { return folder.file("900-Zoo.yaml"); }
+    std::string game() const { return folder.file("900-Zoo.gme"); }
 
     const TemporaryFolder folder;
     const ChangedVariable noTool{"TIPTOITOOL", ""};
@@ -252,7 +255,9 @@ TEST_F(BuildingAGame, ATttoolThatDoesNotStartIsReported)
     runner.program = [](const std::string&) { return -1; };
     EXPECT_FALSE(build());
     EXPECT_THAT(runner.shown(), testing::EndsWith("Compiling yaml to gme...\n"
-                                                  "Execution of tttool failed\n"));
+                                                  "Execution of tttool failed\n"
+                                                  "The game file was not made. There is no older "
+                                                  "one.\n"));
 }
 
 TEST_F(BuildingAGame, AnAssemblerOfOursThatDoesNotStartIsReported)
@@ -260,5 +265,43 @@ TEST_F(BuildingAGame, AnAssemblerOfOursThatDoesNotStartIsReported)
     runner.program = [](const std::string&) { return -1; };
     standardOutputOf([&] { EXPECT_FALSE(build()); });
     EXPECT_THAT(runner.shown(), testing::EndsWith("Compiling yaml to gme...\n"
-                                                  "Execution of the assembler failed\n"));
+                                                  "Execution of the assembler failed\n"
+                                                  "The game file was not made. There is no older "
+                                                  "one.\n"));
+}
+
+// --- When the assembler has ended ----------------------------------------------------------------
+
+TEST_F(BuildingAGame, AFailedAssemblerHasTheLastWordThatNoGameWasMade)
+{
+    runner.program = [](const std::string&) { return 1; };
+    build();
+    EXPECT_THAT(runner.shown(),
+                testing::EndsWith("Compiling yaml to gme...\n"
+                                  "done.\n"
+                                  "The game file was not made. There is no older one.\n"));
+}
+
+TEST_F(BuildingAGame, AnOlderGameThatStillLiesThereIsTold)
+{
+    writeFile(game(), "older");
+    setTime(game(), "2024-05-31 14:05:40");
+    runner.program = [](const std::string&) { return 1; };
+    build();
+    EXPECT_THAT(runner.shown(),
+                testing::EndsWith("done.\nThe game file was not made. An older one of 2024-05-31 "
+                                  "14:05 still lies there.\n"));
+}
+
+TEST_F(BuildingAGame, APartOfAGameIsNotTakenForAnOlderOne)
+{
+    writeFile(game(), "older");
+    setTime(game(), "2024-05-31 14:05:40");
+    runner.program = [&](const std::string&) {
+        writeFile(game(), "");
+        return 1;
+    };
+    build();
+    EXPECT_THAT(runner.shown(), testing::EndsWith("done.\nThe game file was not made. What lies in "
+                                                  "its place is not whole.\n"));
 }

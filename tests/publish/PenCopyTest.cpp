@@ -3,9 +3,13 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
+#include "base/PrintNothing.h"
 #include "oid/OidProject.h"
+#include "publish/CompileProject.h"
+#include "publish/YamlFile.h"
 #include "tests/helpers/SmallDisk.h"
 #include "tests/helpers/TemporaryFolder.h"
+#include "tests/publish/FileTimes.h"
 #include "tests/publish/RecordingRunner.h"
 
 namespace fs = std::filesystem;
@@ -57,7 +61,8 @@ TEST_F(CopyingToThePen, TheGameGoesIntoTheRootOfThePen)
 {
     markAsPen("second");
     EXPECT_EQ(copy(), PenCopy::done);
-    EXPECT_EQ(runner.shown(), "Copy to Pen...\ndone.\n");
+    EXPECT_EQ(runner.shown(),
+              "Copy to Pen...\ndone.\nCopied to " + folder.file("second/900-Zoo.gme") + "\n");
     EXPECT_EQ(readFile(folder.file("second/900-Zoo.gme")), game);
     EXPECT_EQ(contentOf("first"), "");
 }
@@ -116,6 +121,177 @@ TEST_F(CopyingToThePen, AFullDriveKeepsTheOlderGame)
     const SmallDisk disk(100000);
     EXPECT_EQ(copy(), PenCopy::failed);
     EXPECT_EQ(readFile(folder.file("first/900-Zoo.gme")), "old");
+}
+
+namespace {
+
+// A game file with nothing but its header.
+std::string gameOfId(unsigned id)
+{
+    std::string header(0x200, '\0');
+    header[0x14] = static_cast<char>(id & 0xFFU);
+    header[0x15] = static_cast<char>(id >> 8);
+    return header;
+}
+
+}  // namespace
+
+TEST_F(CopyingToThePen, OtherGamesOfItsNumberOnThePenAreNamed)
+{
+    markAsPen("first");
+    writeFile(folder.file("900-Zoo.gme"), gameOfId(900));
+    writeFile(folder.file("first/900-Zoo.gme"), gameOfId(900));
+    writeFile(folder.file("first/900-Tierpark.GME"), gameOfId(900));
+    writeFile(folder.file("first/old.gme"), gameOfId(900));
+    writeFile(folder.file("first/901-Farm.gme"), gameOfId(901));
+    writeFile(folder.file("first/short.gme"), "900");
+    writeFile(folder.file("first/900.txt"), gameOfId(900));
+    EXPECT_EQ(copy(), PenCopy::done);
+    EXPECT_EQ(runner.shown(),
+              "Copy to Pen...\n"
+              "done.\n"
+              "Copied to " +
+                  folder.file("first/900-Zoo.gme") +
+                  "\n"
+                  "Warning: Another game on the pen has the number 900, too: 900-Tierpark.GME\n"
+                  "Warning: Another game on the pen has the number 900, too: old.gme\n");
+}
+
+// --- How old the game is -------------------------------------------------------------------------
+
+namespace {
+
+constexpr char kChanged[] = "Warning: The game is of 2024-05-31 14:05; the script, the areas or "
+                            "the speech have changed since then\n";
+
+// A book with one area that was built on a day in May.
+class CopyingAGameOfMay : public CopyingToThePen
+{
+protected:
+    CopyingAGameOfMay()
+    {
+        markAsPen("first");
+        project.pictures.resize(1);
+        project.pictures[0].polys.resize(1);
+        project.pictures[0].polys[0].name = "lion";
+        project.compiler.source = "sub lion\nx = rnd\nsay \"Roar\"\nend sub\n";
+        build(false);
+        fs::create_directory(folder.file("900-audio"));
+        for (const auto& text : project.compiler.talkTexts) {
+            addOld("900-audio/" + text.first + ".ogg", "2024-05-31 14:05:20");
+        }
+        setTime(folder.file("900-Zoo.yaml"), "2024-05-31 14:05:10");
+        setTime(folder.file("900-Zoo.gme"), "2024-05-31 14:05:40");
+    }
+
+    void build(bool debugMode)
+    {
+        const std::string source = project.compiler.source;
+        project.compiler = ttbasic();
+        project.compiler.source = source;
+        project.redirectPrintf(printNothing);
+        compileProject(project, debugMode);
+        makeYAML(project);
+        project.redirectPrintf(nullptr);
+    }
+
+    void addOld(const std::string& name, const char* time)
+    {
+        writeFile(folder.file(name), "x");
+        setTime(folder.file(name), time);
+    }
+
+    // What copying says besides that it is done.
+    std::string warnings(const std::string& script)
+    {
+        copyGmeToPen(project, script, runner, {folder.file("first")});
+        std::string said = runner.shown();
+        const std::string done = "done.\nCopied to " + folder.file("first/900-Zoo.gme") + "\n";
+        EXPECT_EQ(said.find("Copy to Pen...\n"), 0U);
+        EXPECT_EQ(said.find(done) + done.size(), said.size());
+        return said.substr(15, said.size() - 15 - done.size());
+    }
+    std::string warnings() { return warnings(project.compiler.source); }
+};
+
+}  // namespace
+
+TEST_F(CopyingAGameOfMay, NothingIsSaidOfOneThatIsStillRight)
+{
+    EXPECT_EQ(warnings(), "");
+}
+
+TEST_F(CopyingAGameOfMay, SavingOrPrintingTheBookDoesNotMakeTheGameOld)
+{
+    project.save(folder.file("zoo.oidpro"));
+    project.pictures[0].dpi = 600;
+    project.pictures[0].polys[0].points.push_back({1, 1});
+    EXPECT_EQ(warnings(), "");
+}
+
+TEST_F(CopyingAGameOfMay, AGameInDebugModeIsRightToo)
+{
+    build(true);
+    for (const auto& text : project.compiler.talkTexts) {
+        addOld("900-audio/" + text.first + ".ogg", "2024-05-31 14:05:20");
+    }
+    setTime(folder.file("900-Zoo.yaml"), "2024-05-31 14:05:10");
+    EXPECT_EQ(warnings(), "");
+}
+
+TEST_F(CopyingAGameOfMay, ANewerScriptIsTold)
+{
+    EXPECT_EQ(warnings("sub lion\nsay \"Roar\"\nend sub\n"), kChanged);
+}
+
+TEST_F(CopyingAGameOfMay, AScriptThatHasErrorsNowIsTold)
+{
+    EXPECT_EQ(warnings("foo\n"), kChanged);
+}
+
+TEST_F(CopyingAGameOfMay, AnAreaWithAnotherNumberIsTold)
+{
+    project.oids["lion"].oid = 1234;
+    EXPECT_EQ(warnings(), kChanged);
+}
+
+TEST_F(CopyingAGameOfMay, ANewerAudioFileIsTold)
+{
+    addOld("900-audio/say_adam_Roar.ogg", "2024-06-01 10:00:00");
+    EXPECT_EQ(warnings(), kChanged);
+}
+
+TEST_F(CopyingAGameOfMay, AMissingAudioFileIsTold)
+{
+    fs::remove(folder.file("900-audio/say_adam_Roar.ogg"));
+    EXPECT_EQ(warnings(), kChanged);
+}
+
+TEST_F(CopyingAGameOfMay, ABuildThatFailedAfterItIsTold)
+{
+    build(false);
+    EXPECT_EQ(warnings(), kChanged);
+}
+
+TEST_F(CopyingAGameOfMay, WithoutADescriptionTheProjectFileTells)
+{
+    fs::remove(folder.file("900-Zoo.yaml"));
+    addOld("zoo.oidpro", "2024-05-31 14:05:39");
+    EXPECT_EQ(warnings(), "");
+}
+
+TEST_F(CopyingAGameOfMay, WithoutADescriptionANewerProjectFileIsTold)
+{
+    fs::remove(folder.file("900-Zoo.yaml"));
+    addOld("zoo.oidpro", "2024-05-31 14:05:41");
+    EXPECT_EQ(warnings(), kChanged);
+}
+
+TEST_F(CopyingAGameOfMay, TheCompilersAreHeardAgainAfterwards)
+{
+    const PrintFunction before = ttbasic::myprintf;
+    warnings("foo\n");
+    EXPECT_EQ(ttbasic::myprintf, before);
 }
 
 namespace {

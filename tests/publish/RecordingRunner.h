@@ -19,6 +19,7 @@ public:
         lastExitCode = program ? program(command) : 0;
         return lastExitCode >= 0;
     }
+    bool isRunning() const override { return false; }
     int exitCode() const override { return lastExitCode; }
     bool readsLatin1() const override { return latin1; }
     void echo(const char* text) override { CapturedMessages::print("%s", text); }

@@ -84,3 +84,22 @@ TEST_F(Terminal, AHundredMegabytesPassThrough)
     EXPECT_TRUE(runner.exec("tool", true));
     EXPECT_GE(output().size(), 100000000U);
 }
+
+TEST_F(Terminal, StepsComeWhenTheProgramHasEndedInTheirOrder)
+{
+    tool.plan("print out\nexit 3\n");
+    runner.exec("tool", false);
+    runner.whenEnded([this] { runner.echo(runner.exitCode() == 3 ? "three\n" : "?\n"); });
+    runner.whenEnded([this] { runner.echo("last\n"); });
+    EXPECT_TRUE(runner.isRunning());
+    runner.waitForEnd();
+    EXPECT_FALSE(runner.isRunning());
+    EXPECT_TRUE(runner.exec("tool", true));  // the steps do not come again
+    EXPECT_EQ(output(), "out\nthree\nlast\nout\n");
+}
+
+TEST_F(Terminal, WithoutAProgramAStepComesAtOnce)
+{
+    runner.whenEnded([this] { runner.echo("at once\n"); });
+    EXPECT_EQ(output(), "at once\n");
+}

@@ -1,3 +1,5 @@
+#include <cstdio>
+
 #include "app/cli/Commands.h"
 #include "oid/OpenProject.h"
 #include "publish/PenCopy.h"
@@ -12,7 +14,14 @@ int copy(const Arguments& arguments)
         return kFailed;
     }
     TerminalRunner runner;
-    return copyGmeToPen(project, runner) == PenCopy::done ? kFine : kFailed;
+    const PenCopy result = copyGmeToPen(project, runner);
+    if (result == PenCopy::noPen) {
+        fprintf(stderr,
+                "plinkett-cli: no pen was found: a drive is a pen when the file '%s' lies in its "
+                "root\n",
+                kPenMark);
+    }
+    return result == PenCopy::done ? kFine : kFailed;
 }
 
 }  // namespace

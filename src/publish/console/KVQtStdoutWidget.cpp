@@ -64,8 +64,7 @@ void KVQtStdoutWidget::chooseFont()
 
 bool KVQtStdoutWidget::exec(const KVString& commandLine, bool wait)
 {
-    // After a read or write error the program may still be there.
-    if (m_running || m_process.state() != QProcess::NotRunning) {
+    if (isRunning()) {
         return false;
     }
     m_running = true;
@@ -119,6 +118,7 @@ void KVQtStdoutWidget::showOutput()
 void KVQtStdoutWidget::processFinished(int exitCode, QProcess::ExitStatus status)
 {
     endWith(status == QProcess::NormalExit ? exitCode : -1);
+    takeSteps();
 }
 
 void KVQtStdoutWidget::processFailed(QProcess::ProcessError error)

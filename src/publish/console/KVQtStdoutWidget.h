@@ -29,7 +29,11 @@ public:
     // Kills the running program, if any; its end is then reported as that of any other. Always
     // true.
     bool stopExecution();
-    bool isRunning() const { return m_running; }
+    // After a read or write error the program may still be there.
+    bool isRunning() const override
+    {
+        return m_running || m_process.state() != QProcess::NotRunning;
+    }
     int exitCode() const override { return m_exitCode; }
     bool readsLatin1() const override { return true; }
     // Called about ten times a second while exec waits; it may call stopExecution.
