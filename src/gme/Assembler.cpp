@@ -1,6 +1,7 @@
 #include "gme/Assembler.h"
 
 #include "base/PlatformFiles.h"
+#include "base/PrintNothing.h"
 #include "gme/CodesFile.h"
 #include "gme/GameBuilder.h"
 #include "gme/GamePaths.h"
@@ -120,6 +121,19 @@ bool Assembly::writeFiles()
 }
 
 }  // namespace
+
+bool makeRoomForAreas(const std::string& yamlFile, const std::map<std::string, int>& areas,
+                      PrintFunction print)
+{
+    const std::string path = codesFileFor(yamlFile);
+    CodesFile codesFile(path);
+    Messages unheard(path, printNothing);  // assemble will tell
+    if (!codesFile.read(unheard)) {
+        return true;
+    }
+    Messages messages(path, print);
+    return codesFile.makeRoomFor(areas, messages);
+}
 
 bool assemble(const AssembleOptions& options, PrintFunction print)
 {

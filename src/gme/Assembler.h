@@ -2,6 +2,7 @@
 
 #include "base/PrintFunction.h"
 
+#include <map>
 #include <string>
 
 // The built-in assembler: turns the YAML description of a game into the pen's game file.
@@ -18,6 +19,13 @@ struct AssembleOptions
 // error neither. Every error and warning is one line through print ("Error: 950-Zoo.yaml line 7:
 // ..."); null stands for defaultPrintf(). True when the game file was written, also with warnings.
 bool assemble(const AssembleOptions& options, PrintFunction print);
+
+// Takes out of the codes file beside the YAML file what stands in the way of these areas (by name,
+// with their numbers): entries with the name of one, and those with the number of one. Says in one
+// line what it took out. False, with a message, when the codes file cannot be written; one that is
+// not there, or that assemble will refuse, stays as it is.
+bool makeRoomForAreas(const std::string& yamlFile, const std::map<std::string, int>& areas,
+                      PrintFunction print);
 
 // The path that an empty gameFile stands for: "900-v1.2.yaml" gives "900-v1.2.gme".
 std::string gameFileFor(const std::string& yamlFile);

@@ -6,6 +6,8 @@
 #include "gme/SourceText.h"
 
 #include <algorithm>
+#include <set>
+#include <vector>
 
 namespace gme {
 
@@ -41,6 +43,11 @@ bool isSameCode(const std::optional<GivenCode>& one, const std::optional<GivenCo
     return one.has_value() == other.has_value() && (!one || one->code == other->code);
 }
 
+bool isEmpty(const GivenCodes& codes)
+{
+    return codes.names.empty() && !codes.replay && !codes.stop;
+}
+
 bool isSameContent(const GivenCodes& one, const GivenCodes& other)
 {
     const auto isSameEntry = [](const auto& left, const auto& right) {
@@ -49,6 +56,58 @@ bool isSameContent(const GivenCodes& one, const GivenCodes& other)
     return isSameCode(one.replay, other.replay) && isSameCode(one.stop, other.stop) &&
            std::equal(one.names.begin(), one.names.end(), other.names.begin(), other.names.end(),
                       isSameEntry);
+}
+
+std::set<int> numbersOf(const std::map<std::string, int>& areas)
+{
+    std::set<int> numbers;
+    for (const auto& area : areas) {
+        numbers.insert(area.second);
+    }
+    return numbers;
+}
+
+std::string withCode(const std::string& name, uint16_t code)
+{
+    return name + " (" + std::to_string(code) + ")";
+}
+
+// Returns what was taken out: "cow (4028)".
+std::vector<std::string> takeOut(GivenCodes& codes, const std::map<std::string, int>& areas)
+{
+    const std::set<int> numbers = numbersOf(areas);
+    std::vector<std::string> taken;
+    for (auto entry = codes.names.begin(); entry != codes.names.end();) {
+        const auto& [name, code] = *entry;
+        if (areas.count(name) == 0 && numbers.count(code.code) == 0) {
+            ++entry;
+            continue;
+        }
+        taken.push_back(withCode(name, code.code));
+        entry = codes.names.erase(entry);
+    }
+    const auto takeSpecial = [&](const char* name, std::optional<GivenCode>& special) {
+        if (special && numbers.count(special->code) > 0) {
+            taken.push_back(withCode(name, special->code));
+            special.reset();
+        }
+    };
+    takeSpecial("replay", codes.replay);
+    takeSpecial("stop", codes.stop);
+    return taken;
+}
+
+// "a, b, c"; of many only the first.
+std::string inOneText(const std::vector<std::string>& items)
+{
+    constexpr size_t kMostShown = 10;
+    const size_t count = std::min(items.size(), kMostShown);
+    std::string text;
+    for (size_t i = 0; i < count; ++i) {
+        text += (i > 0 ? ", " : "") + items[i];
+    }
+    const size_t left = items.size() - count;
+    return left > 0 ? text + " and " + std::to_string(left) + " more" : text;
 }
 
 }  // namespace
@@ -92,11 +151,29 @@ GivenCodes CodesFile::newContent(const Description& description, const Codes& co
 bool CodesFile::update(const Description& description, const Codes& codes) const
 {
     const GivenCodes content = newContent(description, codes);
-    if (content.names.empty() && !content.replay && !content.stop) {
-        return !exists || Platform::removeFile(path);
-    }
-    if (exists && isSameContent(content, known)) {
+    const bool isCurrent = exists && !isEmpty(content) && isSameContent(content, known);
+    return isCurrent || replaceBy(content);
+}
+
+bool CodesFile::makeRoomFor(const std::map<std::string, int>& areas, Messages& messages) const
+{
+    GivenCodes content = known;
+    const std::vector<std::string> taken = takeOut(content, areas);
+    if (taken.empty()) {
         return true;
+    }
+    if (!replaceBy(content)) {
+        messages.error(0, "the codes file cannot be written");
+        return false;
+    }
+    messages.note("no longer holds " + inOneText(taken) + ", whose name or number an area has now");
+    return true;
+}
+
+bool CodesFile::replaceBy(const GivenCodes& content) const
+{
+    if (isEmpty(content)) {
+        return !exists || Platform::removeFile(path);
     }
     return write(codesText(content));
 }

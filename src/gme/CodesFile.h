@@ -2,6 +2,7 @@
 
 #include "gme/Codes.h"
 
+#include <map>
 #include <string>
 
 namespace gme {
@@ -16,6 +17,10 @@ public:
     bool read(Messages& messages);
     const GivenCodes& codes() const { return known; }
 
+    // Takes out what stands in the way of the areas (by name, with their numbers): entries with the
+    // name of one, and those with the number of one, replay and stop included. Says so in one line.
+    // False when the file cannot be written; it is then as it was.
+    bool makeRoomFor(const std::map<std::string, int>& areas, Messages& messages) const;
     // Brings the file up to date: writes it, deletes it, or leaves it as it is. False when that
     // fails; the file is then as it was.
     bool update(const Description& description, const Codes& codes) const;
@@ -24,6 +29,8 @@ public:
 
 private:
     GivenCodes newContent(const Description& description, const Codes& codes) const;
+    // Writes the file, or deletes it where there is nothing to hold.
+    bool replaceBy(const GivenCodes& content) const;
     bool write(const std::string& bytes) const;
 
     std::string path;

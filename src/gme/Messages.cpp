@@ -41,6 +41,11 @@ void Messages::warning(int line, const std::string& text)
     say("Warning", line, text);
 }
 
+void Messages::note(const std::string& text)
+{
+    print("%s %s\n", fileName.c_str(), inOneLine(text).c_str());
+}
+
 void Messages::say(const char* kind, int line, const std::string& text)
 {
     const std::string place = line > 0 ? " line " + std::to_string(line) : std::string();

@@ -16,6 +16,8 @@ public:
     // Line numbers count from 1; 0 stands for the file as a whole.
     void error(int line, const std::string& text);
     void warning(int line, const std::string& text);
+    // What was done without being asked: "900-Zoo.codes.yaml no longer holds ...".
+    void note(const std::string& text);
     bool hasErrors() const { return errors > 0; }
 
 private:

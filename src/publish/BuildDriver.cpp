@@ -1,8 +1,10 @@
 #include "publish/BuildDriver.h"
 
 #include <QDir>
+#include <map>
 
 #include "base/PlatformFiles.h"
+#include "gme/Assembler.h"
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
 #include "publish/Assembling.h"
@@ -22,6 +24,18 @@ void makePathAbsolute(std::string& path)
     }
 }
 
+// The areas of the pictures with their numbers.
+std::map<std::string, int> drawnAreas(const Oid::OidProject& project)
+{
+    std::map<std::string, int> areas;
+    for (const Oid::PICTURE& picture : project.pictures) {
+        for (const Oid::POLY& area : picture.polys) {
+            areas[area.name] = project.oids.at(area.name).oid;
+        }
+    }
+    return areas;
+}
+
 bool makeFiles(Oid::OidProject& project, ProcessRunner& runner, const BuildOptions& options)
 {
     makePathAbsolute(project.projectPath);
@@ -32,6 +46,9 @@ bool makeFiles(Oid::OidProject& project, ProcessRunner& runner, const BuildOptio
     const SpeechOutcome speech =
         options.createSoundFiles ? options.createSoundFiles() : createSoundFiles(project, runner);
     if (speech == SpeechOutcome::cancelled) {
+        return stopBuild(mi_printf);
+    }
+    if (!gme::makeRoomForAreas(project.pathYaml(), drawnAreas(project), project.print)) {
         return stopBuild(mi_printf);
     }
     return startAssembler(project, options.assembler, runner) && speech == SpeechOutcome::complete;

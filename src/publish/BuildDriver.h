@@ -21,9 +21,9 @@ struct BuildOptions
 };
 
 // One build, from the project in memory to its game file: numbers for new areas, the compiled
-// script, the YAML file, the audio files, and the start of the assembler, which is not waited for.
-// The runner shows all messages and runs the outside programs; on a return after the compilation
-// mi_printf is back at standard output.
-// True when no step failed; whether the assembler succeeds, the runner knows when it has ended.
+// script, the YAML file, the audio files, no old codes in the way of the areas, and the start of
+// the assembler, which is not waited for. The runner shows all messages and runs the outside
+// programs; on a return after the compilation mi_printf is back at standard output. True when no
+// step failed; whether the assembler succeeds, the runner knows when it has ended.
 bool buildGame(Oid::OidProject& project, bool debugMode, ProcessRunner& runner,
                const BuildOptions& options = {});

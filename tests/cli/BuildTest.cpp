@@ -211,6 +211,24 @@ TEST(BuildWithRealPrograms, MakesSpeechAndAGameOnAMachineWithoutTttool)
     EXPECT_EQ(folder.listing(), "17-Zoo.codes.yaml 17-Zoo.gme 17-Zoo.yaml 17-audio book.oidpro");
 }
 
+// The sub was built once without an area, which is drawn afterwards.
+TEST(BuildWithRealPrograms, ASubThatGetsAnAreaAfterItWasBuiltIsBuiltAgain)
+{
+    const TemporaryFolder folder;
+    const std::string script = "SCRIPT\r\nsub lion\r\nend sub\r\nsub hen\r\nend sub\r\n";
+    const auto build = [&](const std::string& areas) {
+        writeFile(folder.file("book.oidpro"), "PRODUCT 17, \"Zoo\"\r\n" + areas + script);
+        return cli({"build", folder.file("book.oidpro")}, {"TIPTOITOOL=", "PATH=/usr/bin:/bin"});
+    };
+    const std::string lion = "OID 1234\r\nBOX lion 1.5 2.5 10 10\r\n";
+    EXPECT_EQ(build(lion).status, 0);
+    const ProgramRun run = build(lion + "OID 1235\r\nBOX hen 20 2.5 10 10\r\n");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.out,
+                testing::ContainsRegex("17-Zoo.codes.yaml no longer holds hen \\([0-9]+\\), "
+                                       "whose name or number an area has now\n"));
+}
+
 TEST(BuildWithRealPrograms, TheAudioHasOneChannelAt22050HzAndSoundInIt)
 {
     const TemporaryFolder folder;

@@ -1,10 +1,14 @@
 // The codes file: reading it, what it holds after a build, and how names stand in it.
 #include "gme/CodesFile.h"
+#include "gme/Assembler.h"
 #include "gme/CodesText.h"
 #include "tests/gme/GameFolder.h"
+#include "tests/helpers/CapturedMessages.h"
+#include "tests/helpers/SmallDisk.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace {
 
@@ -218,6 +222,133 @@ TEST(CodesFile, AnUpdateCanBeUndone)
     EXPECT_EQ(folder.listing(), "zoo.codes.yaml");
     fresh.restore();
     EXPECT_EQ(folder.listing(), "");
+}
+
+namespace {
+
+const std::string kBuiltOnce = "replay: 3944\n"
+                               "scriptcodes:\n"
+                               "  asm1: 3946\n"
+                               "  asm2: 3947\n"
+                               "  cow: 3948\n"
+                               "stop: 3945\n";
+
+// A folder with a codes file, room made in it for areas, and what was said.
+struct RoomMade
+{
+    RoomMade(const std::string& codes, const std::map<std::string, int>& areas)
+    {
+        folder.add("900-case.codes.yaml", codes);
+        CapturedMessages captured;
+        ok = gme::makeRoomForAreas(folder.file("900-case.yaml"), areas, CapturedMessages::print);
+        messages = captured.take();
+    }
+
+    std::string codesFile() const { return readIfThere(folder.file("900-case.codes.yaml")); }
+
+    const GameFolder folder;
+    bool ok = false;
+    std::string messages;
+};
+
+}  // namespace
+
+TEST(RoomForAreas, EntriesWithTheNameOrTheNumberOfAnAreaGo)
+{
+    const RoomMade made(kBuiltOnce, {{"cow", 1001}, {"hen", 3947}});
+    EXPECT_TRUE(made.ok);
+    EXPECT_EQ(made.messages, "900-case.codes.yaml no longer holds asm2 (3947), cow (3948), whose "
+                             "name or number an area has now\n");
+    EXPECT_EQ(withoutComments(made.codesFile()), "replay: 3944\n"
+                                                 "scriptcodes:\n"
+                                                 "  asm1: 3946\n"
+                                                 "stop: 3945\n");
+}
+
+TEST(RoomForAreas, ReplayAndStopGiveWayToTheNumberOfAnArea)
+{
+    const RoomMade made(kBuiltOnce, {{"hen", 3944}, {"pig", 3945}});
+    EXPECT_EQ(made.messages, "900-case.codes.yaml no longer holds replay (3944), stop (3945), "
+                             "whose name or number an area has now\n");
+    EXPECT_EQ(withoutComments(made.codesFile()), "scriptcodes:\n"
+                                                 "  asm1: 3946\n"
+                                                 "  asm2: 3947\n"
+                                                 "  cow: 3948\n");
+}
+
+TEST(RoomForAreas, AFileInWhichNothingIsInTheWayStaysByteForByte)
+{
+    const std::string mine = "# mine\n" + kBuiltOnce;
+    const RoomMade made(mine, {{"hen", 1001}});
+    EXPECT_TRUE(made.ok);
+    EXPECT_EQ(made.messages, "");
+    EXPECT_EQ(made.codesFile(), mine);
+}
+
+TEST(RoomForAreas, AFileWithNothingLeftIsDeleted)
+{
+    const RoomMade made("scriptcodes:\n  cow: 3948\n", {{"cow", 1001}});
+    EXPECT_TRUE(made.ok);
+    EXPECT_EQ(made.folder.listing(), "moo.ogg roar.ogg");
+}
+
+TEST(RoomForAreas, OfManyEntriesTenAreNamed)
+{
+    std::string codes = "scriptcodes:\n";
+    std::map<std::string, int> areas;
+    for (int i = 10; i < 22; ++i) {
+        codes += "  a" + std::to_string(i) + ": " + std::to_string(i) + "\n";
+        areas["a" + std::to_string(i)] = 1000 + i;
+    }
+    EXPECT_EQ(RoomMade(codes, areas).messages,
+              "900-case.codes.yaml no longer holds a10 (10), a11 (11), a12 (12), a13 (13), "
+              "a14 (14), a15 (15), a16 (16), a17 (17), a18 (18), a19 (19) and 2 more, whose name "
+              "or number an area has now\n");
+}
+
+TEST(RoomForAreas, AFileThatIsNotValidIsLeftToTheAssembler)
+{
+    const RoomMade made("scriptcodes:\n  cow: none\n", {{"cow", 1001}});
+    EXPECT_TRUE(made.ok);
+    EXPECT_EQ(made.messages, "");
+    EXPECT_EQ(made.codesFile(), "scriptcodes:\n  cow: none\n");
+}
+
+TEST(RoomForAreas, WithoutACodesFileThereIsNothingToDo)
+{
+    const TemporaryFolder folder;
+    CapturedMessages captured;
+    EXPECT_TRUE(
+        gme::makeRoomForAreas(folder.file("zoo.yaml"), {{"cow", 1001}}, CapturedMessages::print));
+    EXPECT_EQ(captured.take(), "");
+    EXPECT_EQ(folder.listing(), "");
+}
+
+TEST(RoomForAreas, AFileThatCannotBeWrittenIsReportedAndStays)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("zoo.codes.yaml"), kBuiltOnce);
+    CapturedMessages captured;
+    {
+        const SmallDisk disk(10);
+        EXPECT_FALSE(gme::makeRoomForAreas(folder.file("zoo.yaml"), {{"cow", 1001}},
+                                           CapturedMessages::print));
+    }
+    EXPECT_EQ(captured.take(), "Error: zoo.codes.yaml: the codes file cannot be written\n");
+    EXPECT_EQ(readFile(folder.file("zoo.codes.yaml")), kBuiltOnce);
+}
+
+// The build of before gave a code to the sub; then the area of its name was drawn.
+TEST(RoomForAreas, AfterItTheGameIsAssembled)
+{
+    const GameFolder folder;
+    folder.assemble(yamlWithScripts("  cow: C\n"));
+    const std::string drawn = yamlWithScripts("  cow: C\n"
+                                              "scriptcodes:\n"
+                                              "  cow: 1018\n");
+    EXPECT_FALSE(folder.assemble(drawn).ok);
+    gme::makeRoomForAreas(folder.file("900-case.yaml"), {{"cow", 1018}}, CapturedMessages::print);
+    EXPECT_TRUE(folder.assemble(drawn).ok);
 }
 
 TEST(NamesInTheCodesFile, StandPlainWhereThatIsPossible)

@@ -305,3 +305,37 @@ TEST_F(BuildingAGame, APartOfAGameIsNotTakenForAnOlderOne)
     EXPECT_THAT(runner.shown(), testing::EndsWith("done.\nThe game file was not made. What lies in "
                                                   "its place is not whole.\n"));
 }
+
+TEST_F(BuildingAGame, OldCodesInTheWayOfAnAreaGoBeforeTheAssemblerStarts)
+{
+    const std::string codes = folder.file("900-Zoo.codes.yaml");
+    writeFile(codes, "scriptcodes:\n  asm1: 3946\n  lion: 4028\n");
+    std::string seen;
+    runner.program = [&](const std::string&) {
+        seen = readFile(codes);
+        return 0;
+    };
+    EXPECT_TRUE(build());
+    EXPECT_THAT(seen, testing::EndsWith("scriptcodes:\n  asm1: 3946\n"));
+    EXPECT_EQ(runner.shown(),
+              "OID  1001 assigned to 'lion'\n"
+              "900-Zoo.codes.yaml no longer holds lion (4028), whose name or number "
+              "an area has now\n"
+              "Compiling yaml to gme...\n"
+              "done.\n");
+}
+
+TEST_F(BuildingAGame, ACodesFileThatCannotBeChangedStopsTheBuild)
+{
+    std::string codes = "scriptcodes:\n  lion: 4028\n";
+    for (int i = 2000; i < 2500; ++i) {
+        codes += "  asm" + std::to_string(i) + ": " + std::to_string(i) + "\n";
+    }
+    writeFile(folder.file("900-Zoo.codes.yaml"), codes);
+    const SmallDisk disk(5000);  // enough for the description
+    EXPECT_FALSE(build());
+    EXPECT_THAT(runner.shown(),
+                testing::EndsWith("Error: 900-Zoo.codes.yaml: the codes file cannot be written\n"
+                                  "Stopped build process.\n"));
+    EXPECT_THAT(runner.commands, IsEmpty());
+}
