@@ -382,6 +382,10 @@
         <translation>Das Bild konnte nicht neben der Projektdatei abgelegt werden.</translation>
     </message>
     <message>
+        <source>These files could not be copied along. The old ones are still where they were.</source>
+        <translation>Diese Dateien konnten nicht mitkopiert werden. Die alten liegen noch, wo sie waren.</translation>
+    </message>
+    <message>
         <source>Delete Picture</source>
         <translation>Bild löschen</translation>
     </message>

@@ -382,6 +382,10 @@
         <translation>The picture could not be kept beside the project file.</translation>
     </message>
     <message>
+        <source>These files could not be copied along. The old ones are still where they were.</source>
+        <translation>These files could not be copied along. The old ones are still where they were.</translation>
+    </message>
+    <message>
         <source>Delete Picture</source>
         <translation>Delete Picture</translation>
     </message>

@@ -382,6 +382,10 @@
         <translation>L&apos;image n&apos;a pas pu être gardée à côté du fichier de projet.</translation>
     </message>
     <message>
+        <source>These files could not be copied along. The old ones are still where they were.</source>
+        <translation>Ces fichiers n&apos;ont pas pu être copiés avec le projet. Les anciens sont toujours à leur place.</translation>
+    </message>
+    <message>
         <source>Delete Picture</source>
         <translation>Supprimer l&apos;image</translation>
     </message>

@@ -382,6 +382,10 @@
         <translation>De afbeelding kon niet naast het projectbestand worden bewaard.</translation>
     </message>
     <message>
+        <source>These files could not be copied along. The old ones are still where they were.</source>
+        <translation>Deze bestanden konden niet worden meegekopieerd. De oude staan nog waar ze waren.</translation>
+    </message>
+    <message>
         <source>Delete Picture</source>
         <translation>Afbeelding verwijderen</translation>
     </message>

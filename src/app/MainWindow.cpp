@@ -177,6 +177,7 @@ void MainWindow::openProject(const QString& path)
     ProjectDataWasChanged(false);
     ui->polyArea->repaint();
     numberBar->opened(project);
+    companions.areBeside(project);
 }
 
 void MainWindow::on_action_Save_As_triggered()
@@ -202,6 +203,7 @@ bool MainWindow::saveProject(const std::string& path)
     const bool saved = project.save(path);
     if (saved) {
         numberBar->saved(project);
+        takeFilesAlong();
     }
     return saved;
 }

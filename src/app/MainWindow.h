@@ -1,10 +1,12 @@
 #pragma once
 
+#include "document/CompanionFiles.h"
 #include "oid/AreaNaming.h"
 #include "oid/OidProject.h"
 #include "publish/SoundFiles.h"
 
 #include <QMainWindow>
+#include <QMessageBox>
 
 #include <memory>
 #include <string>
@@ -113,6 +115,11 @@ private:
     // Asks for a picture file and keeps a copy of it as picture n of the project. The null image
     // when the author cancelled or it failed (then that was said).
     QImage importPicture(int n);
+    // After a save that gave the project another folder or number.
+    void takeFilesAlong();
+    void warnOfMissingCopies(const std::vector<std::string>& paths);
+    // Which of the buttons, of which No is the safe one, the author pressed.
+    int askToOverwrite(const std::string& path, QMessageBox::StandardButtons buttons);
     // Writes the copy whole or not at all; says why when it was not kept.
     bool keepCopy(const PictureCopy& picture, const std::string& path);
     void warn(const QString& text);
@@ -123,6 +130,7 @@ private:
 
     Oid::OidProject project;
     Oid::AreaNaming naming{project};
+    CompanionFiles companions;
     int mode = pick;
     int selectedPoly = -1;
     std::unique_ptr<Ui::MainWindow> ui;

@@ -3,6 +3,7 @@
 
 #include "app/FileDialogs.h"
 #include "base/FileSystem.h"
+#include "base/PlatformFiles.h"
 #include "oid/PictureCopy.h"
 #include "ui_MainWindow.h"
 
@@ -100,15 +101,27 @@ QImage MainWindow::importPicture(int n)
         warn(tr("Can't load that picture."));
         return {};
     }
-    return keepCopy(picture, project.pathImageSource(n)) ? picture.image() : QImage();
+    if (!keepCopy(picture, project.pathImageSource(n))) {
+        return {};
+    }
+    companions.cameIn(project, n);
+    return picture.image();
+}
+
+int MainWindow::askToOverwrite(const std::string& path, QMessageBox::StandardButtons buttons)
+{
+    QMessageBox box(QMessageBox::Question, tr("Overwrite Picture"),
+                    tr("Do you want to overwrite the picture in the cache?"), buttons, this);
+    box.setInformativeText(QString::fromStdString(Platform::nativePath(path)));
+    box.setDefaultButton(QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+    return box.exec();
 }
 
 bool MainWindow::keepCopy(const PictureCopy& picture, const std::string& path)
 {
     if (FileSystem::doesFileExist(path) &&
-        QMessageBox::question(
-            this, tr("Overwrite Picture"), tr("Do you want to overwrite the picture in the cache?"),
-            QMessageBox::Yes | QMessageBox::No, QMessageBox::No) != QMessageBox::Yes) {
+        askToOverwrite(path, QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes) {
         return false;
     }
     if (!picture.keepAs(path)) {
@@ -116,6 +129,39 @@ bool MainWindow::keepCopy(const PictureCopy& picture, const std::string& path)
         return false;
     }
     return true;
+}
+
+void MainWindow::takeFilesAlong()
+{
+    QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No;
+    if (project.pictures.size() > 1) {
+        buttons |= QMessageBox::YesToAll | QMessageBox::NoToAll;
+    }
+    int answer = QMessageBox::NoButton;
+    const CompanionFiles::Outcome outcome =
+        companions.follow(project, [&](const std::string& path) {
+            if (answer != QMessageBox::YesToAll && answer != QMessageBox::NoToAll) {
+                answer = askToOverwrite(path, buttons);
+            }
+            return answer == QMessageBox::Yes || answer == QMessageBox::YesToAll;
+        });
+    if (outcome.copied) {
+        ui->polyArea->loadedPath.clear();
+        ui->polyArea->repaint();
+    }
+    if (!outcome.failed.empty()) {
+        warnOfMissingCopies(outcome.failed);
+    }
+}
+
+void MainWindow::warnOfMissingCopies(const std::vector<std::string>& paths)
+{
+    QStringList shown;
+    for (const std::string& path : paths) {
+        shown << QString::fromStdString(path);
+    }
+    warn(tr("These files could not be copied along. The old ones are still where they were.") +
+         "\n\n" + shown.join('\n'));
 }
 
 void MainWindow::on_btDeletePicture_clicked()

@@ -12,8 +12,8 @@
 #include "base/PlatformProcess.h"
 #include "base/PrintNothing.h"
 #include "base/TextHelpers.h"
+#include "oid/AudioFolder.h"
 #include "oid/OidProject.h"
-#include "publish/SoundFiles.h"
 #include "publish/YamlFile.h"
 #include "ttbasic/CompileScript.h"
 

@@ -6,6 +6,7 @@
 #include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"
 #include "base/TextHelpers.h"
+#include "oid/AudioFolder.h"
 #include "oid/OidProject.h"
 #include "publish/OutsideProgram.h"
 #include "publish/ProcessRunner.h"
@@ -149,12 +150,6 @@ bool makeSoundFile(const NewText& text, const Voices& voices, const std::string&
 }
 
 }  // namespace
-
-std::string audioFolder(const Oid::OidProject& project)
-{
-    return FileSystem::getDirectoryOfPath(project.projectPath) + FileSystem::directorySeparator +
-           itostr(project.productId) + "-audio";
-}
 
 SpeechOutcome createSoundFiles(const Oid::OidProject& project, ProcessRunner& runner,
                                const SpeechProgress& progress)

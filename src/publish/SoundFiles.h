@@ -20,9 +20,6 @@ enum class SpeechOutcome {
     cancelled
 };
 
-// The folder of the audio files, in our form of a path: "900-audio" beside the project file.
-std::string audioFolder(const Oid::OidProject& project);
-
 // Makes the missing audio files of a compiled project: a WAV file by Text2Speech.exe, from it an
 // OGG file by ffmpeg.exe, waiting for each. Puts the folders of the two tools that are shipped
 // with the program in front of PATH, once.

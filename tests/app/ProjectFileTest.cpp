@@ -7,6 +7,7 @@
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -178,6 +179,104 @@ private slots:
         w.trigger("action_Save_As");
         QCOMPARE(w.field("txProjDPI"), "600");
         QCOMPARE(w.field("txProjPaperWidth"), "210.5");
+    }
+
+    void picturesAndAudioFilesFollowAnotherNumber()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow, kCow}), 2);
+        QVERIFY(QDir(QString::fromStdString(w.folder.path())).mkdir("900-audio"));
+        writeFile(w.folder.file("900-audio/moo.ogg"), "moo!");
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        w.get<QSpinBox>("txProjectId")->setValue(905);
+        w.trigger("actionSave");
+        QCOMPARE(readFile(w.folder.file("905-bkgnd0.jpg")),
+                 readFile(w.folder.file("900-bkgnd0.jpg")));
+        QVERIFY(QFile::exists(w.path("905-bkgnd1.jpg")));
+        QCOMPARE(readFile(w.folder.file("905-audio/moo.ogg")), std::string("moo!"));
+        QCOMPARE(w.dialogs.seen(), QStringList({"Open project"}));
+    }
+
+    void thePictureIsShownAgainAfterSavingUnderAnotherNumber()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        PolyEditorWidget* const picture = w.get<PolyEditorWidget>("polyArea");
+        const auto shown = [&] { return picture->grab().toImage().pixelColor(5, 5); };
+        const QColor before = shown();
+        w.get<QSpinBox>("txProjectId")->setValue(905);
+        w.type("txProjDPI", "600");  // carries the number into the project
+        QVERIFY(shown() != before);
+        w.trigger("actionSave");
+        QCOMPARE(shown(), before);
+    }
+
+    void picturesFollowIntoAnotherFolder()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        QVERIFY(QDir(QString::fromStdString(w.folder.path())).mkdir("copy"));
+        w.dialogs.chooseFile(w.path("copy/book.oidpro"));
+        w.trigger("action_Save_As");
+        QCOMPARE(readFile(w.folder.file("copy/900-bkgnd0.jpg")),
+                 readFile(w.folder.file("900-bkgnd0.jpg")));
+    }
+
+    void picturesInTheWayAreAskedAboutOneByOneOrAllAtOnce()
+    {
+        for (const char* const answer : {"Yes to All", "No to All"}) {
+            WindowFixture w;
+            for (const char* const name : {"905-bkgnd0.jpg", "905-bkgnd1.jpg", "905-bkgnd2.jpg"}) {
+                writeFile(w.folder.file(name), "another book");
+            }
+            w.open(projectFile({kCow, kCow, kCow}), 3);
+            w.get<QSpinBox>("txProjectId")->setValue(905);
+            QString named;
+            w.dialogs.look([&](QWidget& dialog) {
+                named = static_cast<QMessageBox&>(dialog).informativeText();
+                QTest::keyClick(&dialog, Qt::Key_Return);  // No is the default
+            });
+            w.dialogs.press(answer);
+            w.trigger("actionSave");
+            QCOMPARE(named, w.path("905-bkgnd0.jpg"));
+            const QString question =
+                "Overwrite Picture: Do you want to overwrite the picture in the cache?";
+            QCOMPARE(w.dialogs.seen().mid(1), QStringList({question, question}));
+            const bool yes = answer == std::string("Yes to All");
+            for (const char* const name : {"905-bkgnd0.jpg", "905-bkgnd1.jpg", "905-bkgnd2.jpg"}) {
+                const bool first = name == std::string("905-bkgnd0.jpg");
+                const bool kept = readFile(w.folder.file(name)) == "another book";
+                QCOMPARE(kept, first || !yes);
+            }
+        }
+    }
+
+    void escapeOverwritesNoPicture()
+    {
+        WindowFixture w;
+        writeFile(w.folder.file("905-bkgnd0.jpg"), "another book");
+        w.open(projectFile({kCow, kCow}), 2);
+        w.get<QSpinBox>("txProjectId")->setValue(905);
+        w.dialogs.cancel();
+        w.trigger("actionSave");
+        QCOMPARE(readFile(w.folder.file("905-bkgnd0.jpg")), std::string("another book"));
+        QVERIFY(QFile::exists(w.path("905-bkgnd1.jpg")));
+    }
+
+    void picturesThatCannotBeCopiedAreNamed()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        QVERIFY(QDir().mkdir(w.path("905-bkgnd0.jpg")));
+        w.get<QSpinBox>("txProjectId")->setValue(905);
+        w.dialogs.press("Yes");
+        w.dialogs.press("OK");
+        w.trigger("actionSave");
+        QCOMPARE(w.dialogs.seen().last(),
+                 "Warning: These files could not be copied along. The old ones are still where "
+                 "they were.\n\n" +
+                     w.path("905-bkgnd0.jpg"));
     }
 
     void saveLeavesTheFormAsItWasTyped()

@@ -1,0 +1,135 @@
+#include "document/CompanionFiles.h"
+
+#include "base/FileSystem.h"
+#include "base/PlatformFiles.h"
+#include "base/PlatformProcess.h"
+#include "oid/AudioFolder.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+
+namespace {
+
+QString native(const std::string& path)
+{
+    return QString::fromStdString(Platform::nativePath(path));
+}
+
+bool sameContent(const std::string& one, const std::string& other)
+{
+    QFile a(native(one));
+    QFile b(native(other));
+    if (!a.open(QIODevice::ReadOnly) || !b.open(QIODevice::ReadOnly) || a.size() != b.size()) {
+        return false;
+    }
+    constexpr qint64 kPiece = 1 << 20;
+    while (!a.atEnd()) {
+        if (a.read(kPiece) != b.read(kPiece)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Their paths below the folder. The list is complete before anything is copied: the copies may lie
+// in the same folder.
+QStringList filesBelow(const QDir& folder)
+{
+    QStringList files;
+    QDirIterator found(folder.path(), QDir::Files, QDirIterator::Subdirectories);
+    while (found.hasNext()) {
+        files << folder.relativeFilePath(found.next());
+    }
+    files.sort();
+    return files;
+}
+
+// False when there is no such file afterwards.
+bool copyUnlessThere(const QString& source, const QString& target)
+{
+    return QFile::exists(target) ||
+           (QFileInfo(target).dir().mkpath(".") &&
+            FileSystem::copyFileContent(source.toStdString(), target.toStdString()));
+}
+
+}  // namespace
+
+void CompanionFiles::areBeside(const Oid::OidProject& project)
+{
+    place.projectPath = project.projectPath;
+    place.productId = project.productId;
+    elsewhere.clear();
+    audio = audioFolder(place);
+}
+
+void CompanionFiles::cameIn(const Oid::OidProject& project, int n)
+{
+    elsewhere[n] = {project.pathImageSource(n), {}};
+}
+
+CompanionFiles::Outcome CompanionFiles::follow(const Oid::OidProject& project,
+                                               const MayOverwrite& mayOverwrite)
+{
+    if (place.projectPath.empty()) {
+        areBeside(project);  // it was never saved: it has no files yet
+        return {};
+    }
+    Platform::useUtf8ForSystemTexts();
+    Outcome outcome;
+    followPictures(project, mayOverwrite, outcome);
+    followAudio(audioFolder(project), outcome);
+    place.projectPath = project.projectPath;
+    place.productId = project.productId;
+    return outcome;
+}
+
+CompanionFiles::Picture CompanionFiles::pictureOfPage(int n) const
+{
+    const auto found = elsewhere.find(n);
+    return found != elsewhere.end() ? found->second : Picture{place.pathImageSource(n), {}};
+}
+
+void CompanionFiles::followPictures(const Oid::OidProject& project,
+                                    const MayOverwrite& mayOverwrite, Outcome& outcome)
+{
+    std::map<int, Picture> left;
+    for (int n = 0; n < static_cast<int>(project.pictures.size()); ++n) {
+        Picture picture = pictureOfPage(n);
+        const std::string target = project.pathImageSource(n);
+        if (picture.file == target || !FileSystem::doesFileExist(picture.file) ||
+            sameContent(picture.file, target)) {
+            continue;
+        }
+        const bool allowed =
+            !FileSystem::doesFileExist(target) ||
+            (picture.inTheWay != target && mayOverwrite(Platform::nativePath(target)));
+        if (!allowed) {
+            picture.inTheWay = target;
+        } else if (FileSystem::copyFileContent(picture.file, target)) {
+            outcome.copied = true;
+            continue;
+        } else {
+            outcome.failed.push_back(Platform::nativePath(target));
+        }
+        left[n] = picture;
+    }
+    elsewhere = std::move(left);
+}
+
+void CompanionFiles::followAudio(const std::string& target, Outcome& outcome)
+{
+    const QDir from(native(audio));
+    bool complete = true;
+    if (audio != target) {
+        for (const QString& file : filesBelow(from)) {
+            complete = copyUnlessThere(from.filePath(file), QDir(native(target)).filePath(file)) &&
+                       complete;
+        }
+    }
+    if (complete) {
+        audio = target;
+    } else {
+        outcome.failed.push_back(Platform::nativePath(target));
+    }
+}

@@ -1,0 +1,245 @@
+// Pictures and audio files go where their project goes.
+#include "document/CompanionFiles.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "tests/helpers/SmallDisk.h"
+#include "tests/helpers/TemporaryFolder.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// A project of two pages with the number 900 in the folder "here", which was opened there.
+class Companions : public testing::Test
+{
+protected:
+    Companions()
+    {
+        for (const char* const name : {"here", "here/900-audio", "there"}) {
+            fs::create_directory(folder.file(name));
+        }
+        writeFile(folder.file("here/900-bkgnd0.jpg"), "cover");
+        writeFile(folder.file("here/900-bkgnd1.jpg"), "meadow");
+        writeFile(folder.file("here/900-audio/moo.ogg"), "moo!");
+        project.pictures.resize(2);
+        project.projectPath = folder.path() + "\\here\\book.oidpro";
+        companions.areBeside(project);
+    }
+
+    // As a save does; what the author was asked and what could not be copied, a line each.
+    std::string save(const std::string& path, int number, bool overwrite = false)
+    {
+        project.projectPath = folder.file(path);
+        project.productId = number;
+        std::string told;
+        const auto outcome = companions.follow(project, [&](const std::string& file) {
+            told += "overwrite " + below(file) + "?\n";
+            return overwrite;
+        });
+        for (const std::string& file : outcome.failed) {
+            told += "failed " + below(file) + "\n";
+        }
+        copied = outcome.copied;
+        return told;
+    }
+
+    // Every file with its content, but those that were there from the beginning.
+    std::string newFiles() const
+    {
+        std::string text;
+        for (const char* const part : {"here", "there"}) {
+            for (const std::string& name : sortedFiles(folder.file(part))) {
+                const bool old = name.find("here/900-") != std::string::npos &&
+                                 name.find("there") == std::string::npos;
+                text += old ? "" : below(name) + ": " + readFile(name) + "\n";
+            }
+        }
+        return text;
+    }
+
+    std::string below(const std::string& path) const
+    {
+        return path.substr(folder.path().size() + 1);
+    }
+
+    const TemporaryFolder folder;
+    Oid::OidProject project;
+    CompanionFiles companions;
+    bool copied = false;
+
+private:
+    static std::vector<std::string> sortedFiles(const std::string& top)
+    {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::recursive_directory_iterator(top)) {
+            if (entry.is_regular_file()) {
+                names.push_back(entry.path().string());
+            }
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+};
+
+}  // namespace
+
+TEST_F(Companions, AnotherNumberGivesThemOtherNames)
+{
+    EXPECT_EQ(save("here/book.oidpro", 905), "");
+    EXPECT_TRUE(copied);
+    EXPECT_EQ(newFiles(), "here/905-audio/moo.ogg: moo!\n"
+                          "here/905-bkgnd0.jpg: cover\n"
+                          "here/905-bkgnd1.jpg: meadow\n");
+}
+
+TEST_F(Companions, AnotherFolderGetsThem)
+{
+    EXPECT_EQ(save("there/book.oidpro", 900), "");
+    EXPECT_EQ(newFiles(), "there/900-audio/moo.ogg: moo!\n"
+                          "there/900-bkgnd0.jpg: cover\n"
+                          "there/900-bkgnd1.jpg: meadow\n");
+}
+
+TEST_F(Companions, TheOldOnesStay)
+{
+    save("there/book.oidpro", 905);
+    EXPECT_EQ(readFile(folder.file("here/900-bkgnd0.jpg")), "cover");
+    EXPECT_EQ(readFile(folder.file("here/900-bkgnd1.jpg")), "meadow");
+    EXPECT_EQ(readFile(folder.file("here/900-audio/moo.ogg")), "moo!");
+}
+
+TEST_F(Companions, WhereNothingChangesNothingIsCopied)
+{
+    EXPECT_EQ(save("here/other name.oidpro", 900), "");
+    EXPECT_FALSE(copied);
+    EXPECT_EQ(newFiles(), "");
+}
+
+TEST_F(Companions, TheyFollowFromSaveToSave)
+{
+    save("there/book.oidpro", 905);
+    fs::remove_all(folder.file("here"));
+    fs::create_directory(folder.file("here"));
+    save("there/book.oidpro", 906);
+    EXPECT_EQ(readFile(folder.file("there/906-bkgnd1.jpg")), "meadow");
+    EXPECT_EQ(readFile(folder.file("there/906-audio/moo.ogg")), "moo!");
+}
+
+TEST_F(Companions, APictureInTheWayIsOverwrittenOnlyOnYes)
+{
+    writeFile(folder.file("there/900-bkgnd1.jpg"), "another book");
+    EXPECT_EQ(save("there/book.oidpro", 900, false), "overwrite there/900-bkgnd1.jpg?\n");
+    EXPECT_EQ(readFile(folder.file("there/900-bkgnd0.jpg")), "cover");
+    EXPECT_EQ(readFile(folder.file("there/900-bkgnd1.jpg")), "another book");
+    save("here/book.oidpro", 900);
+    EXPECT_EQ(save("there/book.oidpro", 900, true), "overwrite there/900-bkgnd1.jpg?\n");
+    EXPECT_EQ(readFile(folder.file("there/900-bkgnd1.jpg")), "meadow");
+}
+
+TEST_F(Companions, NobodyIsAskedAgainAboutTheSameFile)
+{
+    writeFile(folder.file("there/900-bkgnd1.jpg"), "another book");
+    save("there/book.oidpro", 900, false);
+    EXPECT_EQ(save("there/book.oidpro", 900, true), "");
+    EXPECT_EQ(readFile(folder.file("there/900-bkgnd1.jpg")), "another book");
+}
+
+// Not the picture of the other book.
+TEST_F(Companions, AfterANoItsOwnPictureFollowsToTheNextNumber)
+{
+    writeFile(folder.file("there/900-bkgnd1.jpg"), "another book");
+    save("there/book.oidpro", 900, false);
+    EXPECT_EQ(save("there/book.oidpro", 901), "");
+    EXPECT_EQ(readFile(folder.file("there/901-bkgnd1.jpg")), "meadow");
+}
+
+TEST_F(Companions, TheSamePictureIsNotAskedAbout)
+{
+    save("there/book.oidpro", 905);
+    EXPECT_EQ(save("here/book.oidpro", 900), "");
+    EXPECT_FALSE(copied);
+}
+
+TEST_F(Companions, AudioFilesThatAreThereStay)
+{
+    fs::create_directory(folder.file("there/900-audio"));
+    writeFile(folder.file("there/900-audio/moo.ogg"), "own recording");
+    writeFile(folder.file("here/900-audio/baa.ogg"), "baa!");
+    EXPECT_EQ(save("there/book.oidpro", 900), "");
+    EXPECT_EQ(readFile(folder.file("there/900-audio/moo.ogg")), "own recording");
+    EXPECT_EQ(readFile(folder.file("there/900-audio/baa.ogg")), "baa!");
+}
+
+TEST_F(Companions, FoldersWithinTheAudioFolderComeAlong)
+{
+    fs::create_directories(folder.file("here/900-audio/songs/K\xC3\xBCken"));
+    writeFile(folder.file("here/900-audio/songs/K\xC3\xBCken/la.ogg"), "la!");
+    save("there/book.oidpro", 905);
+    EXPECT_EQ(readFile(folder.file("there/905-audio/songs/K\xC3\xBCken/la.ogg")), "la!");
+}
+
+TEST_F(Companions, AProjectMayMoveIntoItsOwnAudioFolder)
+{
+    EXPECT_EQ(save("here/900-audio/book.oidpro", 900), "");
+    EXPECT_EQ(readFile(folder.file("here/900-audio/900-audio/moo.ogg")), "moo!");
+    EXPECT_FALSE(fs::exists(folder.file("here/900-audio/900-audio/900-audio")));
+}
+
+TEST_F(Companions, APageWithoutItsPictureIsNothingToCopy)
+{
+    fs::remove(folder.file("here/900-bkgnd0.jpg"));
+    EXPECT_EQ(save("there/book.oidpro", 900), "");
+    EXPECT_FALSE(fs::exists(folder.file("there/900-bkgnd0.jpg")));
+}
+
+// It was kept under the number that the form shows, which may not be saved yet.
+TEST_F(Companions, APictureThatCameInIsWhereTheProjectLooksForIt)
+{
+    project.productId = 905;
+    writeFile(folder.file("here/905-bkgnd1.jpg"), "wood");
+    companions.cameIn(project, 1);
+    EXPECT_EQ(save("here/book.oidpro", 905), "");
+    EXPECT_EQ(readFile(folder.file("here/905-bkgnd0.jpg")), "cover");
+    EXPECT_EQ(readFile(folder.file("here/905-bkgnd1.jpg")), "wood");
+    save("here/book.oidpro", 906);
+    EXPECT_EQ(readFile(folder.file("here/906-bkgnd1.jpg")), "wood");
+}
+
+TEST_F(Companions, WhatCannotBeCopiedIsToldAndTriedAgain)
+{
+    writeFile(folder.file("here/900-bkgnd1.jpg"), std::string(5000, 'x'));
+    writeFile(folder.file("here/900-audio/moo.ogg"), std::string(5000, 'x'));
+    {
+        const SmallDisk disk(1000);
+        EXPECT_EQ(save("there/book.oidpro", 905), "failed there/905-bkgnd1.jpg\n"
+                                                  "failed there/905-audio\n");
+    }
+    EXPECT_EQ(newFiles(), "there/905-bkgnd0.jpg: cover\n");
+    EXPECT_EQ(save("there/book.oidpro", 905), "");
+    EXPECT_EQ(fs::file_size(folder.file("there/905-bkgnd1.jpg")), 5000U);
+    EXPECT_EQ(fs::file_size(folder.file("there/905-audio/moo.ogg")), 5000U);
+}
+
+TEST_F(Companions, AFolderInThePlaceOfAPictureFails)
+{
+    fs::create_directory(folder.file("there/900-bkgnd0.jpg"));
+    EXPECT_EQ(save("there/book.oidpro", 900, true),
+              "overwrite there/900-bkgnd0.jpg?\nfailed there/900-bkgnd0.jpg\n");
+    EXPECT_EQ(readFile(folder.file("there/900-bkgnd1.jpg")), "meadow");
+}
+
+TEST_F(Companions, AProjectThatWasNeverSavedHasNone)
+{
+    const fs::path before = fs::current_path();
+    fs::current_path(folder.file("here"));
+    CompanionFiles ofNewProject;
+    Oid::OidProject fresh;
+    fresh.pictures.resize(1);
+    ofNewProject.areBeside(fresh);
+    fresh.projectPath = folder.file("there/new.oidpro");
+    EXPECT_FALSE(ofNewProject.follow(fresh, {}).copied);
+    fs::current_path(before);
+    EXPECT_EQ(newFiles(), "");
+}
