@@ -2,6 +2,7 @@
 
 #include "bench/EditorBench.h"
 #include "editor/core/EditorBackend.h"
+#include "ttbasic/ttbasic.h"
 
 using namespace KVTextEditor;
 
@@ -18,7 +19,7 @@ struct Editing
     explicit Editing(int lines) : text(scriptOfLines(lines)), editor(&buffer)
     {
         set_new_editor_rules(editor);
-        set_script_rules(editor);
+        set_script_rules(editor, ttbasic::keywords(), ttbasic::voiceOptions());
         open();
         middle = lines / 2;
         editor.selection.set(middle, 4);

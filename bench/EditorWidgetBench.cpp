@@ -4,6 +4,7 @@
 #include "bench/PeerEditor.h"
 #include "editor/widget/KVQtFindDialog.h"
 #include "editor/widget/KVQtHighlightEditCtrl.h"
+#include "ttbasic/ttbasic.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -44,7 +45,8 @@ struct Ours
 
     Ours()
     {
-        KVTextEditor::set_script_rules(control.editor());
+        KVTextEditor::set_script_rules(control.editor(), ttbasic::keywords(),
+                                       ttbasic::voiceOptions());
         control.resize(kView);
         control.show();
     }

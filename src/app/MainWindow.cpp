@@ -9,6 +9,7 @@
 #include "oid/OpenProject.h"
 #include "oid/PrintImage.h"
 #include "qtsync/KVQtSync.h"
+#include "ttbasic/ttbasic.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
@@ -108,7 +109,8 @@ void MainWindow::prepareTextEditor()
     options.set_default_colours_bright();
     options.show_line_numbers = true;
     options.show_whitespace = false;
-    KVTextEditor::set_script_rules(ui->codeEditor->editor());
+    KVTextEditor::set_script_rules(ui->codeEditor->editor(), ttbasic::keywords(),
+                                   ttbasic::voiceOptions());
 }
 
 void MainWindow::ProjectDataWasChanged(bool toProject)

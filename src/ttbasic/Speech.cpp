@@ -21,7 +21,67 @@ std::vector<std::string> wordsOf(const std::string& text)
     return words;
 }
 
+// What may stand behind a voice's name, each with a value. Set answers whether the value is fine.
+struct VoiceOption
+{
+    const char* word;
+    bool (*set)(ttbasic::VOICE& voice, const std::string& value);
+    const char* problem;
+};
+
+// Intended: speed and pitch go up to 99 although their messages speak of 5.
+bool setNumber(int& number, const std::string& value)
+{
+    number = toInt(value.c_str());
+    return number >= 1 && number <= 99;
+}
+
+bool setSex(ttbasic::VOICE& voice, const std::string& value)
+{
+    voice.female = value == "f";
+    return voice.female || value == "m";
+}
+
+bool setLanguage(ttbasic::VOICE& voice, const std::string& value)
+{
+    voice.language = value;
+    return true;
+}
+
+using Voice = ttbasic::VOICE;
+using Value = const std::string&;
+
+constexpr VoiceOption kVoiceOptions[] = {
+    {"lang", setLanguage, ""},
+    {"age", [](Voice& voice, Value value) { return setNumber(voice.age, value); },
+     "voice age must be in range 1..99"},
+    {"speed", [](Voice& voice, Value value) { return setNumber(voice.speed, value); },
+     "voice speed must be in range 1..5"},
+    {"pitch", [](Voice& voice, Value value) { return setNumber(voice.pitch, value); },
+     "voice pitch must be in range 1..5"},
+    {"sex", setSex, "sex only supports 'm' and 'f'."},
+};
+
+const VoiceOption* voiceOption(const std::string& word)
+{
+    for (const VoiceOption& option : kVoiceOptions) {
+        if (word == option.word) {
+            return &option;
+        }
+    }
+    return nullptr;
+}
+
 }  // namespace
+
+std::vector<std::string> ttbasic::voiceOptions()
+{
+    std::vector<std::string> words;
+    for (const VoiceOption& option : kVoiceOptions) {
+        words.emplace_back(option.word);
+    }
+    return words;
+}
 
 bool ttbasic::doVoice(const std::string& rest)
 {
@@ -29,8 +89,11 @@ bool ttbasic::doVoice(const std::string& rest)
     VOICE voice;
     bool malformed = words.size() % 2 == 0;
     for (size_t i = 1; i + 1 < words.size(); i += 2) {
-        if (!setVoiceOption(voice, toLower(words[i]), toLower(words[i + 1]), malformed)) {
-            return false;
+        const VoiceOption* const option = voiceOption(toLower(words[i]));
+        if (option == nullptr) {
+            malformed = true;
+        } else if (!option->set(voice, toLower(words[i + 1]))) {
+            return error(option->problem);
         }
     }
     if (malformed) {
@@ -40,38 +103,6 @@ bool ttbasic::doVoice(const std::string& rest)
         return error("voice " + words[0] + " is aleady defined.");
     }
     return true;
-}
-
-bool ttbasic::setVoiceOption(VOICE& voice, const std::string& keyword, const std::string& value,
-                             bool& malformed)
-{
-    if (keyword == "lang") {
-        voice.language = value;
-    } else if (keyword == "age") {
-        return setVoiceNumber(voice.age, value, "voice age must be in range 1..99");
-    } else if (keyword == "speed") {
-        return setVoiceNumber(voice.speed, value, "voice speed must be in range 1..5");
-    } else if (keyword == "pitch") {
-        return setVoiceNumber(voice.pitch, value, "voice pitch must be in range 1..5");
-    } else if (keyword == "sex") {
-        return setVoiceSex(voice, value);
-    } else {
-        malformed = true;
-    }
-    return true;
-}
-
-// Intended: speed and pitch go up to 99 although their messages speak of 5.
-bool ttbasic::setVoiceNumber(int& number, const std::string& value, const char* rangeMessage)
-{
-    number = toInt(value.c_str());
-    return (number >= 1 && number <= 99) || error(rangeMessage);
-}
-
-bool ttbasic::setVoiceSex(VOICE& voice, const std::string& value)
-{
-    voice.female = value == "f";
-    return voice.female || value == "m" || error("sex only supports 'm' and 'f'.");
 }
 
 bool ttbasic::doSay(const std::string& rest)

@@ -40,7 +40,8 @@ constexpr Statement kStatements[] = {
     {"goto", [](ttbasic& script, const char* rest) { return script.doGoto(firstWord(rest)); }},
 };
 
-// The second words of "end".
+constexpr const char* kEnd = "end";
+// What may follow it.
 constexpr Statement kEnds[] = {
     {"if", compileEndif},
     {"sub", compileEndSub},
@@ -60,6 +61,15 @@ Compile find(const Statement (&statements)[N], const std::string& keyword)
 
 }  // namespace
 
+std::vector<std::string> ttbasic::keywords()
+{
+    std::vector<std::string> words = {kEnd};
+    for (const Statement& statement : kStatements) {
+        words.emplace_back(statement.keyword);
+    }
+    return words;
+}
+
 bool ttbasic::parseCommand(const char* line)
 {
     const char* rest = line;
@@ -69,7 +79,7 @@ bool ttbasic::parseCommand(const char* line)
     }
     announceLine();
     const Compile compile =
-        keyword == "end" ? find(kEnds, toLower(firstWord(rest))) : find(kStatements, keyword);
+        keyword == kEnd ? find(kEnds, toLower(firstWord(rest))) : find(kStatements, keyword);
     if (compile != nullptr) {
         return compile(*this, rest);
     }

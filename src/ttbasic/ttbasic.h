@@ -73,6 +73,11 @@ public:
     // The names of all subs, which are the areas that the script reacts to, in ascending order.
     std::vector<std::string> usedOidNames() const;
 
+    // The words of the language in small letters: those that a line can begin with, and those that
+    // stand behind the name of a voice.
+    static std::vector<std::string> keywords();
+    static std::vector<std::string> voiceOptions();
+
     // The function that all compilers print their errors with; null is standard output.
     static void redirectPrintfTo(PrintFunction function);
     static PrintFunction myprintf;
@@ -164,10 +169,6 @@ private:
     void compareRegisters(const std::string& target, const std::string& op,
                           const std::string& operand);
 
-    bool setVoiceOption(VOICE& voice, const std::string& keyword, const std::string& value,
-                        bool& malformed);
-    bool setVoiceNumber(int& number, const std::string& value, const char* rangeMessage);
-    bool setVoiceSex(VOICE& voice, const std::string& value);
     bool chooseVoice(std::vector<std::string>& words, std::string& voice);
     std::string welcomeVoice() const;
 

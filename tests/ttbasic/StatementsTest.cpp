@@ -5,6 +5,30 @@
 
 namespace {
 
+TEST(Keywords, AreTheseThirteen)
+{
+    EXPECT_THAT(ttbasic::keywords(), testing::UnorderedElementsAre(
+                                         "end", "if", "else", "endif", "sub", "endsub", "select",
+                                         "endselect", "case", "default", "voice", "say", "goto"));
+}
+
+TEST(Keywords, BehindAVoiceAreTheseFive)
+{
+    EXPECT_THAT(ttbasic::voiceOptions(),
+                testing::UnorderedElementsAre("lang", "age", "pitch", "speed", "sex"));
+}
+
+// Each word is one that the compiler knows: no script that begins a line with it is told that the
+// line cannot be read.
+TEST(Keywords, AreKnownToTheCompiler)
+{
+    for (const std::string& word : ttbasic::keywords()) {
+        const std::string line = word == "end" ? "end sub" : word;
+        EXPECT_EQ(compile(line + "\n").messages.find("Failed to parse command"), std::string::npos)
+            << word;
+    }
+}
+
 TEST(Keywords, MayBeWrittenInAnyCase)
 {
     const Compiled script = compile("SUB cow\n"

@@ -6,6 +6,7 @@
 
 #include "dev/Json.h"
 #include "editor/core/CaseChange.h"
+#include "ttbasic/ttbasic.h"
 
 using namespace KVTextEditor;
 
@@ -129,7 +130,7 @@ void useRules(Backend& editor, const std::u16string& name)
     if (name == u"cpp") {
         editor.init_keywords_cpp();
     } else if (name == u"script") {
-        set_script_rules(editor);
+        set_script_rules(editor, ttbasic::keywords(), ttbasic::voiceOptions());
     } else {
         throw WrongArgument{"the rules are neither \"cpp\" nor \"script\""};
     }

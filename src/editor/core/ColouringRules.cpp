@@ -16,6 +16,15 @@ void enterKeywords(EditorBackend<EdChar>::KEYWORD_TABLE& table,
     }
 }
 
+std::set<std::u16string> wide(const std::vector<std::string>& words)
+{
+    std::set<std::u16string> all;
+    for (const std::string& word : words) {
+        all.emplace(word.begin(), word.end());
+    }
+    return all;
+}
+
 }  // namespace
 
 template <class CELL>
@@ -51,13 +60,12 @@ void set_new_editor_rules(EditorBackend<EdChar>& editor)
     editor.keywords_update_hashtable(false);
 }
 
-void set_script_rules(EditorBackend<EdChar>& editor)
+void set_script_rules(EditorBackend<EdChar>& editor, const std::vector<std::string>& keywords,
+                      const std::vector<std::string>& options)
 {
     editor.line_comments = {u"'", u"#"};
-    editor.keywords_class1 = {u"end",    u"if",     u"else",      u"endif", u"sub",
-                              u"endsub", u"select", u"endselect", u"case",  u"default",
-                              u"voice",  u"say",    u"goto"};
-    editor.keywords_class2 = {u"lang", u"age", u"pitch", u"speed", u"sex"};
+    editor.keywords_class1 = wide(keywords);
+    editor.keywords_class2 = wide(options);
     editor.keywords_update_hashtable(false);
 }
 

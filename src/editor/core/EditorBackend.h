@@ -150,8 +150,9 @@ void write_cell_color(EdChar& cell, COLORINDEX role);
 // What a new editor starts with: init_keywords_cpp and the two words "foo" and "bar".
 void set_new_editor_rules(EditorBackend<EdChar>& editor);
 
-// Comments, keywords and voice parameters of the script language, on top of what a new editor
-// starts with. No line is marked changed.
-void set_script_rules(EditorBackend<EdChar>& editor);
+// Comments and words of the script language, on top of what a new editor starts with. The words, in
+// ASCII, are the two keyword classes. No line is marked changed.
+void set_script_rules(EditorBackend<EdChar>& editor, const std::vector<std::string>& keywords,
+                      const std::vector<std::string>& options);
 
 }  // namespace KVTextEditor

@@ -3,6 +3,7 @@
 #include <thread>
 
 #include "tests/editor/core/Editing.h"
+#include "ttbasic/ttbasic.h"
 
 using namespace KVTextEditor;
 
@@ -15,7 +16,7 @@ public:
     explicit Script(const std::string& text) : Editing(text)
     {
         set_new_editor_rules(editor);
-        set_script_rules(editor);
+        set_script_rules(editor, ttbasic::keywords(), ttbasic::voiceOptions());
         colour();
     }
 

@@ -1,4 +1,5 @@
 #include "tests/editor/widget/EditorWindow.h"
+#include "ttbasic/ttbasic.h"
 
 #include <QtTest>
 
@@ -79,7 +80,8 @@ private slots:
     void aScriptLooksAsItShould()
     {
         EditorWindow window;
-        KVTextEditor::set_script_rules(window.surface.editor);
+        KVTextEditor::set_script_rules(window.surface.editor, ttbasic::keywords(),
+                                       ttbasic::voiceOptions());
         window.control.setText("' A cow\nsub HN (MH)\n\tsay \"NH\" HN age # HM\nif MN\nend");
         window.place({1, 11}, {1, 11});
         QCOMPARE(kindsOf(window, 5, 24), QString("c.c.ccc.................\n"
