@@ -5,7 +5,6 @@
 
 #include <string>
 
-#include "ttbasic/CompileScript.h"
 #include "ttbasic/ttbasic.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "publish/CompileProject.h"
 
 #include "oid/OidProject.h"
-#include "ttbasic/CompileScript.h"
+#include "ttbasic/ttbasic.h"
 
 bool compileProject(Oid::OidProject& project, bool debugMode)
 {

@@ -15,7 +15,7 @@
 #include "oid/AudioFolder.h"
 #include "oid/OidProject.h"
 #include "publish/YamlFile.h"
-#include "ttbasic/CompileScript.h"
+#include "ttbasic/ttbasic.h"
 
 namespace fs = std::filesystem;
 

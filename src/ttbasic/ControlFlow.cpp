@@ -1,5 +1,4 @@
 #include "base/TextHelpers.h"
-#include "ttbasic/Numbers.h"
 #include "ttbasic/ttbasic.h"
 
 bool ttbasic::doIf(const std::string& condition)

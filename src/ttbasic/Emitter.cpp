@@ -1,5 +1,6 @@
+#include <limits>
+
 #include "base/TextHelpers.h"
-#include "ttbasic/Numbers.h"
 #include "ttbasic/ttbasic.h"
 
 void ttbasic::updateIfPrefix()
@@ -55,6 +56,19 @@ void ttbasic::emitCommand(Pieces pieces)
 bool ttbasic::isTooLarge() const
 {
     return code.size() > codeLimit;
+}
+
+// 0 to 996, in decimal.
+std::string ttbasic::randomSummand()
+{
+    return itostr(random.next() % 997);
+}
+
+void ttbasic::increase(int& counter)
+{
+    if (counter < std::numeric_limits<int>::max()) {
+        ++counter;
+    }
 }
 
 std::string ttbasic::nextLabel()

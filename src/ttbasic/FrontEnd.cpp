@@ -4,8 +4,10 @@
 
 #include "base/FileSystem.h"
 #include "base/TextHelpers.h"
-#include "ttbasic/Numbers.h"
 #include "ttbasic/SourceLines.h"
+
+// Two builds of one script draw the same numbers.
+static constexpr unsigned kRandomSeed = 7787;
 
 PrintFunction ttbasic::myprintf = printToStandardOutput;
 
@@ -70,13 +72,14 @@ bool ttbasic::parse(bool debugMode)
     clear();
     source = script;
     debug = debugMode;
-    seedRandomSummands();
+    random = Platform::RandomNumbers(kRandomSeed);
     code = "scripts:\r\n";
     variables = {"$rnd", "$_zero"};
     updateIfPrefix();
 
     bool failed = false;
-    for (char* line = nextLine(script.data()); line != nullptr; line = nextLine(nullptr)) {
+    LineSplitter lines(script.data());
+    while (char* line = lines.next()) {
         increase(lineNumber);
         if (!compileLine(line)) {
             failed = true;
@@ -126,4 +129,13 @@ bool ttbasic::error(const std::string& message)
     lastError = "Error: Line " + itostr(lineNumber) + ": " + message;
     myprintf("!!! Error: Line %d %s\n", lineNumber, message.c_str());
     return false;
+}
+
+bool compileScript(ttbasic& script, bool debugMode)
+{
+    try {
+        return script.parse(debugMode);
+    } catch (const ttbasic::StackUnderflow& underflow) {
+        return script.error(underflow.what());
+    }
 }

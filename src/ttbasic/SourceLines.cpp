@@ -6,8 +6,6 @@
 
 namespace {
 
-char* continuation = nullptr;
-
 void removeTrailingWhite(char* line)
 {
     char* end = line + std::strlen(line);
@@ -21,8 +19,17 @@ void removeTrailingWhite(char* line)
 
 char* nextLine(char* text)
 {
-    char* line = text != nullptr ? text : continuation;
-    continuation = nullptr;  // at the end there is nothing to go on with
+    static LineSplitter splitter(nullptr);
+    if (text != nullptr) {
+        splitter = LineSplitter(text);
+    }
+    return splitter.next();
+}
+
+char* LineSplitter::next()
+{
+    char* const line = position;
+    position = nullptr;  // at the end there is nothing to go on with
     if (line == nullptr || *line == '\0') {
         return nullptr;
     }
@@ -31,7 +38,7 @@ char* nextLine(char* text)
         return line;
     }
     *end = '\0';
-    continuation = end + 1;
+    position = end + 1;
     if (end != line && end[-1] == '\r') {
         end[-1] = '\0';
     }

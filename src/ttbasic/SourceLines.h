@@ -1,8 +1,22 @@
 #pragma once
 
-// Takes a zero-terminated text apart into its lines, in place: the first call gets the text, each
-// further one nullptr. A line loses its "\n" and one "\r" before it; null at the end of the text.
-// As with strtok there is one position for the whole process.
+// Takes a zero-terminated text apart into its lines, in place. A line loses its "\n" and one "\r"
+// before it.
+class LineSplitter
+{
+public:
+    // The text has to outlive the splitter; null is a text without lines.
+    explicit LineSplitter(char* text) : position(text) {}
+
+    // Null at the end of the text, and from then on.
+    char* next();
+
+private:
+    char* position;
+};
+
+// The same in the manner of strtok, with one splitter for the whole process: the first call gets
+// the text, each further one nullptr.
 char* nextLine(char* text);
 
 // Cuts the line at the first marker; with respectQuotes, at the first one outside double quotes.

@@ -1,5 +1,4 @@
 #include "base/TextHelpers.h"
-#include "ttbasic/Numbers.h"
 #include "ttbasic/ttbasic.h"
 
 namespace {
@@ -29,7 +28,7 @@ std::string ttbasic::yaml(int productId, const std::string& productName)
     return text += speech;
 }
 
-std::string ttbasic::yamlRegisters() const
+std::string ttbasic::yamlRegisters()
 {
     std::string text = "init:";
     for (const std::string& name : variables) {

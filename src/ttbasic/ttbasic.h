@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/PlatformRandom.h"
 #include "base/PrintFunction.h"
 
 // The compiler of the script language: it turns the author's script into the "scripts:" section of
@@ -20,8 +21,7 @@
 //   script.source = "sub cow\nsay \"Moo\"\nend sub\n";
 //   if (compileScript(script, false)) { text = script.yaml(900, "Farm"); }
 //
-// parse throws StackUnderflow; compileScript (CompileScript.h) reports it as an error of the
-// script.
+// parse throws StackUnderflow; compileScript reports it as an error of the script.
 class ttbasic
 {
 public:
@@ -163,6 +163,9 @@ private:
     void emitCommand(Pieces pieces);
     bool isTooLarge() const;
     std::string nextLabel();
+    std::string randomSummand();
+    // Adds one; a counter at the end of its range stays there.
+    static void increase(int& counter);
     void emitFallThrough(std::string_view condition, const std::string& label);
     void emitToken(const std::string& token);
     void applyOperator(const std::string& op);
@@ -172,10 +175,17 @@ private:
     bool chooseVoice(std::vector<std::string>& words, std::string& voice);
     std::string welcomeVoice() const;
 
-    std::string yamlRegisters() const;
+    std::string yamlRegisters();
     std::string yamlVoices() const;
     std::string yamlTalkTexts() const;
+
+    // Of the game; parse seeds them anew.
+    Platform::RandomNumbers random;
 };
+
+// Compiles the script as parse does; an expression without enough operands counts as an error of
+// its line and ends the compilation. For everyone who builds a game.
+bool compileScript(ttbasic& script, bool debugMode);
 
 // As the inside of a text in single quotes wants it: each "'" twice.
 std::string escapeYamlString(const std::string& text);

@@ -5,7 +5,7 @@
 #include "oid/OidProject.h"
 #include "tests/helpers/CapturedMessages.h"
 #include "tests/helpers/TemporaryFolder.h"
-#include "ttbasic/CompileScript.h"
+#include "ttbasic/ttbasic.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include "base/TextHelpers.h"
 #include "tests/helpers/CapturedMessages.h"
-#include "ttbasic/CompileScript.h"
+#include "ttbasic/ttbasic.h"
 
 std::string Compiled::registers() const
 {

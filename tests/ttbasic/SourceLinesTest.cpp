@@ -63,6 +63,20 @@ TEST(NextLine, GivesNothingWhenThereIsNoTextToGoOnWith)
     EXPECT_EQ(nextLine(nullptr), nullptr);
 }
 
+TEST(LineSplitter, GivesTheLinesOfItsOwnTextBesideAnotherOne)
+{
+    std::string oneText = "a\nb";
+    std::string otherText = "c\nd";
+    LineSplitter one(oneText.data());
+    LineSplitter other(otherText.data());
+    EXPECT_STREQ(one.next(), "a");
+    EXPECT_STREQ(other.next(), "c");
+    EXPECT_STREQ(one.next(), "b");
+    EXPECT_STREQ(other.next(), "d");
+    EXPECT_EQ(one.next(), nullptr);
+    EXPECT_EQ(one.next(), nullptr);
+}
+
 TEST(CutComment, EndsTheLineAtTheMarker)
 {
     EXPECT_EQ(cut("x = 1 # note", '#'), "x = 1 ");

@@ -125,6 +125,15 @@ TEST(Yaml, OfTwoBuildsIsTheSame)
     EXPECT_EQ(yamlOf(source), yamlOf(source));
 }
 
+TEST(Yaml, OfAScriptDoesNotDependOnAnotherOneCompiledMeanwhile)
+{
+    const std::string source = "sub lion\nif x\nsay Roar\nend if\nend sub\n";
+    Compiled lion = compile(source);
+    Compiled cow = compile("sub cow\nend sub\n");
+    std::srand(1);
+    EXPECT_EQ(lion.script.yaml(950, "Zoo"), yamlOf(source));
+}
+
 TEST(YamlString, DoublesApostrophes)
 {
     EXPECT_EQ(escapeYamlString("it's ''"), "it''s ''''");
