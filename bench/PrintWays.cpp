@@ -10,6 +10,7 @@
 #include "base/PlatformFiles.h"
 #include "bench/PrintBenchBook.h"
 #include "oid/PageRenderer.h"
+#include "oid/TiffWriter.h"
 
 namespace {
 
@@ -59,8 +60,7 @@ void printPageWithoutDots(BenchPage& page)
     TiffWriter file(page.project.pathImageOutput(0));
     require(background.load(page.project.pathImageSource(0)), "Loading the background");
     background.fitInto(page.geometry);
-    require(file.open(page.geometry, PageRenderer::kRowsPerBand) &&
-                PageRenderer(page.geometry, background, nullptr).render(file, {}) && file.finish(),
+    require(PageRenderer(page.geometry, background, nullptr).render(file, {}),
             "Printing without dots");
 }
 

@@ -78,8 +78,11 @@ PageRenderer::PageRenderer(const PageGeometry& pageGeometry, const PageBackgroun
 
 PageRenderer::~PageRenderer() = default;
 
-bool PageRenderer::render(TiffWriter& file, const PrintProgress& progress)
+bool PageRenderer::render(PageSink& sink, const PrintProgress& progress)
 {
+    if (!sink.open(page, kRowsPerBand)) {
+        return false;
+    }
     ProgressLines lines(background.percentPerPixel());
     const int bandsPerStretch = static_cast<int>(strips.size());
     for (int band = 0; band < bandCount; band += bandsPerStretch) {
@@ -87,7 +90,7 @@ bool PageRenderer::render(TiffWriter& file, const PrintProgress& progress)
         for (int y = rowsBefore(band); y < rowsBefore(endBand); ++y) {
             lines.reach(y);
         }
-        if (!renderStretch(band, endBand - band, file)) {
+        if (!renderStretch(band, endBand - band, sink)) {
             return false;
         }
         const auto percentDone = static_cast<int>(100LL * rowsBefore(endBand) / page.height);
@@ -95,12 +98,12 @@ bool PageRenderer::render(TiffWriter& file, const PrintProgress& progress)
             return false;
         }
     }
-    return true;
+    return sink.finish();
 }
 
-// Whoever completes a strip also writes those that are due, so that the file grows in order while
+// Whoever completes a strip also writes those that are due, so that the page grows in order while
 // the other threads go on.
-bool PageRenderer::renderStretch(int firstBand, int count, TiffWriter& file)
+bool PageRenderer::renderStretch(int firstBand, int count, PageSink& sink)
 {
     const int threads = static_cast<int>(workers.size());
     std::vector<bool> made(strips.size());
@@ -117,7 +120,7 @@ bool PageRenderer::renderStretch(int firstBand, int count, TiffWriter& file)
             complete = complete && enoughMemory;
             made[slot] = true;
             for (; next < made.size() && made[next]; ++next) {
-                written = written && complete && file.writeStrip(strips[next]);
+                written = written && complete && sink.writeStrip(strips[next]);
             }
         }
     }
@@ -125,7 +128,7 @@ bool PageRenderer::renderStretch(int firstBand, int count, TiffWriter& file)
         mi_printf("Error: Not enough memory to print the page\n");
         return false;
     }
-    return written || file.reportNotWritten();
+    return written || sink.finish();  // which tells why
 }
 
 int PageRenderer::rowsBefore(int band) const

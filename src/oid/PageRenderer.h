@@ -4,8 +4,8 @@
 
 #include "oid/DotLayer.h"
 #include "oid/PageBackground.h"
+#include "oid/PageSink.h"
 #include "oid/PrintImage.h"
-#include "oid/TiffWriter.h"
 
 // The progress lines of a page: about one every ten percent units of height, measured in percent of
 // the drawn width, so that they may pass 100.
@@ -32,16 +32,16 @@ public:
 
     ~PageRenderer();
 
-    // Writes the strips of the whole page. False, with a message, when memory or disk do not
-    // suffice, and without one when progress cancels.
-    bool render(TiffWriter& file, const PrintProgress& progress);
+    // Makes the whole page and gives it to the sink. False, with a message, when memory or the sink
+    // do not suffice, and without one when progress cancels; the sink has no page then.
+    bool render(PageSink& sink, const PrintProgress& progress);
 
     static constexpr int kRowsPerBand = 16;  // divides PageBackground::kTileEdge
 
 private:
     class Worker;
 
-    bool renderStretch(int firstBand, int bandCount, TiffWriter& file);
+    bool renderStretch(int firstBand, int bandCount, PageSink& sink);
     int rowsBefore(int band) const;
 
     const PageGeometry& page;

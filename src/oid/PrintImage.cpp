@@ -2,47 +2,27 @@
 
 #include <algorithm>
 #include <new>
-#include <set>
+#include <utility>
 
 #include "base/FileSystem.h"
 #include "base/PlatformMemory.h"
 #include "oid/PageRenderer.h"
+#include "oid/PreparedPage.h"
+#include "oid/TiffWriter.h"
 
 PrintFunction mi_printf = printToStandardOutput;
 
 namespace {
 
-constexpr std::uint32_t kFillCode = 65535;  // no OID has it
-constexpr int kLargestOid = 16383;
-
-// Draws the tiles of the areas. Intended: a tile keeps the dots of its earlier runs.
-void drawTiles(Oid::OidProject& project, Oid::PICTURE& picture, int tileSize)
+// Intended: printing leaves the orientation, the bounds and the tiles in the project, and enters
+// areas without a number with 0.
+void keepPrepared(Oid::OidProject& project, Oid::PICTURE& picture, PreparedPage& page)
 {
-    std::set<std::string> reported;
-    for (Oid::POLY& area : picture.polys) {
-        const Oid::OidProject::OID& entry = project.oids[area.name];
-        const bool hasCode = entry.oid >= 0 && entry.oid <= kLargestOid;
-        if (!hasCode && reported.insert(area.name).second) {
-            mi_printf("Warning: OID %d of '%s' has no dot pattern\n", entry.oid, area.name.c_str());
-        }
-        area.tile.create(static_cast<std::uint32_t>(entry.rawCode), tileSize, false);
+    for (const Oid::POLY& area : page.areas) {
+        project.oids.try_emplace(area.name);
     }
-}
-
-void prepareAreas(Oid::OidProject& project, Oid::PICTURE& picture, int tileSize)
-{
-    for (Oid::POLY& area : picture.polys) {
-        area.fixOrientation();
-    }
+    picture.polys = std::move(page.areas);
     prepareBounds(project);
-    drawTiles(project, picture, tileSize);
-}
-
-oidPixels fillTile(int tileSize)
-{
-    oidPixels tile;
-    tile.create(kFillCode, tileSize, false);
-    return tile;
 }
 
 bool renderPicture(int n, Oid::OidProject& project, const PrintProgress& progress)
@@ -58,11 +38,11 @@ bool renderPicture(int n, Oid::OidProject& project, const PrintProgress& progres
         return false;
     }
     background.fitInto(page);
-    prepareAreas(project, picture, page.tileSize);
-    const DotLayer dots(picture.polys, fillTile(page.tileSize), page, background.percentPerPixel());
+    PreparedPage prepared(project, n, page, PreparedPage::Tiles::overdrawn);
+    const DotLayer dots(prepared.areas, prepared.fill, page, background.percentPerPixel());
+    keepPrepared(project, picture, prepared);
     TiffWriter file(project.pathImageOutput(n));
-    return file.open(page, PageRenderer::kRowsPerBand) &&
-           PageRenderer(page, background, &dots).render(file, progress) && file.finish();
+    return PageRenderer(page, background, &dots).render(file, progress);
 }
 
 }  // namespace
@@ -88,19 +68,22 @@ void prepareBounds(Oid::OidProject& project)
 {
     for (Oid::PICTURE& picture : project.pictures) {
         for (Oid::POLY& area : picture.polys) {
-            if (area.points.empty()) {
-                continue;
-            }
-            const auto byX = [](const Oid::PNT& a, const Oid::PNT& b) { return a.x < b.x; };
-            const auto byY = [](const Oid::PNT& a, const Oid::PNT& b) { return a.y < b.y; };
-            const auto [left, right] =
-                std::minmax_element(area.points.begin(), area.points.end(), byX);
-            const auto [top, bottom] =
-                std::minmax_element(area.points.begin(), area.points.end(), byY);
-            area.minX = left->x;
-            area.maxX = right->x;
-            area.minY = top->y;
-            area.maxY = bottom->y;
+            prepareBounds(area);
         }
     }
+}
+
+void prepareBounds(Oid::POLY& area)
+{
+    if (area.points.empty()) {
+        return;
+    }
+    const auto byX = [](const Oid::PNT& a, const Oid::PNT& b) { return a.x < b.x; };
+    const auto byY = [](const Oid::PNT& a, const Oid::PNT& b) { return a.y < b.y; };
+    const auto [left, right] = std::minmax_element(area.points.begin(), area.points.end(), byX);
+    const auto [top, bottom] = std::minmax_element(area.points.begin(), area.points.end(), byY);
+    area.minX = left->x;
+    area.maxX = right->x;
+    area.minY = top->y;
+    area.maxY = bottom->y;
 }

@@ -6,7 +6,8 @@
 
 namespace Oid {
 class OidProject;
-}
+struct POLY;
+}  // namespace Oid
 
 // Print images: the background of a picture on a page of its paper size, covered with the dot
 // patterns of its areas and with a fill pattern everywhere else, as a TIFF beside the project.
@@ -26,3 +27,4 @@ bool makeImage(int n, Oid::OidProject& project, const PrintProgress& progress = 
 // Sets minX to maxY of every polygon of every picture to the bounds of its points; polygons
 // without points keep theirs.
 void prepareBounds(Oid::OidProject& project);
+void prepareBounds(Oid::POLY& area);

@@ -116,12 +116,13 @@ bool TiffWriter::setTags(const PageGeometry& page, int rowsPerStrip)
 bool TiffWriter::writeStrip(const Strip& strip)
 {
     const auto size = static_cast<tmsize_t>(strip.size);
-    return TIFFWriteRawStrip(image, nextStrip++, strip.bytes.get(), size) == size;
+    complete = complete && TIFFWriteRawStrip(image, nextStrip++, strip.bytes.get(), size) == size;
+    return complete;
 }
 
 bool TiffWriter::finish()
 {
-    const bool complete = TIFFWriteDirectory(image) != 0;
+    complete = complete && TIFFWriteDirectory(image) != 0;
     TIFFCleanup(image);
     image = nullptr;
     return (complete && file.commit()) || reportNotWritten();

@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "oid/PageRenderer.h"
+#include "oid/TiffWriter.h"
 #include "tests/oid/PlainPrintImage.h"
 #include "tests/oid/PrintProjects.h"
 
