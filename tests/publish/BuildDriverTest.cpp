@@ -8,9 +8,9 @@
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
 #include "tests/helpers/Environment.h"
+#include "tests/helpers/FileTimes.h"
 #include "tests/helpers/SmallDisk.h"
 #include "tests/helpers/TemporaryFolder.h"
-#include "tests/publish/FileTimes.h"
 #include "tests/publish/RecordingRunner.h"
 
 namespace fs = std::filesystem;

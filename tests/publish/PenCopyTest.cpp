@@ -7,9 +7,9 @@
 #include "oid/OidProject.h"
 #include "publish/CompileProject.h"
 #include "publish/YamlFile.h"
+#include "tests/helpers/FileTimes.h"
 #include "tests/helpers/SmallDisk.h"
 #include "tests/helpers/TemporaryFolder.h"
-#include "tests/publish/FileTimes.h"
 #include "tests/publish/RecordingRunner.h"
 
 namespace fs = std::filesystem;
