@@ -154,6 +154,90 @@
         <translation>Das Druckbild jetzt erzeugen...</translation>
     </message>
     <message>
+        <source>For all pictures</source>
+        <translation>Für alle Bilder</translation>
+    </message>
+    <message>
+        <source>Gives the paper and the DPI of this picture to all pictures</source>
+        <translation>Gibt allen Bildern das Papier und die DPI dieses Bildes</translation>
+    </message>
+    <message>
+        <source>There is no picture yet</source>
+        <translation>Es gibt noch kein Bild</translation>
+    </message>
+    <message>
+        <source>Paper size and DPI must be greater than 0</source>
+        <translation>Papiergröße und DPI müssen größer als 0 sein</translation>
+    </message>
+    <message>
+        <source>All pictures have this paper and these DPI now</source>
+        <translation>Alle Bilder haben jetzt dieses Papier und diese DPI</translation>
+    </message>
+    <message>
+        <source>picture %1: %2 DPI are too few for the dots</source>
+        <translation>Bild %1: %2 DPI sind zu wenig für die Punkte</translation>
+    </message>
+    <message>
+        <source>Creating was cancelled</source>
+        <translation>Das Erzeugen wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>Picture %1 was not created: %2</source>
+        <translation>Bild %1 wurde nicht erzeugt: %2</translation>
+    </message>
+    <message>
+        <source>1 print image created</source>
+        <translation>1 Druckbild erzeugt</translation>
+    </message>
+    <message>
+        <source>%1 print images created</source>
+        <translation>%1 Druckbilder erzeugt</translation>
+    </message>
+    <message>
+        <source>Building...</source>
+        <translation>Das Spiel wird gebaut...</translation>
+    </message>
+    <message>
+        <source>The game was built: %1</source>
+        <translation>Das Spiel wurde gebaut: %1</translation>
+    </message>
+    <message>
+        <source>The game was not built. The console tells why.</source>
+        <translation>Das Spiel wurde nicht gebaut. Die Konsole sagt, warum.</translation>
+    </message>
+    <message>
+        <source>The game was copied to the pen</source>
+        <translation>Das Spiel wurde auf den Stift kopiert</translation>
+    </message>
+    <message>
+        <source>The game was not copied to the pen</source>
+        <translation>Das Spiel wurde nicht auf den Stift kopiert</translation>
+    </message>
+    <message>
+        <source>There is no game yet: build it first</source>
+        <translation>Es gibt noch kein Spiel: bauen Sie es zuerst</translation>
+    </message>
+    <message>
+        <source>No pen was found: a pen is a drive that holds the file %1</source>
+        <translation>Es wurde kein Stift gefunden: ein Stift ist ein Laufwerk mit der Datei %1</translation>
+    </message>
+    <message>
+        <source>Opened: %1</source>
+        <translation>Geöffnet: %1</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>Nicht geöffnet: %1</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>Nicht gespeichert: %1</translation>
+    </message>
+    <message>
         <source>Areas</source>
         <translation>Bereiche</translation>
     </message>

@@ -154,6 +154,90 @@
         <translation>Create the output image now...</translation>
     </message>
     <message>
+        <source>For all pictures</source>
+        <translation>For all pictures</translation>
+    </message>
+    <message>
+        <source>Gives the paper and the DPI of this picture to all pictures</source>
+        <translation>Gives the paper and the DPI of this picture to all pictures</translation>
+    </message>
+    <message>
+        <source>There is no picture yet</source>
+        <translation>There is no picture yet</translation>
+    </message>
+    <message>
+        <source>Paper size and DPI must be greater than 0</source>
+        <translation>Paper size and DPI must be greater than 0</translation>
+    </message>
+    <message>
+        <source>All pictures have this paper and these DPI now</source>
+        <translation>All pictures have this paper and these DPI now</translation>
+    </message>
+    <message>
+        <source>picture %1: %2 DPI are too few for the dots</source>
+        <translation>picture %1: %2 DPI are too few for the dots</translation>
+    </message>
+    <message>
+        <source>Creating was cancelled</source>
+        <translation>Creating was cancelled</translation>
+    </message>
+    <message>
+        <source>Picture %1 was not created: %2</source>
+        <translation>Picture %1 was not created: %2</translation>
+    </message>
+    <message>
+        <source>1 print image created</source>
+        <translation>1 print image created</translation>
+    </message>
+    <message>
+        <source>%1 print images created</source>
+        <translation>%1 print images created</translation>
+    </message>
+    <message>
+        <source>Building...</source>
+        <translation>Building...</translation>
+    </message>
+    <message>
+        <source>The game was built: %1</source>
+        <translation>The game was built: %1</translation>
+    </message>
+    <message>
+        <source>The game was not built. The console tells why.</source>
+        <translation>The game was not built. The console tells why.</translation>
+    </message>
+    <message>
+        <source>The game was copied to the pen</source>
+        <translation>The game was copied to the pen</translation>
+    </message>
+    <message>
+        <source>The game was not copied to the pen</source>
+        <translation>The game was not copied to the pen</translation>
+    </message>
+    <message>
+        <source>There is no game yet: build it first</source>
+        <translation>There is no game yet: build it first</translation>
+    </message>
+    <message>
+        <source>No pen was found: a pen is a drive that holds the file %1</source>
+        <translation>No pen was found: a pen is a drive that holds the file %1</translation>
+    </message>
+    <message>
+        <source>Opened: %1</source>
+        <translation>Opened: %1</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>Not opened: %1</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Saved: %1</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>Not saved: %1</translation>
+    </message>
+    <message>
         <source>Areas</source>
         <translation>Areas</translation>
     </message>

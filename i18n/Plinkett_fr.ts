@@ -154,6 +154,90 @@
         <translation>Créer l&apos;image à imprimer maintenant...</translation>
     </message>
     <message>
+        <source>For all pictures</source>
+        <translation>Pour toutes les images</translation>
+    </message>
+    <message>
+        <source>Gives the paper and the DPI of this picture to all pictures</source>
+        <translation>Donne à toutes les images le papier et les DPI de celle-ci</translation>
+    </message>
+    <message>
+        <source>There is no picture yet</source>
+        <translation>Il n'y a pas encore d'image</translation>
+    </message>
+    <message>
+        <source>Paper size and DPI must be greater than 0</source>
+        <translation>Le format du papier et les DPI doivent être supérieurs à 0</translation>
+    </message>
+    <message>
+        <source>All pictures have this paper and these DPI now</source>
+        <translation>Toutes les images ont maintenant ce papier et ces DPI</translation>
+    </message>
+    <message>
+        <source>picture %1: %2 DPI are too few for the dots</source>
+        <translation>image %1 : %2 DPI sont trop peu pour les points</translation>
+    </message>
+    <message>
+        <source>Creating was cancelled</source>
+        <translation>La création a été annulée</translation>
+    </message>
+    <message>
+        <source>Picture %1 was not created: %2</source>
+        <translation>L'image %1 n'a pas été créée : %2</translation>
+    </message>
+    <message>
+        <source>1 print image created</source>
+        <translation>1 image à imprimer créée</translation>
+    </message>
+    <message>
+        <source>%1 print images created</source>
+        <translation>%1 images à imprimer créées</translation>
+    </message>
+    <message>
+        <source>Building...</source>
+        <translation>Génération du jeu...</translation>
+    </message>
+    <message>
+        <source>The game was built: %1</source>
+        <translation>Le jeu a été généré : %1</translation>
+    </message>
+    <message>
+        <source>The game was not built. The console tells why.</source>
+        <translation>Le jeu n'a pas été généré. La console dit pourquoi.</translation>
+    </message>
+    <message>
+        <source>The game was copied to the pen</source>
+        <translation>Le jeu a été copié sur le stylo</translation>
+    </message>
+    <message>
+        <source>The game was not copied to the pen</source>
+        <translation>Le jeu n'a pas été copié sur le stylo</translation>
+    </message>
+    <message>
+        <source>There is no game yet: build it first</source>
+        <translation>Il n'y a pas encore de jeu : générez-le d'abord</translation>
+    </message>
+    <message>
+        <source>No pen was found: a pen is a drive that holds the file %1</source>
+        <translation>Aucun stylo n'a été trouvé : un stylo est un lecteur qui contient le fichier %1</translation>
+    </message>
+    <message>
+        <source>Opened: %1</source>
+        <translation>Ouvert : %1</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>Non ouvert : %1</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Enregistré : %1</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>Non enregistré : %1</translation>
+    </message>
+    <message>
         <source>Areas</source>
         <translation>Zones</translation>
     </message>

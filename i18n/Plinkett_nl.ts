@@ -154,6 +154,90 @@
         <translation>De afdrukafbeelding nu maken...</translation>
     </message>
     <message>
+        <source>For all pictures</source>
+        <translation>Voor alle afbeeldingen</translation>
+    </message>
+    <message>
+        <source>Gives the paper and the DPI of this picture to all pictures</source>
+        <translation>Geeft alle afbeeldingen het papier en de DPI van deze</translation>
+    </message>
+    <message>
+        <source>There is no picture yet</source>
+        <translation>Er is nog geen afbeelding</translation>
+    </message>
+    <message>
+        <source>Paper size and DPI must be greater than 0</source>
+        <translation>Papierformaat en DPI moeten groter dan 0 zijn</translation>
+    </message>
+    <message>
+        <source>All pictures have this paper and these DPI now</source>
+        <translation>Alle afbeeldingen hebben nu dit papier en deze DPI</translation>
+    </message>
+    <message>
+        <source>picture %1: %2 DPI are too few for the dots</source>
+        <translation>afbeelding %1: %2 DPI zijn te weinig voor de punten</translation>
+    </message>
+    <message>
+        <source>Creating was cancelled</source>
+        <translation>Het maken is geannuleerd</translation>
+    </message>
+    <message>
+        <source>Picture %1 was not created: %2</source>
+        <translation>Afbeelding %1 is niet gemaakt: %2</translation>
+    </message>
+    <message>
+        <source>1 print image created</source>
+        <translation>1 afdrukafbeelding gemaakt</translation>
+    </message>
+    <message>
+        <source>%1 print images created</source>
+        <translation>%1 afdrukafbeeldingen gemaakt</translation>
+    </message>
+    <message>
+        <source>Building...</source>
+        <translation>Het spel wordt gebouwd...</translation>
+    </message>
+    <message>
+        <source>The game was built: %1</source>
+        <translation>Het spel is gebouwd: %1</translation>
+    </message>
+    <message>
+        <source>The game was not built. The console tells why.</source>
+        <translation>Het spel is niet gebouwd. De console zegt waarom.</translation>
+    </message>
+    <message>
+        <source>The game was copied to the pen</source>
+        <translation>Het spel is naar de pen gekopieerd</translation>
+    </message>
+    <message>
+        <source>The game was not copied to the pen</source>
+        <translation>Het spel is niet naar de pen gekopieerd</translation>
+    </message>
+    <message>
+        <source>There is no game yet: build it first</source>
+        <translation>Er is nog geen spel: bouw het eerst</translation>
+    </message>
+    <message>
+        <source>No pen was found: a pen is a drive that holds the file %1</source>
+        <translation>Er is geen pen gevonden: een pen is een station met het bestand %1</translation>
+    </message>
+    <message>
+        <source>Opened: %1</source>
+        <translation>Geopend: %1</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>Niet geopend: %1</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Opgeslagen: %1</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>Niet opgeslagen: %1</translation>
+    </message>
+    <message>
         <source>Areas</source>
         <translation>Gebieden</translation>
     </message>

@@ -21,6 +21,7 @@
 #include <QMimeData>
 #include <QScrollArea>
 #include <QStatusBar>
+#include <QTimer>
 #include <QUrl>
 
 MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWindow)
@@ -29,11 +30,13 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     ui->setupUi(this);
     takeDrops();
     letPictureScroll();
+    letProjectScroll();
     takeDecimalCommas();
     prepareNotices();
     new StorableName(ui->txPolyName);
     new ProductNameNote(ui->txProjectName, ui->lbProjectNameProblems);
     ui->polyArea->setProject(&project);
+    connect(ui->btSizeForAll, &QPushButton::clicked, this, &MainWindow::giveSizeToAllPictures);
     connect(ui->polyArea, &PolyEditorWidget::clickedLB, this, &MainWindow::onPolyAreaClickedLB);
     setDefaultPrintf(KVQtStdoutWidget::redirectPrintf);
     printIntoConsole();
@@ -74,6 +77,23 @@ void MainWindow::letPictureScroll()
     ui->polyArea->setAutoFillBackground(false);
 }
 
+// What is told below "Create" may be long; on a small screen one scrolls to it.
+void MainWindow::letProjectScroll()
+{
+    auto* const content = new QWidget(ui->tabProject);  // the order of Tab stays within a window
+    content->setLayout(ui->verticalLayout_6);           // takes the tab's controls along
+    projectScroll = new QScrollArea(ui->tabProject);
+    projectScroll->setFrameShape(QFrame::NoFrame);
+    projectScroll->setFocusPolicy(Qt::NoFocus);
+    projectScroll->setWidgetResizable(true);
+    projectScroll->setWidget(content);
+    projectScroll->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+    auto* const tab = new QVBoxLayout(ui->tabProject);
+    tab->setContentsMargins(0, 0, 0, 0);
+    tab->addWidget(projectScroll);
+}
+
 void MainWindow::takeDecimalCommas()
 {
     ui->txProjPaperWidth->setValidator(new DecimalComma(this));
@@ -93,8 +113,7 @@ void MainWindow::takeNumber(int number)
 {
     ui->txProjectId->setValue(number);
     keepEdits();
-    statusBar()->showMessage(
-        tr("This book has the number %1 now. Save it to keep that.").arg(number));
+    tell(tr("This book has the number %1 now. Save it to keep that.").arg(number));
 }
 
 void MainWindow::printIntoConsole()
@@ -166,6 +185,8 @@ void MainWindow::on_action_Open_triggered()
 void MainWindow::openProject(const QString& path)
 {
     ui->txConsole->clear();
+    ui->lbCreateResult->clear();
+    ui->lbBuildResult->clear();
     printIntoConsole();
     // Creating print images, for one, goes to another folder.
     const std::string file = QFileInfo(path).absoluteFilePath().toStdString();
@@ -180,6 +201,8 @@ void MainWindow::openProject(const QString& path)
     ui->polyArea->repaint();
     numberBar->opened(project);
     companions.areBeside(project);
+    const QString name = QFileInfo(path).fileName();
+    tell(opened ? tr("Opened: %1").arg(name) : tr("Not opened: %1").arg(name));
 }
 
 void MainWindow::on_action_Save_As_triggered()
@@ -203,11 +226,29 @@ void MainWindow::on_actionSave_triggered()
 bool MainWindow::saveProject(const std::string& path)
 {
     const bool saved = project.save(path);
+    const QString name = QFileInfo(QString::fromStdString(path)).fileName();
+    tell(saved ? tr("Saved: %1").arg(name) : tr("Not saved: %1").arg(name));
     if (saved) {
         numberBar->saved(project);
         takeFilesAlong();
     }
     return saved;
+}
+
+void MainWindow::tell(const QString& text)
+{
+    statusBar()->showMessage(text);
+}
+
+void MainWindow::tell(QLabel& besideButton, const QString& text)
+{
+    besideButton.setText(text);
+    tell(text);
+    if (projectScroll->isAncestorOf(&besideButton)) {
+        QTimer::singleShot(0, projectScroll, [this, &besideButton] {  // when it has its place
+            projectScroll->ensureWidgetVisible(&besideButton);
+        });
+    }
 }
 
 void MainWindow::warn(const QString& text)

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QMessageBox>
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -16,6 +17,7 @@ class MainWindow;
 }
 class NumberBar;
 class PictureCopy;
+class QLabel;
 class QScrollArea;
 
 // The one window. It owns the one project, which all its controls edit; form and project are kept
@@ -87,6 +89,7 @@ private:
     void prepareTextEditor();
     void takeDrops();
     void letPictureScroll();
+    void letProjectScroll();
     void takeDecimalCommas();
     void prepareNotices();
     void takeNumber(int number);
@@ -123,6 +126,16 @@ private:
     // Writes the copy whole or not at all; says why when it was not kept.
     bool keepCopy(const PictureCopy& picture, const std::string& path);
     void warn(const QString& text);
+    // Says in the status bar what came of an action; with a label also beside its button.
+    void tell(const QString& text);
+    void tell(QLabel& besideButton, const QString& text);
+
+    // Paper and resolution of the current picture become those of all.
+    void giveSizeToAllPictures();
+    // One line for each picture whose resolution is too low; empty if none is.
+    QString tooFewDpi() const;
+    // Greys out Build and Copy until the assembler that Build has left running is done.
+    void waitForAssembler(std::function<void()> done);
 
     // The speech step of a build, with its progress.
     SpeechOutcome createSoundFiles();
@@ -135,5 +148,6 @@ private:
     int selectedPoly = -1;
     std::unique_ptr<Ui::MainWindow> ui;
     QScrollArea* pictureScroll = nullptr;
+    QScrollArea* projectScroll = nullptr;
     NumberBar* numberBar = nullptr;
 };

@@ -4,34 +4,119 @@
 #include "app/WorkProgress.h"
 #include "base/FileSystem.h"
 #include "oid/PrintImage.h"
+#include "oid/PrintJob.h"
 #include "publish/BuildDriver.h"
 #include "publish/PenCopy.h"
 #include "ui_MainWindow.h"
 
+#include <QPointer>
+
+void MainWindow::giveSizeToAllPictures()
+{
+    ProjectDataWasChanged(true);
+    const Oid::PICTURE* const current = ui->polyArea->picture();
+    if (current == nullptr) {
+        tell(*ui->lbCreateResult, tr("There is no picture yet"));
+        return;
+    }
+    if (current->paperWidth <= 0 || current->paperHeight <= 0 || current->dpi <= 0) {
+        tell(*ui->lbCreateResult, tr("Paper size and DPI must be greater than 0"));
+        return;
+    }
+    for (Oid::PICTURE& picture : project.pictures) {
+        picture.paperWidth = current->paperWidth;
+        picture.paperHeight = current->paperHeight;
+        picture.dpi = current->dpi;
+    }
+    tell(*ui->lbCreateResult, tr("All pictures have this paper and these DPI now"));
+}
+
+QString MainWindow::tooFewDpi() const
+{
+    QStringList lines;
+    for (const int n : picturesWithTooFewDpi(project)) {
+        const int dpi = project.pictures[static_cast<size_t>(n)].dpi;
+        lines << tr("picture %1: %2 DPI are too few for the dots").arg(n).arg(dpi);
+    }
+    return lines.join('\n');
+}
+
+// What came of creating, in one sentence. The errors are those of the console.
+static QString sentenceOn(const PrintJobResult& result)
+{
+    if (result.cancelled) {
+        return MainWindow::tr("Creating was cancelled");
+    }
+    if (result.firstFailed >= 0) {
+        return MainWindow::tr("Picture %1 was not created: %2")
+            .arg(QString::number(result.firstFailed), QString::fromStdString(result.firstError));
+    }
+    switch (result.created) {
+    case 0:
+        return MainWindow::tr("There is no picture yet");
+    case 1:
+        return MainWindow::tr("1 print image created");
+    default:
+        return MainWindow::tr("%1 print images created").arg(result.created);
+    }
+}
+
 void MainWindow::on_btCreateImage_clicked()
 {
     ProjectDataWasChanged(true);
+    mi_printf = ui->txConsole->printFunction();
     FileSystem::setCurrentDirectory(FileSystem::getDirectoryOfPath(project.projectPath));
-    const int count = static_cast<int>(project.pictures.size());
-    WorkProgress progress(*this, tr("Creating the print images..."), tr("Cancel"));
-    bool goOn = true;
-    for (int i = 0; i < count && goOn; ++i) {
-        makeImage(i, project, [&](int percent) {
-            goOn = progress.tell(100 * i + percent, 100 * count);
-            return goOn;
-        });
+    const QString warnings = tooFewDpi();
+    ui->lbCreateResult->setText(warnings);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);  // so that they are seen
+    PrintJobResult result;
+    {
+        WorkProgress progress(*this, tr("Creating the print images..."), tr("Cancel"));
+        result = makeImages(project,
+                            [&](int percent, int total) { return progress.tell(percent, total); });
+    }
+    tell(*ui->lbCreateResult, sentenceOn(result));
+    if (!warnings.isEmpty()) {
+        ui->lbCreateResult->setText(ui->lbCreateResult->text() + '\n' + warnings);
     }
 }
 
 void MainWindow::on_btBuild_clicked()
 {
-    ui->txConsole->clear();
+    KVQtStdoutWidget& console = *ui->txConsole;
+    console.clear();
     ProjectDataWasChanged(true);
     printIntoConsole();
     const bool debugMode = ui->chDebugMode->checkState() == Qt::Checked;
     BuildOptions options;
     options.createSoundFiles = [this] { return createSoundFiles(); };
-    buildGame(project, debugMode, *ui->txConsole, options);
+    tell(*ui->lbBuildResult, tr("Building..."));
+    const bool complete = buildGame(project, debugMode, console, options);
+    const QString game = QString::fromStdString(FileSystem::getFilenameOfPath(project.pathGme()));
+    waitForAssembler([this, complete, game] {
+        const bool built = complete && ui->txConsole->exitCode() == 0;
+        tell(*ui->lbBuildResult, built ? tr("The game was built: %1").arg(game)
+                                       : tr("The game was not built. The console tells why."));
+    });
+}
+
+// A button that goes grey hands the keyboard on to another control, and gets it back.
+void MainWindow::waitForAssembler(std::function<void()> done)
+{
+    const auto letBuildAndCopy = [this](bool free) {
+        ui->btBuild->setEnabled(free);
+        ui->btCopyToPen->setEnabled(free);
+    };
+    const QPointer<QWidget> before = focusWidget();
+    letBuildAndCopy(false);
+    const QPointer<QWidget> meanwhile = focusWidget();
+    ui->txConsole->whenEnded([=] {
+        letBuildAndCopy(true);
+        if (before != nullptr && focusWidget() == meanwhile) {
+            before->setFocus();
+        }
+        done();
+    });
 }
 
 SpeechOutcome MainWindow::createSoundFiles()
@@ -56,5 +141,19 @@ void MainWindow::on_btCopyToPen_clicked()
 
 void MainWindow::copyGmeToTipToi()
 {
-    copyGmeToPen(project, *ui->txConsole);
+    const bool built = FileSystem::doesFileExist(project.pathGme());
+    const std::string script = ui->codeEditor->text().toStdString();
+    switch (copyGmeToPen(project, script, *ui->txConsole)) {
+    case PenCopy::done:
+        tell(*ui->lbBuildResult, tr("The game was copied to the pen"));
+        break;
+    case PenCopy::failed:
+        tell(*ui->lbBuildResult, built ? tr("The game was not copied to the pen")
+                                       : tr("There is no game yet: build it first"));
+        break;
+    case PenCopy::noPen:
+        tell(*ui->lbBuildResult,
+             tr("No pen was found: a pen is a drive that holds the file %1").arg(kPenMark));
+        break;
+    }
 }

@@ -58,9 +58,12 @@ private slots:
         row("label_5", "QLabel", "DPI:");
         row("widget_4", "QWidget");
         row("txProjDPI", "QLineEdit");
+        row("btSizeForAll", "QPushButton", "For all pictures",
+            "Gives the paper and the DPI of this picture to all pictures");
         row("widget_6", "QWidget");
         row("btCreateImage", "QPushButton", "Create");
         row("label_7", "QLabel", "Create the output image now...");
+        row("lbCreateResult", "QLabel");
         row("tabAreas", "QWidget");
         row("widget_7", "QWidget");
         row("groupBox", "QGroupBox", "Picture");
@@ -86,6 +89,7 @@ private slots:
             "Tells (says) the code line number, when running on the device");
         row("btCopyToPen", "QPushButton", "Copy to Device",
             "Copies the binary to the attached USB device");
+        row("lbBuildResult", "QLabel");
         row("txConsole", "KVQtStdoutWidget");
     }
 
@@ -264,9 +268,15 @@ private slots:
     {
         QTest::addColumn<QStringList>("order");
         const QString tabs = "qt_tabwidget_tabbar";
-        QTest::newRow("Project") << QStringList{
-            tabs,        "txProjectName", "txProjectId", "txProjPaperWidth", "txProjPaperHeight",
-            "txProjDPI", "btCreateImage", tabs};
+        QTest::newRow("Project") << QStringList{tabs,
+                                                "txProjectName",
+                                                "txProjectId",
+                                                "txProjPaperWidth",
+                                                "txProjPaperHeight",
+                                                "txProjDPI",
+                                                "btSizeForAll",
+                                                "btCreateImage",
+                                                tabs};
         QTest::newRow("Areas") << QStringList{tabs,          "btPreviousPicture", "btNextPicture",
                                               "btLoadImage", "btDeletePicture",   "btPickPoly",
                                               "btAddPoly",   "btDelPoly",         "txPolyName",

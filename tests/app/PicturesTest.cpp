@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLayout>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -477,7 +478,13 @@ private slots:
         w.click("btCreateImage");
         QCOMPARE(QImage(w.path("900-print0.tiff")).size(), QSize(200, 100));
         QCOMPARE(QImage(w.path("900-print1.tiff")).size(), QSize(200, 100));
-        QVERIFY(w.console().startsWith("Creating pixel image...\n      0%\n     10%\n"));
+        QVERIFY(w.console().startsWith("Warning: picture 0: 254 DPI are too few for the dots\n"
+                                       "Warning: picture 1: 254 DPI are too few for the dots\n"
+                                       "Creating pixel image...\n      0%\n     10%\n"));
+        QCOMPARE(w.status(), "2 print images created");
+        QCOMPARE(w.text("lbCreateResult"), "2 print images created\n"
+                                           "picture 0: 254 DPI are too few for the dots\n"
+                                           "picture 1: 254 DPI are too few for the dots");
         QCOMPARE(QDir::current(), QDir(QString::fromStdString(w.folder.path())));
     }
 
@@ -501,7 +508,7 @@ private slots:
         w.click("btNextPicture");
         w.type("txProjDPI", "60");
         w.click("btCreateImage");
-        QVERIFY(w.console().startsWith("No image was loaded for this picture.\n"));
+        QVERIFY(w.console().contains("\nNo image was loaded for this picture.\nCreating"));
         QVERIFY(!QFile::exists(w.path("900-print0.tiff")));
         QVERIFY(QFile::exists(w.path("900-print1.tiff")));
     }
@@ -555,7 +562,103 @@ private slots:
         WindowFixture w;
         w.open(projectFile({kArea}), 0);
         w.click("btCreateImage");
-        QCOMPARE(w.console(), "No image was loaded for this picture.");
+        QCOMPARE(w.console(), "Warning: picture 0: 300 DPI are too few for the dots\n"
+                              "No image was loaded for this picture.");
+        const QString failed = "Picture 0 was not created: No image was loaded for this picture.";
+        QCOMPARE(w.status(), failed);
+        QCOMPARE(w.text("lbCreateResult"),
+                 failed + "\npicture 0: 300 DPI are too few for the dots");
+    }
+
+    void createSaysInTheStatusBarThatThereIsOneImage()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        w.type("txProjDPI", "600");
+        w.click("btCreateImage");
+        QCOMPARE(w.status(), "1 print image created");
+        QCOMPARE(w.text("lbCreateResult"), "1 print image created");
+    }
+
+    void createWithoutAPictureSaysSo()
+    {
+        WindowFixture w;
+        w.click("btCreateImage");
+        QCOMPARE(w.status(), "There is no picture yet");
+        QCOMPARE(w.text("lbCreateResult"), "There is no picture yet");
+    }
+
+    // Before the work, which may take long.
+    void tooFewDpiAreSeenWhileCreating()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea}), 1);
+        w.type("txProjPaperWidth", "2000");
+        w.type("txProjPaperHeight", "2000");
+        QString seen;
+        bool painted = false;
+        QTimer::singleShot(0, [&] {
+            seen = w.text("lbCreateResult");
+            painted = w.get<QLabel>("lbCreateResult")->isVisible();
+        });
+        const ProgressCancel cancel(w.window);
+        w.click("btCreateImage");
+        QVERIFY(painted);
+        QCOMPARE(seen, "picture 0: 300 DPI are too few for the dots");
+        QCOMPARE(w.status(), "Creating was cancelled");
+    }
+
+    void createTwiceInASessionPrintsOnlyTheDotsOfNow()
+    {
+        WindowFixture w;
+        w.open(projectFile({"OID 1001\r\nBOX cow 0 0 100 50\r\n"}), 1);
+        w.type("txProjDPI", "1200");
+        w.type("txProjPaperWidth", "20");
+        w.type("txProjPaperHeight", "10");
+        w.click("btCreateImage");
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        w.clickAt(w.get<PolyEditorWidget>("polyArea")->toPix({10, 10}));
+        w.get<QSpinBox>("txOidOfArea")->setValue(4321);
+        w.type("txProjDPI", "600");
+        w.click("btCreateImage");
+        const QImage printed(w.path("900-print0.tiff"));
+        w.open(w.saved(), 1);
+        w.click("btCreateImage");
+        QVERIFY(!printed.isNull());
+        QVERIFY(printed == QImage(w.path("900-print0.tiff")));
+    }
+
+    void paperAndResolutionOfAPictureCanBeGivenToAll()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea, kArea, kArea}), 3);
+        w.click("btNextPicture");
+        w.type("txProjPaperWidth", "148,5");
+        w.type("txProjPaperHeight", "105");
+        w.type("txProjDPI", "1200");
+        w.click("btSizeForAll");
+        QCOMPARE(w.status(), "All pictures have this paper and these DPI now");
+        const QString saved = QString::fromStdString(w.saved());
+        QCOMPARE(saved.count("PAPER 148.5 105.0\r\nDPI   1200\r\n"), 3);
+        QCOMPARE(w.field("txProjPaperWidth"), "148.5");
+    }
+
+    void aPaperOfNoSizeIsGivenToNoOtherPicture()
+    {
+        WindowFixture w;
+        w.open(projectFile({kArea, kArea}), 2);
+        w.type("txProjDPI", "");
+        w.click("btSizeForAll");
+        QCOMPARE(w.status(), "Paper size and DPI must be greater than 0");
+        QCOMPARE(w.text("lbCreateResult"), "Paper size and DPI must be greater than 0");
+        QCOMPARE(QString::fromStdString(w.saved()).count("DPI   300\r\n"), 1);
+    }
+
+    void withoutAPictureThereIsNoPaperToGive()
+    {
+        WindowFixture w;
+        w.click("btSizeForAll");
+        QCOMPARE(w.status(), "There is no picture yet");
     }
 };
 

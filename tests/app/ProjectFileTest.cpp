@@ -124,6 +124,25 @@ private slots:
         QCOMPARE(w.dialogs.seen(), QStringList({"Open project", "Open project"}));
     }
 
+    void theStatusBarSaysThatAProjectWasOpenedOrSaved()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        QCOMPARE(w.status(), "Opened: book.oidpro");
+        w.trigger("actionSave");
+        QCOMPARE(w.status(), "Saved: book.oidpro");
+        w.dialogs.chooseFile(w.path("farm.oidpro"));
+        w.trigger("action_Save_As");
+        QCOMPARE(w.status(), "Saved: farm.oidpro");
+    }
+
+    void theStatusBarSaysThatAProjectCouldNotBeOpened()
+    {
+        WindowFixture w;
+        w.window.openProject(w.path("none.oidpro"));
+        QCOMPARE(w.status(), "Not opened: none.oidpro");
+    }
+
     void saveOfAFreshWindowAsksForAName()
     {
         WindowFixture w;
@@ -167,6 +186,7 @@ private slots:
         w.dialogs.press("OK");
         w.trigger("action_Save_As");
         QCOMPARE(w.dialogs.seen().last(), "Warning: The file could not be saved to the drive");
+        QCOMPARE(w.status(), "Not saved: book.oidpro");
     }
 
     void afterSaveAsTheFormShowsTheNumbersAsTheyAreStored()

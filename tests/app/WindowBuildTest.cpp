@@ -3,10 +3,15 @@
 #include "oid/PrintImage.h"
 #include "tests/app/ProgressCancel.h"
 #include "tests/app/WindowFixture.h"
+#include "tests/helpers/FileTimes.h"
+#include "tests/helpers/SmallDisk.h"
 
 #include <QCheckBox>
 #include <QDir>
 #include <QFile>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
 
 namespace {
 
@@ -169,6 +174,18 @@ private slots:
         QVERIFY(mi_printf == printToStandardOutput);
     }
 
+    void afterABuildCreateSpeaksInTheConsole()
+    {
+        StandIns programs;
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript));
+        w.click("btBuild");
+        QTRY_VERIFY(w.get<QPushButton>("btBuild")->isEnabled());
+        w.click("btCreateImage");
+        QVERIFY(w.console().endsWith("\nWarning: picture 0: 300 DPI are too few for the dots\n"
+                                     "No image was loaded for this picture."));
+    }
+
     void afterTheWindowMessagesGoToStandardOutput()
     {
         {
@@ -239,16 +256,130 @@ private slots:
         QVERIFY(!dropsTaken);
     }
 
-    void aSecondBuildFindsTheAssemblerBusy()
+    // A click now would build over a running assembler, or copy the game of before.
+    void whileTheAssemblerRunsBuildAndCopyAreGrey()
     {
         StandIns programs;
-        programs.add("tttool", "exec sleep 60\n");
+        const PluggedInPen pen;
+        WindowFixture w;
+        const std::string signal = w.folder.file("signal");
+        programs.add("tttool", "until [ -f \"" + signal + "\" ]; do sleep 0.05; done\n");
+        w.open(projectFile({kCow}, kScript), 1);
+        writeFile(w.folder.file("900-Zoo.gme"), "old game");
+        w.click("btBuild");
+        QVERIFY(!w.get<QPushButton>("btBuild")->isEnabled());
+        QVERIFY(!w.get<QPushButton>("btCopyToPen")->isEnabled());
+        QCOMPARE(w.status(), "Building...");
+        w.click("btBuild");
+        w.click("btCopyToPen");
+        QCOMPARE(w.console(), "Compiling yaml to gme...\ndone.");
+        QCOMPARE(pen.folder.listing(), std::string("tiptoi.ico"));
+        writeFile(signal, "");
+        QTRY_VERIFY(w.get<QPushButton>("btBuild")->isEnabled());
+        QVERIFY(w.get<QPushButton>("btCopyToPen")->isEnabled());
+    }
+
+    void theKeyboardReturnsToTheButtonThatWasGrey()
+    {
+        StandIns programs;
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(3);
+        w.window.activateWindow();
+        QPushButton* const build = w.get<QPushButton>("btBuild");
+        build->setFocus();
+        QTest::keyClick(build, Qt::Key_Space);
+        QVERIFY(!build->hasFocus());
+        QTRY_VERIFY(build->isEnabled());
+        QVERIFY(build->hasFocus());
+    }
+
+    void theKeyboardStaysWhereTheAuthorHasTakenItMeanwhile()
+    {
+        StandIns programs;
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(3);
+        w.window.activateWindow();
+        w.get<QPushButton>("btBuild")->setFocus();
+        QTest::keyClick(w.get<QPushButton>("btBuild"), Qt::Key_Space);
+        w.get<QPlainTextEdit>("txConsole")->setFocus();
+        QTRY_VERIFY(w.get<QPushButton>("btBuild")->isEnabled());
+        QVERIFY(w.get<QPlainTextEdit>("txConsole")->hasFocus());
+    }
+
+    void aBuildSaysThatTheGameWasMade()
+    {
+        StandIns programs;
         WindowFixture w;
         w.open(projectFile({kCow}, kScript), 1);
         w.click("btBuild");
-        QCOMPARE(w.console(), "Compiling yaml to gme...\ndone.");
+        QTRY_COMPARE(w.status(), "The game was built: 900-Zoo.gme");
+        QCOMPARE(w.text("lbBuildResult"), "The game was built: 900-Zoo.gme");
+    }
+
+    void aBuildThatFailsIsSeenBesideItsButton_data()
+    {
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<QString>("assembler");
+        QTest::addColumn<QString>("speech");
+        const QString good = QString::fromStdString(kScript);
+        const QString works = "exit 0\n";
+        const QString speaks =
+            "while [ $# -gt 1 ]; do [ \"$1\" = -f ] && echo wav > \"$2\"; shift; "
+            "done\n";
+        QTest::newRow("script") << "foo\r\n" << works << speaks;
+        QTest::newRow("assembler") << good << "exit 1\n" << speaks;
+        QTest::newRow("crash") << good << "kill -ABRT $$\n" << speaks;
+        QTest::newRow("speech") << good << works << "exit 1\n";
+    }
+
+    void aBuildThatFailsIsSeenBesideItsButton()
+    {
+        QFETCH(QString, script);
+        QFETCH(QString, assembler);
+        QFETCH(QString, speech);
+        StandIns programs;
+        programs.add("tttool", assembler.toStdString());
+        programs.add("Text2Speech", speech.toStdString());
+        programs.add("ffmpeg",
+                     "[ -f \"$5\" ] || exit 1\nfor last; do :; done\necho ogg > \"$last\"\n");
+        WindowFixture w;
+        w.open(projectFile({kCow}, script.toStdString()), 1);
         w.click("btBuild");
-        QCOMPARE(w.console(), "Compiling yaml to gme...\nExecution of tttool failed");
+        QTRY_COMPARE(w.text("lbBuildResult"), "The game was not built. The console tells why.");
+        QCOMPARE(w.status(), "The game was not built. The console tells why.");
+        QVERIFY(w.get<QPushButton>("btBuild")->isEnabled());
+    }
+
+    void afterAFailedAssemblerTheConsoleTellsOfTheOlderGame()
+    {
+        StandIns programs;
+        programs.add("tttool", "echo no such register\nexit 1\n");
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        writeFile(w.folder.file("900-Zoo.gme"), "game");
+        setTime(w.folder.file("900-Zoo.gme"), "2024-05-31 14:05:40");
+        w.click("btBuild");
+        QTRY_COMPARE(w.console(), "Compiling yaml to gme...\n"
+                                  "done.\n"
+                                  "no such register\n"
+                                  "\n"
+                                  "The game file was not made. An older one of 2024-05-31 14:05 "
+                                  "still lies there.");
+    }
+
+    void aSubThatGetsItsAreaAfterABuildIsBuiltAgain()
+    {
+        StandIns programs;
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        writeFile(w.folder.file("900-Zoo.codes.yaml"), "scriptcodes:\n  cow: 4028\n");
+        w.click("btBuild");
+        QVERIFY(
+            w.console().startsWith("900-Zoo.codes.yaml no longer holds cow (4028), whose name or "
+                                   "number an area has now\n"
+                                   "Compiling yaml to gme...\n"));
     }
 
     void closingTheWindowEndsTheAssembler()
@@ -285,7 +416,10 @@ private slots:
         writeFile(w.folder.file("900-Zoo.gme"), "game");
         w.type("txProjDPI", "600");
         w.click("btCopyToPen");
-        QCOMPARE(w.console(), "Copy to Pen...\ndone.");
+        QCOMPARE(w.console(), "Copy to Pen...\ndone.\nCopied to " +
+                                  QString::fromStdString(pen.folder.file("900-Zoo.gme")));
+        QCOMPARE(w.status(), "The game was copied to the pen");
+        QCOMPARE(w.text("lbBuildResult"), "The game was copied to the pen");
         QCOMPARE(readFile(pen.folder.file("900-Zoo.gme")), std::string("game"));
         QCOMPARE(readFile(w.folder.file("book.oidpro")), project);
         QCOMPARE(w.folder.listing(), std::string("900-Zoo.gme 900-bkgnd0.jpg book.oidpro"));
@@ -298,15 +432,71 @@ private slots:
         w.open(projectFile({kCow}, kScript), 1);
         w.click("btCopyToPen");
         QCOMPARE(w.console(), "Copy to Pen...\nfailed.");
+        QCOMPARE(w.status(), "There is no game yet: build it first");
+        QCOMPARE(w.text("lbBuildResult"), "There is no game yet: build it first");
         QCOMPARE(pen.folder.listing(), std::string("tiptoi.ico"));
     }
 
-    void copyingWithoutAPenSaysNothing()
+    void aCopyThatFailsIsSeenBesideItsButton()
+    {
+        const PluggedInPen pen;
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        writeFile(w.folder.file("900-Zoo.gme"), std::string(10000, 'g'));
+        const SmallDisk disk(5000);
+        w.click("btCopyToPen");
+        QCOMPARE(w.console(), "Copy to Pen...\nfailed.");
+        QCOMPARE(w.status(), "The game was not copied to the pen");
+        QCOMPARE(w.text("lbBuildResult"), "The game was not copied to the pen");
+    }
+
+    void copyingWithoutAPenLeavesTheConsoleAndSaysItBesideTheButton()
     {
         WindowFixture w;
         w.open(projectFile({kCow}, kScript), 1);
         w.click("btCopyToPen");
         QCOMPARE(w.console(), "");
+        const QString noPen = "No pen was found: a pen is a drive that holds the file tiptoi.ico";
+        QCOMPARE(w.status(), noPen);
+        QCOMPARE(w.text("lbBuildResult"), noPen);
+    }
+
+    // Also when the editor alone holds what is new.
+    void copyingAGameThatIsOlderThanTheScriptSaysOfWhen()
+    {
+        StandIns programs;
+        const PluggedInPen pen;
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        w.click("btBuild");
+        QTRY_VERIFY(w.get<QPushButton>("btCopyToPen")->isEnabled());
+        writeFile(w.folder.file("900-Zoo.gme"), "game");
+        w.get<QPlainTextEdit>("txConsole")->clear();
+        w.click("btCopyToPen");
+        QVERIFY(w.console().startsWith("Copy to Pen...\ndone.\n"));
+
+        setTime(w.folder.file("900-Zoo.yaml"), "2024-05-31 14:05:10");
+        setTime(w.folder.file("900-Zoo.gme"), "2024-05-31 14:05:40");
+        QTest::keyClicks(&w.get<KVQtHighlightEditCtrl>("codeEditor")->surface(), "x = 1\r");
+        w.get<QPlainTextEdit>("txConsole")->clear();
+        w.click("btCopyToPen");
+        QVERIFY(w.console().startsWith(
+            "Copy to Pen...\n"
+            "Warning: The game is of 2024-05-31 14:05; the script, the areas or the speech have "
+            "changed since then\n"
+            "done.\n"));
+    }
+
+    void openingAProjectForgetsWhatCameOfTheOneBefore()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        w.click("btCopyToPen");
+        w.click("btCreateImage");
+        QVERIFY(!w.text("lbCreateResult").isEmpty());
+        w.open(projectFile({kCow}, kScript), 1);
+        QCOMPARE(w.text("lbBuildResult"), "");
+        QCOMPARE(w.text("lbCreateResult"), "");
     }
 
 private:

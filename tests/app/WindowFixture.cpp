@@ -1,10 +1,12 @@
 #include "tests/app/WindowFixture.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QStatusBar>
 #include <QTabWidget>
 
 WindowFixture::WindowFixture()
@@ -87,6 +89,16 @@ QString WindowFixture::script()
 QString WindowFixture::console()
 {
     return get<QPlainTextEdit>("txConsole")->toPlainText();
+}
+
+QString WindowFixture::status()
+{
+    return get<QStatusBar>("statusbar")->currentMessage();
+}
+
+QString WindowFixture::text(const char* label)
+{
+    return get<QLabel>(label)->text();
 }
 
 QString WindowFixture::tab()

@@ -45,6 +45,8 @@ public:
     QString script();
     QString console();
     QString tab();
+    QString status();  // what the status bar says
+    QString text(const char* label);
 
     TemporaryFolder folder;
     DialogAnswers dialogs;
