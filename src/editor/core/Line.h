@@ -81,6 +81,8 @@ public:
     int characters_between(int first, int end) const;  // in the cells first to end (exclusive)
     // The column behind so many characters and their fillers, at most the length.
     int column_behind(int characters) const;
+    // Whether each tab has its fillers up to the next stop, and no other fillers are there.
+    bool tabs_are_expanded(int width) const;
 
     // The cells, for writing roles; only indices from 0 to length() - 1.
     CELL* cells_to_colour() { return cells.get(); }
@@ -88,7 +90,6 @@ public:
 private:
     void grow(int n);
     void terminate();
-    bool tabs_are_expanded(int width) const;
     void refresh_fillers();
     void expand_tabs(int width, std::int64_t tabs);
 

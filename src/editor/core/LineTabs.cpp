@@ -96,6 +96,7 @@ int Line<CELL>::column_behind(int characters) const
 template <class CELL>
 bool Line<CELL>::tabs_are_expanded(int width) const
 {
+    width = std::max(width, 1);
     for (int column = 0; column < used; ++column) {
         if (cells[column].ch == kFiller) {
             return false;

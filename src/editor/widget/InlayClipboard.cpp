@@ -16,7 +16,7 @@ void KVQtHighlightEditCtrlInlay::OnEditCopy()
         return;  // what is on the clipboard is worth more than nothing
     }
     QMimeData* const copied = new QMimeData;  // the clipboard's from now on
-    copied->setText(text_of(editor.get_selected_text()));
+    copied->setText(text_of(selected_lines()));
     if (editor.selection.block) {
         copied->setData(kRectangleFormat, QByteArray());
     }
@@ -26,8 +26,8 @@ void KVQtHighlightEditCtrlInlay::OnEditCopy()
 void KVQtHighlightEditCtrlInlay::OnEditCut()
 {
     OnEditCopy();
-    editor.push_undo_state();
-    editor.key_delete();
+    begin_undo_step();
+    delete_forward();
     EnsureVisible(editor.selection.end);
     UpdateAllViews();
 }
@@ -41,9 +41,9 @@ void KVQtHighlightEditCtrlInlay::OnEditPaste()
     BUFFER pasted;
     pasted.set_text(offered->text().toStdU16String());
     const bool rectangle = offered->hasFormat(kRectangleFormat);
-    editor.push_undo_state();
-    editor.paste(pasted, rectangle);
-    editor.selection.stop_selecting();
+    begin_undo_step();
+    const CARET behind = paste_lines(pasted, rectangle);
+    editor.selection.set(behind.line, behind.column);
     EnsureVisible(editor.selection.end);
     UpdateAllViews();
 }

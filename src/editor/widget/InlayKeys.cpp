@@ -2,6 +2,7 @@
 #include "base/PlatformKeys.h"
 #include "editor/widget/KVQtHighlightEditCtrlInlay.h"
 
+#include "editor/widget/Characters.h"
 #include "editor/widget/KVQtFindDialog.h"
 
 #include <QInputMethodEvent>
@@ -16,15 +17,15 @@ constexpr char16_t kTab = 9;
 constexpr char16_t kDelete = 127;  // what some systems send with Control and Backspace
 
 // What a key press types: one character, which may be a surrogate pair.
-std::u16string typed_text(const QKeyEvent& event)
+QString typed_text(const QKeyEvent& event)
 {
     // Intended: the decimal key of the keypad types a point, also where it bears a comma.
     if (event.key() == Qt::Key_Comma && event.modifiers().testFlag(Qt::KeypadModifier)) {
-        return u".";
+        return ".";
     }
     const QString text = event.text();
     const bool pair = text.size() > 1 && text[0].isHighSurrogate() && text[1].isLowSurrogate();
-    return text.left(pair ? 2 : 1).toStdU16String();
+    return text.left(pair ? 2 : 1);
 }
 
 }  // namespace
@@ -40,11 +41,8 @@ void KVQtHighlightEditCtrlInlay::keyPressEvent(QKeyEvent* event)
         event->setAccepted(OnChar(kTab));
         return;
     }
-    bool used = false;
-    for (const char16_t ch : typed_text(*event)) {
-        used = OnChar(ch) || used;
-    }
-    event->setAccepted(used);  // Control+Tab, for one, is left to the window
+    // Control+Tab, for one, is left to the window.
+    event->setAccepted(type_text(typed_text(*event)));
 }
 
 void KVQtHighlightEditCtrlInlay::keyReleaseEvent(QKeyEvent* event)
@@ -66,10 +64,21 @@ void KVQtHighlightEditCtrlInlay::store_modifiers(Qt::KeyboardModifiers modifiers
 void KVQtHighlightEditCtrlInlay::inputMethodEvent(QInputMethodEvent* event)
 {
     store_modifiers(Qt::NoModifier);
-    for (const QChar ch : event->commitString()) {
-        OnChar(ch.unicode());
-    }
+    type_text(event->commitString());
     event->accept();
+}
+
+// Returns whether it did something.
+bool KVQtHighlightEditCtrlInlay::type_text(const QString& text)
+{
+    const std::u16string units = text.toStdU16String();
+    KVTextEditor::Line<KVTextEditor::EdChar> typed;
+    typed.set(units.data(), text.size());
+    bool used = false;
+    for (int i = 0; i < text.size(); ++i) {
+        used = OnChar(units[std::size_t(i)], start_of_character(typed, i) < i) || used;
+    }
+    return used;
 }
 
 QVariant KVQtHighlightEditCtrlInlay::inputMethodQuery(Qt::InputMethodQuery query) const
@@ -154,6 +163,23 @@ void KVQtHighlightEditCtrlInlay::move_caret(int dy, int dx)
         move_by_word(dx > 0);
     } else {
         editor.move_cursor(dy, dx);
+        keep_whole_characters(dx > 0);
+    }
+}
+
+// A caret that has moved into a character goes on to its end, or stays in front of it.
+void KVQtHighlightEditCtrlInlay::keep_whole_characters(bool forward)
+{
+    SELECTION& selection = editor.selection;
+    if (selection.active && selection.block) {
+        return;
+    }
+    const BUFFER& text = buffer;
+    CARET& caret = selection.end;
+    const auto edge = forward ? end_of_character : start_of_character;
+    caret.column = edge(text.line(caret.line), caret.column);
+    if (!selection.active) {
+        selection.start = caret;
     }
 }
 
@@ -168,14 +194,15 @@ void KVQtHighlightEditCtrlInlay::move_by_word(bool right)
         }
         selection.end = editor.start_of_word(selection.end);
     }
-    if (!selection.active) {
-        selection.start = selection.end;
-    }
+    keep_whole_characters(right);
 }
 
 void KVQtHighlightEditCtrlInlay::begin_movement()
 {
     if (shift_held) {
+        if (alt_held) {
+            settle_selection();  // a rectangle goes by the columns of expanded lines
+        }
         editor.selection.active = true;
         editor.selection.block = alt_held;
     }
@@ -193,7 +220,8 @@ void KVQtHighlightEditCtrlInlay::move_home()
     begin_movement();
     CARET& caret = editor.selection.end;
     const BUFFER& text = buffer;
-    const int indentation = text.line(caret.line).indentation();
+    const auto& line = text.line(caret.line);
+    const int indentation = start_of_character(line, line.indentation());
     caret.column = caret.column == indentation ? 0 : indentation;
     finish_movement();
 }
@@ -211,8 +239,8 @@ bool KVQtHighlightEditCtrlInlay::process_function_key(int key)
 {
     switch (key) {
     case Qt::Key_Delete:
-        editor.push_undo_state();
-        editor.key_delete();
+        begin_undo_step();
+        delete_forward();
         return true;
     case Qt::Key_Insert:
         if (control_held) {
@@ -281,16 +309,17 @@ bool KVQtHighlightEditCtrlInlay::process_control_key(int key)
 
 void KVQtHighlightEditCtrlInlay::change_case(KVTextEditor::CHARACTER_FUNCTION fn)
 {
-    editor.push_undo_state();
+    begin_undo_step();
     editor.transform(editor.selection, fn);
 }
 
-// Returns whether the character did something.
-bool KVQtHighlightEditCtrlInlay::OnChar(char16_t ch)
+// Returns whether the code unit did something. A further unit of a character joins the first.
+bool KVQtHighlightEditCtrlInlay::OnChar(char16_t ch, bool further)
 {
     if ((ch < u' ' && control_held) || ch == kDelete) {
         return false;
     }
+    settle_selection();
     // A run of letters and digits is undone in one step.
     if (ch < u'0' || !editor.can_undo()) {
         editor.push_undo_state();
@@ -298,7 +327,7 @@ bool KVQtHighlightEditCtrlInlay::OnChar(char16_t ch)
     const SELECTION& selection = editor.selection;
     if (ch == kTab && !selection.block && (selection.height() > 1 || shift_held)) {
         if (shift_held) {
-            editor.indent_negative();
+            unindent();
         } else {
             editor.indent();
         }
@@ -306,7 +335,7 @@ bool KVQtHighlightEditCtrlInlay::OnChar(char16_t ch)
         if (ch == kEscape) {
             end_gesture();
         }
-        editor.key_any(ch, is_overwrite_mode());
+        type_code_unit(ch, further);
     }
     EnsureVisible(editor.selection.end);
     UpdateAllViews();

@@ -1,4 +1,5 @@
 // The mouse: placing the caret, selecting cells, lines and rectangles, and moving the selection.
+#include "editor/widget/Characters.h"
 #include "editor/widget/KVQtHighlightEditCtrlInlay.h"
 
 #include <QAbstractScrollArea>
@@ -109,12 +110,12 @@ void KVQtHighlightEditCtrlInlay::mouseReleaseEvent(QMouseEvent* event)
 // Moves the selected text to the drop position, or copies it there while Control is held.
 void KVQtHighlightEditCtrlInlay::drop_selection()
 {
-    editor.push_undo_state();
-    const BUFFER dropped = editor.get_selected_text();
+    begin_undo_step();
+    const BUFFER dropped = selected_lines();
     const bool block = editor.selection.block;
     const CARET target = control_held ? drop_position : remove_selection_before_drop();
     editor.selection.set(target.line, target.column);
-    editor.paste(dropped, block);
+    paste_lines(dropped, block);
     EnsureVisible(editor.selection.end);
 }
 
@@ -131,7 +132,7 @@ KVTextEditor::CARET KVQtHighlightEditCtrlInlay::remove_selection_before_drop()
     const int characters = characters_before_drop(removed);
     const int free = std::max(0, target.column - text.line(target.line).length());
 
-    editor.delete_selected_range();
+    delete_selection();
     if (endsBelowText) {
         buffer.erase_lines(removed.start.line, 1);  // its line break has been taken along
     }
@@ -148,10 +149,11 @@ KVTextEditor::CARET KVQtHighlightEditCtrlInlay::remove_selection_before_drop()
 // gone. Columns do not tell: tabs behind the selection may become wider or narrower.
 int KVQtHighlightEditCtrlInlay::characters_before_drop(const SELECTION& removed) const
 {
-    const int first = removed.block ? drop_position.line : removed.start.line;
-    return buffer.line(first).characters_between(0, removed.start.column) +
-           buffer.line(drop_position.line)
-               .characters_between(removed.end.column, drop_position.column);
+    const auto& first = buffer.line(removed.block ? drop_position.line : removed.start.line);
+    const auto& last = buffer.line(drop_position.line);
+    return first.characters_between(0, end_of_character(first, removed.start.column)) +
+           last.characters_between(end_of_character(last, removed.end.column),
+                                   drop_position.column);
 }
 
 // The scroll area knows what to do, but only with what reaches its viewport.

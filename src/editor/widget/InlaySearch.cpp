@@ -28,7 +28,7 @@ void KVQtHighlightEditCtrlInlay::OnEditReplace()
 void KVQtHighlightEditCtrlInlay::ShowFindDialog(bool replace)
 {
     const QString text = find_dialog->find_text();
-    if (text.isEmpty() || text != text_of(editor.get_selected_text())) {
+    if (text.isEmpty() || text != text_of(selected_lines())) {
         SetFindStringFromSelection();
     }
     find_dialog->open_for(replace);
@@ -36,7 +36,7 @@ void KVQtHighlightEditCtrlInlay::ShowFindDialog(bool replace)
 
 void KVQtHighlightEditCtrlInlay::SetFindStringFromSelection()
 {
-    QString text = text_of(editor.get_selected_text());
+    QString text = text_of(selected_lines());
     FindPrepareSearchString(text);
     find_dialog->set_find_text(text);
 }
@@ -126,12 +126,11 @@ void KVQtHighlightEditCtrlInlay::OnEditDoReplace()
     }
     QString replacement = find_dialog->replace_text();
     FindPrepareReplaceString(replacement);
-    editor.push_undo_state();
-    editor.delete_selected_range();
+    begin_undo_step();
     BUFFER pasted;
     pasted.set_text(replacement.toStdU16String());
-    editor.paste(pasted, false);
-    editor.selection.stop_selecting();
+    const CARET behind = paste_lines(pasted, false);
+    editor.selection.set(behind.line, behind.column);
     EnsureVisible(editor.selection.end);
     UpdateAllViews();
 }
@@ -142,12 +141,12 @@ void KVQtHighlightEditCtrlInlay::OnEditReplaceAll()
     if (!replaced) {
         return;
     }
-    editor.push_undo_state();
+    begin_undo_step();
     const CARET caret = editor.selection.end;
     // Intended: tabs stay unexpanded until their lines are edited.
     buffer.set_text(*replaced);
     editor.dirty = true;
-    const CARET snapped = editor.snap_to_position(caret);
+    const CARET snapped = place_in_text(caret, false);
     editor.selection.set(snapped.line, snapped.column);
     UpdateAllViews();
 }

@@ -1,4 +1,5 @@
 // Where the text stands in the window: fonts, scrolling, points and cells.
+#include "editor/widget/Characters.h"
 #include "editor/widget/EditorAccessible.h"
 #include "editor/widget/KVQtHighlightEditCtrlInlay.h"
 
@@ -40,6 +41,9 @@ static int moved(int value, int cells, int size)
 void KVQtHighlightEditCtrlInlay::UpdateAllViews()
 {
     keep_caret_in_text();
+    if (!button_held || editor.selection.block) {
+        keep_between_characters();  // the mouse has not yet said what it selects
+    }
     brackets_known = false;
     note_width();
     if (editor.is_dirty()) {
@@ -175,14 +179,26 @@ KVTextEditor::CARET KVQtHighlightEditCtrlInlay::FromPoint(QPoint point, bool fre
     if (point.x() >= gutter) {
         caret.column = first_visible_column() + (cell_width / 2 + point.x() - gutter) / cell_width;
     }
-    return place_in_text(caret, free);
+    if (free) {
+        return place_in_text(caret, true);
+    }
+    // Of a character of several cells the nearer edge, too.
+    caret = editor.snap_to_position(caret);
+    const auto& line = buffer.line(caret.line);
+    const int first = start_of_character(line, caret.column);
+    const int end = end_of_character(line, caret.column);
+    const int twice =
+        2 * (point.x() - gutter) + (2 * first_visible_column() - first - end) * cell_width;
+    caret.column = twice < 0 ? first : end;
+    return caret;
 }
 
-// Snapped to the text, or with free only to its lines.
+// At an edge of a character in the text, or with free only in one of its lines.
 KVTextEditor::CARET KVQtHighlightEditCtrlInlay::place_in_text(CARET caret, bool free) const
 {
     const CARET snapped = editor.snap_to_position(caret);
-    return free ? CARET{snapped.line, caret.column} : snapped;
+    const auto& line = buffer.line(snapped.line);
+    return {snapped.line, free ? caret.column : start_of_character(line, snapped.column)};
 }
 
 QRect KVQtHighlightEditCtrlInlay::CellRectangle(CARET caret) const

@@ -69,6 +69,7 @@ void KVQtHighlightEditCtrlInlay::OnEditRedo()
 
 void KVQtHighlightEditCtrlInlay::undo_or_redo(void (BACKEND::*step)())
 {
+    settle_selection();
     (editor.*step)();
     UpdateAllViews();
     EnsureVisible(editor.selection.end);

@@ -116,13 +116,43 @@ private:
     bool move_by_key(int key);
     void move_caret(int dy, int dx);
     void move_by_word(bool right);
+    void keep_whole_characters(bool forward);
     void move_home();
     void move_end();
     void begin_movement();
     void finish_movement();
-    bool OnChar(char16_t ch);
+    bool type_text(const QString& text);
+    bool OnChar(char16_t ch, bool further = false);
     bool is_overwrite_mode() const;
     void change_case(KVTextEditor::CHARACTER_FUNCTION fn);
+
+    // --- editing (InlayEditing.cpp) ---
+    struct Rows
+    {
+        int first;
+        int last;
+    };
+    void begin_undo_step();
+    void settle_selection();
+    void keep_between_characters();
+    void expand_tabs_of(int index);
+    Rows rows_of(const SELECTION& rectangle) const;  // in the text
+    bool parts_characters(const SELECTION& rectangle) const;
+    BUFFER selected_lines() const;
+    void delete_selection();
+    void delete_rectangle();
+    void delete_forward();
+    void delete_backward();
+    void delete_character_before(CARET caret);
+    void delete_backward_in_rows();
+    void erase_rest_of_character(CARET caret);
+    void type_code_unit(char16_t ch, bool further);
+    void leave_rectangle();
+    void unindent();
+    void open_column(Rows rows, int column, bool over);
+    CARET paste_lines(const BUFFER& pasted, bool rectangle);
+    CARET paste_stream(const BUFFER& pasted);
+    CARET paste_rectangle(const BUFFER& pasted);
 
     // --- mouse (InlayMouse.cpp) ---
     void OnLButtonDown(QPoint point);

@@ -123,6 +123,39 @@ private slots:
         QCOMPARE(window.shown(), QString("a^b|c"));
     }
 
+    void theCaretStandsBehindPastedTabs_data()
+    {
+        QTest::addColumn<QString>("pasted");
+        QTest::addColumn<QString>("after");
+        QTest::newRow("one line") << "1\t2\t"
+                                  << "a1\t2\tx|b\tc";
+        QTest::newRow("two lines") << "1\n2\t\t3"
+                                   << "a1\n2\t\t3x|b\tc";
+    }
+
+    void theCaretStandsBehindPastedTabs()
+    {
+        QFETCH(QString, pasted);
+        QFETCH(QString, after);
+        EditorWindow window("a|b\tc");
+        QApplication::clipboard()->setText(pasted);
+        window.surface.OnEditPaste();
+        window.type("x");
+        QCOMPARE(window.shown(), after);
+    }
+
+    void theCaretStandsBehindARectangleWithTabs()
+    {
+        EditorWindow window("|\tb\n\td");
+        auto* const copied = new QMimeData;
+        copied->setText("1\n\t2");
+        copied->setData(KVQtHighlightEditCtrlInlay::kRectangleFormat, QByteArray());
+        QApplication::clipboard()->setMimeData(copied);
+        window.surface.OnEditPaste();
+        window.type("x");
+        QCOMPARE(window.shown(), QString("1 \tb\n\t2x|\td"));
+    }
+
     void anEmptyClipboardPastesNothing()
     {
         QApplication::clipboard()->setText("");

@@ -101,6 +101,49 @@ private slots:
         QCOMPARE(window.surface.buffer.line(0).length(), 9);
     }
 
+    void whatIsTypedBehindUnexpandedTabsStandsThereInOrder()
+    {
+        EditorWindow window("x\taz\t|");
+        replaceAll(window, "x", "b");
+        window.key(Qt::Key_End);
+        window.type("12");
+        QCOMPARE(window.shown(), QString("b\taz\t12|"));
+    }
+
+    void undoAndRedoPutTheCaretBackBehindUnexpandedTabs()
+    {
+        EditorWindow window("\t\tcow|");
+        replaceAll(window, "cow", "duck");
+        window.key(Qt::Key_End);
+        window.type(".");
+        window.key(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(window.shown(), QString("\t\tduck|"));
+        window.key(Qt::Key_Y, Qt::ControlModifier);
+        QCOMPARE(window.shown(), QString("\t\tduck.|"));
+    }
+
+    void aLineJoinedToOneWithUnexpandedTabsGoesToItsEnd()
+    {
+        EditorWindow window("\tcow\nx|");
+        replaceAll(window, "cow", "duck");
+        window.key(Qt::Key_Down);
+        window.key(Qt::Key_Home);
+        window.key(Qt::Key_Backspace);
+        window.type("s");
+        QCOMPARE(window.shown(), QString("\tducks|x"));
+    }
+
+    void aRectangleIsDrawnOverExpandedTabs()
+    {
+        EditorWindow window("\tcow\n\tcow");
+        replaceAll(window, "cow", "ab");
+        window.press(window.point(0, 5), Qt::AltModifier);
+        window.move(window.point(1, 5), Qt::AltModifier);
+        window.release(window.point(1, 5), Qt::AltModifier);
+        window.type("12");
+        QCOMPARE(window.text(), QString("\ta12b\n\ta12b"));
+    }
+
     void theBackendIsToldThatTheTextHasChanged()
     {
         EditorWindow window("cow");

@@ -129,6 +129,60 @@ private slots:
         QCOMPARE(window.rectangle(), QString("0,2-2,2 block"));
     }
 
+    void aTabThatARectangleStandsInBecomesBlanks()
+    {
+        EditorWindow window("abcd\n\tx");
+        window.place({0, 2}, {1, 2}, true);
+        window.type("12");
+        QCOMPARE(window.text(), QString("ab12cd\n  12  x"));
+    }
+
+    void backspaceTakesBackWhatARectangleTyped()
+    {
+        EditorWindow window("ab\ncd");
+        window.place({0, 1}, {1, 1}, true);
+        window.type("x");
+        window.key(Qt::Key_Backspace);
+        QCOMPARE(window.text(), QString("ab\ncd"));
+        QCOMPARE(window.rectangle(), QString("0,1-1,1 block"));
+    }
+
+    void backspaceInFrontOfTheLinesOfARectangleDeletesNothing()
+    {
+        EditorWindow window("ab\ncd");
+        window.place({0, 0}, {1, 0}, true);
+        window.key(Qt::Key_Backspace);
+        QCOMPARE(window.text(), QString("ab\ncd"));
+    }
+
+    void backspaceFarBehindTheEndOfALineLeavesTheNextLineAlone()
+    {
+        EditorWindow window("ab\ncd");
+        window.click(window.point(0, 4), Qt::AltModifier);
+        window.key(Qt::Key_Backspace);
+        window.type("x");
+        QCOMPARE(window.shown(), QString("ab x|\ncd"));
+    }
+
+    void afterDeletingInFrontOfATabTypingGoesOnAtTheEnd()
+    {
+        EditorWindow window("^ab|\tcow");
+        window.key(Qt::Key_Delete);
+        window.key(Qt::Key_End);
+        window.type("12");
+        QCOMPARE(window.shown(), QString("\tcow12|"));
+    }
+
+    void backspaceAtTheBeginningOfALineDropsItsIndentationAlsoAfterASelectionWithShift()
+    {
+        EditorWindow window("a\n|bc");
+        window.key(Qt::Key_Right, Qt::ShiftModifier);
+        window.type("\t");
+        window.key(Qt::Key_Home);
+        window.key(Qt::Key_Backspace);
+        QCOMPARE(window.shown(), QString("a|c"));
+    }
+
     void escapeEndsTheSelection()
     {
         EditorWindow window("a^b|c");
