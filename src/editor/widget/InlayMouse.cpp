@@ -26,7 +26,11 @@ void KVQtHighlightEditCtrlInlay::mousePressEvent(QMouseEvent* event)
 
 void KVQtHighlightEditCtrlInlay::OnLButtonDblClk(QPoint point)
 {
-    editor.mouse_doubleclick(FromPoint(point, alt_held));
+    editor.mouse_doubleclick(cell_under(point));
+    const BUFFER& text = buffer;
+    SELECTION& word = editor.selection;
+    word.start.column = start_of_character(text.line(word.start.line), word.start.column);
+    word.end.column = end_of_character(text.line(word.end.line), word.end.column);
     EnsureVisible(editor.selection.end);
     UpdateAllViews();
 }

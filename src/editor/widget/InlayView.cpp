@@ -193,6 +193,14 @@ KVTextEditor::CARET KVQtHighlightEditCtrlInlay::FromPoint(QPoint point, bool fre
     return caret;
 }
 
+// The cell itself that lies under a point, maybe behind the end of its line.
+KVTextEditor::CARET KVQtHighlightEditCtrlInlay::cell_under(QPoint point) const
+{
+    CARET cell = FromPoint(point, true);
+    cell.column = first_visible_column() + std::max(0, point.x() - gutter_width()) / cell_width;
+    return cell;
+}
+
 // At an edge of a character in the text, or with free only in one of its lines.
 KVTextEditor::CARET KVQtHighlightEditCtrlInlay::place_in_text(CARET caret, bool free) const
 {

@@ -189,6 +189,7 @@ private:
     void find_brackets();
 
     CARET place_in_text(CARET caret, bool free) const;
+    CARET cell_under(QPoint point) const;
     void update_scroll_bars();
     void note_width();
     void note_width_of(int line);

@@ -114,6 +114,32 @@ private slots:
         QCOMPARE(window.shown(), QString("say ^hello|, cow"));
     }
 
+    void aDoubleClickTakesTheCellUnderTheMouse_data()
+    {
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QString>("after");
+        QTest::newRow("first letter") << 4 << "say ^cow|(\t1)";
+        QTest::newRow("last letter") << 6 << "say ^cow|(\t1)";
+        QTest::newRow("sign behind it") << 7 << "say cow^(|\t1)";
+        QTest::newRow("tab") << 9 << "say cow(^\t|1)";
+        QTest::newRow("number") << 12 << "say cow(\t^1|)";
+        QTest::newRow("last cell") << 13 << "say cow(\t1^)|";
+        QTest::newRow("behind the line") << 14 << "say cow(\t1)|";
+    }
+
+    void aDoubleClickTakesTheCellUnderTheMouse()
+    {
+        QFETCH(int, column);
+        QFETCH(QString, after);
+        const EditorWindow measure;
+        const int width = measure.surface.char_width();
+        for (const int x : {0, width / 2, width - 1}) {
+            EditorWindow window("say cow(\t1)");
+            window.doubleClick(window.point(0, column) + QPoint(x, 0));
+            QCOMPARE(window.shown(), after);
+        }
+    }
+
     void aDoubleClickSelectsANumberWithItsPointAndExponent()
     {
         EditorWindow window("x = 1.5e-3;");

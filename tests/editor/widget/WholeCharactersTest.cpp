@@ -137,6 +137,13 @@ private slots:
         QCOMPARE(window.shown(), "a|" + kUnequal + "b");
     }
 
+    void aDoubleClickTakesAllOfIt()
+    {
+        EditorWindow window("a" + kUnequal + " b");
+        window.doubleClick(window.point(0, 1));
+        QCOMPARE(window.shown(), "a^" + kUnequal + "| b");
+    }
+
     void homeDoesNotPartAnIndentedMark()
     {
         EditorWindow window(QString::fromUtf8(" \u0301a|"));
