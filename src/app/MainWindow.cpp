@@ -155,7 +155,16 @@ void MainWindow::ProjectDataWasChanged(bool toProject)
         project.compiler.source = ui->codeEditor->text().toStdString();
         numberAllAreas();
     } else {
-        ui->codeEditor->setText(QString::fromStdString(project.compiler.source));
+        showScript();
+    }
+}
+
+// A text that is there already is left alone, with its undo, its bookmarks and its caret.
+void MainWindow::showScript()
+{
+    const QString script = QString::fromStdString(project.compiler.source);
+    if (!ui->codeEditor->holds(script)) {
+        ui->codeEditor->setText(script);
     }
 }
 
@@ -190,6 +199,7 @@ void MainWindow::openProject(const QString& path)
     printIntoConsole();
     // Creating print images, for one, goes to another folder.
     const std::string file = QFileInfo(path).absoluteFilePath().toStdString();
+    const std::string before = project.projectPath;
     const bool opened = Oid::openProject(project, file);
 
     ui->ribbonTab->setCurrentWidget(opened ? ui->tabProject : ui->tabBuild);
@@ -198,6 +208,9 @@ void MainWindow::openProject(const QString& path)
     showTopOfPicture();
     selectPolygon(-1);
     ProjectDataWasChanged(false);
+    if (project.projectPath != before) {
+        ui->codeEditor->forgetHistory();  // undo would lead back into the other book
+    }
     ui->polyArea->repaint();
     numberBar->opened(project);
     companions.areBeside(project);

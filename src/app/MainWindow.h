@@ -86,6 +86,7 @@ private:
     // The one place that moves data between the form and the project: into the project (a fresh
     // compiler object included), or into the form. Called before and after changes alike.
     void ProjectDataWasChanged(bool toProject);
+    void showScript();
     void prepareTextEditor();
     void takeDrops();
     void letPictureScroll();

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QDragEnterEvent>
+#include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -13,11 +14,54 @@
 #include <QTabWidget>
 #include <QUrl>
 
+#include <utility>
+
 namespace {
 
 const std::string kCow = "OID 1001\r\nPOLY cow\r\n"
                          "       10.00    10.00\r\n       50.00    10.00\r\n"
                          "       50.00    40.00\r\nEND\r\n\r\n";
+
+QWidget& editor(WindowFixture& w)
+{
+    return w.get<KVQtHighlightEditCtrl>("codeEditor")->surface();
+}
+
+std::pair<int, int> caret(WindowFixture& w)
+{
+    const auto end = w.get<KVQtHighlightEditCtrl>("codeEditor")->editor().selection.end;
+    return {end.line, end.column};
+}
+
+// Types a line, then a second one; bookmarks the first; leaves the caret behind "end".
+void typeTwoLines(WindowFixture& w)
+{
+    QTest::keyClicks(&editor(w), "sub cow");
+    QTest::keyClick(&editor(w), Qt::Key_Return);
+    QTest::keyClicks(&editor(w), "end sub");
+    QTest::keyClick(&editor(w), Qt::Key_Up);
+    QTest::keyClick(&editor(w), Qt::Key_F2, Qt::ControlModifier);
+    QTest::keyClick(&editor(w), Qt::Key_Down);
+    QTest::keyClick(&editor(w), Qt::Key_Left, Qt::ControlModifier);
+    QTest::keyClick(&editor(w), Qt::Key_Left);
+}
+
+void theCaretAndTheBookmarkAreStillThere(WindowFixture& w)
+{
+    QCOMPARE(w.script(), "sub cow\r\nend sub");
+    QCOMPARE(caret(w), std::make_pair(1, 3));
+    QTest::keyClick(&editor(w), Qt::Key_F2);
+    QCOMPARE(caret(w), std::make_pair(0, 0));
+}
+
+void everythingOfTheEditorIsStillThere(WindowFixture& w)
+{
+    theCaretAndTheBookmarkAreStillThere(w);
+    QTest::keyClick(&editor(w), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(w.script(), "sub cow\r\nend");
+    QTest::keyClick(&editor(w), Qt::Key_Y, Qt::ControlModifier);
+    QCOMPARE(w.script(), "sub cow\r\nend sub");
+}
 
 }  // namespace
 
@@ -411,6 +455,87 @@ private slots:
         w.click("btNextPicture");
         QCOMPARE(w.script(), "sub cow");
         QCOMPARE(w.field("txProjectName"), "Farm");
+    }
+
+    void goingToAnotherPictureKeepsUndoBookmarksAndCaretOfTheScript()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow, kCow}), 2);
+        typeTwoLines(w);
+        w.click("btNextPicture");
+        everythingOfTheEditorIsStillThere(w);
+    }
+
+    void saveAsKeepsUndoBookmarksAndCaretOfTheScript()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        typeTwoLines(w);
+        w.dialogs.chooseFile(w.path("second.oidpro"));
+        w.trigger("action_Save_As");
+        QVERIFY(QFile::exists(w.path("second.oidpro")));
+        everythingOfTheEditorIsStillThere(w);
+    }
+
+    void cancellingSaveAsKeepsUndoBookmarksAndCaretOfTheScript()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        typeTwoLines(w);
+        w.dialogs.cancel();
+        w.trigger("action_Save_As");
+        everythingOfTheEditorIsStillThere(w);
+    }
+
+    void openingTheSavedProjectAgainKeepsUndoBookmarksAndCaretOfTheScript()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        typeTwoLines(w);
+        w.saved();
+        w.dialogs.chooseFile(w.path("book.oidpro"));
+        w.trigger("action_Open");
+        everythingOfTheEditorIsStillThere(w);
+    }
+
+    // Undo would lead back into the other book.
+    void openingAnotherProjectOfTheSameScriptKeepsBookmarksAndCaretButNoUndo()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        typeTwoLines(w);
+        writeFile(w.folder.file("other.oidpro"), projectFile({kCow}, "sub cow\nend sub"));
+        w.dialogs.chooseFile(w.path("other.oidpro"));
+        w.trigger("action_Open");
+        theCaretAndTheBookmarkAreStillThere(w);
+        QTest::keyClick(&editor(w), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(w.script(), "sub cow\r\nend sub");
+    }
+
+    void aScriptWithTabsAndAnyLineEndsIsTheSameWhenItIsOpenedAgain()
+    {
+        WindowFixture w;
+        const std::string project = projectFile({kCow}, "sub cow\n\tsay\tMoo\rend sub\r\n");
+        w.open(project, 1);
+        QTest::keyClick(&editor(w), Qt::Key_Down);
+        QTest::keyClick(&editor(w), Qt::Key_End);
+        const auto behindMoo = std::make_pair(1, 11);
+        QCOMPARE(caret(w), behindMoo);
+        w.open(project);
+        QCOMPARE(caret(w), behindMoo);
+    }
+
+    void anotherScriptIsShownFromItsTopAndHasNoUndo()
+    {
+        WindowFixture w;
+        w.open(projectFile({kCow}), 1);
+        typeTwoLines(w);
+        w.open(projectFile({kCow}, "sub hen\nend sub"));
+        QCOMPARE(caret(w), std::make_pair(0, 0));
+        QTest::keyClick(&editor(w), Qt::Key_F2);
+        QCOMPARE(caret(w), std::make_pair(0, 0));
+        QTest::keyClick(&editor(w), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(w.script(), "sub hen\r\nend sub");
     }
 
     void whatWasTypedBeforeTheFirstPictureDoesNotSpoilItsPaper()

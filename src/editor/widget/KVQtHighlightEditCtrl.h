@@ -21,6 +21,8 @@ public:
 
     QString text() const { return inlay->text(); }
     void setText(const QString& text) { inlay->setText(text); }
+    bool holds(const QString& text) const { return inlay->holds(text); }
+    void forgetHistory() { inlay->forgetHistory(); }
 
     void EnsureVisible(CARET caret, bool centre = false) { inlay->EnsureVisible(caret, centre); }
     void UpdateAllViews() { inlay->UpdateAllViews(); }

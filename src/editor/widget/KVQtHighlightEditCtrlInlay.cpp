@@ -48,13 +48,25 @@ QString KVQtHighlightEditCtrlInlay::text_of(const BUFFER& lines)
 
 void KVQtHighlightEditCtrlInlay::setText(const QString& text)
 {
-    // Intended: the charge of the undo states, undo_bytes, stays as it is.
-    editor.undo_states.clear();
-    editor.redo_states.clear();
+    forgetHistory();
     editor.selection.set(0, 0);
     buffer.set_text(text.toStdU16String());
     buffer.tabs_insert(editor.tab_width);
     UpdateAllViews();
+}
+
+bool KVQtHighlightEditCtrlInlay::holds(const QString& text) const
+{
+    BUFFER other;
+    other.set_text(text.toStdU16String());
+    return text_of(other) == text_of(buffer);
+}
+
+// Intended: the charge of the undo states, undo_bytes, stays as it is.
+void KVQtHighlightEditCtrlInlay::forgetHistory()
+{
+    editor.undo_states.clear();
+    editor.redo_states.clear();
 }
 
 void KVQtHighlightEditCtrlInlay::OnEditUndo()

@@ -41,6 +41,9 @@ public:
     // The whole text, its lines joined with CR LF. Setting it ends undo and redo.
     QString text() const;
     void setText(const QString& text);
+    // True when the text is the one that setText would leave, whatever its line ends.
+    bool holds(const QString& text) const;
+    void forgetHistory();  // ends undo and redo; text, bookmarks and caret stay
 
     void SetFont(const QString& family, int pointSize);
 
