@@ -43,6 +43,16 @@ TEST(Yaml, AnotherPlaceMayBeNamed)
     EXPECT_EQ(folder.listing(), "book.oidpro x.yaml");
 }
 
+TEST(Yaml, TheSampleBookHasAnAreaThatSwitchesItOn)
+{
+    const TemporaryFolder folder;
+    const std::string book = PLINKETT_SOURCE_DIR "/examples/farm/farm.oidpro";
+    EXPECT_EQ(resultOf(cli({"yaml", "-o", folder.file("x.yaml"), book})), "status 0\n");
+    const std::string yaml = readFile(folder.file("x.yaml"));
+    EXPECT_THAT(yaml, HasSubstr("product-id: 901\r\n"));
+    EXPECT_THAT(yaml, HasSubstr("\r\nscriptcodes:\r\n    power:                901\r\n"));
+}
+
 TEST(Yaml, TwoRunsAndEveryLocaleGiveTheSameBytes)
 {
     const TemporaryFolder folder;
