@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 WorkProgress::WorkProgress(QWidget& worker, const QString& text, const QString& cancel)
     : window(worker), dialog(text, cancel, 0, 0, &worker)
 {
@@ -23,7 +25,7 @@ bool WorkProgress::tell(int done, int total)
         return false;
     }
     dialog.setMaximum(total);
-    dialog.setValue(done);  // handles pending events when the dialog is shown
+    dialog.setValue(std::min(done, total));  // handles pending events when the dialog is shown
     return !dialog.wasCanceled();
 }
 

@@ -12,7 +12,7 @@ public:
     WorkProgress(const WorkProgress&) = delete;
     WorkProgress& operator=(const WorkProgress&) = delete;
 
-    // Both false once the author has cancelled.
+    // What is done beyond the total shows as all of it. Both false once the author has cancelled.
     bool tell(int done, int total);
     bool stayAlive();  // for a step that takes long: to be called a few times a second
 
