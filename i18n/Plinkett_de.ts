@@ -8,20 +8,40 @@
         <translation>&amp;Suchen</translation>
     </message>
     <message>
+        <source>Goes to the next place that holds the text</source>
+        <translation>Geht zur nächsten Stelle mit dem Text</translation>
+    </message>
+    <message>
         <source>&amp;Replace</source>
         <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>Replaces the text that is selected</source>
+        <translation>Ersetzt den ausgewählten Text</translation>
     </message>
     <message>
         <source>Replace &amp;All</source>
         <translation>&amp;Alle ersetzen</translation>
     </message>
     <message>
+        <source>Replaces the text wherever it stands</source>
+        <translation>Ersetzt den Text, wo immer er steht</translation>
+    </message>
+    <message>
         <source>Search &amp;backwards</source>
         <translation>&amp;Rückwärts suchen</translation>
     </message>
     <message>
+        <source>Searches toward the beginning</source>
+        <translation>Sucht zum Anfang hin</translation>
+    </message>
+    <message>
         <source>Replace with:</source>
         <translation>Ersetzen durch:</translation>
+    </message>
+    <message>
+        <source>The text that takes its place</source>
+        <translation>Der Text, der an seine Stelle tritt</translation>
     </message>
     <message>
         <source>Find and replace</source>
@@ -30,6 +50,10 @@
     <message>
         <source>Find &amp;what:</source>
         <translation>Suchen &amp;nach:</translation>
+    </message>
+    <message>
+        <source>The text that is searched for; capital and small letters differ</source>
+        <translation>Der Text, der gesucht wird; Groß- und Kleinbuchstaben sind verschieden</translation>
     </message>
 </context>
 <context>
@@ -118,8 +142,16 @@
         <translation>Projektname</translation>
     </message>
     <message>
+        <source>The name of the book, which the pen says when it is switched on</source>
+        <translation>Der Name des Buchs, den der Stift beim Einschalten sagt</translation>
+    </message>
+    <message>
         <source>Project ID</source>
         <translation>Projekt-ID</translation>
+    </message>
+    <message>
+        <source>The number of the book, one for each book on the pen</source>
+        <translation>Die Nummer des Buchs, für jedes Buch auf dem Stift eine andere</translation>
     </message>
     <message>
         <source>Current Picture (Area)</source>
@@ -134,6 +166,10 @@
         <translation>Papierbreite in Millimetern</translation>
     </message>
     <message>
+        <source>The width of the printed page</source>
+        <translation>Die Breite der gedruckten Seite</translation>
+    </message>
+    <message>
         <source>X</source>
         <translation>X</translation>
     </message>
@@ -142,12 +178,24 @@
         <translation>Papierhöhe in Millimetern</translation>
     </message>
     <message>
+        <source>The height of the printed page</source>
+        <translation>Die Höhe der gedruckten Seite</translation>
+    </message>
+    <message>
         <source>DPI:</source>
         <translation>DPI:</translation>
     </message>
     <message>
+        <source>The resolution of the printer: 600 at least, better 1200</source>
+        <translation>Die Auflösung des Druckers: mindestens 600, besser 1200</translation>
+    </message>
+    <message>
         <source>Create</source>
         <translation>Erzeugen</translation>
+    </message>
+    <message>
+        <source>Creates the print images of all pictures</source>
+        <translation>Erzeugt die Druckbilder aller Bilder</translation>
     </message>
     <message>
         <source>Create the output image now...</source>
@@ -274,12 +322,20 @@
         <translation>laden...</translation>
     </message>
     <message>
+        <source>Puts another picture file in the place of this one</source>
+        <translation>Setzt eine andere Bilddatei an die Stelle von dieser</translation>
+    </message>
+    <message>
         <source>✖</source>
         <translation>✖</translation>
     </message>
     <message>
         <source>Delete picture</source>
         <translation>Bild löschen</translation>
+    </message>
+    <message>
+        <source>Deletes this picture</source>
+        <translation>Löscht dieses Bild</translation>
     </message>
     <message>
         <source>Area</source>
@@ -326,12 +382,24 @@
         <translation>Name des Bereichs</translation>
     </message>
     <message>
+        <source>The name of the area, as the script knows it</source>
+        <translation>Der Name des Bereichs, wie ihn das Skript kennt</translation>
+    </message>
+    <message>
         <source>OID of the area</source>
         <translation>OID des Bereichs</translation>
     </message>
     <message>
+        <source>The number of the dots that the area is printed with</source>
+        <translation>Die Nummer der Punkte, mit denen der Bereich gedruckt wird</translation>
+    </message>
+    <message>
         <source>Goto code</source>
         <translation>Zum Code</translation>
+    </message>
+    <message>
+        <source>Goes to the code of the area in the script, or begins it</source>
+        <translation>Geht zum Code des Bereichs im Skript oder beginnt ihn</translation>
     </message>
     <message>
         <source>Picture with its areas</source>
@@ -382,6 +450,10 @@
         <translation>Ö&amp;ffnen</translation>
     </message>
     <message>
+        <source>Opens a project</source>
+        <translation>Öffnet ein Projekt</translation>
+    </message>
+    <message>
         <source>Ctrl+O</source>
         <translation>Ctrl+O</translation>
     </message>
@@ -390,12 +462,20 @@
         <translation>Speichern</translation>
     </message>
     <message>
+        <source>Saves the project</source>
+        <translation>Speichert das Projekt</translation>
+    </message>
+    <message>
         <source>Ctrl+S</source>
         <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
         <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Saves the project under another name</source>
+        <translation>Speichert das Projekt unter einem anderen Namen</translation>
     </message>
     <message>
         <source>Ctrl+Shift+S</source>

@@ -8,20 +8,40 @@
         <translation>&amp;Find</translation>
     </message>
     <message>
+        <source>Goes to the next place that holds the text</source>
+        <translation>Goes to the next place that holds the text</translation>
+    </message>
+    <message>
         <source>&amp;Replace</source>
         <translation>&amp;Replace</translation>
+    </message>
+    <message>
+        <source>Replaces the text that is selected</source>
+        <translation>Replaces the text that is selected</translation>
     </message>
     <message>
         <source>Replace &amp;All</source>
         <translation>Replace &amp;All</translation>
     </message>
     <message>
+        <source>Replaces the text wherever it stands</source>
+        <translation>Replaces the text wherever it stands</translation>
+    </message>
+    <message>
         <source>Search &amp;backwards</source>
         <translation>Search &amp;backwards</translation>
     </message>
     <message>
+        <source>Searches toward the beginning</source>
+        <translation>Searches toward the beginning</translation>
+    </message>
+    <message>
         <source>Replace with:</source>
         <translation>Replace with:</translation>
+    </message>
+    <message>
+        <source>The text that takes its place</source>
+        <translation>The text that takes its place</translation>
     </message>
     <message>
         <source>Find and replace</source>
@@ -30,6 +50,10 @@
     <message>
         <source>Find &amp;what:</source>
         <translation>Find &amp;what:</translation>
+    </message>
+    <message>
+        <source>The text that is searched for; capital and small letters differ</source>
+        <translation>The text that is searched for; capital and small letters differ</translation>
     </message>
 </context>
 <context>
@@ -118,8 +142,16 @@
         <translation>Project Name</translation>
     </message>
     <message>
+        <source>The name of the book, which the pen says when it is switched on</source>
+        <translation>The name of the book, which the pen says when it is switched on</translation>
+    </message>
+    <message>
         <source>Project ID</source>
         <translation>Project ID</translation>
+    </message>
+    <message>
+        <source>The number of the book, one for each book on the pen</source>
+        <translation>The number of the book, one for each book on the pen</translation>
     </message>
     <message>
         <source>Current Picture (Area)</source>
@@ -134,6 +166,10 @@
         <translation>Paper width in millimetres</translation>
     </message>
     <message>
+        <source>The width of the printed page</source>
+        <translation>The width of the printed page</translation>
+    </message>
+    <message>
         <source>X</source>
         <translation>X</translation>
     </message>
@@ -142,12 +178,24 @@
         <translation>Paper height in millimetres</translation>
     </message>
     <message>
+        <source>The height of the printed page</source>
+        <translation>The height of the printed page</translation>
+    </message>
+    <message>
         <source>DPI:</source>
         <translation>DPI:</translation>
     </message>
     <message>
+        <source>The resolution of the printer: 600 at least, better 1200</source>
+        <translation>The resolution of the printer: 600 at least, better 1200</translation>
+    </message>
+    <message>
         <source>Create</source>
         <translation>Create</translation>
+    </message>
+    <message>
+        <source>Creates the print images of all pictures</source>
+        <translation>Creates the print images of all pictures</translation>
     </message>
     <message>
         <source>Create the output image now...</source>
@@ -274,12 +322,20 @@
         <translation>load...</translation>
     </message>
     <message>
+        <source>Puts another picture file in the place of this one</source>
+        <translation>Puts another picture file in the place of this one</translation>
+    </message>
+    <message>
         <source>✖</source>
         <translation>✖</translation>
     </message>
     <message>
         <source>Delete picture</source>
         <translation>Delete picture</translation>
+    </message>
+    <message>
+        <source>Deletes this picture</source>
+        <translation>Deletes this picture</translation>
     </message>
     <message>
         <source>Area</source>
@@ -326,12 +382,24 @@
         <translation>Area name</translation>
     </message>
     <message>
+        <source>The name of the area, as the script knows it</source>
+        <translation>The name of the area, as the script knows it</translation>
+    </message>
+    <message>
         <source>OID of the area</source>
         <translation>OID of the area</translation>
     </message>
     <message>
+        <source>The number of the dots that the area is printed with</source>
+        <translation>The number of the dots that the area is printed with</translation>
+    </message>
+    <message>
         <source>Goto code</source>
         <translation>Goto code</translation>
+    </message>
+    <message>
+        <source>Goes to the code of the area in the script, or begins it</source>
+        <translation>Goes to the code of the area in the script, or begins it</translation>
     </message>
     <message>
         <source>Picture with its areas</source>
@@ -382,6 +450,10 @@
         <translation>&amp;Open</translation>
     </message>
     <message>
+        <source>Opens a project</source>
+        <translation>Opens a project</translation>
+    </message>
+    <message>
         <source>Ctrl+O</source>
         <translation>Ctrl+O</translation>
     </message>
@@ -390,12 +462,20 @@
         <translation>Save</translation>
     </message>
     <message>
+        <source>Saves the project</source>
+        <translation>Saves the project</translation>
+    </message>
+    <message>
         <source>Ctrl+S</source>
         <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
         <translation>&amp;Save As...</translation>
+    </message>
+    <message>
+        <source>Saves the project under another name</source>
+        <translation>Saves the project under another name</translation>
     </message>
     <message>
         <source>Ctrl+Shift+S</source>

@@ -8,20 +8,40 @@
         <translation>&amp;Rechercher</translation>
     </message>
     <message>
+        <source>Goes to the next place that holds the text</source>
+        <translation>Va au prochain endroit qui contient le texte</translation>
+    </message>
+    <message>
         <source>&amp;Replace</source>
         <translation>&amp;Remplacer</translation>
+    </message>
+    <message>
+        <source>Replaces the text that is selected</source>
+        <translation>Remplace le texte sélectionné</translation>
     </message>
     <message>
         <source>Replace &amp;All</source>
         <translation>&amp;Tout remplacer</translation>
     </message>
     <message>
+        <source>Replaces the text wherever it stands</source>
+        <translation>Remplace le texte partout où il se trouve</translation>
+    </message>
+    <message>
         <source>Search &amp;backwards</source>
         <translation>Rechercher en &amp;arrière</translation>
     </message>
     <message>
+        <source>Searches toward the beginning</source>
+        <translation>Recherche vers le début</translation>
+    </message>
+    <message>
         <source>Replace with:</source>
         <translation>Remplacer par :</translation>
+    </message>
+    <message>
+        <source>The text that takes its place</source>
+        <translation>Le texte qui prend sa place</translation>
     </message>
     <message>
         <source>Find and replace</source>
@@ -30,6 +50,10 @@
     <message>
         <source>Find &amp;what:</source>
         <translation>&amp;Rechercher :</translation>
+    </message>
+    <message>
+        <source>The text that is searched for; capital and small letters differ</source>
+        <translation>Le texte recherché ; majuscules et minuscules sont distinguées</translation>
     </message>
 </context>
 <context>
@@ -118,8 +142,16 @@
         <translation>Nom du projet</translation>
     </message>
     <message>
+        <source>The name of the book, which the pen says when it is switched on</source>
+        <translation>Le nom du livre, que le stylo dit à la mise en marche</translation>
+    </message>
+    <message>
         <source>Project ID</source>
         <translation>ID du projet</translation>
+    </message>
+    <message>
+        <source>The number of the book, one for each book on the pen</source>
+        <translation>Le numéro du livre, différent pour chaque livre du stylo</translation>
     </message>
     <message>
         <source>Current Picture (Area)</source>
@@ -134,6 +166,10 @@
         <translation>Largeur du papier en millimètres</translation>
     </message>
     <message>
+        <source>The width of the printed page</source>
+        <translation>La largeur de la page imprimée</translation>
+    </message>
+    <message>
         <source>X</source>
         <translation>X</translation>
     </message>
@@ -142,12 +178,24 @@
         <translation>Hauteur du papier en millimètres</translation>
     </message>
     <message>
+        <source>The height of the printed page</source>
+        <translation>La hauteur de la page imprimée</translation>
+    </message>
+    <message>
         <source>DPI:</source>
         <translation>PPP :</translation>
     </message>
     <message>
+        <source>The resolution of the printer: 600 at least, better 1200</source>
+        <translation>La résolution de l&apos;imprimante : au moins 600, mieux 1200</translation>
+    </message>
+    <message>
         <source>Create</source>
         <translation>Créer</translation>
+    </message>
+    <message>
+        <source>Creates the print images of all pictures</source>
+        <translation>Crée les images à imprimer de toutes les images</translation>
     </message>
     <message>
         <source>Create the output image now...</source>
@@ -274,12 +322,20 @@
         <translation>charger...</translation>
     </message>
     <message>
+        <source>Puts another picture file in the place of this one</source>
+        <translation>Met un autre fichier d&apos;image à la place de celui-ci</translation>
+    </message>
+    <message>
         <source>✖</source>
         <translation>✖</translation>
     </message>
     <message>
         <source>Delete picture</source>
         <translation>Supprimer l&apos;image</translation>
+    </message>
+    <message>
+        <source>Deletes this picture</source>
+        <translation>Supprime cette image</translation>
     </message>
     <message>
         <source>Area</source>
@@ -326,12 +382,24 @@
         <translation>Nom de la zone</translation>
     </message>
     <message>
+        <source>The name of the area, as the script knows it</source>
+        <translation>Le nom de la zone, tel que le script la connaît</translation>
+    </message>
+    <message>
         <source>OID of the area</source>
         <translation>OID de la zone</translation>
     </message>
     <message>
+        <source>The number of the dots that the area is printed with</source>
+        <translation>Le numéro des points avec lesquels la zone est imprimée</translation>
+    </message>
+    <message>
         <source>Goto code</source>
         <translation>Aller au code</translation>
+    </message>
+    <message>
+        <source>Goes to the code of the area in the script, or begins it</source>
+        <translation>Va au code de la zone dans le script, ou le commence</translation>
     </message>
     <message>
         <source>Picture with its areas</source>
@@ -382,6 +450,10 @@
         <translation>&amp;Ouvrir</translation>
     </message>
     <message>
+        <source>Opens a project</source>
+        <translation>Ouvre un projet</translation>
+    </message>
+    <message>
         <source>Ctrl+O</source>
         <translation>Ctrl+O</translation>
     </message>
@@ -390,12 +462,20 @@
         <translation>Enregistrer</translation>
     </message>
     <message>
+        <source>Saves the project</source>
+        <translation>Enregistre le projet</translation>
+    </message>
+    <message>
         <source>Ctrl+S</source>
         <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
         <translation>Enregistrer &amp;sous...</translation>
+    </message>
+    <message>
+        <source>Saves the project under another name</source>
+        <translation>Enregistre le projet sous un autre nom</translation>
     </message>
     <message>
         <source>Ctrl+Shift+S</source>

@@ -8,20 +8,40 @@
         <translation>&amp;Zoeken</translation>
     </message>
     <message>
+        <source>Goes to the next place that holds the text</source>
+        <translation>Gaat naar de volgende plaats met de tekst</translation>
+    </message>
+    <message>
         <source>&amp;Replace</source>
         <translation>&amp;Vervangen</translation>
+    </message>
+    <message>
+        <source>Replaces the text that is selected</source>
+        <translation>Vervangt de geselecteerde tekst</translation>
     </message>
     <message>
         <source>Replace &amp;All</source>
         <translation>&amp;Alles vervangen</translation>
     </message>
     <message>
+        <source>Replaces the text wherever it stands</source>
+        <translation>Vervangt de tekst overal waar hij staat</translation>
+    </message>
+    <message>
         <source>Search &amp;backwards</source>
         <translation>&amp;Achteruit zoeken</translation>
     </message>
     <message>
+        <source>Searches toward the beginning</source>
+        <translation>Zoekt in de richting van het begin</translation>
+    </message>
+    <message>
         <source>Replace with:</source>
         <translation>Vervangen door:</translation>
+    </message>
+    <message>
+        <source>The text that takes its place</source>
+        <translation>De tekst die ervoor in de plaats komt</translation>
     </message>
     <message>
         <source>Find and replace</source>
@@ -30,6 +50,10 @@
     <message>
         <source>Find &amp;what:</source>
         <translation>Zoeken &amp;naar:</translation>
+    </message>
+    <message>
+        <source>The text that is searched for; capital and small letters differ</source>
+        <translation>De tekst die wordt gezocht; hoofdletters en kleine letters zijn verschillend</translation>
     </message>
 </context>
 <context>
@@ -118,8 +142,16 @@
         <translation>Projectnaam</translation>
     </message>
     <message>
+        <source>The name of the book, which the pen says when it is switched on</source>
+        <translation>De naam van het boek, die de pen bij het inschakelen zegt</translation>
+    </message>
+    <message>
         <source>Project ID</source>
         <translation>Project-ID</translation>
+    </message>
+    <message>
+        <source>The number of the book, one for each book on the pen</source>
+        <translation>Het nummer van het boek, voor elk boek op de pen een ander</translation>
     </message>
     <message>
         <source>Current Picture (Area)</source>
@@ -134,6 +166,10 @@
         <translation>Papierbreedte in millimeters</translation>
     </message>
     <message>
+        <source>The width of the printed page</source>
+        <translation>De breedte van de afgedrukte pagina</translation>
+    </message>
+    <message>
         <source>X</source>
         <translation>X</translation>
     </message>
@@ -142,12 +178,24 @@
         <translation>Papierhoogte in millimeters</translation>
     </message>
     <message>
+        <source>The height of the printed page</source>
+        <translation>De hoogte van de afgedrukte pagina</translation>
+    </message>
+    <message>
         <source>DPI:</source>
         <translation>DPI:</translation>
     </message>
     <message>
+        <source>The resolution of the printer: 600 at least, better 1200</source>
+        <translation>De resolutie van de printer: ten minste 600, liever 1200</translation>
+    </message>
+    <message>
         <source>Create</source>
         <translation>Maken</translation>
+    </message>
+    <message>
+        <source>Creates the print images of all pictures</source>
+        <translation>Maakt de afdrukafbeeldingen van alle afbeeldingen</translation>
     </message>
     <message>
         <source>Create the output image now...</source>
@@ -274,12 +322,20 @@
         <translation>laden...</translation>
     </message>
     <message>
+        <source>Puts another picture file in the place of this one</source>
+        <translation>Zet een ander afbeeldingsbestand op de plaats van dit</translation>
+    </message>
+    <message>
         <source>✖</source>
         <translation>✖</translation>
     </message>
     <message>
         <source>Delete picture</source>
         <translation>Afbeelding verwijderen</translation>
+    </message>
+    <message>
+        <source>Deletes this picture</source>
+        <translation>Verwijdert deze afbeelding</translation>
     </message>
     <message>
         <source>Area</source>
@@ -326,12 +382,24 @@
         <translation>Naam van het gebied</translation>
     </message>
     <message>
+        <source>The name of the area, as the script knows it</source>
+        <translation>De naam van het gebied, zoals het script het kent</translation>
+    </message>
+    <message>
         <source>OID of the area</source>
         <translation>OID van het gebied</translation>
     </message>
     <message>
+        <source>The number of the dots that the area is printed with</source>
+        <translation>Het nummer van de punten waarmee het gebied wordt afgedrukt</translation>
+    </message>
+    <message>
         <source>Goto code</source>
         <translation>Naar de code</translation>
+    </message>
+    <message>
+        <source>Goes to the code of the area in the script, or begins it</source>
+        <translation>Gaat naar de code van het gebied in het script, of begint die</translation>
     </message>
     <message>
         <source>Picture with its areas</source>
@@ -382,6 +450,10 @@
         <translation>&amp;Openen</translation>
     </message>
     <message>
+        <source>Opens a project</source>
+        <translation>Opent een project</translation>
+    </message>
+    <message>
         <source>Ctrl+O</source>
         <translation>Ctrl+O</translation>
     </message>
@@ -390,12 +462,20 @@
         <translation>Opslaan</translation>
     </message>
     <message>
+        <source>Saves the project</source>
+        <translation>Slaat het project op</translation>
+    </message>
+    <message>
         <source>Ctrl+S</source>
         <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
         <translation>Opslaan &amp;als...</translation>
+    </message>
+    <message>
+        <source>Saves the project under another name</source>
+        <translation>Slaat het project onder een andere naam op</translation>
     </message>
     <message>
         <source>Ctrl+Shift+S</source>

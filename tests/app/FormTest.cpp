@@ -44,24 +44,26 @@ private slots:
         row("tabProject", "QWidget");
         row("groupBox_3", "QGroupBox", "Project");
         row("label_8", "QLabel", "Project Name");
-        row("txProjectName", "QLineEdit");
+        row("txProjectName", "QLineEdit", "",
+            "The name of the book, which the pen says when it is switched on");
         row("lbProjectNameProblems", "QLabel");
         row("label_9", "QLabel", "Project ID");
         row("widget", "QWidget");
-        row("txProjectId", "QSpinBox");
+        row("txProjectId", "QSpinBox", "", "The number of the book, one for each book on the pen");
         row("frCurrentPicture", "QGroupBox", "Current Picture (Area)");
         row("label_3", "QLabel", "Paper: [mm]");
         row("widget_2", "QWidget");
-        row("txProjPaperWidth", "QLineEdit");
+        row("txProjPaperWidth", "QLineEdit", "", "The width of the printed page");
         row("label_4", "QLabel", "X");
-        row("txProjPaperHeight", "QLineEdit");
+        row("txProjPaperHeight", "QLineEdit", "", "The height of the printed page");
         row("label_5", "QLabel", "DPI:");
         row("widget_4", "QWidget");
-        row("txProjDPI", "QLineEdit");
+        row("txProjDPI", "QLineEdit", "",
+            "The resolution of the printer: 600 at least, better 1200");
         row("btSizeForAll", "QPushButton", "For all pictures",
             "Gives the paper and the DPI of this picture to all pictures");
         row("widget_6", "QWidget");
-        row("btCreateImage", "QPushButton", "Create");
+        row("btCreateImage", "QPushButton", "Create", "Creates the print images of all pictures");
         row("label_7", "QLabel", "Create the output image now...");
         row("lbCreateResult", "QLabel");
         row("tabAreas", "QWidget");
@@ -69,16 +71,18 @@ private slots:
         row("groupBox", "QGroupBox", "Picture");
         row("btPreviousPicture", "QPushButton", "<-", "Show the previous picture");
         row("btNextPicture", "QPushButton", "->", "Shows the next picture or appends a new one");
-        row("btLoadImage", "QPushButton", "load...");
-        row("btDeletePicture", "QPushButton", u8"\u2716");
+        row("btLoadImage", "QPushButton", "load...",
+            "Puts another picture file in the place of this one");
+        row("btDeletePicture", "QPushButton", u8"\u2716", "Deletes this picture");
         row("groupBox_2", "QGroupBox", "Area");
         row("btPickPoly", "QPushButton", u8"\u2196", "Pick area mode");
         row("btAddPoly", "QPushButton", "+", "Add a new polygon mode");
         row("btDelPoly", "QPushButton", u8"\u2716", "Delete selected polygon");
         row("label", "QLabel", "ID:");
-        row("txPolyName", "QLineEdit");
-        row("txOidOfArea", "QSpinBox");
-        row("btEditPolyCode", "QPushButton", "Goto code");
+        row("txPolyName", "QLineEdit", "", "The name of the area, as the script knows it");
+        row("txOidOfArea", "QSpinBox", "", "The number of the dots that the area is printed with");
+        row("btEditPolyCode", "QPushButton", "Goto code",
+            "Goes to the code of the area in the script, or begins it");
         row("polyArea", "PolyEditorWidget");
         row("tabScript", "QWidget");
         row("codeEditor", "KVQtHighlightEditCtrl");
@@ -151,15 +155,18 @@ private slots:
         WindowFixture w;
         const QList<QAction*> actions = w.get<QToolBar>("toolBar")->actions();
         QCOMPARE(actions.size(), 3);
-        const auto check = [&](int i, const char* name, const char* text, const char* shortcut) {
+        const auto check = [&](int i, const char* name, const char* text, const char* shortcut,
+                               const char* toolTip) {
+            QCOMPARE(actions[i]->toolTip(), toolTip);
             QCOMPARE(actions[i]->objectName(), name);
             QCOMPARE(actions[i]->text(), text);
             QCOMPARE(actions[i]->shortcut().toString(), shortcut);
             QVERIFY(!actions[i]->icon().pixmap(24).isNull());
         };
-        check(0, "action_Open", "&Open", "Ctrl+O");
-        check(1, "actionSave", "Save", "Ctrl+S");
-        check(2, "action_Save_As", "&Save As...", "Ctrl+Shift+S");
+        check(0, "action_Open", "&Open", "Ctrl+O", "Opens a project");
+        check(1, "actionSave", "Save", "Ctrl+S", "Saves the project");
+        check(2, "action_Save_As", "&Save As...", "Ctrl+Shift+S",
+              "Saves the project under another name");
         QCOMPARE(w.window.toolBarArea(w.get<QToolBar>("toolBar")), Qt::TopToolBarArea);
     }
 
@@ -319,6 +326,23 @@ private slots:
                 QAccessible::queryAccessibleInterface(w.window.findChild<QWidget*>(control));
             QVERIFY2(!read->text(QAccessible::Name).isEmpty(), qPrintable(control));
         }
+    }
+
+    void everyButtonAndFieldHasAToolTip()
+    {
+        WindowFixture w;
+        QStringList without;
+        for (const QWidget* const control : w.window.findChildren<QWidget*>()) {
+            const bool isPart = control->objectName().startsWith("qt_") ||
+                                control->parentWidget()->inherits("QTabBar");
+            const bool wantsOne = control->inherits("QAbstractButton") ||
+                                  control->inherits("QLineEdit") ||
+                                  control->inherits("QAbstractSpinBox");
+            if (wantsOne && !isPart && control->toolTip().isEmpty()) {
+                without << control->window()->objectName() + "/" + control->objectName();
+            }
+        }
+        QCOMPARE(without, QStringList());
     }
 
     void controlsThatShowASymbolHaveAName()

@@ -28,6 +28,13 @@ KVQtFindDialog::KVQtFindDialog(QWidget* parent)
     btReplaceAll->setObjectName("btReplaceAll");
     chBackwards->setObjectName("chBackwards");
 
+    txFind->setToolTip(tr("The text that is searched for; capital and small letters differ"));
+    txReplace->setToolTip(tr("The text that takes its place"));
+    btFind->setToolTip(tr("Goes to the next place that holds the text"));
+    btReplace->setToolTip(tr("Replaces the text that is selected"));
+    btReplaceAll->setToolTip(tr("Replaces the text wherever it stands"));
+    chBackwards->setToolTip(tr("Searches toward the beginning"));
+
     QLabel* const lbFind = new QLabel(tr("Find &what:"), this);
     lbFind->setBuddy(txFind);
     lbReplace->setBuddy(txReplace);
