@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "base/PrintFunction.h"
+
 enum class Severity {
     error,    // nothing can be made of this
     warning,  // the author should look at it; nothing is stopped
@@ -36,6 +38,10 @@ struct Diagnostic
     // The page and the area on it, counted from 1; 0 where it is not about one.
     int page = 0;
     int area = 0;
+
+    // What a console shows, line end included, where its words are fixed; else empty. It may name
+    // another line than the one above, which is where the author has to look.
+    std::string printed;
 };
 
 bool operator==(const Diagnostic& a, const Diagnostic& b);
@@ -50,6 +56,13 @@ using DiagnosticSink = std::function<void(const Diagnostic&)>;
 
 // A sink that appends to the list, which has to outlive it.
 DiagnosticSink collectInto(std::vector<Diagnostic>& list);
+
+// A sink that prints each finding, in its fixed words or else as consoleLine says. Null stands for
+// standard output.
+DiagnosticSink printWith(PrintFunction print);
+
+// "Error: 900-Zoo.yaml line 7: text" with its line end; without a file or a line they are left out.
+std::string consoleLine(const Diagnostic& diagnostic);
 
 // "Error", "Warning", "Hint": how a line of a console begins.
 const char* severityName(Severity severity);

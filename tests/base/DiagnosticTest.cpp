@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "tests/helpers/CapturedMessages.h"
+
 namespace {
 
 using testing::ElementsAre;
@@ -42,6 +44,7 @@ TEST(Diagnostic, IsAValueThatDiffersWhenAnythingDiffers)
     EXPECT_TRUE(differs([](Diagnostic& d) { d.subject += "x"; }));
     EXPECT_TRUE(differs([](Diagnostic& d) { ++d.page; }));
     EXPECT_TRUE(differs([](Diagnostic& d) { ++d.area; }));
+    EXPECT_TRUE(differs([](Diagnostic& d) { d.printed += "x"; }));
 }
 
 TEST(Diagnostic, CollectIntoKeepsTheOrder)
@@ -53,6 +56,37 @@ TEST(Diagnostic, CollectIntoKeepsTheOrder)
     sink(anyDiagnostic());
     sink(second);
     EXPECT_THAT(list, ElementsAre(anyDiagnostic(), second));
+}
+
+TEST(Diagnostic, IsPrintedInItsFixedWordsWhereItHasThem)
+{
+    const CapturedMessages messages;
+    Diagnostic diagnostic = anyDiagnostic();
+    diagnostic.printed = "100 %s\n";
+    printWith(CapturedMessages::print)(diagnostic);
+    EXPECT_EQ(messages.text(), "100 %s\n");
+}
+
+TEST(Diagnostic, IsElsePrintedWithItsSeverityAndPlace)
+{
+    const CapturedMessages messages;
+    Diagnostic diagnostic = anyDiagnostic();
+    diagnostic.file = "a/b/900-Zoo.yaml";
+    diagnostic.text = "this is 100 %s";
+    printWith(CapturedMessages::print)(diagnostic);
+    EXPECT_EQ(messages.text(), "Warning: 900-Zoo.yaml line 1: this is 100 %s\n");
+}
+
+TEST(Diagnostic, IsPrintedWithWhatIsKnownOfItsPlace)
+{
+    Diagnostic diagnostic;
+    diagnostic.text = "text";
+    EXPECT_EQ(consoleLine(diagnostic), "Error: text\n");
+    diagnostic.line = 7;
+    EXPECT_EQ(consoleLine(diagnostic), "Error: line 7: text\n");
+    diagnostic.file = "Zoo.yaml";
+    diagnostic.line = 0;
+    EXPECT_EQ(consoleLine(diagnostic), "Error: Zoo.yaml: text\n");
 }
 
 TEST(Diagnostic, HasAWordForEachSeverity)
