@@ -18,7 +18,7 @@ bool ttbasic::doIf(const std::string& condition)
 bool ttbasic::doElse()
 {
     if (ifDepth == 0) {
-        return error("else without if");
+        return error("else-without-if", keyword, "else without if");
     }
     conditions.back().back() = '0';  // "$ifexp1 == 1" becomes "$ifexp1 == 0"
     updateIfPrefix();
@@ -29,7 +29,7 @@ bool ttbasic::doElse()
 bool ttbasic::doEndif()
 {
     if (ifDepth <= 0) {
-        return error("end if without if");
+        return error("end-without-if", keyword, "end if without if");
     }
     conditions.pop_back();
     --ifDepth;
@@ -53,11 +53,11 @@ bool ttbasic::doSelect(const std::string& word)
 bool ttbasic::doCase(int value)
 {
     if (selects.empty()) {
-        return error("case without select");
+        return error("case-without-select", keyword, "case without select");
     }
     SELECTCASE& select = selects.back();
     if (select.cases.count(value) != 0) {
-        return error("case " + itostr(value) + " is already defined");
+        return error("case-repeated", argument(0), "case " + itostr(value) + " is already defined");
     }
     if (!select.cases.empty() && !doEndif()) {
         return false;
@@ -70,7 +70,7 @@ bool ttbasic::doCase(int value)
 bool ttbasic::doDefaultCase()
 {
     if (selects.empty()) {
-        return error("case without select");
+        return error("case-without-select", keyword, "case without select");
     }
     if (selects.back().cases.empty()) {
         return doIf("_zero==0");
@@ -97,28 +97,29 @@ std::string ttbasic::conditionOfDefault(const SELECTCASE& select)
 bool ttbasic::doSub(const std::string& name)
 {
     if (!currentSub.empty()) {
-        return error("No 'end sub' for " + currentSub);
+        return error("sub-not-ended", keyword, "No 'end sub' for " + currentSub, currentSub);
     }
     if (name.empty()) {
-        return error("sub has no name");
+        return error("sub-without-name", keyword, "sub has no name");
     }
     asmLabel(name);
     updateIfPrefix();
     currentSub = name;
     increase(labels[name]);
+    definitions.push_back({name, firstArgument(name)});
     return true;
 }
 
 bool ttbasic::doEndSub()
 {
     if (currentSub.empty()) {
-        return error("Not in a sub");
+        return error("end-without-sub", keyword, "Not in a sub");
     }
     currentSub.clear();
     // Intended: the sub's name is gone by now, so the comment ends with a blank.
     emitLine({kCommandStart, "$rnd += ", randomSummand(), " # end sub ", currentSub});
     if (!conditions.empty()) {
-        return error("if without endif in this sub");
+        return error("if-not-ended", keyword, "if without endif in this sub");
     }
     updateIfPrefix();
     return true;
@@ -127,6 +128,7 @@ bool ttbasic::doEndSub()
 bool ttbasic::doGoto(const std::string& name)
 {
     gotos[lineNumber] = name;
+    jumps.push_back({name, firstArgument(name)});
     asmGoto(name);
     return true;
 }

@@ -23,15 +23,17 @@ bool ttbasic::doAssign(const std::string& left, const std::string& right)
     const char* text = left.c_str();
     const std::string name = parseString(text);
     if (name.empty()) {
-        return error("Can't assign to nothing");
+        return error("assignment-without-target", placeOf(left.size(), left.size() + 1),
+                     "Can't assign to nothing");
     }
     if (name[0] == '_') {
-        return error("Variables starting with an underscore are reserved for internal use.");
+        return error("assignment-reserved", firstArgument(name),
+                     "Variables starting with an underscore are reserved for internal use.", name);
     }
     // Intended: the target keeps its case, while names inside expressions are lowered.
     const std::string target = "$" + name;
     if (!parseExpression(right)) {
-        return error("Failed to parse expression");
+        return error("assignment-malformed", wholeExpression(), "Failed to parse expression");
     }
     asmOperator(target, ":=", asmPop());
     variables.insert(target);
@@ -41,9 +43,14 @@ bool ttbasic::doAssign(const std::string& left, const std::string& right)
 bool ttbasic::parseExpression(const std::string& text)
 {
     const expression_parser parser;
+    // What a handler was given is the end of its line, or was made up.
+    const bool isWritten =
+        text.size() <= statement.size() &&
+        statement.compare(statement.size() - text.size(), text.size(), text) == 0;
+    expression = isWritten ? statement.size() - text.size() : std::string::npos;
     std::vector<std::string> postfix;
     if (!parser.infixToRPN(parser.getExpressionTokens(text), postfix)) {
-        return error("Syntax error - parse math");
+        return error("expression-malformed", faultyToken(text), "Syntax error - parse math");
     }
     // Intended: "*-" and its like are no operators here, so they enter the registers as names do.
     for (const std::string& token : postfix) {

@@ -62,6 +62,18 @@ bool closeParenthesis(OperatorStack& operators, Tokens& postfix)
     return true;
 }
 
+// From the position on the expression holds the token, perhaps with blanks between its characters.
+std::pair<size_t, size_t> placeOfToken(const std::string& token, const std::string& expression,
+                                       size_t position)
+{
+    const size_t begin = expression.find_first_not_of(' ', position);
+    size_t end = begin;
+    for (const char c : token) {
+        end = expression.find(c, end) + 1;
+    }
+    return {begin, end};
+}
+
 }  // namespace
 
 const std::map<std::string, std::pair<int, int>> opmap = makeOpmap();
@@ -155,6 +167,27 @@ bool expression_parser::infixToRPN(const std::vector<std::string>& tokens,
     }
     out = std::move(postfix);
     return true;
+}
+
+// What infixToRPN refuses: a half operator, a ")" without its "(", at the end the innermost "("
+// that is still open.
+std::pair<std::size_t, std::size_t> expression_parser::faultIn(const std::string& expression) const
+{
+    std::vector<std::pair<std::size_t, std::size_t>> open;
+    std::size_t position = 0;
+    for (const std::string& token : getExpressionTokens(expression)) {
+        const std::pair<std::size_t, std::size_t> place = placeOfToken(token, expression, position);
+        position = place.second;
+        if (isHalfOperator(token) || (token == ")" && open.empty())) {
+            return place;
+        }
+        if (token == "(") {
+            open.push_back(place);
+        } else if (token == ")") {
+            open.pop_back();
+        }
+    }
+    return open.empty() ? std::make_pair(std::size_t(0), expression.size()) : open.back();
 }
 
 bool expression_parser::isDueBefore(const std::string& token, const std::string& top) const

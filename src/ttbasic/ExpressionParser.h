@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <map>
 #include <string>
 #include <utility>
@@ -18,6 +19,10 @@ public:
     std::vector<std::string> getExpressionTokens(const std::string& expression) const;
     // False for parentheses that do not match and for "=" or "!" alone; out is then left as it is.
     bool infixToRPN(const std::vector<std::string>& tokens, std::vector<std::string>& out) const;
+
+    // For an expression that cannot be put into postfix order, the token that keeps it from that:
+    // its first byte and the one behind it.
+    std::pair<std::size_t, std::size_t> faultIn(const std::string& expression) const;
 
     bool isParenthesis(const std::string& token) const;
     bool isOperator(const std::string& token) const;

@@ -1,20 +1,38 @@
 #include "ttbasic/ttbasic.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "base/FileSystem.h"
 #include "base/TextHelpers.h"
 #include "ttbasic/SourceLines.h"
 
+namespace {
+
 // Two builds of one script draw the same numbers.
-static constexpr unsigned kRandomSeed = 7787;
+constexpr unsigned kRandomSeed = 7787;
 
-PrintFunction ttbasic::myprintf = printToStandardOutput;
+using Mentions = std::vector<ttbasic::Mention>;
 
-void ttbasic::redirectPrintfTo(PrintFunction function)
+ttbasic::Place lastOn(int line, const Mentions& mentions)
 {
-    myprintf = function != nullptr ? function : printToStandardOutput;
+    const auto found = std::find_if(mentions.rbegin(), mentions.rend(),
+                                    [&](const auto& one) { return one.place.line == line; });
+    return found != mentions.rend() ? found->place : ttbasic::Place();
 }
+
+ttbasic::Place second(const std::string& name, const Mentions& mentions)
+{
+    const auto isIt = [&](const auto& one) { return one.name == name; };
+    auto found = std::find_if(mentions.begin(), mentions.end(), isIt);
+    if (found != mentions.end()) {
+        found = std::find_if(std::next(found), mentions.end(), isIt);
+    }
+    return found != mentions.end() ? found->place : ttbasic::Place();
+}
+
+}  // namespace
 
 ttbasic::ttbasic()
 {
@@ -38,6 +56,12 @@ void ttbasic::clear()
     labels.clear();
     variables.clear();
     gotos.clear();
+    definitions.clear();
+    jumps.clear();
+    statement.clear();
+    keyword = {};
+    arguments = 0;
+    expression = std::string::npos;
     talkTexts.clear();
     voices.clear();
     voices["adam"].female = false;
@@ -59,7 +83,7 @@ bool ttbasic::read(const std::string& fileName)
 {
     FILE* file = FileSystem::myfopen(fileName, "rb");
     if (file == nullptr) {
-        return error("Can't open file.");
+        return error("file-unreadable", {}, "Can't open file.", fileName);
     }
     const bool isRead = read(file);
     std::fclose(file);
@@ -85,7 +109,7 @@ bool ttbasic::parse(bool debugMode)
             failed = true;
         }
         if (isTooLarge()) {
-            return error("The script becomes too large");
+            return error("script-too-large", wholeStatement(), "The script becomes too large");
         }
     }
     return !failed && checkGotos() && checkLabels();
@@ -100,7 +124,7 @@ bool ttbasic::compileLine(char* line)
         return true;
     }
     emitLine({"        # ", skipWhite(line)});
-    return parseCommand(line) || error("Syntax Error");
+    return parseCommand(line) || error("syntax", wholeStatement(), "Syntax Error");
 }
 
 bool ttbasic::checkGotos()
@@ -108,7 +132,8 @@ bool ttbasic::checkGotos()
     for (const auto& [line, target] : gotos) {
         if (labels.count(target) == 0) {
             lineNumber = line;
-            return error("goto " + target + " is not defined");
+            const Place place = lastOn(line, jumps);
+            return error("goto-undefined", place, "goto " + target + " is not defined", target);
         }
     }
     return true;
@@ -116,19 +141,14 @@ bool ttbasic::checkGotos()
 
 bool ttbasic::checkLabels()
 {
-    for (const auto& [name, definitions] : labels) {
-        if (definitions > 1) {
-            return error("Sub " + name + " has multiple definitions");
+    for (const auto& [name, count] : labels) {
+        if (count > 1) {
+            // Intended: the message names the script's last line.
+            const Place place = second(name, definitions);
+            return error("sub-repeated", place, "Sub " + name + " has multiple definitions", name);
         }
     }
     return true;
-}
-
-bool ttbasic::error(const std::string& message)
-{
-    lastError = "Error: Line " + itostr(lineNumber) + ": " + message;
-    myprintf("!!! Error: Line %d %s\n", lineNumber, message.c_str());
-    return false;
 }
 
 bool compileScript(ttbasic& script, bool debugMode)
@@ -136,6 +156,6 @@ bool compileScript(ttbasic& script, bool debugMode)
     try {
         return script.parse(debugMode);
     } catch (const ttbasic::StackUnderflow& underflow) {
-        return script.error(underflow.what());
+        return script.error("operand-missing", script.wholeExpression(), underflow.what());
     }
 }

@@ -26,6 +26,7 @@ struct VoiceOption
 {
     const char* word;
     bool (*set)(ttbasic::VOICE& voice, const std::string& value);
+    const char* kind;
     const char* problem;
 };
 
@@ -52,14 +53,14 @@ using Voice = ttbasic::VOICE;
 using Value = const std::string&;
 
 constexpr VoiceOption kVoiceOptions[] = {
-    {"lang", setLanguage, ""},
-    {"age", [](Voice& voice, Value value) { return setNumber(voice.age, value); },
+    {"lang", setLanguage, "", ""},
+    {"age", [](Voice& voice, Value value) { return setNumber(voice.age, value); }, "voice-age",
      "voice age must be in range 1..99"},
     {"speed", [](Voice& voice, Value value) { return setNumber(voice.speed, value); },
-     "voice speed must be in range 1..5"},
+     "voice-speed", "voice speed must be in range 1..5"},
     {"pitch", [](Voice& voice, Value value) { return setNumber(voice.pitch, value); },
-     "voice pitch must be in range 1..5"},
-    {"sex", setSex, "sex only supports 'm' and 'f'."},
+     "voice-pitch", "voice pitch must be in range 1..5"},
+    {"sex", setSex, "voice-sex", "sex only supports 'm' and 'f'."},
 };
 
 const VoiceOption* voiceOption(const std::string& word)
@@ -87,20 +88,24 @@ bool ttbasic::doVoice(const std::string& rest)
 {
     const std::vector<std::string> words = wordsOf(rest);
     VOICE voice;
-    bool malformed = words.size() % 2 == 0;
+    bool isMalformed = words.size() % 2 == 0;
+    size_t wrong = words.empty() ? 0 : words.size() - 1;  // a keyword without its value
+    bool isUnknown = false;
     for (size_t i = 1; i + 1 < words.size(); i += 2) {
         const VoiceOption* const option = voiceOption(toLower(words[i]));
         if (option == nullptr) {
-            malformed = true;
+            wrong = isUnknown ? wrong : i;
+            isMalformed = isUnknown = true;
         } else if (!option->set(voice, toLower(words[i + 1]))) {
-            return error(option->problem);
+            return error(option->kind, argument(i + 1), option->problem, words[0]);
         }
     }
-    if (malformed) {
-        return error(kVoiceSyntax);
+    if (isMalformed) {
+        return error("voice-syntax", argument(wrong), kVoiceSyntax);
     }
     if (!voices.emplace(words[0], voice).second) {
-        return error("voice " + words[0] + " is aleady defined.");
+        return error("voice-repeated", argument(0), "voice " + words[0] + " is aleady defined.",
+                     words[0]);
     }
     return true;
 }
@@ -109,7 +114,7 @@ bool ttbasic::doSay(const std::string& rest)
 {
     std::vector<std::string> words = wordsOf(rest);
     if (words.empty()) {
-        return error("No argument given. What to play?");
+        return error("say-nothing", keyword, "No argument given. What to play?");
     }
     std::string voice = currentVoice;
     if (words.size() >= 2 && !chooseVoice(words, voice)) {
@@ -118,7 +123,7 @@ bool ttbasic::doSay(const std::string& rest)
     std::string names;
     for (const std::string& text : words) {
         if (text.empty()) {
-            return error("Found an empty string to say.");
+            return error("say-empty", wholeStatement(), "Found an empty string to say.");
         }
         const std::string name = audioName(voice, text);
         talkTexts[name] = {voice, text};
@@ -138,8 +143,10 @@ bool ttbasic::chooseVoice(std::vector<std::string>& words, std::string& voice)
         for (const auto& [name, properties] : voices) {
             defined += name + "\n";
         }
-        return error("The voice " + voice + " is not defined, yet.\ndefined are:\n" + defined +
-                     kSaySyntax);
+        return error("voice-unknown", argument(0),
+                     "The voice " + voice + " is not defined, yet.\ndefined are:\n" + defined +
+                         kSaySyntax,
+                     voice);
     }
     words.erase(words.begin());
     return true;
@@ -173,7 +180,7 @@ std::vector<std::string> ttbasic::usedOidNames() const
 {
     std::vector<std::string> names;
     names.reserve(labels.size());
-    for (const auto& [name, definitions] : labels) {
+    for (const auto& [name, count] : labels) {
         names.push_back(name);
     }
     return names;

@@ -72,21 +72,26 @@ std::vector<std::string> ttbasic::keywords()
 
 bool ttbasic::parseCommand(const char* line)
 {
+    statement = line;
     const char* rest = line;
-    const std::string keyword = toLower(parseString(rest));
-    if (keyword.empty()) {
+    const std::string word = toLower(parseString(rest));
+    if (word.empty()) {
         return true;
     }
-    announceLine();
+    const char* const behindWord = rest;
     const Compile compile =
-        keyword == kEnd ? find(kEnds, toLower(firstWord(rest))) : find(kStatements, keyword);
+        word == kEnd ? find(kEnds, toLower(parseString(rest))) : find(kStatements, word);
+    arguments = static_cast<std::size_t>((compile != nullptr ? rest : behindWord) - line);
+    keyword = placeOf(0, arguments);
+    announceLine();
     if (compile != nullptr) {
         return compile(*this, rest);
     }
     if (const char* equals = std::strchr(line, '=')) {
+        arguments = 0;
         return doAssign(std::string(line, equals), equals + 1);
     }
-    return error("Failed to parse command: " + keyword);
+    return error("statement-unknown", keyword, "Failed to parse command: " + word);
 }
 
 // In debug mode the pen says each line's number before it carries the line out.

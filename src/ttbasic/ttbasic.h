@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Diagnostic.h"
 #include "base/PlatformRandom.h"
 #include "base/PrintFunction.h"
 
@@ -50,6 +51,21 @@ public:
         std::map<int, int> cases;
     };
 
+    // A part of a line, as in Diagnostic; column 0 where it is not known.
+    struct Place
+    {
+        int line = 0;
+        int column = 0;
+        int length = 0;
+    };
+
+    // The name of a sub where it is defined or jumped to.
+    struct Mention
+    {
+        std::string name;
+        Place place;
+    };
+
     // An expression needs an operand that is not there.
     struct StackUnderflow : std::runtime_error
     {
@@ -78,7 +94,11 @@ public:
     static std::vector<std::string> keywords();
     static std::vector<std::string> voiceOptions();
 
-    // The function that all compilers print their errors with; null is standard output.
+    // The errors of this object go to the sink from now on; an empty one, which a new object has,
+    // stands for the shared print function.
+    void reportTo(DiagnosticSink sink);
+    // The function that all compilers without a sink print their errors with; null is standard
+    // output.
     static void redirectPrintfTo(PrintFunction function);
     static PrintFunction myprintf;
 
@@ -142,12 +162,26 @@ public:
     std::map<std::string, int> labels;  // every sub and how often it is defined
     std::set<std::string> variables;    // every register, with its "$"
     std::map<int, std::string> gotos;   // the target of the goto on each line
+    std::vector<Mention> definitions;   // of subs, in the order of the lines
+    std::vector<Mention> jumps;         // likewise
     std::string currentVoice;
     std::map<std::string, VOICE> voices;
     std::map<std::string, TALKTEXT> talkTexts;  // by audio name
     size_t codeLimit = size_t(1) << 30;         // bytes; a script with more code is an error
 
 private:
+    friend bool compileScript(ttbasic& script, bool debugMode);
+
+    // The door through which all errors leave; kind and subject as in Diagnostic.
+    bool error(const char* kind, const Place& place, const std::string& message,
+               const std::string& subject = {});
+    Place placeOf(std::size_t begin, std::size_t end) const;
+    Place wholeStatement() const;
+    Place argument(std::size_t index) const;
+    Place firstArgument(const std::string& name) const;
+    Place wholeExpression() const;
+    Place faultyToken(const std::string& expression) const;
+
     bool compileLine(char* line);
     void announceLine();
     bool checkGotos();
@@ -179,6 +213,15 @@ private:
     std::string yamlVoices() const;
     std::string yamlTalkTexts() const;
 
+    // The line being compiled, without its comment, and what of it is the keyword ("end if").
+    std::string statement;
+    Place keyword;
+    std::size_t arguments = 0;  // where they begin in the statement
+    // Where the expression being compiled begins, which goes up to the statement's end; npos for
+    // one that the compiler made up.
+    std::size_t expression = std::string::npos;
+
+    DiagnosticSink sink;
     // Of the game; parse seeds them anew.
     Platform::RandomNumbers random;
 };

@@ -29,6 +29,17 @@ Compiled compile(const std::string& source, bool debugMode)
     return compiled;
 }
 
+std::vector<Diagnostic> diagnosticsOf(const std::string& source)
+{
+    std::vector<Diagnostic> found;
+    ttbasic script;
+    script.reportTo(collectInto(found));
+    script.source = source;
+    const bool ok = compileScript(script, false);
+    EXPECT_EQ(ok, found.empty()) << source;
+    return found;
+}
+
 std::string errorsOf(const std::string& source)
 {
     const Compiled compiled = compile(source);

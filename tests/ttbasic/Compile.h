@@ -17,6 +17,8 @@ struct Compiled
 };
 
 Compiled compile(const std::string& source, bool debugMode = false);
+// The same as values. A script without any has to compile, one with some must not.
+std::vector<Diagnostic> diagnosticsOf(const std::string& source);
 // The messages of a script that must not compile.
 std::string errorsOf(const std::string& source);
 
