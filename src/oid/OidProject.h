@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Diagnostic.h"
 #include "base/PrintFunction.h"
 #include "oid/OidPixels.h"
 #include "ttbasic/ttbasic.h"
@@ -88,8 +89,10 @@ public:
     // Gives a number to every area name that has none, and refreshes all raw codes.
     void updateUsedOIDs();
     // Warns about names that only the compiled script or only the pictures have, and about numbers
-    // that the pen cannot read. Always true: warnings stop no build.
+    // that the pen cannot read. Always true: warnings stop no build. They are printed, or go to the
+    // sink.
     bool checkSanity() const;
+    bool checkSanity(const DiagnosticSink& sink) const;
 
     // Index of the first area of the picture that contains the point; -1 if there is none, or no
     // such picture.

@@ -10,18 +10,29 @@ namespace Oid {
 
 namespace {
 
-bool openWith(OidProject& project, const std::string& filePath, SavedEmptyPages emptyPages)
+void reportUnreadable(const std::string& path, const DiagnosticSink& sink)
+{
+    Diagnostic diagnostic;
+    diagnostic.kind = "file-unreadable";
+    diagnostic.file = path;
+    diagnostic.text = "Can't open file '" + path + "'";
+    diagnostic.printed = "Error: " + diagnostic.text + "\n";
+    sink(diagnostic);
+}
+
+bool openWith(OidProject& project, const std::string& filePath, SavedEmptyPages emptyPages,
+              const DiagnosticSink& sink)
 {
     const std::string path = filePath;  // which clear would empty if it is the project's own
     project.clear();
     const std::unique_ptr<FILE, int (*)(FILE*)> file(FileSystem::myfopen(path, "rb"), fclose);
     if (file == nullptr) {
-        project.print("Error: Can't open file '%s'\n", path.c_str());
+        reportUnreadable(path, sink);
         fflush(stdout);
         return false;
     }
     project.projectPath = path;
-    ProjectReader(project, emptyPages).read(file.get());
+    ProjectReader(project, emptyPages, sink).read(file.get());
     return true;
 }
 
@@ -29,12 +40,17 @@ bool openWith(OidProject& project, const std::string& filePath, SavedEmptyPages 
 
 bool OidProject::open(const std::string& path)
 {
-    return openWith(*this, path, SavedEmptyPages::dropped);
+    return openWith(*this, path, SavedEmptyPages::dropped, printWith(defaultPrintf()));
 }
 
 bool openProject(OidProject& project, const std::string& path)
 {
-    const bool opened = openWith(project, path, SavedEmptyPages::kept);
+    return openProject(project, path, printWith(defaultPrintf()));
+}
+
+bool openProject(OidProject& project, const std::string& path, const DiagnosticSink& sink)
+{
+    const bool opened = openWith(project, path, SavedEmptyPages::kept, sink);
     numberAllAreas(project);
     return opened;
 }

@@ -1,5 +1,6 @@
 #include "oid/ProjectReader.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <iterator>
@@ -33,6 +34,13 @@ void skipByteOrderMark(FILE* file)
     }
 }
 
+// What stands from begin up to end, without white space in front.
+std::string_view between(const char* begin, const char* end)
+{
+    begin = std::min(skipWhite(begin), end);
+    return {begin, static_cast<size_t>(end - begin)};
+}
+
 void cutComment(char* line)
 {
     line[strcspn(line, "#")] = '\0';
@@ -40,24 +48,29 @@ void cutComment(char* line)
 
 }  // namespace
 
-ProjectReader::ProjectReader(OidProject& emptyProject, SavedEmptyPages savedEmptyPages)
-    : project(emptyProject), emptyPages(savedEmptyPages), nextOid(tableEntry(kFirstLoadedOid))
+ProjectReader::ProjectReader(OidProject& emptyProject, SavedEmptyPages savedEmptyPages,
+                             const DiagnosticSink& usedSink)
+    : project(emptyProject),
+      emptyPages(savedEmptyPages),
+      sink(usedSink),
+      nextOid(tableEntry(kFirstLoadedOid))
 {}
 
 void ProjectReader::read(FILE* projectFile)
 {
     file = projectFile;
     skipByteOrderMark(file);
-    char line[kLineBuffer];
-    while (fgets(line, sizeof line, file) != nullptr) {
+    char buffer[kLineBuffer];
+    line = buffer;
+    while (fgets(buffer, sizeof buffer, file) != nullptr) {
         lineNumber = numberAfter(lineNumber);
-        if (isNextShorthand(line)) {
+        if (isNextShorthand()) {
             ++shorthands;
             continue;
         }
-        cutComment(line);
-        readLine(line);
-        if (*skipWhite(line) != '\0') {
+        cutComment(buffer);
+        readLine(buffer);
+        if (*skipWhite(buffer) != '\0') {
             shorthands = 0;  // they were not the end of the picture
         }
     }
@@ -65,7 +78,7 @@ void ProjectReader::read(FILE* projectFile)
     finishPicture();
 }
 
-bool ProjectReader::isNextShorthand(const char* line) const
+bool ProjectReader::isNextShorthand() const
 {
     const std::string_view text(line, strcspn(line, "\r\n"));
     return shorthands < std::size(kShorthandLines) && text == kShorthandLines[shorthands];
@@ -86,6 +99,7 @@ void ProjectReader::readLine(const char* text)
 void ProjectReader::readVertices(const char*& text)
 {
     for (;;) {
+        const char* const begin = text;
         const std::string x = parseString(text);
         if (x == "END") {
             insidePolygon = false;
@@ -94,10 +108,11 @@ void ProjectReader::readVertices(const char*& text)
         if (x.empty()) {
             return;
         }
+        const std::string_view place = between(begin, text);
         const std::string y = parseString(text);
         if (y.empty()) {
-            project.print("Error: Line %4d POLY X,Y count is odd. Did you forget an Y value?\n",
-                          lineNumber);
+            reportArea(Severity::error, "vertices-odd", place,
+                       "POLY X,Y count is odd. Did you forget an Y value?");
             return;
         }
         picture.polys.back().points.push_back({toDouble(x.c_str()), toDouble(y.c_str())});
@@ -115,10 +130,12 @@ const ProjectReader::Keyword ProjectReader::kKeywords[] = {
 
 void ProjectReader::readKeyword(const char*& text)
 {
+    const char* const begin = text;
     const std::string word = parseString(text);
-    for (const Keyword& keyword : kKeywords) {
-        if (word == keyword.word) {
-            (this->*keyword.read)(text);
+    keyword = between(begin, text);
+    for (const Keyword& known : kKeywords) {
+        if (word == known.word) {
+            (this->*known.read)(text);
             return;
         }
     }
@@ -127,14 +144,16 @@ void ProjectReader::readKeyword(const char*& text)
 // PRODUCT id, "name": the comma is skipped with the rest of the number's word.
 void ProjectReader::readProduct(const char*& text)
 {
+    const char* const begin = text;
     project.productId = parseInt(text);
     if (project.productId < kSmallestProductId || project.productId > kLargestProductId) {
-        project.print("Error: PRODUCT id is not in range [1..999]\n");
+        reportProduct("product-id-range", between(begin, text),
+                      "PRODUCT id is not in range [1..999]");
         return;  // Intended: the id stays, the name is not read.
     }
     std::vector<std::string> fields;
     if (SplitStringKeepQuotes(text, fields, true) == 0) {
-        project.print("Error: PRODUCT has no readable name\n");
+        reportProduct("product-name-missing", keyword, "PRODUCT has no readable name");
         return;
     }
     project.productName = fields.front();
@@ -176,7 +195,7 @@ void ProjectReader::readPoly(const char*& text)
     const POLY& area = beginArea(text);
     insidePolygon = true;
     if (area.name.empty()) {
-        project.print("Error: Line %4d POLY has no name\n", lineNumber);
+        reportArea(Severity::error, "area-without-name", keyword, "POLY has no name");
     }
 }
 
@@ -185,15 +204,17 @@ void ProjectReader::readBox(const char*& text)
 {
     POLY& area = beginArea(text);
     if (area.name.empty()) {
-        project.print("Error: Line %4d BOX has no name\n", lineNumber);
+        reportArea(Severity::error, "area-without-name", keyword, "BOX has no name");
         return;
     }
     const double x = parseFlt(text);
     const double y = parseFlt(text);
+    const char* const begin = text;
     const double w = parseFlt(text);
     const double h = parseFlt(text);
     if (!(w > 0 && h > 0)) {  // not a number has no dimensions either
-        project.print("Warning: Line %4d BOX has no dimensions\n", lineNumber);
+        reportArea(Severity::warning, "box-without-size", between(begin, text),
+                   "BOX has no dimensions");
         return;  // Intended: the area stays, without vertices.
     }
     area.points = {{x, y}, {x + w, y}, {x + w, y + h}, {x, y + h}};
@@ -205,14 +226,16 @@ void ProjectReader::readCircle(const char*& text)
 {
     POLY& area = beginArea(text);
     if (area.name.empty()) {
-        project.print("Error: Line %4d CIRCLE has no name\n", lineNumber);
+        reportArea(Severity::error, "area-without-name", keyword, "CIRCLE has no name");
         return;
     }
     const double xm = parseFlt(text);
     const double ym = parseFlt(text);
+    const char* const begin = text;
     const double radius = parseFlt(text);
     if (!(radius > 0)) {
-        project.print("Error: Line %4d CIRCLE has no radius\n", lineNumber);
+        reportArea(Severity::error, "circle-without-radius", between(begin, text),
+                   "CIRCLE has no radius");
         return;  // Intended: the area stays, without vertices.
     }
     for (int k = 0; k < kCircleVertices; ++k) {
@@ -225,8 +248,48 @@ void ProjectReader::readCircle(const char*& text)
 void ProjectReader::readScript(const char*&)
 {
     if (!project.compiler.read(file)) {
-        project.print("Failed to read script from project file.\n");
+        Diagnostic diagnostic;
+        diagnostic.kind = "script-unreadable";
+        diagnostic.printed = "Failed to read script from project file.\n";
+        report(diagnostic, keyword, "Failed to read script from project file.");
     }
+}
+
+// The place is in the current line; an empty one stands for the keyword.
+void ProjectReader::report(Diagnostic diagnostic, std::string_view place, const std::string& text)
+{
+    const std::string_view word = place.empty() ? keyword : place;
+    diagnostic.text = text;
+    diagnostic.file = project.projectPath;
+    diagnostic.line = lineNumber;
+    diagnostic.column = static_cast<int>(word.data() - line) + 1;
+    diagnostic.length = static_cast<int>(word.size());
+    sink(diagnostic);
+}
+
+void ProjectReader::reportProduct(const char* kind, std::string_view place, const std::string& text)
+{
+    Diagnostic diagnostic;
+    diagnostic.kind = kind;
+    diagnostic.printed = "Error: " + text + "\n";
+    report(diagnostic, place, text);
+}
+
+// About the area that is being read, the last one so far.
+void ProjectReader::reportArea(Severity severity, const char* kind, std::string_view place,
+                               const std::string& text)
+{
+    constexpr size_t kWidth = 4;
+    const std::string number = itostr(lineNumber);
+    const std::string blanks(kWidth - std::min(kWidth, number.size()), ' ');
+    Diagnostic diagnostic;
+    diagnostic.severity = severity;
+    diagnostic.kind = kind;
+    diagnostic.subject = picture.polys.back().name;
+    diagnostic.page = static_cast<int>(project.pictures.size()) + 1;
+    diagnostic.area = static_cast<int>(picture.polys.size());
+    diagnostic.printed = severityName(severity) + (": Line " + blanks + number) + " " + text + "\n";
+    report(diagnostic, place, text);
 }
 
 // Appends an area with the name that comes next. A name that is new gets the next number.

@@ -14,18 +14,18 @@ enum class SavedEmptyPages {
 };
 
 // Reads a project file (docs/project-file.md) into a project that has just been cleared. Nothing in
-// a file stops the reading: what is wrong is reported through the project's print function.
+// a file stops the reading: what is wrong goes to the sink.
 class ProjectReader
 {
 public:
-    ProjectReader(OidProject& project, SavedEmptyPages emptyPages);
+    ProjectReader(OidProject& project, SavedEmptyPages emptyPages, const DiagnosticSink& sink);
 
     // Reads from the file's beginning to its end.
     void read(FILE* file);
 
 private:
     // True for the comment line that Save writes next at the end of a picture.
-    bool isNextShorthand(const char* line) const;
+    bool isNextShorthand() const;
     void readLine(const char* text);
     void readVertices(const char*& text);
     void readKeyword(const char*& text);
@@ -48,17 +48,25 @@ private:
     };
     static const Keyword kKeywords[];
 
+    void report(Diagnostic diagnostic, std::string_view place, const std::string& text);
+    void reportProduct(const char* kind, std::string_view place, const std::string& text);
+    void reportArea(Severity severity, const char* kind, std::string_view place,
+                    const std::string& text);
+
     POLY& beginArea(const char*& text);
     void finishPicture();
 
     OidProject& project;
     const SavedEmptyPages emptyPages;
+    const DiagnosticSink& sink;
     FILE* file = nullptr;
     PICTURE picture;             // the one under construction
     bool insideImage = false;    // behind an IMAGE line
     std::size_t shorthands = 0;  // so many of their comment lines stand right above
     OidProject::OID nextOid;
     int lineNumber = 0;
+    const char* line = nullptr;  // the current one
+    std::string_view keyword;    // of the current line, in it
     bool insidePolygon = false;  // lines hold vertices of the picture's last area
 };
 
