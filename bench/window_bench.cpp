@@ -141,7 +141,8 @@ double changedRepaintTime(PolyEditorWidget& editor, Oid::POLY& area)
 bool measureRepaints()
 {
     const QTemporaryDir folder;
-    Oid::OidProject project;
+    Document document;
+    Oid::OidProject& project = document.projectRecord();
     project.projectPath = folder.filePath("book.oidpro").toStdString();
     project.pictures.resize(1);
     for (int i = 0; i < kAreas; ++i) {
@@ -151,7 +152,8 @@ bool measureRepaints()
     makeScan(scan);
 
     PolyEditorWidget editor;
-    editor.setProject(&project);
+    document.restart();
+    editor.setDocument(&document);
     PlainPicture plain(project.pictures[0], scan);
     bool good = true;
     for (const QSize size : {QSize(1000, 667), QSize(1920, 1280)}) {

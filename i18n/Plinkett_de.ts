@@ -470,6 +470,26 @@
         <translation>Ctrl+S</translation>
     </message>
     <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Takes back the last step</source>
+        <translation>Nimmt den letzten Schritt zurück</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Does again what was taken back</source>
+        <translation>Macht noch einmal, was zurückgenommen wurde</translation>
+    </message>
+    <message>
         <source>&amp;Save As...</source>
         <translation>Speichern &amp;unter...</translation>
     </message>

@@ -470,6 +470,26 @@
         <translation>Ctrl+S</translation>
     </message>
     <message>
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Takes back the last step</source>
+        <translation>Takes back the last step</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Does again what was taken back</source>
+        <translation>Does again what was taken back</translation>
+    </message>
+    <message>
         <source>&amp;Save As...</source>
         <translation>&amp;Save As...</translation>
     </message>

@@ -470,6 +470,26 @@
         <translation>Ctrl+S</translation>
     </message>
     <message>
+        <source>Edit</source>
+        <translation>Édition</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Takes back the last step</source>
+        <translation>Annule la dernière étape</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Does again what was taken back</source>
+        <translation>Refait ce qui a été annulé</translation>
+    </message>
+    <message>
         <source>&amp;Save As...</source>
         <translation>Enregistrer &amp;sous...</translation>
     </message>

@@ -470,6 +470,26 @@
         <translation>Ctrl+S</translation>
     </message>
     <message>
+        <source>Edit</source>
+        <translation>Bewerken</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Takes back the last step</source>
+        <translation>Maakt de laatste stap ongedaan</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Opnieuw</translation>
+    </message>
+    <message>
+        <source>Does again what was taken back</source>
+        <translation>Doet opnieuw wat ongedaan is gemaakt</translation>
+    </message>
+    <message>
         <source>&amp;Save As...</source>
         <translation>Opslaan &amp;als...</translation>
     </message>

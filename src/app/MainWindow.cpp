@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QTimer>
@@ -35,7 +36,8 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     prepareNotices();
     new StorableName(ui->txPolyName);
     new ProductNameNote(ui->txProjectName, ui->lbProjectNameProblems);
-    ui->polyArea->setProject(&project);
+    ui->polyArea->setDocument(&document);
+    prepareHistory();
     connect(ui->btSizeForAll, &QPushButton::clicked, this, &MainWindow::giveSizeToAllPictures);
     connect(ui->polyArea, &PolyEditorWidget::clickedLB, this, &MainWindow::onPolyAreaClickedLB);
     setDefaultPrintf(KVQtStdoutWidget::redirectPrintf);
@@ -135,25 +137,27 @@ void MainWindow::prepareTextEditor()
 void MainWindow::ProjectDataWasChanged(bool toProject)
 {
     if (toProject) {
-        project.productName = ui->txProjectName->text().toStdString();
-        project.productId = ui->txProjectId->value();
+        document.setProduct(ui->txProjectName->text().toStdString(), ui->txProjectId->value());
         ui->txProjectName->setModified(false);
     } else {
         ui->txProjectName->setText(QString::fromStdString(project.productName));
         ui->txProjectId->setValue(project.productId);
     }
 
-    if (Oid::PICTURE* const picture = ui->polyArea->picture()) {
-        KVQtSync sync(toProject);  // blocks the fields' signals, so filling them changes nothing
-        sync.syncI(picture->dpi, ui->txProjDPI);
-        sync.syncD(picture->paperWidth, ui->txProjPaperWidth);
-        sync.syncD(picture->paperHeight, ui->txProjPaperHeight);
+    if (const Oid::PICTURE* const picture = ui->polyArea->picture()) {
+        const edit::SetPaper paper = syncPaper(toProject);
+        const bool changed = paper.width != picture->paperWidth ||
+                             paper.height != picture->paperHeight || paper.dpi != picture->dpi;
+        if (changed) {
+            const QScopedValueRollback<bool> typing(typingPaper, true);
+            document.apply(paper, typedPaper);
+        }
     }
 
     if (toProject) {
         project.compiler = ttbasic();
         project.compiler.source = ui->codeEditor->text().toStdString();
-        numberAllAreas();
+        document.numberAllAreas();
     } else {
         showScript();
     }
@@ -204,7 +208,7 @@ void MainWindow::openProject(const QString& path)
 
     ui->ribbonTab->setCurrentWidget(opened ? ui->tabProject : ui->tabBuild);
     // First the index: the form would show, and later write back, the sizes of another page.
-    ui->polyArea->currentPicture = 0;
+    document.restart();
     showTopOfPicture();
     selectPolygon(-1);
     ProjectDataWasChanged(false);
@@ -242,6 +246,7 @@ bool MainWindow::saveProject(const std::string& path)
     const QString name = QFileInfo(QString::fromStdString(path)).fileName();
     tell(saved ? tr("Saved: %1").arg(name) : tr("Not saved: %1").arg(name));
     if (saved) {
+        document.setClean();
         numberBar->saved(project);
         takeFilesAlong();
     }

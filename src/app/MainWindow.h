@@ -1,8 +1,7 @@
 #pragma once
 
 #include "document/CompanionFiles.h"
-#include "oid/AreaNaming.h"
-#include "oid/OidProject.h"
+#include "document/Document.h"
 #include "publish/SoundFiles.h"
 
 #include <QMainWindow>
@@ -10,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace Ui {
@@ -20,9 +20,10 @@ class PictureCopy;
 class QLabel;
 class QScrollArea;
 
-// The one window. It owns the one project, which all its controls edit; form and project are kept
-// in step by ProjectDataWasChanged alone. The slots are connected by their names
-// (on_<object>_<signal>), so the names of the form's objects are part of the design.
+// The one window. It owns the one document, which all its controls edit; form and project are kept
+// in step by ProjectDataWasChanged alone, and what an edit changes is shown by showChange. The
+// slots are connected by their names (on_<object>_<signal>), so the names of the form's objects are
+// part of the design.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -100,14 +101,25 @@ private:
     // Writes the project, into which the form has been carried, and all that goes with that.
     bool saveProject(const std::string& path);
 
+    // MainWindowHistory.cpp: undo and redo, of the script on its tab, else of pages and areas
+    void prepareHistory();
+    void undo();
+    void redo();
+    bool scriptIsShown() const;
+    void updateHistoryActions();
+    // Shows what the document says has changed.
+    void showChange(const Change& change);
+    void showPaper();
+    // The paper of the current picture, of which there is one, as the fields have it; or the fields
+    // get it.
+    edit::SetPaper syncPaper(bool fromFields);
+
     // Selects an area of the current picture, or none for an index that it does not have.
     void selectPolygon(int i);
     // The selected area of the current picture, null when there is none.
-    Oid::POLY* selectedArea() const;
+    const Oid::POLY* selectedArea() const;
     // Fills the fields of the selected area; without one they keep what they show.
     void showSelectedArea();
-    // No area goes without a number into a file or a game.
-    void numberAllAreas();
     void setMode(Mode newMode, Qt::CursorShape cursor);
 
     // True when the form holds a name, id or script that the project does not have yet.
@@ -116,21 +128,23 @@ private:
     void keepEdits();
     void showPicture(int index);
     void showTopOfPicture();
-    // Asks for a picture file and keeps a copy of it as picture n of the project. The null image
-    // when the author cancelled or it failed (then that was said).
-    QImage importPicture(int n);
+    // Asks for a picture that is to be picture n of the project. Nothing when the author cancelled
+    // or it cannot be read (then that was said).
+    std::optional<PictureCopy> choosePicture(int n);
+    // Says so when the edit, which brings a picture in, could not keep its copy.
+    bool keepPicture(const Edit& edit);
     // After a save that gave the project another folder or number.
     void takeFilesAlong();
     void warnOfMissingCopies(const std::vector<std::string>& paths);
     // Which of the buttons, of which No is the safe one, the author pressed.
     int askToOverwrite(const std::string& path, QMessageBox::StandardButtons buttons);
-    // Writes the copy whole or not at all; says why when it was not kept.
-    bool keepCopy(const PictureCopy& picture, const std::string& path);
     void warn(const QString& text);
     // Says in the status bar what came of an action; with a label also beside its button.
     void tell(const QString& text);
     void tell(QLabel& besideButton, const QString& text);
 
+    // The corners of all areas that are about to be printed.
+    void turnAreasForPrint();
     // Paper and resolution of the current picture become those of all.
     void giveSizeToAllPictures();
     // One line for each picture whose resolution is too low; empty if none is.
@@ -142,11 +156,17 @@ private:
     SpeechOutcome createSoundFiles();
     void copyGmeToTipToi();
 
-    Oid::OidProject project;
-    Oid::AreaNaming naming{project};
+    Document document;
+    Oid::OidProject& project = document.projectRecord();
     CompanionFiles companions;
     int mode = pick;
-    int selectedPoly = -1;
+    AreaId drawnArea = AreaId::none;  // in the mode addPolygon
+    // What is typed into a field without a pause is one step of the history.
+    const Gesture typedName = document.newGesture();
+    const Gesture typedNumber = document.newGesture();
+    const Gesture typedPaper = document.newGesture();
+    bool fillingFields = false;  // with what the project has, so that they change nothing
+    bool typingPaper = false;    // the fields have what the project gets
     std::unique_ptr<Ui::MainWindow> ui;
     QScrollArea* pictureScroll = nullptr;
     QScrollArea* projectScroll = nullptr;

@@ -3,59 +3,43 @@
 
 #include "app/StorableName.h"
 #include "base/TextHelpers.h"
-#include "oid/OidTable.h"
 #include "ui_MainWindow.h"
+
+#include <QScopedValueRollback>
 
 #include <utility>
 
-Oid::POLY* MainWindow::selectedArea() const
+const Oid::POLY* MainWindow::selectedArea() const
 {
-    Oid::PICTURE* const picture = ui->polyArea->picture();
-    if (picture == nullptr || selectedPoly < 0 ||
-        selectedPoly >= static_cast<int>(picture->polys.size())) {
+    if (document.selectedArea() == AreaId::none) {
         return nullptr;
     }
-    return &picture->polys[static_cast<size_t>(selectedPoly)];
+    return &ui->polyArea->picture()->polys[static_cast<size_t>(document.selectedIndex())];
 }
 
 void MainWindow::selectPolygon(int i)
 {
-    const Oid::PICTURE* const picture = ui->polyArea->picture();
-    if (picture == nullptr) {
-        selectedPoly = -1;
-        ui->polyArea->repaint();
-        return;
+    const int page = document.currentPage();
+    document.endGesture();
+    if (ui->polyArea->picture() != nullptr) {
+        document.select(page, document.areaAt(page, i) != AreaId::none ? i : -1);
     }
-    const bool exists = i >= 0 && i < static_cast<int>(picture->polys.size());
-    selectedPoly = exists ? i : -1;
-    ui->polyArea->selectedPoly = selectedPoly;
     showSelectedArea();
     ui->polyArea->repaint();
 }
 
 void MainWindow::showSelectedArea()
 {
-    naming.finish();
     const Oid::POLY* const area = selectedArea();
     if (area == nullptr) {
         return;
     }
-    // Setting the fields fires their handlers, which write the same values back.
-    ui->txPolyName->setText(QString::fromStdString(area->name));
-    const Oid::OidProject::OID entry = project.oids[area->name];
-    ui->txOidOfArea->setValue(entry.oid);
-    project.oids[area->name] = entry;  // it may be beyond the range of the field
-}
-
-void MainWindow::numberAllAreas()
-{
-    if (!Oid::numberAllAreas(project)) {
-        return;
+    const QScopedValueRollback<bool> filling(fillingFields, true);
+    const QString name = StorableName::of(QString::fromStdString(area->name));
+    if (ui->txPolyName->text() != name) {
+        ui->txPolyName->setText(name);
     }
-    naming.finish();
-    if (const Oid::POLY* const area = selectedArea()) {
-        ui->txOidOfArea->setValue(project.oids[area->name].oid);
-    }
+    ui->txOidOfArea->setValue(document.numberOf(document.selectedArea()));
 }
 
 void MainWindow::setMode(Mode newMode, Qt::CursorShape cursor)
@@ -66,14 +50,18 @@ void MainWindow::setMode(Mode newMode, Qt::CursorShape cursor)
 
 void MainWindow::onPolyAreaClickedLB(Oid::PNT pt)
 {
-    Oid::PICTURE* const picture = ui->polyArea->picture();
+    const Oid::PICTURE* const picture = ui->polyArea->picture();
     if (picture == nullptr) {
         return;
     }
+    const int page = document.currentPage();
     if (mode == pick) {
-        selectPolygon(project.pntInPoly(ui->polyArea->currentPicture, pt));
+        selectPolygon(project.pntInPoly(page, pt));
     } else if (!picture->polys.empty()) {
-        picture->polys.back().points.push_back(pt);
+        std::vector<Oid::PNT> corners = picture->polys.back().points;
+        corners.push_back(pt);
+        const int last = static_cast<int>(picture->polys.size()) - 1;
+        document.apply(edit::SetCorners{document.areaAt(page, last), std::move(corners)});
         ui->polyArea->repaint();
     }
 }
@@ -86,29 +74,27 @@ void MainWindow::on_btPickPoly_clicked()
 
 void MainWindow::on_btAddPoly_clicked()
 {
-    Oid::PICTURE* const picture = ui->polyArea->picture();
+    const Oid::PICTURE* const picture = ui->polyArea->picture();
     if (picture == nullptr) {
         return;
     }
     const int count = static_cast<int>(picture->polys.size());
+    const int page = document.currentPage();
     Oid::POLY area;
     area.name = "polygon" + itostr(count + 1);
-    picture->polys.push_back(std::move(area));
-    project.updateUsedOIDs();
+    document.apply(edit::AddArea{page, std::move(area)});
+    drawnArea = document.areaAt(page, count);
     setMode(addPolygon, Qt::CrossCursor);
     selectPolygon(count);
 }
 
 void MainWindow::on_btDelPoly_clicked()
 {
-    if (selectedArea() == nullptr) {
+    if (!document.apply(edit::RemoveArea{document.selectedArea()})) {
         return;
     }
-    // Intended: the name keeps its number, so that an area of the same name gets it back.
-    std::vector<Oid::POLY>& areas = ui->polyArea->picture()->polys;
-    areas.erase(areas.begin() + selectedPoly);
     setMode(pick, Qt::ArrowCursor);
-    selectPolygon(selectedPoly - 1);
+    selectPolygon(document.selectedIndex() - 1);
 }
 
 // Intended: all reaction to the name stands in on_txPolyName_textChanged.
@@ -116,17 +102,15 @@ void MainWindow::on_txPolyName_textEdited(const QString& /*arg1*/) {}
 
 void MainWindow::on_txPolyName_textChanged(const QString& arg1)
 {
-    Oid::POLY* const area = selectedArea();
-    // A name that was written by hand stays while it is only shown.
-    if (area != nullptr && arg1 != StorableName::of(QString::fromStdString(area->name))) {
-        naming.rename(*area, arg1.toStdString());
+    if (!fillingFields) {
+        document.apply(edit::RenameArea{document.selectedArea(), arg1.toStdString()}, typedName);
     }
 }
 
 void MainWindow::on_txOidOfArea_valueChanged(int arg1)
 {
-    if (const Oid::POLY* const area = selectedArea()) {
-        project.oids[area->name] = Oid::tableEntry(arg1);
+    if (!fillingFields) {
+        document.apply(edit::SetNumber{document.selectedArea(), arg1}, typedNumber);
     }
 }
 

@@ -23,11 +23,12 @@ void MainWindow::giveSizeToAllPictures()
         tell(*ui->lbCreateResult, tr("Paper size and DPI must be greater than 0"));
         return;
     }
-    for (Oid::PICTURE& picture : project.pictures) {
-        picture.paperWidth = current->paperWidth;
-        picture.paperHeight = current->paperHeight;
-        picture.dpi = current->dpi;
+    const Gesture allPages = document.newGesture();
+    edit::SetPaper paper{0, current->paperWidth, current->paperHeight, current->dpi};
+    for (; paper.page < static_cast<int>(project.pictures.size()); ++paper.page) {
+        document.apply(paper, allPages);
     }
+    document.endGesture();
     tell(*ui->lbCreateResult, tr("All pictures have this paper and these DPI now"));
 }
 
@@ -61,6 +62,16 @@ static QString sentenceOn(const PrintJobResult& result)
     }
 }
 
+// As printing leaves them, so that undoing knows of it.
+void MainWindow::turnAreasForPrint()
+{
+    for (int n = 0; n < static_cast<int>(project.pictures.size()); ++n) {
+        if (FileSystem::doesFileExist(project.pathImageSource(n))) {
+            document.orientAreas(n);
+        }
+    }
+}
+
 void MainWindow::on_btCreateImage_clicked()
 {
     ProjectDataWasChanged(true);
@@ -69,6 +80,7 @@ void MainWindow::on_btCreateImage_clicked()
     const QString warnings = tooFewDpi();
     ui->lbCreateResult->setText(warnings);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);  // so that they are seen
+    turnAreasForPrint();
     PrintJobResult result;
     {
         WorkProgress progress(*this, tr("Creating the print images..."), tr("Cancel"));

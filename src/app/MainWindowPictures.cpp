@@ -27,7 +27,7 @@ void MainWindow::keepEdits()
 void MainWindow::showPicture(int index)
 {
     keepEdits();
-    ui->polyArea->currentPicture = index;
+    document.select(index, document.selectedIndex());
     showTopOfPicture();
     ui->polyArea->repaint();
     ProjectDataWasChanged(false);
@@ -42,23 +42,25 @@ void MainWindow::showTopOfPicture()
 
 void MainWindow::on_btNextPicture_clicked()
 {
-    const int next = ui->polyArea->currentPicture + 1;
+    const int next = document.currentPage() + 1;
     const int count = static_cast<int>(project.pictures.size());
     if (next < count) {
         showPicture(next);
         return;
     }
-    const QImage image = importPicture(count);
-    if (image.isNull()) {
+    const std::optional<PictureCopy> chosen = choosePicture(count);
+    if (!chosen) {
         return;
     }
     constexpr double kDotsPerMetre = 39.37;  // of one dot per inch
+    const QImage& image = chosen->image();
     Oid::PICTURE picture;
     picture.paperWidth = image.widthMM();
     picture.paperHeight = image.heightMM();
     picture.dpi = static_cast<int>(image.dotsPerMeterX() / kDotsPerMetre + 0.4444);
-    project.pictures.push_back(std::move(picture));
-    showPicture(count);
+    if (keepPicture(edit::AddPage{picture, chosen->file()})) {
+        showPicture(count);
+    }
 }
 
 // Next does not wrap, so that there is a way to append; Previous does.
@@ -69,7 +71,7 @@ void MainWindow::on_btPreviousPicture_clicked()
         on_btNextPicture_clicked();
         return;
     }
-    const int current = ui->polyArea->currentPicture;
+    const int current = document.currentPage();
     showPicture(current > 0 ? current - 1 : count - 1);
 }
 
@@ -79,33 +81,35 @@ void MainWindow::on_btLoadImage_clicked()
         on_btNextPicture_clicked();
         return;
     }
-    if (!importPicture(ui->polyArea->currentPicture).isNull()) {
-        ui->polyArea->loadedPath.clear();
+    const int page = document.currentPage();
+    const std::optional<PictureCopy> chosen = choosePicture(page);
+    if (chosen && keepPicture(edit::ReplacePicture{page, chosen->file()})) {
         ui->polyArea->repaint();
     }
 }
 
-QImage MainWindow::importPicture(int n)
+std::optional<PictureCopy> MainWindow::choosePicture(int n)
 {
     if (project.projectPath.empty()) {
         warn(tr("Save the project first: its pictures are kept beside the project file."));
-        return {};
+        return std::nullopt;
     }
     const QString path = askForPicture(this);
     if (path.isEmpty()) {
-        return {};
+        return std::nullopt;
     }
     keepEdits();  // the copy is named by the id; and the paper fields belong to the old picture
-    const PictureCopy picture(path);
+    PictureCopy picture(path);
     if (picture.image().isNull()) {
         warn(tr("Can't load that picture."));
-        return {};
+        return std::nullopt;
     }
-    if (!keepCopy(picture, project.pathImageSource(n))) {
-        return {};
+    if (FileSystem::doesFileExist(project.pathImageSource(n)) &&
+        askToOverwrite(project.pathImageSource(n), QMessageBox::Yes | QMessageBox::No) !=
+            QMessageBox::Yes) {
+        return std::nullopt;
     }
-    companions.cameIn(project, n);
-    return picture.image();
+    return picture;
 }
 
 int MainWindow::askToOverwrite(const std::string& path, QMessageBox::StandardButtons buttons)
@@ -118,17 +122,13 @@ int MainWindow::askToOverwrite(const std::string& path, QMessageBox::StandardBut
     return box.exec();
 }
 
-bool MainWindow::keepCopy(const PictureCopy& picture, const std::string& path)
+bool MainWindow::keepPicture(const Edit& edit)
 {
-    if (FileSystem::doesFileExist(path) &&
-        askToOverwrite(path, QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes) {
-        return false;
-    }
-    if (!picture.keepAs(path)) {
+    const bool kept = document.apply(edit);
+    if (!kept) {
         warn(tr("The picture could not be kept beside the project file."));
-        return false;
     }
-    return true;
+    return kept;
 }
 
 void MainWindow::takeFilesAlong()

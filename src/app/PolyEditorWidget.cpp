@@ -16,13 +16,36 @@ PolyEditorWidget::PolyEditorWidget(QWidget* parent) : QWidget(parent)
     clearImage();
 }
 
-Oid::PICTURE* PolyEditorWidget::picture() const
+void PolyEditorWidget::setDocument(Document* shown)
 {
-    if (project == nullptr || currentPicture < 0 ||
-        currentPicture >= static_cast<int>(project->pictures.size())) {
+    document = shown;
+    connect(document, &Document::changed, this, &PolyEditorWidget::showChange);
+}
+
+void PolyEditorWidget::showChange(const Change& change)
+{
+    if (change.has(Change::pictureFile)) {
+        loadedPath.clear();
+    }
+    update();
+}
+
+int PolyEditorWidget::currentPicture() const
+{
+    return document != nullptr ? document->currentPage() : 0;
+}
+
+int PolyEditorWidget::selectedPoly() const
+{
+    return document != nullptr ? document->selectedIndex() : -1;
+}
+
+const Oid::PICTURE* PolyEditorWidget::picture() const
+{
+    if (document == nullptr || document->pageAt(document->currentPage()) == PageId::none) {
         return nullptr;
     }
-    return &project->pictures[static_cast<size_t>(currentPicture)];
+    return &document->project().pictures[static_cast<size_t>(document->currentPage())];
 }
 
 int PolyEditorWidget::heightForWidth(int width) const
@@ -121,7 +144,7 @@ void PolyEditorWidget::paintEvent(QPaintEvent* /*event*/)
 
 void PolyEditorWidget::readCurrentImage()
 {
-    const std::string path = project->pathImageSource(currentPicture);
+    const std::string path = document->project().pathImageSource(currentPicture());
     if (path != loadedPath) {
         loadedPath = path;
         readImage(QString::fromStdString(path));
@@ -189,7 +212,7 @@ void PolyEditorWidget::drawBelow(QPainter& painter, DrawnAreas areas, int pageHe
 PolyEditorWidget::DrawnAreas PolyEditorWidget::areasToDraw() const
 {
     DrawnAreas areas;
-    areas.selected = selectedPoly;
+    areas.selected = selectedPoly();
     for (const Oid::POLY& area : picture()->polys) {
         QPolygon& corners = areas.corners.emplace_back();
         for (const Oid::PNT& point : area.points) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "oid/OidProject.h"
+#include "document/Document.h"
 
 #include <QImage>
 #include <QPixmap>
@@ -9,7 +9,7 @@
 
 #include <vector>
 
-// Shows one picture of the project at the widget's full width, with its areas, and says where it
+// Shows the document's current page at the widget's full width, with its areas, and says where it
 // was clicked. Points are in percent of the width, for x and for y, so that they do not depend on
 // the size of the window.
 class PolyEditorWidget : public QWidget
@@ -19,11 +19,14 @@ class PolyEditorWidget : public QWidget
 public:
     explicit PolyEditorWidget(QWidget* parent = nullptr);
 
-    // Not owned; null shows nothing.
-    void setProject(Oid::OidProject* shown) { project = shown; }
+    // Not owned, outlives the widget.
+    void setDocument(Document* shown);
 
-    // The current picture; null without a project and for an index that it does not have.
-    Oid::PICTURE* picture() const;
+    // Index of the current picture and of the highlighted area, as the document has them.
+    int currentPicture() const;
+    int selectedPoly() const;
+    // The current picture; null without a document and for an index that it does not have.
+    const Oid::PICTURE* picture() const;
 
     // So high is the whole picture when it is this wide; 0 without a picture.
     int heightForWidth(int width) const override;
@@ -35,8 +38,6 @@ public:
     void loadImage(const QString& path);
     void clearImage();
 
-    int currentPicture = 0;
-    int selectedPoly = -1;
     std::string loadedPath;  // where the image came from; emptied to have it loaded again
 
 signals:
@@ -65,7 +66,9 @@ private:
     static void draw(QPainter& painter, const DrawnAreas& areas);
     void drawBelow(QPainter& painter, DrawnAreas areas, int pageHeight) const;
 
-    Oid::OidProject* project = nullptr;
+    void showChange(const Change& change);
+
+    Document* document = nullptr;
     QImage image;
     // Scaling costs much more than painting, and so do many areas: both are kept for the next
     // paint.

@@ -24,7 +24,7 @@ void Document::restart()
     endGesture();
     history.clear();
     contents.restart();
-    selection = {};
+    selection.page = 0;  // Intended: the index of the area stays, as it does on another page.
     state = ++states;
     setClean();
     note(Change::everything, -1);
@@ -225,7 +225,7 @@ bool Document::exchangeFiles(Step& step)
 
 void Document::setClean()
 {
-    endGesture();
+    closeStep();
     cleanState = state;
     cleanProductName = record.productName;
     cleanProductId = record.productId;

@@ -28,7 +28,8 @@ public:
     // The record for what is no edit: reading, writing, building and printing it. After reading
     // another project into it comes restart; pages and areas are not changed through it.
     Oid::OidProject& projectRecord() { return record; }
-    // The record holds another project: it is as in its file, and nothing can be undone.
+    // The record holds another project: it is as in its file, nothing can be undone, and its first
+    // page is the current one.
     void restart();
 
     // Carries the edit out, as a step of the history or, when the last one was of the same gesture,
@@ -59,7 +60,7 @@ public:
     bool undo();
     bool redo();
 
-    // Pages, areas, product are as in the file from now on.
+    // Pages, areas, product are as in the file from now on. A gesture goes on with another step.
     void setClean();
     bool isClean() const;
 
@@ -71,6 +72,8 @@ public:
     AreaId selectedArea() const { return contents.areaAt(selection.page, selection.area); }
     void select(int page, int area);
 
+    // None where there is no such page or area.
+    PageId pageAt(int page) const { return contents.pageAt(page); }
     AreaId areaAt(int page, int index) const { return contents.areaAt(page, index); }
     // Page -1 when the area is not there.
     Contents::Place placeOf(AreaId area) const { return contents.placeOf(area); }

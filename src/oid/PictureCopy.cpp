@@ -1,12 +1,11 @@
 #include "oid/PictureCopy.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QImageWriter>
-#include <QSaveFile>
 
 #include <algorithm>
 
-#include "base/PlatformFiles.h"
 #include "oid/PictureFile.h"
 
 namespace {
@@ -54,14 +53,13 @@ PictureCopy::PictureCopy(const QString& path)
     }
 }
 
-bool PictureCopy::keepAs(const std::string& path) const
+QByteArray PictureCopy::file() const
 {
-    QSaveFile file(QString::fromStdString(Platform::nativePath(path)));
-    if (!file.open(QIODevice::WriteOnly)) {
-        return false;
+    if (!asItCame.isEmpty()) {
+        return asItCame;
     }
-    const bool written = asItCame.isEmpty()
-                             ? QImageWriter(&file, "jpg").write(onWhitePaper(picture))
-                             : file.write(asItCame) == asItCame.size();
-    return written && file.commit();
+    QByteArray compressed;
+    QBuffer buffer(&compressed);
+    buffer.open(QIODevice::WriteOnly);
+    return QImageWriter(&buffer, "jpg").write(onWhitePaper(picture)) ? compressed : QByteArray();
 }

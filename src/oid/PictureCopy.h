@@ -4,8 +4,6 @@
 #include <QImage>
 #include <QString>
 
-#include <string>
-
 // A picture that comes into a project, which keeps a copy of it as JPEG.
 class PictureCopy
 {
@@ -15,9 +13,9 @@ public:
 
     // Upright; the null image when it is no picture or cannot be read.
     const QImage& image() const { return picture; }
-    // Writes the copy whole or not at all, in place of a file that is there. An upright JPEG is
-    // kept byte for byte; anything else is compressed, upright and on white paper.
-    bool keepAs(const std::string& path) const;
+    // The file of the copy: an upright JPEG byte for byte; anything else is compressed, upright and
+    // on white paper. Empty without a picture, or when it cannot be compressed.
+    QByteArray file() const;
 
 private:
     QImage picture;

@@ -21,7 +21,7 @@ const std::string kArea = "OID 1001\r\nPOLY cow\r\nEND\r\n\r\n";
 
 int current(WindowFixture& w)
 {
-    return w.get<PolyEditorWidget>("polyArea")->currentPicture;
+    return w.get<PolyEditorWidget>("polyArea")->currentPicture();
 }
 
 // The page takes seconds to print: long enough for a progress dialog on any machine.

@@ -22,7 +22,8 @@ struct Shown
         if (withFile) {
             savePicture(0, QColor(255, 255, 255));
         }
-        widget.setProject(&project);
+        document.restart();
+        widget.setDocument(&document);
         widget.resize(200, 160);
     }
 
@@ -43,7 +44,8 @@ struct Shown
     QColor pixel(int x, int y) { return picture().pixelColor(x, y); }
 
     TemporaryFolder folder;
-    Oid::OidProject project;
+    Document document;
+    Oid::OidProject& project = document.projectRecord();
     PolyEditorWidget widget;
 };
 
@@ -66,8 +68,8 @@ private slots:
     {
         const PolyEditorWidget widget;
         QCOMPARE(widget.picture(), nullptr);
-        QCOMPARE(widget.currentPicture, 0);
-        QCOMPARE(widget.selectedPoly, -1);
+        QCOMPARE(widget.currentPicture(), 0);
+        QCOMPARE(widget.selectedPoly(), -1);
         QCOMPARE(widget.loadedPath, std::string());
     }
 
@@ -75,9 +77,9 @@ private slots:
     {
         Shown shown;
         QCOMPARE(shown.widget.picture(), &shown.project.pictures[0]);
-        shown.widget.currentPicture = -1;
+        shown.document.select(-1, shown.document.selectedIndex());
         QCOMPARE(shown.widget.picture(), nullptr);
-        shown.widget.currentPicture = 1;
+        shown.document.select(1, shown.document.selectedIndex());
         QCOMPARE(shown.widget.picture(), nullptr);
     }
 
@@ -154,7 +156,7 @@ private slots:
     void nothingIsPaintedWithoutAPicture()
     {
         Shown shown;
-        shown.widget.currentPicture = 7;
+        shown.document.select(7, shown.document.selectedIndex());
         QCOMPARE(shown.pixel(5, 5), QColor(1, 2, 3));
     }
 
@@ -214,17 +216,17 @@ private slots:
     void anotherPictureIsShownWhenTheIndexChanges()
     {
         Shown shown;
-        shown.project.pictures.emplace_back();
+        shown.document.apply(edit::AddPage{});
         shown.savePicture(1, QColor(0, 0, 0));
         QCOMPARE(shown.pixel(100, 50), QColor(255, 255, 255));
-        shown.widget.currentPicture = 1;
+        shown.document.select(1, shown.document.selectedIndex());
         QCOMPARE(shown.pixel(100, 50), QColor(0, 0, 0));
     }
 
     void areasAreOutlinedAndTheSelectedOneIsRed()
     {
         Shown shown({square("cow", 5, 5, 10), square("hen", 25, 5, 10)});
-        shown.widget.selectedPoly = 1;
+        shown.document.select(shown.document.currentPage(), 1);
         QCOMPARE(shown.pixel(10, 20), QColor(32, 96, 255));
         QCOMPARE(shown.pixel(20, 20), QColor(191, 255, 240));  // a quarter of (0, 255, 196)
         QCOMPARE(shown.pixel(50, 20), QColor(255, 32, 32));
@@ -265,7 +267,7 @@ private slots:
         QCOMPARE(shown.pixel(20, 110), QColor(32, 96, 255));
         QCOMPARE(shown.pixel(90, 130), area);
         QCOMPARE(shown.pixel(130, 130), free);
-        shown.widget.selectedPoly = 1;
+        shown.document.select(shown.document.currentPage(), 1);
         QCOMPARE(shown.pixel(90, 130), QColor(65, 9, 10));
         QCOMPARE(shown.pixel(30, 110), area);
     }
@@ -277,17 +279,18 @@ private slots:
         const QColor area(191, 255, 240);  // a quarter of its colour on white
         Shown shown({square("cow", 10, 10, 10)});
         QCOMPARE(shown.pixel(30, 30), area);
-        shown.widget.selectedPoly = 0;
+        shown.document.select(shown.document.currentPage(), 0);
         QCOMPARE(shown.pixel(30, 30), QColor(255, 199, 199));
-        shown.widget.selectedPoly = -1;
+        shown.document.select(shown.document.currentPage(), -1);
         QCOMPARE(shown.pixel(30, 30), area);
 
         QCOMPARE(shown.pixel(70, 30), paper);
-        shown.project.pictures[0].polys.push_back(square("pig", 30, 10, 10));
+        shown.document.apply(edit::AddArea{0, square("pig", 30, 10, 10)});
         QCOMPARE(shown.pixel(70, 30), area);
-        shown.project.pictures[0].polys[1].points[0] = {35, 20};
+        shown.document.apply(edit::SetCorners{shown.document.areaAt(0, 1),
+                                              {{35, 20}, {40, 10}, {40, 20}, {30, 20}}});
         QCOMPARE(shown.pixel(62, 21), paper);
-        shown.project.pictures[0].polys.pop_back();
+        shown.document.apply(edit::RemoveArea{shown.document.areaAt(0, 1)});
         QCOMPARE(shown.pixel(70, 30), paper);
 
         shown.widget.resize(400, 320);

@@ -81,7 +81,7 @@ private slots:
         QCOMPARE(w.field("txProjPaperHeight"), "100");
         QCOMPARE(w.field("txProjDPI"), "300");
         QCOMPARE(w.script(), "sub cow\r\nend sub\r\n");
-        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->currentPicture, 0);
+        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->currentPicture(), 0);
         QCOMPARE(w.console(), "");
     }
 
@@ -93,7 +93,7 @@ private slots:
         w.open(saved, 3);
         w.click("btNextPicture");
         w.click("btNextPicture");
-        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->currentPicture, 2);
+        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->currentPicture(), 2);
         w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
         QTRY_COMPARE(Platform::nativePath(w.get<PolyEditorWidget>("polyArea")->loadedPath),
                      w.folder.file("900-bkgnd2.jpg"));
@@ -442,7 +442,7 @@ private slots:
         w.open(projectFile({kCow, kCow}), 2);
         w.click("btNextPicture");
         w.open(projectFile({"OID 7\r\nPOLY hen\r\nEND\r\n\r\n", kCow}), 2);
-        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->currentPicture, 0);
+        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->currentPicture(), 0);
         QCOMPARE(w.saved(), projectFile({"OID 7\r\nPOLY hen\r\nEND\r\n\r\n", kCow}));
     }
 

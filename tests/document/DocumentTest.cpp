@@ -3,6 +3,7 @@
 #include "base/PlatformFiles.h"
 #include "tests/document/Snapshot.h"
 #include "tests/helpers/CapturedMessages.h"
+#include "tests/helpers/SmallDisk.h"
 #include "tests/helpers/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -268,6 +269,17 @@ TEST_F(DocumentTest, APictureThatCannotBeWrittenChangesNothing)
     EXPECT_TRUE(document.isClean());
 }
 
+TEST_F(DocumentTest, OnAFullDiskThePictureThatIsThereStays)
+{
+    const std::string file = Platform::nativePath(document.project().pathImageSource(0));
+    writeFile(file, "old");
+    const SmallDisk disk(4000);
+    EXPECT_FALSE(document.apply(edit::ReplacePicture{0, QByteArray(5000, 'x')}));
+    EXPECT_EQ(readFile(file), "old");
+    EXPECT_EQ(folder.listing(), "900-bkgnd0.jpg");
+    EXPECT_FALSE(document.canUndo());
+}
+
 TEST_F(DocumentTest, AnUndoWhoseFileCannotBeWrittenChangesNothing)
 {
     document.apply(edit::ReplacePicture{0, "new"});
@@ -335,6 +347,21 @@ TEST_F(DocumentTest, IsCleanWhereItWasSaved)
     EXPECT_FALSE(document.isClean());
     document.redo();
     EXPECT_TRUE(document.isClean());
+}
+
+TEST_F(DocumentTest, SavingInTheMiddleOfANameEndsTheStepButNotTheTyping)
+{
+    add("cow");
+    const AreaId calf = add("x");
+    const Gesture typing = document.newGesture();
+    document.apply(edit::RenameArea{calf, "cow"}, typing);
+    EXPECT_EQ(oid("cow"), 1002);
+    document.setClean();
+    document.apply(edit::RenameArea{calf, "cow2"}, typing);
+    EXPECT_EQ(oid("cow"), 1001);
+    document.undo();
+    EXPECT_TRUE(document.isClean());
+    EXPECT_EQ(names(), "cow cow");
 }
 
 TEST_F(DocumentTest, AnotherStepAfterAnUndoIsNotTheSavedOne)
@@ -414,7 +441,7 @@ TEST_F(DocumentTest, AllIsNewAfterARestart)
     document.restart();
     EXPECT_FALSE(document.canUndo());
     EXPECT_TRUE(document.isClean());
-    EXPECT_EQ(document.selectedIndex(), -1);
+    EXPECT_EQ(document.currentPage(), 0);
     EXPECT_EQ(document.placeOf(cow).page, -1);
     EXPECT_TRUE(lastChange.has(Change::pages));
 }
