@@ -8,7 +8,6 @@
 #include <string>
 
 #include "gme/Assembler.h"
-#include "gme/SourceText.h"
 #include "gme/Yaml.h"
 
 namespace {
@@ -71,9 +70,8 @@ void readYaml(benchmark::State& state)
     const std::string source = descriptionOf(20000);
     for (auto _ : state) {
         gme::Messages messages("book.yaml", silent);
-        std::string text = source;
         gme::YamlNode root;
-        if (!gme::makeText(text, messages) || !gme::readYaml(text, root, messages)) {
+        if (!gme::readYaml(source, root, messages)) {
             state.SkipWithError("the description cannot be read");
             break;
         }

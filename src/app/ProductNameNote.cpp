@@ -1,6 +1,6 @@
 #include "app/ProductNameNote.h"
 
-#include "gme/HeaderText.h"
+#include "gme/Description.h"
 
 #include <QLabel>
 #include <QLineEdit>

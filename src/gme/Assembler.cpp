@@ -4,9 +4,7 @@
 #include "base/PrintNothing.h"
 #include "gme/CodesFile.h"
 #include "gme/GameBuilder.h"
-#include "gme/GamePaths.h"
-#include "gme/GameWriter.h"
-#include "gme/SourceText.h"
+#include "gme/GameFile.h"
 
 #include <ctime>
 
@@ -79,8 +77,7 @@ bool Assembly::readYamlFile()
 {
     std::string text;
     YamlNode root;
-    if (readBytes(yamlFile, text, messages) && makeText(text, messages) &&
-        readYaml(text, root, messages)) {
+    if (readBytes(yamlFile, text, messages) && readYaml(std::move(text), root, messages)) {
         readDescription(root, description, messages);
     }
     return !messages.hasErrors();

@@ -30,4 +30,11 @@ bool makeRoomForAreas(const std::string& yamlFile, const std::map<std::string, i
 // The path that an empty gameFile stands for: "900-v1.2.yaml" gives "900-v1.2.gme".
 std::string gameFileFor(const std::string& yamlFile);
 
+// The codes file beside the YAML file: "900-Zoo.yaml" gives "900-Zoo.codes.yaml".
+std::string codesFileFor(const std::string& yamlFile);
+// The folder of a file, empty for the current one.
+std::string folderOf(const std::string& file);
+// Whether two paths lead to the same place, as far as their texts tell.
+bool isSamePath(const std::string& one, const std::string& other);
+
 }  // namespace gme

@@ -2,8 +2,6 @@
 
 #include "base/PlatformFiles.h"
 #include "gme/CodesReader.h"
-#include "gme/CodesText.h"
-#include "gme/SourceText.h"
 
 #include <algorithm>
 #include <set>
@@ -121,9 +119,8 @@ bool CodesFile::read(Messages& messages)
     if (!readBytes(path, oldBytes, messages)) {
         return false;
     }
-    std::string text = oldBytes;
     YamlNode root;
-    if (makeText(text, messages) && readYaml(text, root, messages)) {
+    if (readYaml(oldBytes, root, messages)) {
         readContent(root, known, messages);
     }
     return !messages.hasErrors();

@@ -1,4 +1,4 @@
-#include "gme/CodesText.h"
+#include "gme/CodesFile.h"
 
 #include "base/TextHelpers.h"
 #include "base/Utf8.h"

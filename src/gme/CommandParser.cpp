@@ -1,4 +1,4 @@
-#include "gme/CommandParser.h"
+#include "gme/LineScanner.h"
 
 namespace gme {
 

@@ -10,6 +10,8 @@
 
 namespace gme {
 
+constexpr size_t kLongestComment = 49;  // characters
+
 // A text and the line of the YAML file that it stands on.
 struct SourceLine
 {

@@ -1,8 +1,11 @@
 #include "gme/GameBuilder.h"
 
-#include "gme/GameLayout.h"
-#include "gme/HeaderText.h"
+#include "gme/GameFile.h"
 #include "gme/LineParser.h"
+
+#include "base/Utf8.h"
+
+#include <string_view>
 
 namespace gme {
 
@@ -10,6 +13,29 @@ namespace {
 
 constexpr size_t kMostCommands = 8;         // that the pen runs in a line
 constexpr uint16_t kCodesOfThePen = 15000;  // it reads those below
+
+// A text as the header holds it: one byte per character, the low 8 bits of its code point. Warns
+// about characters above U+00FF, which come out as others.
+std::string headerText(const std::string& owner, const SourceLine& text, Messages& messages)
+{
+    std::string bytes;
+    std::string garbled;
+    std::string_view rest = text.text;
+    char32_t c = 0;
+    while (!rest.empty()) {
+        const std::string_view before = rest;
+        if (!Utf8::takeCharacter(rest, c)) {
+            break;
+        }
+        bytes += static_cast<char>(c & 0xFFU);
+        garbled += c > 0xFF ? before.substr(0, before.size() - rest.size()) : std::string_view();
+    }
+    if (!garbled.empty()) {
+        messages.warning(text.line,
+                         owner + ": the game file cannot hold these characters: " + garbled);
+    }
+    return bytes;
+}
 
 class GameBuilder
 {

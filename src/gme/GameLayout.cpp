@@ -1,7 +1,4 @@
-#include "gme/GameLayout.h"
-
-#include "gme/Cypher.h"
-#include "gme/ScriptTable.h"
+#include "gme/GameFile.h"
 
 namespace gme {
 
@@ -22,6 +19,7 @@ constexpr uint32_t kFormat = 0x238B;
 constexpr size_t kDateLength = 8;
 constexpr size_t kSpecialCodesSize = 44;
 constexpr size_t kChecksumSize = 4;
+constexpr uint32_t kNoScript = 0xFFFFFFFF;
 
 void putHeader(const Game& game, ByteBuffer& out)
 {
@@ -32,6 +30,92 @@ void putHeader(const Game& game, ByteBuffer& out)
     out.set32(0x1C, kRawKey);
     const auto length = static_cast<char>(game.comment.size());
     out.setText(kTextsAt, length + game.comment + game.date + game.language);
+}
+
+// The length of a play list and the index of each of its files.
+void putPlayList(const std::vector<std::string>& names, const Media& media, ByteBuffer& out)
+{
+    out.put16(names.size());
+    for (const std::string& name : names) {
+        out.put16(media.indexOf(name));
+    }
+}
+
+// The table of codes and the scripts; the buffer holds the game file from its first byte.
+class ScriptWriter
+{
+public:
+    ScriptWriter(const Game& source, ByteBuffer& target) : game(source), out(target) {}
+
+    void putTable();
+
+private:
+    void putScript(const std::vector<ScriptLine>& lines);
+    void putLine(const ScriptLine& line);
+    void putOperand(const Operand& operand);
+    void putCommand(const Command& command);
+
+    const Game& game;
+    ByteBuffer& out;
+};
+
+void ScriptWriter::putTable()
+{
+    const uint16_t lowest = game.scripts.begin()->first;
+    const uint16_t highest = game.scripts.rbegin()->first;
+    out.put32(highest);
+    out.put32(lowest);
+    const size_t table = out.size();
+    for (size_t code = lowest; code <= highest; ++code) {
+        out.put32(kNoScript);
+    }
+    for (const auto& [code, lines] : game.scripts) {
+        out.set32(table + 4 * static_cast<size_t>(code - lowest), out.size());
+        putScript(lines);
+    }
+}
+
+void ScriptWriter::putScript(const std::vector<ScriptLine>& lines)
+{
+    out.put16(lines.size());
+    const size_t offsets = out.size();
+    out.fillTo(offsets + 4 * lines.size());
+    for (size_t i = 0; i < lines.size(); ++i) {
+        out.set32(offsets + 4 * i, out.size());
+        putLine(lines[i]);
+    }
+}
+
+void ScriptWriter::putLine(const ScriptLine& line)
+{
+    out.put16(line.conditions.size());
+    for (const Condition& condition : line.conditions) {
+        putOperand(condition.left);
+        out.put16(condition.comparison);
+        putOperand(condition.right);
+    }
+    out.put16(line.commands.size());
+    for (const Command& command : line.commands) {
+        putCommand(command);
+    }
+    putPlayList(line.playList, game.media, out);
+}
+
+void ScriptWriter::putOperand(const Operand& operand)
+{
+    out.put8(operand.isRegister ? 0 : 1);
+    out.put16(operand.isRegister ? game.registers.numberOf(operand.reg) : operand.constant);
+}
+
+void ScriptWriter::putCommand(const Command& command)
+{
+    out.put16(command.hasTarget ? game.registers.numberOf(command.target) : 0);
+    out.put16(command.opcode);
+    Operand value = command.value;
+    if (!command.jumpTarget.empty()) {
+        value.constant = game.jumpTargets.at(command.jumpTarget);
+    }
+    putOperand(value);
 }
 
 void putTimerAndGames(ByteBuffer& out)
@@ -95,7 +179,7 @@ GameLayout layOut(const Game& game)
     ByteBuffer& front = layout.beforeMedia;
     ByteBuffer& back = layout.behindMedia;
     putHeader(game, front);
-    putScriptTable(game, front);
+    ScriptWriter(game, front).putTable();
     putTimerAndGames(front);
     putRegisters(game.registers, front);
     const uint64_t mediaEnd = putMediaTable(game.media.files(), front);

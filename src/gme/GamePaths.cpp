@@ -1,7 +1,6 @@
-#include "gme/GamePaths.h"
+#include "gme/Assembler.h"
 
 #include "base/PlatformFiles.h"
-#include "gme/Assembler.h"
 
 #include <filesystem>
 

@@ -1,8 +1,6 @@
-#include "gme/GameWriter.h"
+#include "gme/GameFile.h"
 
 #include "base/FileSystem.h"
-#include "gme/Cypher.h"
-#include "gme/GameLayout.h"
 
 #include <memory>
 

@@ -1,6 +1,5 @@
 #include "gme/LineParser.h"
 
-#include "gme/CommandParser.h"
 #include "gme/LineScanner.h"
 
 namespace gme {

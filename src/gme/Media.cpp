@@ -1,5 +1,8 @@
 #include "gme/Media.h"
 
+#include "base/PlatformFiles.h"
+
+#include <array>
 #include <filesystem>
 
 namespace fs = std::filesystem;
@@ -9,6 +12,7 @@ namespace gme {
 namespace {
 
 constexpr size_t kMostFiles = 65536;
+constexpr unsigned char kKey = 0xAD;
 
 bool isFile(const std::string& path)
 {
@@ -25,7 +29,52 @@ std::string listOf(const std::vector<std::string>& names)
     return list;
 }
 
+std::array<unsigned char, 256> makeTable()
+{
+    std::array<unsigned char, 256> table{};
+    for (unsigned byte = 0; byte < table.size(); ++byte) {
+        const bool isKept = byte == 0x00 || byte == 0xFF || byte == kKey || byte == (kKey ^ 0xFFU);
+        table[byte] = static_cast<unsigned char>(isKept ? byte : byte ^ kKey);
+    }
+    return table;
+}
+
 }  // namespace
+
+bool MediaPath::setTemplate(const std::string& text)
+{
+    int names = 0;
+    beforeName.clear();
+    behindName.clear();
+    for (size_t i = 0; i < text.size(); ++i) {
+        std::string& part = names == 0 ? beforeName : behindName;
+        if (text[i] != '%') {
+            part += text[i];
+            continue;
+        }
+        ++i;
+        if (i < text.size() && text[i] == '%') {
+            part += '%';
+        } else if (i < text.size() && text[i] == 's') {
+            ++names;
+        } else {
+            return false;
+        }
+    }
+    return names == 1;
+}
+
+std::vector<std::string> MediaPath::candidates(const std::string& name) const
+{
+    const std::string path = beforeName + name + behindName;
+    return {path, path + ".wav", path + ".ogg", path + ".flac", path + ".mp3"};
+}
+
+std::string MediaPath::fullPath(const std::string& candidate) const
+{
+    const fs::path start = fs::u8path(Platform::nativePath(folder));
+    return (start / fs::u8path(Platform::nativePath(candidate))).u8string();
+}
 
 void Media::addName(const std::string& name, const std::string& user)
 {
@@ -72,6 +121,14 @@ void Media::findFile(const std::string& name, const std::string& user, const Med
     std::error_code problem;
     const uintmax_t size = fs::file_size(fs::u8path(path), problem);
     found.push_back({path, problem ? 0 : size});  // a vanished file is noticed when it is read
+}
+
+void applyCypher(unsigned char* bytes, size_t count)
+{
+    static const std::array<unsigned char, 256> table = makeTable();
+    for (size_t i = 0; i < count; ++i) {
+        bytes[i] = table[bytes[i]];
+    }
 }
 
 }  // namespace gme

@@ -1,14 +1,34 @@
 #pragma once
 
-#include "gme/MediaPath.h"
 #include "gme/Messages.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
 
 namespace gme {
+
+// Where the audio file of a name lies: "950-audio/%s".
+class MediaPath
+{
+public:
+    // yamlFolder is the folder that relative paths start from.
+    explicit MediaPath(const std::string& yamlFolder) : folder(yamlFolder) {}
+
+    // False unless "%s" occurs exactly once; "%%" stands for one percent sign.
+    bool setTemplate(const std::string& text);
+    // The five places where the file of a name may lie, as the template has them.
+    std::vector<std::string> candidates(const std::string& name) const;
+    // Native path of a candidate.
+    std::string fullPath(const std::string& candidate) const;
+
+private:
+    std::string folder;
+    std::string beforeName;
+    std::string behindName;
+};
 
 struct MediaFile
 {
@@ -41,5 +61,12 @@ private:
     std::map<std::string, Name> names;
     std::vector<MediaFile> found;
 };
+
+// The simple cypher in which a game file holds its audio; the same operation decrypts. 0x00, 0xFF,
+// the key and its complement stay as they are.
+void applyCypher(unsigned char* bytes, size_t count);
+
+// What the header holds for the key: the pen finds the key in a table of its own.
+constexpr unsigned kRawKey = 0x39;
 
 }  // namespace gme

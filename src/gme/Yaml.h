@@ -34,10 +34,17 @@ struct YamlNode
     bool isScalar() const { return kind == Kind::Plain || kind == Kind::Quoted; }
 };
 
-// Reads the one document of a text with line ends LF. False, with the place, when it is no valid
+// Larger files are refused, so that a wrong file name cannot fill the memory.
+constexpr size_t kLargestSource = 256U << 20;
+
+// The bytes of a file. False, with the reason, when it is not there, cannot be read or is larger
+// than kLargestSource.
+bool readBytes(const std::string& path, std::string& bytes, Messages& messages);
+
+// Reads the one document of a file. False, with the place, when it is no valid
 // YAML, holds a form that is not supported (anchors, references, tags, document markers), is empty
 // or too large.
-bool readYaml(const std::string& text, YamlNode& root, Messages& messages);
+bool readYaml(std::string bytes, YamlNode& root, Messages& messages);
 
 // Whether two values say the same, wherever they stand.
 bool isSameValue(const YamlNode& one, const YamlNode& other);

@@ -9,6 +9,12 @@
 
 namespace gme {
 
+// Makes the bytes of a text file plain UTF-8 text: the byte-order mark goes, every line ends in LF.
+// False, with the line of the first one, when a byte is no UTF-8 or a character is not allowed in
+// YAML. The line ends U+0085, U+2028 and U+2029 are refused as well: they look like part of a line
+// but end it.
+bool makeText(std::string& bytes, Messages& messages);
+
 // The lines of a text by number, from 0. Quick when they are asked for in ascending order.
 class YamlLines
 {

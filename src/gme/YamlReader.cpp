@@ -220,9 +220,9 @@ void YamlReader::report(const YamlProblem& problem, Messages& messages)
 
 }  // namespace
 
-bool readYaml(const std::string& text, YamlNode& root, Messages& messages)
+bool readYaml(std::string bytes, YamlNode& root, Messages& messages)
 {
-    return YamlReader(text).read(root, messages);
+    return makeText(bytes, messages) && YamlReader(bytes).read(root, messages);
 }
 
 bool isSameValue(const YamlNode& one, const YamlNode& other)

@@ -1,6 +1,5 @@
 // The assembler as its callers see it: files, dates, and what is left when something goes wrong.
 #include "gme/Assembler.h"
-#include "gme/GamePaths.h"
 #include "tests/gme/GameFolder.h"
 #include "tests/helpers/CapturedMessages.h"
 

@@ -1,7 +1,6 @@
 // The codes file: reading it, what it holds after a build, and how names stand in it.
 #include "gme/CodesFile.h"
 #include "gme/Assembler.h"
-#include "gme/CodesText.h"
 #include "tests/gme/GameFolder.h"
 #include "tests/helpers/CapturedMessages.h"
 #include "tests/helpers/SmallDisk.h"

@@ -1,6 +1,5 @@
 // Which code a script gets.
 #include "gme/Codes.h"
-#include "gme/CodeSequence.h"
 #include "tests/gme/GameFolder.h"
 #include "tests/helpers/CapturedMessages.h"
 

@@ -1,7 +1,6 @@
 #include "tests/gme/GameFolder.h"
 
 #include "gme/Assembler.h"
-#include "gme/GamePaths.h"
 #include "tests/helpers/CapturedMessages.h"
 
 #include <filesystem>

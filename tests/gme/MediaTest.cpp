@@ -1,6 +1,5 @@
 // Finding audio files, and the form in which the game file holds them.
-#include "gme/Cypher.h"
-#include "gme/MediaPath.h"
+#include "gme/Media.h"
 #include "tests/gme/GameFolder.h"
 
 #include <filesystem>

@@ -2,7 +2,6 @@
 #include "gme/Description.h"
 #include "gme/LineParser.h"
 #include "gme/Registers.h"
-#include "gme/SourceText.h"
 #include "tests/gme/GameFolder.h"
 #include "tests/gme/PenSimulator.h"
 #include "tests/helpers/CapturedMessages.h"
@@ -41,8 +40,7 @@ GameNames::GameNames(const std::string& yamlFile)
     std::string text;
     gme::YamlNode root;
     gme::Description description;
-    if (gme::readBytes(yamlFile, text, messages) && gme::makeText(text, messages) &&
-        gme::readYaml(text, root, messages)) {
+    if (gme::readBytes(yamlFile, text, messages) && gme::readYaml(text, root, messages)) {
         gme::readDescription(root, description, messages);
     }
     for (const auto& [name, script] : description.scripts) {

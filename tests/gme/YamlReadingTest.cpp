@@ -1,5 +1,4 @@
 // The YAML that a game may be written in: which forms are read and as what, and which are refused.
-#include "gme/SourceText.h"
 #include "gme/Yaml.h"
 #include "tests/gme/GameFolder.h"
 #include "tests/helpers/CapturedMessages.h"
@@ -29,12 +28,12 @@ std::string shown(const YamlNode& node)
 
 // The tree of a file as text: {key@line:<plain> key@line:'quoted' key@line:[<entry>]}, or what is
 // wrong with it.
-std::string read(std::string source)
+std::string read(const std::string& source)
 {
     CapturedMessages captured;
     gme::Messages messages("x.yaml", CapturedMessages::print);
     YamlNode root;
-    const bool ok = gme::makeText(source, messages) && gme::readYaml(source, root, messages);
+    const bool ok = gme::readYaml(source, root, messages);
     return ok ? shown(root) : captured.take();
 }
 

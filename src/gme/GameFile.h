@@ -1,8 +1,12 @@
 #pragma once
 
+#include "gme/Game.h"
+
 #include <cstdint>
+#include <cstdio>
 #include <string>
 
+// The game file: its bytes but for the audio, and how it is written.
 namespace gme {
 
 // Bytes of a game file as they grow; numbers are little-endian.
@@ -38,5 +42,26 @@ public:
 private:
     std::string bytes;
 };
+
+// A game file but for the bytes of its audio, which stand between the two parts.
+struct GameLayout
+{
+    ByteBuffer beforeMedia;  // from the header to the media table
+    ByteBuffer behindMedia;  // from the welcome to the special codes; the checksum is to follow
+    uint64_t size = 0;       // of the whole file, checksum included
+};
+
+// Offsets in a game file have 32 bits.
+constexpr uint64_t kLargestGame = UINT32_MAX;
+
+// The layout of a game; what lies beyond kLargestGame is not to be written.
+GameLayout layOut(const Game& game);
+
+// Whether comment and language leave the fixed places of the header alone.
+bool fitsIntoHeader(const std::string& comment, const std::string& language);
+
+// Writes a game file to an open file, reading the audio piece by piece. False, with the reason,
+// when a file cannot be read or written or the game is too large for the format.
+bool writeGame(const Game& game, FILE* file, std::string& problem);
 
 }  // namespace gme

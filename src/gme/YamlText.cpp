@@ -1,4 +1,4 @@
-#include "gme/SourceText.h"
+#include "gme/YamlProblem.h"
 
 #include "base/FileSystem.h"
 #include "base/Utf8.h"
