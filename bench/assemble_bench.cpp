@@ -69,7 +69,7 @@ void readYaml(benchmark::State& state)
 {
     const std::string source = descriptionOf(20000);
     for (auto _ : state) {
-        gme::Messages messages("book.yaml", silent);
+        gme::Messages messages("book.yaml", printWith(silent));
         gme::YamlNode root;
         if (!gme::readYaml(source, root, messages)) {
             state.SkipWithError("the description cannot be read");

@@ -1,9 +1,8 @@
 #include "gme/Assembler.h"
 
 #include "base/PlatformFiles.h"
-#include "base/PrintNothing.h"
 #include "gme/CodesFile.h"
-#include "gme/GameBuilder.h"
+#include "gme/DescriptionReader.h"
 #include "gme/GameFile.h"
 
 #include <ctime>
@@ -20,54 +19,59 @@ std::string today()
     return {text, length};
 }
 
+DiagnosticSink printedBy(PrintFunction print)
+{
+    return printWith(print != nullptr ? print : defaultPrintf());
+}
+
 class Assembly
 {
 public:
-    Assembly(const AssembleOptions& options, PrintFunction print);
+    Assembly(const AssembleOptions& options, const DiagnosticSink& diagnosticSink);
 
     bool run();
 
 private:
     bool checkPaths();
     bool readYamlFile();
-    bool resolve();
+    bool compile();
     bool writeFiles();
 
     std::string yamlFile;
     std::string codesPath;
     std::string gameFile;
-    Messages messages;       // about the YAML file
+    DiagnosticSink sink;
     Messages codesMessages;  // about the codes file
     Messages gameMessages;   // about the game file
     CodesFile codesFile;
-    Description description;
-    Codes codes;
-    Game game;
+    std::optional<Description> description;
+    std::optional<Game> game;
     bool withDate;
 };
 
-Assembly::Assembly(const AssembleOptions& options, PrintFunction print)
+Assembly::Assembly(const AssembleOptions& options, const DiagnosticSink& diagnosticSink)
     : yamlFile(Platform::nativePath(options.yamlFile)),
       codesPath(codesFileFor(options.yamlFile)),
       gameFile(options.gameFile.empty() ? gameFileFor(options.yamlFile)
                                         : Platform::nativePath(options.gameFile)),
-      messages(yamlFile, print),
-      codesMessages(codesPath, print),
-      gameMessages(gameFile, print),
+      sink(diagnosticSink),
+      codesMessages(codesPath, sink),
+      gameMessages(gameFile, sink),
       codesFile(codesPath),
       withDate(options.withDate)
 {}
 
 bool Assembly::run()
 {
-    return checkPaths() && readYamlFile() && codesFile.read(codesMessages) && resolve() &&
+    return checkPaths() && readYamlFile() && codesFile.read(codesMessages) && compile() &&
            writeFiles();
 }
 
 bool Assembly::checkPaths()
 {
     if (isSamePath(gameFile, yamlFile) || isSamePath(gameFile, codesPath)) {
-        gameMessages.error(0, "the game file would take the place of what it is made from");
+        gameMessages.error({}, "file-same",
+                           "the game file would take the place of what it is made from");
         return false;
     }
     return true;
@@ -75,24 +79,21 @@ bool Assembly::checkPaths()
 
 bool Assembly::readYamlFile()
 {
-    std::string text;
-    YamlNode root;
-    if (readBytes(yamlFile, text, messages) && readYaml(std::move(text), root, messages)) {
-        readDescription(root, description, messages);
+    Messages messages(yamlFile, sink);
+    std::string bytes;
+    if (readBytes(yamlFile, bytes, messages)) {
+        description = readDescription(bytes, yamlFile, sink);
     }
-    return !messages.hasErrors();
+    return description.has_value();
 }
 
-bool Assembly::resolve()
+bool Assembly::compile()
 {
-    const GivenCodes given = mergeCodes(description.codes, codesFile.codes(), messages);
-    codes = assignCodes(description, given, messages);
-    if (messages.hasErrors()) {
-        return false;
+    game = compileGame(*description, mediaIn(folderOf(yamlFile)), sink, codesFile.codes());
+    if (game && withDate) {
+        game->date = today();
     }
-    game = buildGame(description, codes, folderOf(yamlFile), messages);
-    game.date = withDate ? today() : "19700101";
-    return !messages.hasErrors();
+    return game.has_value();
 }
 
 // Both files or neither: the game file is complete under a temporary name before the codes file
@@ -101,17 +102,17 @@ bool Assembly::writeFiles()
 {
     std::string problem = "cannot be written";
     Platform::FileReplacement file(gameFile);
-    if (file.file() == nullptr || !writeGame(game, file.file(), problem)) {
-        gameMessages.error(0, "the game file " + problem);
+    if (file.file() == nullptr || !writeGame(*game, file.file(), problem)) {
+        gameMessages.error({}, "file-unwritable", "the game file " + problem);
         return false;
     }
-    if (!codesFile.update(description, codes)) {
-        codesMessages.error(0, "the codes file cannot be written");
+    if (!codesFile.update(*description, game->codes)) {
+        codesMessages.error({}, "file-unwritable", "the codes file cannot be written");
         return false;
     }
     if (!file.commit()) {
         codesFile.restore();
-        gameMessages.error(0, "the game file cannot be written");
+        gameMessages.error({}, "file-unwritable", "the game file cannot be written");
         return false;
     }
     return true;
@@ -124,17 +125,22 @@ bool makeRoomForAreas(const std::string& yamlFile, const std::map<std::string, i
 {
     const std::string path = codesFileFor(yamlFile);
     CodesFile codesFile(path);
-    Messages unheard(path, printNothing);  // assemble will tell
+    Messages unheard(path, [](const Diagnostic&) {});  // assemble will tell
     if (!codesFile.read(unheard)) {
         return true;
     }
-    Messages messages(path, print);
+    Messages messages(path, printedBy(print));
     return codesFile.makeRoomFor(areas, messages);
+}
+
+bool assemble(const AssembleOptions& options, const DiagnosticSink& sink)
+{
+    return Assembly(options, sink).run();
 }
 
 bool assemble(const AssembleOptions& options, PrintFunction print)
 {
-    return Assembly(options, print).run();
+    return assemble(options, printedBy(print));
 }
 
 }  // namespace gme

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Diagnostic.h"
 #include "base/PrintFunction.h"
 
 #include <map>
@@ -16,8 +17,10 @@ struct AssembleOptions
 };
 
 // Writes the game file and brings the codes file beside the YAML file up to date: both, or on an
-// error neither. Every error and warning is one line through print ("Error: 950-Zoo.yaml line 7:
-// ..."); null stands for defaultPrintf(). True when the game file was written, also with warnings.
+// error neither. True when the game file was written, also with warnings.
+bool assemble(const AssembleOptions& options, const DiagnosticSink& sink);
+// The same with one line through print for every error and warning ("Error: 950-Zoo.yaml line 7:
+// ..."); null stands for defaultPrintf().
 bool assemble(const AssembleOptions& options, PrintFunction print);
 
 // Takes out of the codes file beside the YAML file what stands in the way of these areas (by name,

@@ -30,13 +30,14 @@ bool readNumber(std::string_view text, uint32_t& value)
     return readDigits(text, 10, value);
 }
 
-void mergeOne(const std::string& owner, GivenCode& merged, const GivenCode& fromFile,
-              Messages& messages)
+void mergeOne(const std::string& owner, const std::string& name, const GivenCode& merged,
+              const GivenCode& fromFile, Messages& messages)
 {
     if (merged.code != fromFile.code) {
-        messages.error(merged.line, owner + ": the code is " + std::to_string(merged.code) +
-                                        " here and " + std::to_string(fromFile.code) +
-                                        " in the codes file");
+        messages.error(merged.place, "code-conflict",
+                       owner + ": the code is " + std::to_string(merged.code) + " here and " +
+                           std::to_string(fromFile.code) + " in the codes file",
+                       name);
     }
 }
 
@@ -44,7 +45,7 @@ void mergeSpecial(const char* owner, std::optional<GivenCode>& merged,
                   const std::optional<GivenCode>& fromFile, Messages& messages)
 {
     if (merged && fromFile) {
-        mergeOne(owner, *merged, *fromFile, messages);
+        mergeOne(owner, owner, *merged, *fromFile, messages);
     } else if (fromFile) {
         merged = fromFile;
     }
@@ -59,9 +60,10 @@ bool areNamesNumbers(const Description& description, Messages& messages)
         (numericName(entry.first) ? number : other) = &entry.first;
     }
     if (number != nullptr && other != nullptr) {
-        messages.error(description.scripts.at(*number).line,
+        messages.error(description.scripts.at(*number).place, "names-mixed",
                        "the names of scripts are partly numbers (" + *number +
-                           ") and partly not (" + *other + ")");
+                           ") and partly not (" + *other + ")",
+                       *number);
     }
     return other == nullptr;
 }
@@ -136,8 +138,9 @@ void CodeAssignment::assignScripts()
 
 void CodeAssignment::reportMissing(size_t count)
 {
-    messages.error(0, "the game has too many steps: the codes 1000 to 14999 are used up, and " +
-                          std::to_string(count) + (count == 1 ? " is" : " are") + " missing");
+    messages.error({}, "codes-used-up",
+                   "the game has too many steps: the codes 1000 to 14999 are used up, and " +
+                       std::to_string(count) + (count == 1 ? " is" : " are") + " missing");
 }
 
 }  // namespace
@@ -189,7 +192,7 @@ GivenCodes mergeCodes(const GivenCodes& yaml, const GivenCodes& codesFile, Messa
     for (const auto& [name, code] : codesFile.names) {
         const auto [place, isNew] = merged.names.emplace(name, code);
         if (!isNew) {
-            mergeOne("area " + name, place->second, code, messages);
+            mergeOne("area " + name, name, place->second, code, messages);
         }
     }
     mergeSpecial("replay", merged.replay, codesFile.replay, messages);

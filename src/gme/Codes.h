@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gme/Description.h"
+#include "gme/Messages.h"
 
 #include <bitset>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "gme/CodesFile.h"
 
 #include "base/PlatformFiles.h"
-#include "gme/CodesReader.h"
+#include "gme/DescriptionReader.h"
 
 #include <algorithm>
 #include <set>
@@ -16,15 +16,12 @@ void readContent(const YamlNode& root, GivenCodes& codes, Messages& messages)
     YamlMapping values;
     if (root.kind == YamlNode::Kind::Mapping) {
         values = lastValues(root, [&messages](const YamlNode& earlier, const YamlNode& last) {
-            if (!isSameValue(earlier, last)) {
-                messages.warning(last.keyPlace.line, last.key + " replaces the value of line " +
-                                                         std::to_string(earlier.keyPlace.line));
-            }
+            warnAboutLostValue(earlier, last, messages);
         });
     }
     const auto section = values.find("scriptcodes");
     if (section == values.end()) {
-        messages.error(0, "the codes file has no scriptcodes");
+        messages.error({}, "scriptcodes-missing", "the codes file has no scriptcodes");
         return;
     }
     readScriptCodes(*section->second, codes.names, messages);
@@ -133,14 +130,14 @@ GivenCodes CodesFile::newContent(const Description& description, const Codes& co
     for (const auto& [name, code] : codes.scripts) {
         const bool isFixed = numericName(name) == code || description.codes.names.count(name) > 0;
         if (!isFixed) {
-            content.names[name] = {code, 0};
+            content.names[name] = {code, {}};
         }
     }
     if (!description.codes.replay) {
-        content.replay = GivenCode{codes.replay, 0};
+        content.replay = GivenCode{codes.replay, {}};
     }
     if (!description.codes.stop) {
-        content.stop = GivenCode{codes.stop, 0};
+        content.stop = GivenCode{codes.stop, {}};
     }
     return content;
 }
@@ -160,10 +157,11 @@ bool CodesFile::makeRoomFor(const std::map<std::string, int>& areas, Messages& m
         return true;
     }
     if (!replaceBy(content)) {
-        messages.error(0, "the codes file cannot be written");
+        messages.error({}, "file-unwritable", "the codes file cannot be written");
         return false;
     }
-    messages.note("no longer holds " + inOneText(taken) + ", whose name or number an area has now");
+    messages.note("codes-dropped",
+                  "no longer holds " + inOneText(taken) + ", whose name or number an area has now");
     return true;
 }
 

@@ -1,6 +1,6 @@
 // Codes given by name: the section "scriptcodes" with "replay" and "stop", as the YAML file and the
 // codes file hold them.
-#include "gme/CodesReader.h"
+#include "gme/DescriptionReader.h"
 
 namespace gme {
 
@@ -14,10 +14,10 @@ std::optional<GivenCode> readCode(const YamlNode& node, const std::string& owner
     uint32_t code = 0;
     std::string problem;
     if (!readWholeNumber(node, kLargestCode, code, problem)) {
-        messages.error(node.keyPlace.line, owner + ": the code " + problem);
+        messages.error(valuePlace(node), "code-number", owner + ": the code " + problem, node.key);
         return std::nullopt;
     }
-    return GivenCode{static_cast<uint16_t>(code), node.keyPlace.line};
+    return GivenCode{static_cast<uint16_t>(code), node.keyPlace};
 }
 
 bool isSameCode(const YamlNode& one, const YamlNode& other)
@@ -33,9 +33,10 @@ bool isSameCode(const YamlNode& one, const YamlNode& other)
 void warnAboutLostCode(const YamlNode& earlier, const YamlNode& last, Messages& messages)
 {
     if (!isSameCode(earlier, last)) {
-        messages.warning(last.keyPlace.line, "area " + last.key + ": the code " + last.text +
-                                                 " replaces " + earlier.text + " of line " +
-                                                 std::to_string(earlier.keyPlace.line));
+        messages.warning(valuePlace(last), "code-replaced",
+                         "area " + last.key + ": the code " + last.text + " replaces " +
+                             earlier.text + " of line " + std::to_string(earlier.keyPlace.line),
+                         last.key);
     }
 }
 
@@ -53,7 +54,8 @@ void readScriptCodes(const YamlNode& section, std::map<std::string, GivenCode>& 
                      Messages& messages)
 {
     if (section.kind != YamlNode::Kind::Mapping) {
-        messages.error(section.keyPlace.line, "scriptcodes: names with their codes are expected");
+        messages.error(section.keyPlace, "scriptcodes-form",
+                       "scriptcodes: names with their codes are expected");
         return;
     }
     const auto lost = [&messages](const YamlNode& earlier, const YamlNode& last) {

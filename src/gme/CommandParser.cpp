@@ -161,6 +161,7 @@ bool CommandReader::jump()
         return false;
     }
     const bool isValue = scanner.isBefore('$') || scanner.isBeforeDigit();
+    command.jumpTargetAt = scanner.position();
     const bool succeeded =
         isValue ? scanner.readValue(command.value) : scanner.readScriptName(command.jumpTarget);
     return succeeded && scanner.readSign(')');

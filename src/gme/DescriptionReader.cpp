@@ -1,5 +1,4 @@
-#include "gme/CodesReader.h"
-#include "gme/Description.h"
+#include "gme/DescriptionReader.h"
 
 namespace gme {
 
@@ -18,7 +17,8 @@ private:
     const YamlNode* value(const std::string& name) const;
     void refuseUnsupported();
     void readProductId();
-    void readText(const std::string& name, const std::string& fallback, SourceLine& text);
+    // Leaves the text as it is when the file does not hold it.
+    void readText(const std::string& name, SourceLine& text);
     void readWelcome();
     void readScripts();
     void readScript(const YamlNode& node);
@@ -30,14 +30,6 @@ private:
     Messages& messages;
     YamlMapping values;
 };
-
-void warnAboutLostValue(const YamlNode& earlier, const YamlNode& last, Messages& messages)
-{
-    if (!isSameValue(earlier, last)) {
-        messages.warning(last.keyPlace.line, last.key + " replaces the value of line " +
-                                                 std::to_string(earlier.keyPlace.line));
-    }
-}
 
 DescriptionReader::DescriptionReader(const YamlNode& root, Description& target,
                                      Messages& allMessages)
@@ -52,10 +44,10 @@ void DescriptionReader::read()
 {
     refuseUnsupported();
     readProductId();
-    readText("comment", "made with Plinkett", description.comment);
-    readText("media-path", "%s", description.mediaPath);
-    readText("gme-lang", "", description.language);
-    readText("init", "", description.init);
+    readText("comment", description.comment);
+    readText("media-path", description.mediaPath);
+    readText("gme-lang", description.language);
+    readText("init", description.init);
     readWelcome();
     readScripts();
     readCodes();
@@ -73,7 +65,7 @@ void DescriptionReader::refuseUnsupported()
     for (const char* name : {"games", "speak", "timer"}) {
         const auto found = values.find(name);
         if (found != values.end()) {
-            messages.error(found->second->keyPlace.line,
+            messages.error(found->second->keyPlace, "section-unsupported",
                            std::string(name) + ": this section is not supported");
         }
     }
@@ -84,25 +76,23 @@ void DescriptionReader::readProductId()
     const YamlNode* node = value("product-id");
     std::string problem;
     if (node == nullptr) {
-        messages.error(0, "product-id is missing");
+        messages.error({}, "product-id", "product-id is missing");
     } else if (!readWholeNumber(*node, UINT32_MAX, description.productId, problem)) {
-        messages.error(node->keyPlace.line, "product-id: " + problem);
+        messages.error(valuePlace(*node), "product-id", "product-id: " + problem);
     }
 }
 
-void DescriptionReader::readText(const std::string& name, const std::string& fallback,
-                                 SourceLine& text)
+void DescriptionReader::readText(const std::string& name, SourceLine& text)
 {
     const YamlNode* node = value(name);
     if (node == nullptr) {
-        text.text = fallback;
         return;
     }
     if (!isText(*node)) {
-        messages.error(node->keyPlace.line, name + " must be a text");
+        messages.error(valuePlace(*node), "text-expected", name + " must be a text");
         return;
     }
-    text = {node->text, node->place.line};
+    text = {node->text, node->place};
 }
 
 void DescriptionReader::readWelcome()
@@ -114,36 +104,36 @@ void DescriptionReader::readWelcome()
     const std::vector<YamlNode> single = {node->isScalar() ? *node : YamlNode()};
     for (const YamlNode& entry : node->isScalar() ? single : node->children) {
         if (!isText(entry) || node->kind == YamlNode::Kind::Mapping) {
-            messages.error(node->keyPlace.line, "welcome must be a list of audio names");
+            messages.error(valuePlace(*node), "text-expected",
+                           "welcome must be a list of audio names");
             return;
         }
-        description.welcome.push_back({entry.text, entry.place.line});
+        description.welcome.push_back({entry.text, entry.place});
     }
-    if (description.welcome.size() > kMostLines) {
-        messages.error(node->keyPlace.line, "welcome has more than 65535 play lists");
-    }
+    checkWelcome(description.welcome, node->keyPlace, messages);
 }
 
 void DescriptionReader::readScripts()
 {
     const YamlNode* section = value("scripts");
     const auto place = values.find("scripts");
-    const int line = place == values.end() ? 0 : place->second->keyPlace.line;
+    const Place name = place == values.end() ? Place() : place->second->keyPlace;
     if (section == nullptr ||
         (section->kind == YamlNode::Kind::Mapping && section->children.empty())) {
-        messages.error(line, "scripts has no entry: the script of the project has no sub");
+        checkScripts({}, name, messages);
         return;
     }
     if (section->kind != YamlNode::Kind::Mapping) {
-        messages.error(line, "scripts: names with their lines are expected");
+        messages.error(name, "scripts-form", "scripts: names with their lines are expected");
         return;
     }
     const auto lost = [this](const YamlNode& earlier, const YamlNode& last) {
-        messages.warning(last.keyPlace.line, "script " + last.key + " replaces the one of line " +
-                                                 std::to_string(earlier.keyPlace.line) +
-                                                 ", which is lost");
+        messages.warning(last.keyPlace, "script-replaced",
+                         "script " + last.key + " replaces the one of line " +
+                             std::to_string(earlier.keyPlace.line) + ", which is lost",
+                         last.key);
     };
-    for (const auto& [name, node] : lastValues(*section, lost)) {
+    for (const auto& [key, node] : lastValues(*section, lost)) {
         readScript(*node);
     }
 }
@@ -152,23 +142,16 @@ void DescriptionReader::readScripts()
 void DescriptionReader::readScript(const YamlNode& node)
 {
     ScriptSource& script = description.scripts[node.key];
-    script.line = node.keyPlace.line;
-    if (isNull(node)) {
-        messages.error(node.keyPlace.line,
-                       "script " + node.key + " has no lines (is its sub closed?)");
-        return;
-    }
-    if (node.kind != YamlNode::Kind::List) {
+    script.place = node.keyPlace;
+    script.isOpen = isNull(node);
+    if (node.kind == YamlNode::Kind::List) {
+        for (size_t i = 0; i < node.children.size(); ++i) {
+            readScriptLine(node.children[i], node.key, i + 1, script.lines);
+        }
+    } else if (!script.isOpen) {
         readScriptLine(node, node.key, 1, script.lines);
-        return;
     }
-    if (node.children.size() > kMostLines) {
-        messages.error(node.keyPlace.line, "script " + node.key + " has more than 65535 lines");
-        return;
-    }
-    for (size_t i = 0; i < node.children.size(); ++i) {
-        readScriptLine(node.children[i], node.key, i + 1, script.lines);
-    }
+    checkScript(node.key, script, messages);
 }
 
 void DescriptionReader::readScriptLine(const YamlNode& node, const std::string& script,
@@ -176,14 +159,15 @@ void DescriptionReader::readScriptLine(const YamlNode& node, const std::string& 
 {
     const std::string owner = "script " + script + ", its line " + std::to_string(number) + ": ";
     if (isText(node)) {
-        lines.push_back({node.text, node.place.line});
+        lines.push_back({node.text, node.place});
     } else if (isNull(node)) {
-        messages.error(node.place.line, owner + "there is no text");
+        messages.error(node.place, "line-form", owner + "there is no text", script);
     } else if (node.isScalar()) {
-        messages.error(node.place.line, owner + quoted(node.text) + " is no command");
+        messages.error(node.place, "line-form", owner + quoted(node.text) + " is no command",
+                       script);
     } else {
-        messages.error(node.place.line,
-                       owner + "a text is expected, not a list or a name with a colon");
+        messages.error(node.place, "line-form",
+                       owner + "a text is expected, not a list or a name with a colon", script);
     }
 }
 
@@ -198,15 +182,60 @@ void DescriptionReader::readCodes()
 
 }  // namespace
 
-void readDescription(const YamlNode& root, Description& description, Messages& messages)
+std::optional<Description> readDescription(const std::string& bytes, const std::string& file,
+                                           const DiagnosticSink& sink)
 {
-    if (root.kind != YamlNode::Kind::Mapping) {
-        messages.error(root.place.line,
-                       "the file is no description of a game: names with values are "
-                       "expected");
-        return;
+    Messages messages(file, sink);
+    YamlNode root;
+    if (!readYaml(bytes, root, messages)) {
+        return std::nullopt;
     }
+    if (root.kind != YamlNode::Kind::Mapping) {
+        messages.error(root.place, "description-form",
+                       "the file is no description of a game: names with values are expected");
+        return std::nullopt;
+    }
+    Description description;
+    description.file = file;
     DescriptionReader(root, description, messages).read();
+    return messages.hasErrors() ? std::nullopt : std::make_optional(std::move(description));
+}
+
+void checkScripts(const std::map<std::string, ScriptSource>& scripts, Place place,
+                  Messages& messages)
+{
+    if (scripts.empty()) {
+        messages.error(place, "scripts-missing",
+                       "scripts has no entry: the script of the project has no sub");
+    }
+}
+
+void checkScript(const std::string& name, const ScriptSource& script, Messages& messages)
+{
+    if (script.isOpen) {
+        messages.error(script.place, "script-open",
+                       "script " + name + " has no lines (is its sub closed?)", name);
+    }
+    if (script.lines.size() > kMostLines) {
+        messages.error(script.place, "script-long", "script " + name + " has more than 65535 lines",
+                       name);
+    }
+}
+
+void checkWelcome(const std::vector<SourceLine>& lists, Place place, Messages& messages)
+{
+    if (lists.size() > kMostLines) {
+        messages.error(place, "welcome-long", "welcome has more than 65535 play lists");
+    }
+}
+
+void warnAboutLostValue(const YamlNode& earlier, const YamlNode& last, Messages& messages)
+{
+    if (!isSameValue(earlier, last)) {
+        messages.warning(last.keyPlace, "value-replaced",
+                         last.key + " replaces the value of line " +
+                             std::to_string(earlier.keyPlace.line));
+    }
 }
 
 }  // namespace gme

@@ -113,7 +113,7 @@ void ScriptWriter::putCommand(const Command& command)
     out.put16(command.opcode);
     Operand value = command.value;
     if (!command.jumpTarget.empty()) {
-        value.constant = game.jumpTargets.at(command.jumpTarget);
+        value.constant = game.codes.scripts.at(command.jumpTarget);
     }
     putOperand(value);
 }
@@ -166,8 +166,8 @@ void putWelcome(const Game& game, uint64_t offset, ByteBuffer& out)
 void putSpecialCodes(const Game& game, ByteBuffer& out)
 {
     const size_t end = out.size() + kSpecialCodesSize;
-    out.put16(game.replay);
-    out.put16(game.stop);
+    out.put16(game.codes.replay);
+    out.put16(game.codes.stop);
     out.fillTo(end);
 }
 

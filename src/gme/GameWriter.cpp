@@ -73,6 +73,12 @@ bool writeGame(const Game& game, FILE* file, std::string& problem)
         problem = "would be larger than 4 GiB";
         return false;
     }
+    for (const MediaFile& media : game.media.files()) {
+        if (media.path.empty()) {
+            problem = "would be incomplete: it was made without its audio";
+            return false;
+        }
+    }
     problem = "cannot be written";
     SummingFile out(file);
     if (!out.write(layout.beforeMedia.text())) {

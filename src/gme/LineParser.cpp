@@ -17,7 +17,10 @@ constexpr size_t kMostParts = 65535;
 
 LineResult resultOf(const LineScanner& scanner, bool succeeded)
 {
-    return {succeeded ? std::string() : scanner.failure(), scanner.largeNumbers()};
+    if (succeeded) {
+        return {{}, 0, scanner.largeNumbers()};
+    }
+    return {scanner.failure(), scanner.failurePosition(), scanner.largeNumbers()};
 }
 
 // Takes nothing when there is no condition: "$x /= $y" without "?" is a division.

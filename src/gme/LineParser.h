@@ -10,8 +10,9 @@ namespace gme {
 // The outcome of reading one text.
 struct LineResult
 {
-    std::string failure;  // where and why the text cannot be read; empty if it can
-    std::vector<std::string> largeNumbers;  // numbers above 65535, which wrap
+    std::string failure;             // where and why the text cannot be read; empty if it can
+    size_t failureAt = 0;            // the place as such, in bytes
+    std::vector<Word> largeNumbers;  // numbers above 65535, which wrap
 };
 
 // Any number of conditions, then any number of commands: "$a == 1 ? J(asm2)  $b := 2".

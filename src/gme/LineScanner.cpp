@@ -139,7 +139,8 @@ bool LineScanner::readDigits(unsigned base, uint16_t& number)
     }
     if (isLarge) {
         const size_t prefix = base == 10 ? 0 : 2;  // "0x" or "0o"
-        large.emplace_back(text.substr(begin - prefix, at - begin + prefix));
+        const std::string_view word = text.substr(begin - prefix, at - begin + prefix);
+        large.push_back({std::string(word), begin - prefix});
     }
     number = static_cast<uint16_t>(value);
     return true;

@@ -52,9 +52,11 @@ public:
     bool fail(const std::string& expected);
     // "syntax error in column 8: a comparison or an assignment expected before "= $y"".
     std::string failure() const;
+    // Its place in bytes.
+    size_t failurePosition() const { return furthest; }
 
-    // Spellings of the numbers that were reduced modulo 65536.
-    const std::vector<std::string>& largeNumbers() const { return large; }
+    // The numbers that were reduced modulo 65536.
+    const std::vector<Word>& largeNumbers() const { return large; }
 
 private:
     bool readOperator(const Operator* first, const Operator* last, const char* kind,
@@ -69,7 +71,7 @@ private:
     size_t at = 0;
     size_t furthest = 0;
     std::vector<std::string> expectations;  // at the furthest failure
-    std::vector<std::string> large;
+    std::vector<Word> large;
 };
 
 // Reads one command and appends it, and the files that it plays, to the line. False when there is

@@ -14,10 +14,15 @@ namespace {
 constexpr size_t kMostFiles = 65536;
 constexpr unsigned char kKey = 0xAD;
 
-bool isFile(const std::string& path)
+std::optional<MediaFile> fileAt(const std::string& path)
 {
-    std::error_code ignored;
-    return fs::is_regular_file(fs::u8path(path), ignored);
+    const fs::path place = fs::u8path(path);
+    std::error_code problem;
+    if (!fs::is_regular_file(place, problem)) {
+        return std::nullopt;
+    }
+    const uintmax_t size = fs::file_size(place, problem);
+    return MediaFile{path, problem ? 0 : size};  // a vanished file is noticed when it is read
 }
 
 std::string listOf(const std::vector<std::string>& names)
@@ -70,10 +75,19 @@ std::vector<std::string> MediaPath::candidates(const std::string& name) const
     return {path, path + ".wav", path + ".ogg", path + ".flac", path + ".mp3"};
 }
 
-std::string MediaPath::fullPath(const std::string& candidate) const
+std::string mediaFilePath(const std::string& folder, const std::string& place)
 {
     const fs::path start = fs::u8path(Platform::nativePath(folder));
-    return (start / fs::u8path(Platform::nativePath(candidate))).u8string();
+    return (start / fs::u8path(Platform::nativePath(place))).u8string();
+}
+
+MediaLookup mediaIn(const std::string& folder)
+{
+    MediaLookup lookup;
+    lookup.find = [folder](const std::string& place) {
+        return fileAt(mediaFilePath(folder, place));
+    };
+    return lookup;
 }
 
 void Media::addName(const std::string& name, const std::string& user)
@@ -84,43 +98,43 @@ void Media::addName(const std::string& name, const std::string& user)
     }
 }
 
-void Media::findFiles(const MediaPath& mediaPath, Messages& messages)
+void Media::findFiles(const MediaPath& mediaPath, const MediaLookup& lookup, Messages& messages)
 {
     if (names.size() > kMostFiles) {
-        messages.error(0, "the game has more than 65536 audio files");
+        messages.error({}, "audio-too-many", "the game has more than 65536 audio files");
         return;
     }
-    uint16_t index = 0;
     for (auto& [name, place] : names) {
-        place.index = index++;
-        findFile(name, place.user, mediaPath, messages);
+        place.index = static_cast<uint16_t>(found.size());
+        found.push_back(lookup.find ? findFile(name, place.user, mediaPath, lookup, messages)
+                                    : MediaFile());
     }
 }
 
-void Media::findFile(const std::string& name, const std::string& user, const MediaPath& mediaPath,
-                     Messages& messages)
+MediaFile Media::findFile(const std::string& name, const std::string& user,
+                          const MediaPath& mediaPath, const MediaLookup& lookup,
+                          Messages& messages) const
 {
     const std::vector<std::string> candidates = mediaPath.candidates(name);
     std::vector<std::string> existing;
+    MediaFile file;
     for (const std::string& candidate : candidates) {
-        if (isFile(mediaPath.fullPath(candidate))) {
+        if (const std::optional<MediaFile> there = lookup.find(candidate)) {
             existing.push_back(candidate);
+            file = *there;
         }
     }
-    if (existing.empty()) {
-        messages.error(0, "no audio file for " + name + " of " + user + ": there is none of " +
-                              listOf(candidates));
-        return;
+    if (existing.empty() && !lookup.mayBeMissing) {
+        messages.error({}, "audio-missing",
+                       "no audio file for " + name + " of " + user + ": there is none of " +
+                           listOf(candidates),
+                       name);
+    } else if (existing.size() > 1) {
+        messages.error(
+            {}, "audio-ambiguous",
+            "more than one audio file for " + name + " of " + user + ": " + listOf(existing), name);
     }
-    if (existing.size() > 1) {
-        messages.error(0, "more than one audio file for " + name + " of " + user + ": " +
-                              listOf(existing));
-        return;
-    }
-    const std::string path = mediaPath.fullPath(existing[0]);
-    std::error_code problem;
-    const uintmax_t size = fs::file_size(fs::u8path(path), problem);
-    found.push_back({path, problem ? 0 : size});  // a vanished file is noticed when it is read
+    return file;
 }
 
 void applyCypher(unsigned char* bytes, size_t count)

@@ -4,37 +4,46 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace gme {
 
-// Where the audio file of a name lies: "950-audio/%s".
+// Where the audio file of a name may lie: "950-audio/%s".
 class MediaPath
 {
 public:
-    // yamlFolder is the folder that relative paths start from.
-    explicit MediaPath(const std::string& yamlFolder) : folder(yamlFolder) {}
-
     // False unless "%s" occurs exactly once; "%%" stands for one percent sign.
     bool setTemplate(const std::string& text);
     // The five places where the file of a name may lie, as the template has them.
     std::vector<std::string> candidates(const std::string& name) const;
-    // Native path of a candidate.
-    std::string fullPath(const std::string& candidate) const;
 
 private:
-    std::string folder;
     std::string beforeName;
     std::string behindName;
 };
 
 struct MediaFile
 {
-    std::string path;
+    std::string path;   // native; empty where a game does without the file
     uint64_t size = 0;  // in bytes
 };
+
+// How a game finds its audio. Without a function it does without any.
+struct MediaLookup
+{
+    // The file at a place such as "950-audio/say_adam_Roar.ogg", if there is one.
+    std::function<std::optional<MediaFile>(const std::string& place)> find;
+    bool mayBeMissing = false;  // then a name without a file is no error
+};
+
+// Finds files on the disk; relative places start from the folder.
+MediaLookup mediaIn(const std::string& folder);
+// The native path of a place.
+std::string mediaFilePath(const std::string& folder, const std::string& place);
 
 // The audio files of a game, each name once, in ascending order of the names.
 class Media
@@ -43,9 +52,10 @@ public:
     // user: who names the file first, "script lion", for messages.
     void addName(const std::string& name, const std::string& user);
     // Finds the file of every name; reports all that are missing and all that are there twice.
-    void findFiles(const MediaPath& mediaPath, Messages& messages);
+    void findFiles(const MediaPath& mediaPath, const MediaLookup& lookup, Messages& messages);
 
     uint16_t indexOf(const std::string& name) const { return names.at(name).index; }
+    // One for each name, at its index.
     const std::vector<MediaFile>& files() const { return found; }
 
 private:
@@ -55,8 +65,8 @@ private:
         std::string user;
     };
 
-    void findFile(const std::string& name, const std::string& user, const MediaPath& mediaPath,
-                  Messages& messages);
+    MediaFile findFile(const std::string& name, const std::string& user, const MediaPath& mediaPath,
+                       const MediaLookup& lookup, Messages& messages) const;
 
     std::map<std::string, Name> names;
     std::vector<MediaFile> found;

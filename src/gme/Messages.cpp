@@ -2,6 +2,8 @@
 
 #include "base/FileSystem.h"
 
+#include <utility>
+
 namespace gme {
 
 namespace {
@@ -25,31 +27,57 @@ bool isInsideCharacter(char c)
 
 }  // namespace
 
-Messages::Messages(const std::string& path, PrintFunction printFunction)
-    : fileName(FileSystem::getFilenameOfPath(path)),
-      print(printFunction != nullptr ? printFunction : defaultPrintf())
+Messages::Messages(const std::string& path, DiagnosticSink diagnosticSink)
+    : file(path), sink(std::move(diagnosticSink))
 {}
 
-void Messages::error(int line, const std::string& text)
+void Messages::error(Place place, const char* kind, const std::string& text,
+                     const std::string& subject)
 {
     ++errors;
-    say("Error", line, text);
+    say(Severity::error, place, kind, text, subject);
 }
 
-void Messages::warning(int line, const std::string& text)
+void Messages::warning(Place place, const char* kind, const std::string& text,
+                       const std::string& subject)
 {
-    say("Warning", line, text);
+    say(Severity::warning, place, kind, text, subject);
 }
 
-void Messages::note(const std::string& text)
+void Messages::note(const char* kind, const std::string& text)
 {
-    print("%s %s\n", fileName.c_str(), inOneLine(text).c_str());
+    Diagnostic finding;
+    finding.severity = Severity::hint;
+    finding.kind = kind;
+    finding.text = inOneLine(text);
+    finding.file = file;
+    finding.printed = FileSystem::getFilenameOfPath(file) + " " + finding.text + "\n";
+    sink(finding);
 }
 
-void Messages::say(const char* kind, int line, const std::string& text)
+void Messages::say(Severity severity, Place place, const char* kind, const std::string& text,
+                   const std::string& subject)
 {
-    const std::string place = line > 0 ? " line " + std::to_string(line) : std::string();
-    print("%s: %s%s: %s\n", kind, fileName.c_str(), place.c_str(), inOneLine(text).c_str());
+    Diagnostic finding;
+    finding.severity = severity;
+    finding.kind = kind;
+    finding.text = inOneLine(text);
+    finding.file = file;
+    finding.line = place.line;
+    finding.column = place.column;
+    finding.length = place.length;
+    finding.subject = subject;
+    sink(finding);
+}
+
+Place placeIn(const SourceLine& line, size_t at, size_t length)
+{
+    Place place = line.place;
+    if (place.column > 0 && static_cast<size_t>(place.length) == line.text.size()) {
+        place.column += static_cast<int>(at);
+        place.length = static_cast<int>(length);
+    }
+    return place;
 }
 
 std::string quoted(const std::string& text)

@@ -6,6 +6,13 @@
 
 namespace gme {
 
+// A part of a text, and where it begins there, in bytes.
+struct Word
+{
+    std::string text;
+    size_t at = 0;
+};
+
 // A register of a script line: named, or with the number that it has in the game file.
 struct Register
 {
@@ -33,8 +40,10 @@ struct Command
     bool hasTarget = false;
     Register target;
     Operand value;
-    std::string
-        jumpTarget;  // the script whose code becomes the value; empty for every other command
+    // The script whose code becomes the value, and where its name stands in the line, in bytes.
+    // Empty for every other command.
+    std::string jumpTarget;
+    size_t jumpTargetAt = 0;
 };
 
 // One line of a script, with the names of audio files and scripts still to be resolved.

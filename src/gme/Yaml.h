@@ -10,15 +10,6 @@
 // A file in YAML as a tree of values.
 namespace gme {
 
-// Where something stands in a file. Line and column count from 1, column and length in bytes of the
-// line's text. 0 is unknown, or for the length that it does not end on its line.
-struct Place
-{
-    int line = 0;
-    int column = 0;
-    int length = 0;
-};
-
 // One value. Scalars keep their spelling; what type a plain one has is told by scalarType.
 struct YamlNode
 {
@@ -45,6 +36,9 @@ bool readBytes(const std::string& path, std::string& bytes, Messages& messages);
 // YAML, holds a form that is not supported (anchors, references, tags, document markers), is empty
 // or too large.
 bool readYaml(std::string bytes, YamlNode& root, Messages& messages);
+
+// Where a value that is wrong is marked: itself if it stands on the line of its key, else the key.
+Place valuePlace(const YamlNode& node);
 
 // Whether two values say the same, wherever they stand.
 bool isSameValue(const YamlNode& one, const YamlNode& other);

@@ -215,7 +215,7 @@ void YamlReader::report(const YamlProblem& problem, Messages& messages)
         line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
         text += line.empty() ? std::string() : ": " + quoted(std::string(line));
     }
-    messages.error(problem.place.line, text);
+    messages.error(problem.place, "yaml-syntax", text);
 }
 
 }  // namespace
@@ -223,6 +223,11 @@ void YamlReader::report(const YamlProblem& problem, Messages& messages)
 bool readYaml(std::string bytes, YamlNode& root, Messages& messages)
 {
     return makeText(bytes, messages) && YamlReader(bytes).read(root, messages);
+}
+
+Place valuePlace(const YamlNode& node)
+{
+    return node.place.line == node.keyPlace.line ? node.place : node.keyPlace;
 }
 
 bool isSameValue(const YamlNode& one, const YamlNode& other)

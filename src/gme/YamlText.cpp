@@ -78,28 +78,37 @@ bool isSpace(char32_t c)
 bool checkCharacters(std::string_view text, Messages& messages)
 {
     int line = 1;
+    const char* lineBegin = text.data();
     size_t gap = 0;
     char32_t c = 0;
     while (!text.empty()) {
-        if (isPrintableAscii(text[0])) {  // nearly everything
+        const char* const begin = text.data();
+        if (isPrintableAscii(*begin)) {  // nearly everything
             text.remove_prefix(1);
             gap = 0;
             continue;
         }
+        const auto column = static_cast<int>(begin - lineBegin) + 1;
         if (!Utf8::takeCharacter(text, c)) {
-            messages.error(line, "the text is not valid UTF-8");
+            messages.error({line, column, 0}, "text-encoding", "the text is not valid UTF-8");
             return false;
         }
         if (!isAllowed(c)) {
-            messages.error(line, kindOf(c) + nameOf(c) + " is not allowed");
+            const auto length = static_cast<int>(text.data() - begin);
+            messages.error({line, column, length}, "text-character",
+                           kindOf(c) + nameOf(c) + " is not allowed");
             return false;
         }
         gap = isSpace(c) ? gap + 1 : 0;
         if (gap > kLongestGap) {
-            messages.error(line, "more than 4096 blanks or line ends follow each other");
+            messages.error({line, column, 0}, "file-limit",
+                           "more than 4096 blanks or line ends follow each other");
             return false;
         }
-        line += c == '\n' ? 1 : 0;
+        if (c == '\n') {
+            ++line;
+            lineBegin = text.data();
+        }
     }
     return true;
 }
@@ -133,12 +142,12 @@ bool readBytes(const std::string& path, std::string& bytes, Messages& messages)
     while (file != nullptr && (count = fread(block.data(), 1, block.size(), file.get())) > 0) {
         bytes.append(block.data(), count);
         if (bytes.size() > kLargestSource) {
-            messages.error(0, "the file is larger than 256 MiB");
+            messages.error({}, "file-limit", "the file is larger than 256 MiB");
             return false;
         }
     }
     if (file == nullptr || ferror(file.get()) != 0) {
-        messages.error(0, "the file cannot be read");
+        messages.error({}, "file-unreadable", "the file cannot be read");
         return false;
     }
     return true;
@@ -154,7 +163,7 @@ bool makeText(std::string& bytes, Messages& messages)
         return false;
     }
     if (blankTabs(bytes) > kLargestYaml) {
-        messages.error(0, "more than 16 MiB of YAML besides its comments");
+        messages.error({}, "file-limit", "more than 16 MiB of YAML besides its comments");
         return false;
     }
     return true;

@@ -202,7 +202,7 @@ TEST(CodesFile, AnUpdateCanBeUndone)
     const TemporaryFolder folder;
     const std::string path = folder.file("zoo.codes.yaml");
     const std::string before = "scriptcodes:\n  old: 5\n";
-    gme::Messages messages(path, nullptr);
+    gme::Messages messages(path, printWith(nullptr));
     gme::Codes codes;
     codes.scripts["new"] = 6;
 

@@ -50,8 +50,8 @@ TEST(CodeSequence, LeavesOutWhatIsGiven)
 {
     gme::GivenCodes given;
     given.names["area without script"] = {2663, 1};
-    given.replay = gme::GivenCode{2664, 1};
-    given.stop = gme::GivenCode{2665, 1};
+    given.replay = gme::GivenCode{2664, {}};
+    given.stop = gme::GivenCode{2665, {}};
     given.names["beyond the pen"] = {65535, 1};
     EXPECT_EQ(firstCode(950, given), 2666);
 }

@@ -72,7 +72,12 @@ std::string parsedPlayList(const std::string& text)
 std::vector<std::string> largeNumbers(const std::string& text)
 {
     gme::ScriptLine line;
-    return gme::parseScriptLine(text, line).largeNumbers;
+    std::vector<std::string> numbers;
+    for (const gme::Word& number : gme::parseScriptLine(text, line).largeNumbers) {
+        EXPECT_EQ(text.substr(number.at, number.text.size()), number.text);
+        numbers.push_back(number.text);
+    }
+    return numbers;
 }
 
 std::string repeated(const std::string& text, int count)

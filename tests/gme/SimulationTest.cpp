@@ -1,5 +1,5 @@
 // Assembled games, played: the states after each tap are in tests/gme/vectors/simulation.json.
-#include "gme/Description.h"
+#include "gme/DescriptionReader.h"
 #include "gme/LineParser.h"
 #include "gme/Registers.h"
 #include "tests/gme/GameFolder.h"
@@ -36,13 +36,8 @@ private:
 
 GameNames::GameNames(const std::string& yamlFile)
 {
-    gme::Messages messages(yamlFile, nullptr);
-    std::string text;
-    gme::YamlNode root;
-    gme::Description description;
-    if (gme::readBytes(yamlFile, text, messages) && gme::readYaml(text, root, messages)) {
-        gme::readDescription(root, description, messages);
-    }
+    const gme::Description description =
+        gme::readDescription(readFile(yamlFile), yamlFile, [](const Diagnostic&) {}).value();
     for (const auto& [name, script] : description.scripts) {
         for (const gme::SourceLine& source : script.lines) {
             gme::ScriptLine line;
@@ -174,7 +169,7 @@ protected:
     std::vector<gme::YamlNode> taps() const
     {
         CapturedMessages captured;
-        gme::Messages messages("simulation.json", CapturedMessages::print);
+        gme::Messages messages("simulation.json", printWith(CapturedMessages::print));
         gme::YamlNode vectorList;
         gme::readYaml(readFile((vectors() / "simulation.json").string()), vectorList, messages);
         for (const gme::YamlNode& entry : vectorList.children) {

@@ -41,7 +41,7 @@ TEST(UnreadableFiles, ACodesFileThatCannotBeReadIsReported)
     const GameFolder folder;
     fs::create_symlink(kUnreadable, folder.file("900-case.codes.yaml"));
     CapturedMessages captured;
-    gme::Messages messages("900-case.codes.yaml", CapturedMessages::print);
+    gme::Messages messages("900-case.codes.yaml", printWith(CapturedMessages::print));
     gme::CodesFile codesFile(folder.file("900-case.codes.yaml"));
 
     EXPECT_FALSE(codesFile.read(messages));

@@ -31,7 +31,7 @@ std::string shown(const YamlNode& node)
 std::string read(const std::string& source)
 {
     CapturedMessages captured;
-    gme::Messages messages("x.yaml", CapturedMessages::print);
+    gme::Messages messages("x.yaml", printWith(CapturedMessages::print));
     YamlNode root;
     const bool ok = gme::readYaml(source, root, messages);
     return ok ? shown(root) : captured.take();
@@ -467,7 +467,7 @@ TEST(YamlReading, FilesBeyond256MebibytesAreRefused)
     writeFile(folder.file("x.yaml"), "");
     std::filesystem::resize_file(folder.file("x.yaml"), gme::kLargestSource + 1);
     CapturedMessages captured;
-    gme::Messages messages(folder.file("x.yaml"), CapturedMessages::print);
+    gme::Messages messages(folder.file("x.yaml"), printWith(CapturedMessages::print));
     std::string bytes;
 
     EXPECT_FALSE(gme::readBytes(folder.file("x.yaml"), bytes, messages));
