@@ -58,6 +58,7 @@ void ttbasic::clear()
     gotos.clear();
     definitions.clear();
     jumps.clear();
+    origins.clear();
     statement.clear();
     keyword = {};
     arguments = 0;
@@ -123,7 +124,9 @@ bool ttbasic::compileLine(char* line)
     if (*line == '\0') {
         return true;
     }
-    emitLine({"        # ", skipWhite(line)});
+    const char* const text = skipWhite(line);
+    origins.push_back({code.size(), {lineNumber, static_cast<int>(text - line) + 1, 0}});
+    emitLine({"        # ", text});
     return parseCommand(line) || error("syntax", wholeStatement(), "Syntax Error");
 }
 

@@ -30,11 +30,18 @@ std::string ttbasic::yaml(int productId, const std::string& productName)
 
 std::string ttbasic::yamlRegisters()
 {
-    std::string text = "init:";
+    const std::string values = initialValues();
+    return "init:" + (values.empty() ? "" : "  " + values) + "\r\n";
+}
+
+std::string ttbasic::initialValues()
+{
+    std::string text;
     for (const std::string& name : variables) {
-        text += "  " + name + " := " + (name == "$rnd" ? randomSummand() : "0");
+        text += (text.empty() ? "" : "  ") + name + " := ";
+        text += name == "$rnd" ? randomSummand() : "0";
     }
-    return text + "\r\n";
+    return text;
 }
 
 std::string ttbasic::yamlVoices() const

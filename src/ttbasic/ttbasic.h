@@ -66,6 +66,22 @@ public:
         Place place;
     };
 
+    // A command of the game description and the statement that it comes from (its beginning).
+    struct Command
+    {
+        std::string_view text;
+        Place place;
+    };
+
+    // What stands under one name in the game description: a sub's first commands, or a step of
+    // them.
+    struct Step
+    {
+        std::string_view name;
+        Place place;  // of a sub's name, or of the statement that made the step
+        std::vector<Command> commands;
+    };
+
     // An expression needs an operand that is not there.
     struct StackUnderflow : std::runtime_error
     {
@@ -86,6 +102,11 @@ public:
     // The game description up to (not including) the table of codes. Each call draws a random
     // number; the first one adds the welcome message to talkTexts.
     std::string yaml(int productId, const std::string& productName);
+    // The same piece by piece: what the registers are in the beginning ("$a := 0  $b := 0"),
+    // drawing a random number, and what "scripts:" holds, in its order, which points into the code.
+    // Commands in front of the first sub come first, without a name.
+    std::string initialValues();
+    std::vector<Step> steps() const;
     // The names of all subs, which are the areas that the script reacts to, in ascending order.
     std::vector<std::string> usedOidNames() const;
 
@@ -213,6 +234,13 @@ private:
     std::string yamlVoices() const;
     std::string yamlTalkTexts() const;
 
+    // Where the code of each statement begins, and the statement.
+    struct Origin
+    {
+        std::size_t offset;
+        Place place;
+    };
+    std::vector<Origin> origins;
     // The line being compiled, without its comment, and what of it is the keyword ("end if").
     std::string statement;
     Place keyword;
