@@ -1,19 +1,15 @@
+#include "oid/ProjectWriter.h"
+
 #include <cstdio>
 
 #include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
-#include "oid/OidProject.h"
 #include "oid/ShorthandLines.h"
 
 // Writes the format of docs/project-file.md. Names are written as they are, without any escape.
 namespace Oid {
 
 namespace {
-
-void write(FILE* file, const std::string& text)
-{
-    fwrite(text.data(), 1, text.size(), file);  // errors are seen when the file is committed
-}
 
 std::string productLine(const OidProject& project)
 {
@@ -43,8 +39,31 @@ std::string areaText(const POLY& area, int oid)
     return text + "END\r\n\r\n";
 }
 
-// Intended: "%%" becomes "%", as in a format string; any other "%" stays.
-std::string scriptText(const std::string& source)
+int oidOf(const OidProject& project, const std::string& name)
+{
+    const auto entry = project.oids.find(name);
+    return entry != project.oids.end() ? entry->second.oid : 0;
+}
+
+}  // namespace
+
+std::string textBeforeScript(const OidProject& project)
+{
+    std::string text = productLine(project);
+    for (const PICTURE& picture : project.pictures) {
+        text += pictureHead(picture);
+        for (const POLY& area : picture.polys) {
+            text += areaText(area, oidOf(project, area.name));
+        }
+        for (const std::string_view line : kShorthandLines) {
+            text += line;
+            text += "\r\n";
+        }
+    }
+    return text + "SCRIPT # -----------------------\r\n";
+}
+
+std::string scriptInFile(const std::string& source)
 {
     std::string text;
     text.reserve(source.size());
@@ -57,8 +76,6 @@ std::string scriptText(const std::string& source)
     return text;
 }
 
-}  // namespace
-
 bool OidProject::save(std::string path)
 {
     Platform::FileReplacement replacement(path);
@@ -66,17 +83,14 @@ bool OidProject::save(std::string path)
     if (file == nullptr) {
         return false;
     }
-    write(file, "\xEF\xBB\xBF" + productLine(*this));
     for (const PICTURE& picture : pictures) {
-        write(file, pictureHead(picture));
         for (const POLY& area : picture.polys) {
-            write(file, areaText(area, oids[area.name].oid));  // a name without entry gets OID 0
-        }
-        for (const std::string_view line : kShorthandLines) {
-            write(file, std::string(line) + "\r\n");
+            oids[area.name];  // a name without entry gets OID 0
         }
     }
-    write(file, "SCRIPT # -----------------------\r\n" + scriptText(compiler.source));
+    const std::string text =
+        "\xEF\xBB\xBF" + textBeforeScript(*this) + scriptInFile(compiler.source);
+    fwrite(text.data(), 1, text.size(), file);  // errors are seen when the file is committed
     if (!replacement.commit()) {
         return false;
     }
