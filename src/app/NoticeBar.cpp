@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QStyle>
 #include <QToolTip>
 
@@ -35,10 +36,12 @@ QPushButton* NoticeBar::addButton(const QString& name, const QString& buttonText
 {
     QPushButton* const button = new QPushButton(buttonText);
     button->setObjectName(name);
-    button->setShortcut(keys);
     button->setToolTip(toolTip + " (" + keys.toString(QKeySequence::NativeText) + ")");
     button->setPalette(QPalette());
     line->addWidget(button);
+    // A button's own shortcut presses it only after a while, when the next key has come already.
+    const QShortcut* const shortcut = new QShortcut(keys, button);
+    connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
     return button;
 }
 
@@ -49,4 +52,10 @@ void NoticeBar::tell(const QString& message)
     show();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+void NoticeBar::setVisible(bool visible)
+{
+    emit appears(visible);
+    QFrame::setVisible(visible);
 }

@@ -24,6 +24,12 @@ public:
     // Shows the bar with this text; screen readers say it.
     void tell(const QString& message);
 
+    void setVisible(bool visible) override;
+
+signals:
+    // Said before it happens, so that room can be made.
+    void appears(bool visible);
+
 private:
     QHBoxLayout* line;
     QLabel* text;

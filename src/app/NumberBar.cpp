@@ -6,14 +6,12 @@
 
 #include <QPushButton>
 
-static const QKeySequence kTakeKeys(Qt::ALT | Qt::Key_N);
-static const QKeySequence kKeepKeys(Qt::ALT | Qt::Key_K);
-
 NumberBar::NumberBar(QWidget* parent) : NoticeBar("numberBar", parent)
 {
-    take = addButton("btTakeNumber", QString(), tr("This book gets another number"), kTakeKeys);
-    QPushButton* const keep =
-        addButton("btKeepNumber", tr("Keep"), tr("Both books keep their number"), kKeepKeys);
+    take = addButton("btTakeNumber", QString(), tr("This book gets another number"),
+                     Qt::ALT | Qt::Key_N);
+    QPushButton* const keep = addButton("btKeepNumber", tr("Keep"),
+                                        tr("Both books keep their number"), Qt::ALT | Qt::Key_K);
     connect(take, &QPushButton::clicked, this, [this] {
         hide();
         emit numberTaken(freeNumber);
@@ -58,5 +56,4 @@ void NumberBar::offer(int next)
     freeNumber = next;
     take->setVisible(next > 0);
     take->setText(tr("Take number %1").arg(next));
-    take->setShortcut(kTakeKeys);  // the text before took it along
 }
