@@ -612,4 +612,50 @@
         <translation>Nummer %1 nehmen</translation>
     </message>
 </context>
+<context>
+    <name>Recovery</name>
+    <message>
+        <source>Unsaved work cannot be kept in %1. Save it soon.</source>
+        <translation>Ungespeicherte Arbeit kann in %1 nicht aufbewahrt werden. Bitte bald speichern.</translation>
+    </message>
+    <message>
+        <source>That work is not there any more, or another window has it.</source>
+        <translation>Diese Arbeit ist nicht mehr da, oder ein anderes Fenster hat sie.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryBar</name>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Brings the unsaved work into the window; the file stays as it is</source>
+        <translation>Holt die ungespeicherte Arbeit ins Fenster; die Datei bleibt, wie sie ist</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Vergessen</translation>
+    </message>
+    <message>
+        <source>Throws the unsaved work away</source>
+        <translation>Wirft die ungespeicherte Arbeit weg</translation>
+    </message>
+    <message>
+        <source>The copy of the unsaved work of %1 is damaged and cannot be restored. It stays here: %2</source>
+        <translation>Die Kopie der ungespeicherten Arbeit vom %1 ist beschädigt und kann nicht wiederhergestellt werden. Sie bleibt hier: %2</translation>
+    </message>
+    <message>
+        <source>There is work since %1 that was never saved.</source>
+        <translation>Es gibt Arbeit seit dem %1, die nie gespeichert wurde.</translation>
+    </message>
+    <message>
+        <source>There is unsaved work since %1 on a project that is not there any more: %2</source>
+        <translation>Es gibt ungespeicherte Arbeit seit dem %1 an einem Projekt, das nicht mehr da ist: %2</translation>
+    </message>
+    <message>
+        <source>There is unsaved work on this project since %1.</source>
+        <translation>An diesem Projekt gibt es ungespeicherte Arbeit seit dem %1.</translation>
+    </message>
+</context>
 </TS>

@@ -612,4 +612,50 @@
         <translation>Take number %1</translation>
     </message>
 </context>
+<context>
+    <name>Recovery</name>
+    <message>
+        <source>Unsaved work cannot be kept in %1. Save it soon.</source>
+        <translation>Unsaved work cannot be kept in %1. Save it soon.</translation>
+    </message>
+    <message>
+        <source>That work is not there any more, or another window has it.</source>
+        <translation>That work is not there any more, or another window has it.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryBar</name>
+    <message>
+        <source>Restore</source>
+        <translation>Restore</translation>
+    </message>
+    <message>
+        <source>Brings the unsaved work into the window; the file stays as it is</source>
+        <translation>Brings the unsaved work into the window; the file stays as it is</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Forget</translation>
+    </message>
+    <message>
+        <source>Throws the unsaved work away</source>
+        <translation>Throws the unsaved work away</translation>
+    </message>
+    <message>
+        <source>The copy of the unsaved work of %1 is damaged and cannot be restored. It stays here: %2</source>
+        <translation>The copy of the unsaved work of %1 is damaged and cannot be restored. It stays here: %2</translation>
+    </message>
+    <message>
+        <source>There is work since %1 that was never saved.</source>
+        <translation>There is work since %1 that was never saved.</translation>
+    </message>
+    <message>
+        <source>There is unsaved work since %1 on a project that is not there any more: %2</source>
+        <translation>There is unsaved work since %1 on a project that is not there any more: %2</translation>
+    </message>
+    <message>
+        <source>There is unsaved work on this project since %1.</source>
+        <translation>There is unsaved work on this project since %1.</translation>
+    </message>
+</context>
 </TS>

@@ -612,4 +612,50 @@
         <translation>Prendre le numéro %1</translation>
     </message>
 </context>
+<context>
+    <name>Recovery</name>
+    <message>
+        <source>Unsaved work cannot be kept in %1. Save it soon.</source>
+        <translation>Le travail non enregistré ne peut pas être conservé dans %1. Enregistrez-le bientôt.</translation>
+    </message>
+    <message>
+        <source>That work is not there any more, or another window has it.</source>
+        <translation>Ce travail n’est plus là, ou une autre fenêtre l’a pris.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryBar</name>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Brings the unsaved work into the window; the file stays as it is</source>
+        <translation>Ramène le travail non enregistré dans la fenêtre ; le fichier reste tel quel</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Oublier</translation>
+    </message>
+    <message>
+        <source>Throws the unsaved work away</source>
+        <translation>Jette le travail non enregistré</translation>
+    </message>
+    <message>
+        <source>The copy of the unsaved work of %1 is damaged and cannot be restored. It stays here: %2</source>
+        <translation>La copie du travail non enregistré du %1 est endommagée et ne peut pas être restaurée. Elle reste ici : %2</translation>
+    </message>
+    <message>
+        <source>There is work since %1 that was never saved.</source>
+        <translation>Il y a du travail depuis le %1 qui n’a jamais été enregistré.</translation>
+    </message>
+    <message>
+        <source>There is unsaved work since %1 on a project that is not there any more: %2</source>
+        <translation>Il y a du travail non enregistré depuis le %1 sur un projet qui n’est plus là : %2</translation>
+    </message>
+    <message>
+        <source>There is unsaved work on this project since %1.</source>
+        <translation>Il y a du travail non enregistré sur ce projet depuis le %1.</translation>
+    </message>
+</context>
 </TS>

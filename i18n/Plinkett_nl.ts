@@ -612,4 +612,50 @@
         <translation>Nummer %1 nemen</translation>
     </message>
 </context>
+<context>
+    <name>Recovery</name>
+    <message>
+        <source>Unsaved work cannot be kept in %1. Save it soon.</source>
+        <translation>Niet opgeslagen werk kan niet worden bewaard in %1. Sla het gauw op.</translation>
+    </message>
+    <message>
+        <source>That work is not there any more, or another window has it.</source>
+        <translation>Dat werk is er niet meer, of een ander venster heeft het.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryBar</name>
+    <message>
+        <source>Restore</source>
+        <translation>Herstellen</translation>
+    </message>
+    <message>
+        <source>Brings the unsaved work into the window; the file stays as it is</source>
+        <translation>Haalt het niet opgeslagen werk in het venster; het bestand blijft zoals het is</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Vergeten</translation>
+    </message>
+    <message>
+        <source>Throws the unsaved work away</source>
+        <translation>Gooit het niet opgeslagen werk weg</translation>
+    </message>
+    <message>
+        <source>The copy of the unsaved work of %1 is damaged and cannot be restored. It stays here: %2</source>
+        <translation>De kopie van het niet opgeslagen werk van %1 is beschadigd en kan niet worden hersteld. Ze blijft hier: %2</translation>
+    </message>
+    <message>
+        <source>There is work since %1 that was never saved.</source>
+        <translation>Er is werk sinds %1 dat nooit is opgeslagen.</translation>
+    </message>
+    <message>
+        <source>There is unsaved work since %1 on a project that is not there any more: %2</source>
+        <translation>Er is niet opgeslagen werk sinds %1 aan een project dat er niet meer is: %2</translation>
+    </message>
+    <message>
+        <source>There is unsaved work on this project since %1.</source>
+        <translation>Er is niet opgeslagen werk aan dit project sinds %1.</translation>
+    </message>
+</context>
 </TS>

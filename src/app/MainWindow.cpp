@@ -4,6 +4,7 @@
 #include "app/FileDialogs.h"
 #include "app/NumberBar.h"
 #include "app/ProductNameNote.h"
+#include "app/Recovery.h"
 #include "app/StorableName.h"
 #include "base/FileSystem.h"
 #include "oid/OpenProject.h"
@@ -25,6 +26,8 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <algorithm>
+
 MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWindow)
 {
     Q_INIT_RESOURCE(plinkett);  // the icons
@@ -44,6 +47,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     printIntoConsole();
     mi_printf = KVQtStdoutWidget::redirectPrintf;
     prepareTextEditor();
+    prepareRecovery();
 }
 
 MainWindow::~MainWindow()
@@ -107,8 +111,23 @@ void MainWindow::prepareNotices()
 {
     ui->horizontalLayout_3->setDirection(QBoxLayout::TopToBottom);
     numberBar = new NumberBar;
-    ui->horizontalLayout_3->insertWidget(0, numberBar);
+    addNotice(numberBar);
     connect(numberBar, &NumberBar::numberTaken, this, &MainWindow::takeNumber);
+}
+
+void MainWindow::addNotice(NoticeBar* bar)
+{
+    ui->horizontalLayout_3->insertWidget(0, bar);
+    connect(bar, &NoticeBar::appears, this, &MainWindow::makeRoomForNotice);
+}
+
+// A small screen has no room for a bar and the tabs as they should be. The tabs give way then.
+void MainWindow::makeRoomForNotice(bool visible)
+{
+    const QList<NoticeBar*> bars = findChildren<NoticeBar*>();
+    const auto stays = [this](NoticeBar* bar) { return bar != sender() && !bar->isHidden(); };
+    const bool any = visible || std::any_of(bars.begin(), bars.end(), stays);
+    ui->ribbonTab->setMinimumHeight(any ? ui->ribbonTab->minimumSizeHint().height() / 2 : 0);
 }
 
 void MainWindow::takeNumber(int number)
@@ -197,29 +216,46 @@ void MainWindow::on_action_Open_triggered()
 
 void MainWindow::openProject(const QString& path)
 {
-    ui->txConsole->clear();
-    ui->lbCreateResult->clear();
-    ui->lbBuildResult->clear();
-    printIntoConsole();
+    clearMessages();
+    recovery->leaving();
     // Creating print images, for one, goes to another folder.
     const std::string file = QFileInfo(path).absoluteFilePath().toStdString();
     const std::string before = project.projectPath;
     const bool opened = Oid::openProject(project, file);
 
+    showProject(opened);
+    if (project.projectPath != before) {
+        ui->codeEditor->forgetHistory();  // undo would lead back into the other book
+    }
+    noteFiles();
+    recovery->opened(file, opened);
+    const QString name = QFileInfo(path).fileName();
+    tell(opened ? tr("Opened: %1").arg(name) : tr("Not opened: %1").arg(name));
+}
+
+void MainWindow::clearMessages()
+{
+    ui->txConsole->clear();
+    ui->lbCreateResult->clear();
+    ui->lbBuildResult->clear();
+    printIntoConsole();
+}
+
+void MainWindow::showProject(bool opened)
+{
     ui->ribbonTab->setCurrentWidget(opened ? ui->tabProject : ui->tabBuild);
     // First the index: the form would show, and later write back, the sizes of another page.
     document.restart();
     showTopOfPicture();
     selectPolygon(-1);
     ProjectDataWasChanged(false);
-    if (project.projectPath != before) {
-        ui->codeEditor->forgetHistory();  // undo would lead back into the other book
-    }
     ui->polyArea->repaint();
+}
+
+void MainWindow::noteFiles()
+{
     numberBar->opened(project);
     companions.areBeside(project);
-    const QString name = QFileInfo(path).fileName();
-    tell(opened ? tr("Opened: %1").arg(name) : tr("Not opened: %1").arg(name));
 }
 
 void MainWindow::on_action_Save_As_triggered()
@@ -248,6 +284,7 @@ bool MainWindow::saveProject(const std::string& path)
     if (saved) {
         document.setClean();
         numberBar->saved(project);
+        recovery->saved(path);
         takeFilesAlong();
     }
     return saved;

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 #include <QMessageBox>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -15,10 +16,13 @@
 namespace Ui {
 class MainWindow;
 }
+class NoticeBar;
 class NumberBar;
 class PictureCopy;
 class QLabel;
 class QScrollArea;
+class Recovery;
+struct RecoveryHead;
 
 // The one window. It owns the one document, which all its controls edit; form and project are kept
 // in step by ProjectDataWasChanged alone, and what an edit changes is shown by showChange. The
@@ -34,6 +38,8 @@ public:
 
     // What the open command does once a file is chosen; a failed open shows the console.
     void openProject(const QString& path);
+    // For a window that begins without a project: offers work that has no file.
+    void offerUnsavedWork();
 
 private slots:
     // Their order, that of the meta-object, is part of the design, too.
@@ -94,10 +100,27 @@ private:
     void letProjectScroll();
     void takeDecimalCommas();
     void prepareNotices();
+    void addNotice(NoticeBar* bar);
+    void makeRoomForNotice(bool visible);
     void takeNumber(int number);
     // Points all messages of the project at the console.
     void printIntoConsole();
 
+    // MainWindowRecovery.cpp: unsaved work
+    void prepareRecovery();
+    // Another number once anything changed that saving would write.
+    std::uint64_t workFingerprint() const;
+    // What saving would write now, with all that stands in the form. Changes nothing.
+    Oid::OidProject projectToSave() const;
+    // Brings a copy of unsaved work into the window; false when it cannot be read.
+    bool restore(const QString& file, const RecoveryHead& head);
+
+    // Before another project comes: what was said of this one is said no more.
+    void clearMessages();
+    // Shows the project, which is another one now, from its beginning.
+    void showProject(bool opened);
+    // The project's number is that of its file, and its pictures are named by it.
+    void noteFiles();
     // Writes the project, into which the form has been carried, and all that goes with that.
     bool saveProject(const std::string& path);
 
@@ -112,7 +135,7 @@ private:
     void showPaper();
     // The paper of the current picture, of which there is one, as the fields have it; or the fields
     // get it.
-    edit::SetPaper syncPaper(bool fromFields);
+    edit::SetPaper syncPaper(bool fromFields) const;
 
     // Selects an area of the current picture, or none for an index that it does not have.
     void selectPolygon(int i);
@@ -171,4 +194,5 @@ private:
     QScrollArea* pictureScroll = nullptr;
     QScrollArea* projectScroll = nullptr;
     NumberBar* numberBar = nullptr;
+    std::unique_ptr<Recovery> recovery;  // ends first: it reads the form
 };

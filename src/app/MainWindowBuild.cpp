@@ -1,6 +1,7 @@
 // What comes out of the project: print images, the game file, and its way onto the pen.
 #include "app/MainWindow.h"
 
+#include "app/Recovery.h"
 #include "app/WorkProgress.h"
 #include "base/FileSystem.h"
 #include "oid/PrintImage.h"
@@ -75,6 +76,7 @@ void MainWindow::turnAreasForPrint()
 void MainWindow::on_btCreateImage_clicked()
 {
     ProjectDataWasChanged(true);
+    recovery->keep();
     mi_printf = ui->txConsole->printFunction();
     FileSystem::setCurrentDirectory(FileSystem::getDirectoryOfPath(project.projectPath));
     const QString warnings = tooFewDpi();
@@ -98,6 +100,7 @@ void MainWindow::on_btBuild_clicked()
     KVQtStdoutWidget& console = *ui->txConsole;
     console.clear();
     ProjectDataWasChanged(true);
+    recovery->keep();
     printIntoConsole();
     const bool debugMode = ui->chDebugMode->checkState() == Qt::Checked;
     BuildOptions options;

@@ -99,7 +99,7 @@ void MainWindow::showPaper()
     }
 }
 
-edit::SetPaper MainWindow::syncPaper(bool fromFields)
+edit::SetPaper MainWindow::syncPaper(bool fromFields) const
 {
     const Oid::PICTURE& picture = *ui->polyArea->picture();
     edit::SetPaper paper{document.currentPage(), picture.paperWidth, picture.paperHeight,

@@ -18,6 +18,8 @@ int main(int argc, char* argv[])
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() > 1) {
         window.openProject(arguments[1]);
+    } else {
+        window.offerUnsavedWork();
     }
     return QApplication::exec();
 }

@@ -36,6 +36,7 @@ DrivenProgram::DrivenProgram(const XDisplay& display, const QString& folder, QSi
     : environment(display.environment())
 {
     environment.insert("HOME", folder);
+    environment.remove("XDG_DATA_HOME");
     environment.insert("LANG", "C.UTF-8");
     environment.insert("LANGUAGE", "en");
     program.setProcessEnvironment(environment);
@@ -51,6 +52,11 @@ DrivenProgram::DrivenProgram(const XDisplay& display, const QString& folder, QSi
 }
 
 DrivenProgram::~DrivenProgram()
+{
+    kill();
+}
+
+void DrivenProgram::kill()
 {
     program.kill();
     program.waitForFinished();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/MainWindow.h"
+#include "tests/helpers/OwnDataFolder.h"
 #include "tests/helpers/XDisplay.h"
 
 #include <QImage>
@@ -31,6 +32,8 @@ public:
     void chooseFile(const QString& title, const QString& path);
     // Closes the window as the window manager does; the program must end well.
     void quit();
+    // Ends it as a crash would, without a chance to do anything.
+    void kill();
 
     // Where a control lies in the window.
     QRect placeOf(const QString& control) const;
@@ -47,6 +50,7 @@ private:
     QProcessEnvironment environment;
     QProcess program;
     QString window;  // as the X server numbers it
+    OwnDataFolder dataOfTwin;
     MainWindow twin;
 };
 

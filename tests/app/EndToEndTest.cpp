@@ -1,9 +1,9 @@
 // An author's first evening: from an empty window to a book that can be printed and played.
 #include "tests/app/DrivenProgram.h"
+#include "tests/app/OwnScreen.h"
 #include "tests/helpers/RunProgram.h"
 #include "tests/helpers/TemporaryFolder.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QtTest>
 
@@ -290,49 +290,11 @@ private:
     std::vector<QImage> opened;
 };
 
-// A window that appears while the window manager is starting may never be shown.
-static void waitForWindowManager(const XDisplay& display)
-{
-    waitUntil(
-        [&] {
-            QProcess question;
-            question.setProcessEnvironment(display.environment());
-            question.start("xdotool", {"get_desktop"});
-            return question.waitForFinished() && question.exitCode() == 0;
-        },
-        "the window manager");
-}
-
-static int runOnItsScreen(int argc, char* argv[])
-{
-    const XDisplay display("1280x1024");
-    QProcess windowManager;
-    windowManager.setProcessEnvironment(display.environment());
-    windowManager.start("openbox", QStringList());
-    waitForWindowManager(display);
-    // The test itself lives on that screen too: there its layouts are the program's.
-    qputenv("DISPLAY", display.name().toLatin1());
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    qputenv("QT_XCB_GL_INTEGRATION", "none");  // nothing here uses it, and Mesa leaks
-    int failures = 1;
-    {
-        QApplication application(argc, argv);
-        EndToEndTest test(display);
-        failures = QTest::qExec(&test, argc, argv);
-    }
-    windowManager.terminate();
-    windowManager.waitForFinished();
-    return failures;
-}
-
 int main(int argc, char* argv[])
 {
-    try {
-        return runOnItsScreen(argc, argv);
-    } catch (const std::exception& failure) {  // caught, so that screen and window manager end
-        qCritical("%s", failure.what());
-        return 1;
-    }
+    return runOnItsScreen(argc, argv, [](const XDisplay& display) {
+        return std::make_unique<EndToEndTest>(display);
+    });
 }
 
 #include "EndToEndTest.moc"

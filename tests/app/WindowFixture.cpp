@@ -9,6 +9,9 @@
 #include <QStatusBar>
 #include <QTabWidget>
 
+// For windows that a test makes without a fixture.
+static const OwnDataFolder dataOfThisProgram;
+
 WindowFixture::WindowFixture()
 {
     window.show();

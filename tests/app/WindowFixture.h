@@ -5,7 +5,7 @@
 #include "editor/widget/KVQtHighlightEditCtrl.h"
 #include "tests/app/DialogAnswers.h"
 #include "tests/app/PaintCounter.h"
-#include "tests/helpers/TemporaryFolder.h"
+#include "tests/helpers/OwnDataFolder.h"
 
 #include <QImage>
 #include <QTest>
@@ -48,6 +48,7 @@ public:
     QString status();  // what the status bar says
     QString text(const char* label);
 
+    OwnDataFolder userData;  // what the window keeps for the user
     TemporaryFolder folder;
     DialogAnswers dialogs;
     MainWindow window;
