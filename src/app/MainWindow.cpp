@@ -41,6 +41,12 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     new ProductNameNote(ui->txProjectName, ui->lbProjectNameProblems);
     ui->polyArea->setDocument(&document);
     prepareHistory();
+    const auto typed = [this] {
+        document.typeProduct(ui->txProjectName->text().toStdString(), ui->txProjectId->value());
+    };
+    connect(ui->txProjectName, &QLineEdit::textChanged, &document, typed);
+    connect(ui->txProjectId, qOverload<int>(&QSpinBox::valueChanged), &document, typed);
+    typed();
     connect(ui->btSizeForAll, &QPushButton::clicked, this, &MainWindow::giveSizeToAllPictures);
     connect(ui->polyArea, &PolyEditorWidget::clickedLB, this, &MainWindow::onPolyAreaClickedLB);
     setDefaultPrintf(KVQtStdoutWidget::redirectPrintf);

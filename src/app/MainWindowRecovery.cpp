@@ -2,10 +2,10 @@
 #include "app/MainWindow.h"
 
 #include "app/Recovery.h"
-#include "document/Fingerprint.h"
-#include "oid/OidTable.h"
 #include "oid/OpenProject.h"
 #include "ui_MainWindow.h"
+
+#include <functional>
 
 void MainWindow::prepareRecovery()
 {
@@ -22,32 +22,15 @@ void MainWindow::prepareRecovery()
 
 std::uint64_t MainWindow::workFingerprint() const
 {
-    Fingerprint fingerprint;
-    fingerprint.add(project);
-    for (const QString& text :
-         {ui->txProjectName->text(), ui->txProjectId->text(), ui->txProjPaperWidth->text(),
-          ui->txProjPaperHeight->text(), ui->txProjDPI->text(), ui->codeEditor->text()}) {
-        fingerprint.add(text);
-    }
-    return fingerprint.value();
+    const std::u16string script = ui->codeEditor->text().toStdU16String();
+    constexpr std::uint64_t kSpreading = 0x9E3779B97F4A7C15;  // odd, its bits as if by chance
+    return std::hash<std::u16string>()(script) ^ document.revision() * kSpreading;
 }
 
 Oid::OidProject MainWindow::projectToSave() const
 {
-    Oid::OidProject saved;
-    saved.productName = ui->txProjectName->text().toStdString();
-    saved.productId = ui->txProjectId->value();
-    saved.pictures = project.pictures;
-    saved.oids = project.oids;
-    if (ui->polyArea->picture() != nullptr) {
-        const edit::SetPaper paper = syncPaper(true);
-        Oid::PICTURE& picture = saved.pictures[static_cast<size_t>(paper.page)];
-        picture.paperWidth = paper.width;
-        picture.paperHeight = paper.height;
-        picture.dpi = paper.dpi;
-    }
+    Oid::OidProject saved = document.projectToSave();
     saved.compiler.source = ui->codeEditor->text().toStdString();
-    Oid::numberAllAreas(saved);
     return saved;
 }
 

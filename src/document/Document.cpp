@@ -1,7 +1,11 @@
 #include "document/Document.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
+
+#include "base/PrintNothing.h"
+#include "oid/OidTable.h"
 
 // The history: which step is being made, going back and forth, and what is told of it. How each
 // edit is carried out stands in DocumentEdits.cpp.
@@ -14,6 +18,7 @@ Document::Document(QObject* parent)
       history([this](const Step& step, bool forward) { forgetStep(step, forward); }),
       naming(record)
 {
+    typeProduct(record.productName, record.productId);
     setClean();
 }
 
@@ -26,6 +31,7 @@ void Document::restart()
     contents.restart();
     selection.page = 0;  // Intended: the index of the area stays, as it does on another page.
     state = ++states;
+    typeProduct(record.productName, record.productId);
     setClean();
     note(Change::everything, -1);
     tell();
@@ -239,8 +245,33 @@ bool Document::isClean() const
            record.productId == cleanProductId;
 }
 
+void Document::typeProduct(const std::string& name, int id)
+{
+    typedName = name;
+    typedId = id;
+}
+
+std::uint64_t Document::revision() const
+{
+    const std::string product = std::to_string(state) + ' ' + std::to_string(typedId) + typedName;
+    return std::hash<std::string>()(product);
+}
+
+Oid::OidProject Document::projectToSave() const
+{
+    Oid::OidProject saved;
+    saved.print = printNothing;
+    saved.productName = typedName;
+    saved.productId = typedId;
+    saved.pictures = record.pictures;
+    saved.oids = record.oids;
+    Oid::numberAllAreas(saved);
+    return saved;
+}
+
 void Document::setProduct(const std::string& name, int id)
 {
+    typeProduct(name, id);
     if (name == record.productName && id == record.productId) {
         return;
     }

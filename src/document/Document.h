@@ -65,6 +65,13 @@ public:
     bool isClean() const;
 
     void setProduct(const std::string& name, int id);
+    // What stands in the form and will be the product with the next setProduct.
+    void typeProduct(const std::string& name, int id);
+
+    // Another number once anything changed that saving would write, the script excepted.
+    std::uint64_t revision() const;
+    // What saving would write now, the typed product included, the script excepted. Prints nothing.
+    Oid::OidProject projectToSave() const;
 
     int currentPage() const { return selection.page; }
     // May be beyond the areas of the page; then no area is selected.
@@ -140,6 +147,8 @@ private:
     std::uint64_t states = 0;  // that the project has been in
     std::uint64_t state = 0;
     std::uint64_t cleanState = 0;
+    std::string typedName;
+    int typedId = 0;
     std::string cleanProductName;
     int cleanProductId = 0;
     Change news;  // since the last signal

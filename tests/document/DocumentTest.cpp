@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace {
 
 Oid::POLY area(const std::string& name, std::vector<Oid::PNT> corners = {{1, 1}, {5, 1}, {5, 5}})
@@ -379,6 +381,43 @@ TEST_F(DocumentTest, TheProductIsPartOfTheFile)
     EXPECT_FALSE(document.isClean());
     document.setProduct("my project", 900);
     EXPECT_TRUE(document.isClean());
+}
+
+TEST_F(DocumentTest, EveryChangeIsAnotherRevisionAndUndoGoesBackToTheOneBefore)
+{
+    std::set<std::uint64_t> revisions{document.revision()};
+    const AreaId cow = add("cow");
+    revisions.insert(document.revision());
+    document.apply(edit::MoveAreas{{cow}, {1, 1}});
+    revisions.insert(document.revision());
+    document.orientAreas(0);
+    document.typeProduct("Zo", 900);
+    revisions.insert(document.revision());
+    document.setProduct("Zoo", 901);
+    revisions.insert(document.revision());
+    EXPECT_EQ(revisions.size(), 5U);
+    document.undo();
+    document.undo();
+    document.setProduct("my project", 900);
+    EXPECT_EQ(revisions.count(document.revision()), 1U);
+    const std::uint64_t revision = document.revision();
+    document.select(0, 0);
+    document.setClean();
+    EXPECT_EQ(document.revision(), revision);
+}
+
+TEST_F(DocumentTest, WhatWouldBeSavedHasTheTypedProductAndNumbersForAllAreas)
+{
+    const AreaId cow = add("cow");
+    document.apply(edit::SetNumber{cow, 0});
+    document.typeProduct("Zoo", 901);
+    const Oid::OidProject saved = document.projectToSave();
+    EXPECT_EQ(saved.productName, "Zoo");
+    EXPECT_EQ(saved.productId, 901);
+    EXPECT_EQ(saved.pictures[0].polys[0].name, "cow");
+    EXPECT_EQ(saved.oids.at("cow").oid, 1001);
+    EXPECT_EQ(document.project().productId, 900);
+    EXPECT_EQ(oid("cow"), 0);
 }
 
 TEST_F(DocumentTest, UndoAndRedoLeadToWhatWasChosenThen)

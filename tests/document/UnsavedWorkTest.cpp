@@ -5,11 +5,11 @@
 #include <QDir>
 #include <QThread>
 
-#include "document/Fingerprint.h"
 #include "oid/OpenProject.h"
 #include "tests/helpers/OwnDataFolder.h"
 
 #include <filesystem>
+#include <functional>
 
 namespace {
 
@@ -17,11 +17,7 @@ namespace {
 struct Desk
 {
     std::string script;
-    UnsavedWork work{{[this] {
-                          Fingerprint fingerprint;
-                          fingerprint.add(QString::fromStdString(script));
-                          return fingerprint.value();
-                      },
+    UnsavedWork work{{[this] { return std::hash<std::string>()(script); },
                       [this] {
                           Oid::OidProject project;
                           project.compiler.source = script;
