@@ -6,16 +6,13 @@
 
 namespace KVTextEditor {
 
-template <class CELL>
-Buffer<CELL>::Buffer() : lines(1)
-{}
+TextBuffer::TextBuffer() : lines(1) {}
 
-template <class CELL>
-Line<CELL>& Buffer<CELL>::line(int i)
+TextLine& TextBuffer::line(int i)
 {
     if (i < 0) {
-        static thread_local Line<CELL> nowhere;
-        nowhere = Line<CELL>();
+        static thread_local TextLine nowhere;
+        nowhere = TextLine();
         return nowhere;
     }
     if (i >= line_count()) {
@@ -25,25 +22,22 @@ Line<CELL>& Buffer<CELL>::line(int i)
     return lines[i];
 }
 
-template <class CELL>
-const Line<CELL>& Buffer<CELL>::line(int i) const
+const TextLine& TextBuffer::line(int i) const
 {
-    static const Line<CELL> outside;
+    static const TextLine outside;
     return i >= 0 && i < line_count() ? lines[i] : outside;
 }
 
-template <class CELL>
-int Buffer<CELL>::width() const
+int TextBuffer::width() const
 {
     int widest = 0;
-    for (const Line<CELL>& line : lines) {
+    for (const TextLine& line : lines) {
         widest = std::max(widest, line.length());
     }
     return widest;
 }
 
-template <class CELL>
-void Buffer<CELL>::erase_lines(int first, int n)
+void TextBuffer::erase_lines(int first, int n)
 {
     if (first < 0 || first >= line_count() || n == 0) {
         return;
@@ -54,8 +48,7 @@ void Buffer<CELL>::erase_lines(int first, int n)
     touched.linesErased(first, erased);
 }
 
-template <class CELL>
-void Buffer<CELL>::insert_rows(int at, int n)
+void TextBuffer::insert_rows(int at, int n)
 {
     if (at < 0 || n <= 0) {
         return;
@@ -64,12 +57,11 @@ void Buffer<CELL>::insert_rows(int at, int n)
         lines.resize(static_cast<std::size_t>(at) + n);
         return;
     }
-    lines.insert(lines.begin() + at, n, Line<CELL>());
+    lines.insert(lines.begin() + at, n, TextLine());
     touched.linesInserted(at, n);
 }
 
-template <class CELL>
-int Buffer<CELL>::block_height() const
+int TextBuffer::block_height() const
 {
     int height = line_count();
     while (height > 1 && line(height - 1).length() == 0) {
@@ -78,44 +70,40 @@ int Buffer<CELL>::block_height() const
     return std::max(height, 1);
 }
 
-template <class CELL>
-void Buffer<CELL>::insert_block(const Buffer& block, int row, int col)
+void TextBuffer::insert_block(const TextBuffer& block, int row, int col)
 {
     const int height = block.block_height();
     const int columns = block.width();
-    const std::vector<CELL> blanks(columns, CELL{u' ', kPlainRole});
+    const std::vector<EdChar> blanks(columns, EdChar{u' ', kPlainRole});
     for (int i = 0; i < height; ++i) {
         const int target = saturating_add(row, i);
         const bool belowText = target >= line_count();
         if (target < 0 || col < 0 || (belowText && columns == 0)) {
             continue;
         }
-        const Line<CELL>& source = block.line(i);
+        const TextLine& source = block.line(i);
         line(target).insert(col, blanks.data(), columns);
         line(target).overwrite(col, source.begin(), source.length());
     }
 }
 
-template <class CELL>
-void Buffer<CELL>::tabs_insert(int width)
+void TextBuffer::tabs_insert(int width)
 {
-    for (Line<CELL>& line : lines) {
+    for (TextLine& line : lines) {
         line.tabs_insert(width);
     }
     touched.include(0, line_count());
 }
 
-template <class CELL>
-void Buffer<CELL>::tabs_remove()
+void TextBuffer::tabs_remove()
 {
-    for (Line<CELL>& line : lines) {
+    for (TextLine& line : lines) {
         line.tabs_remove();
     }
     touched.include(0, line_count());
 }
 
-template <class CELL>
-bool Buffer<CELL>::has_changed_line()
+bool TextBuffer::has_changed_line()
 {
     for (int i = touched.first(); i < touched.end(); ++i) {
         if (lines[i].changed) {
@@ -127,8 +115,7 @@ bool Buffer<CELL>::has_changed_line()
     return false;
 }
 
-template <class CELL>
-std::vector<int> Buffer<CELL>::changed_lines(int first, int last) const
+std::vector<int> TextBuffer::changed_lines(int first, int last) const
 {
     std::vector<int> found;
     const int end = std::min(saturating_add(last, 1), touched.end());
@@ -140,12 +127,9 @@ std::vector<int> Buffer<CELL>::changed_lines(int first, int last) const
     return found;
 }
 
-template <class CELL>
-void Buffer<CELL>::forget_changes(int first, int last)
+void TextBuffer::forget_changes(int first, int last)
 {
     touched.exclude(first, saturating_add(last, 1));
 }
-
-template class Buffer<EdChar>;
 
 }  // namespace KVTextEditor

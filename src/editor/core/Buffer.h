@@ -9,22 +9,21 @@
 namespace KVTextEditor {
 
 // The text: its lines in order, without their separators. A new buffer holds one empty line.
-template <class CELL>
-class Buffer
+class TextBuffer
 {
 public:
-    Buffer();
+    TextBuffer();
 
     // Lines
     int line_count() const { return static_cast<int>(lines.size()); }
     // The line to write to; the buffer grows until it has it. Use the reference at once: the buffer
     // looks for changed lines among those that were asked for since they were last coloured. A
     // negative index gives a line that belongs to no text.
-    Line<CELL>& line(int i);
-    Line<CELL>& operator[](int i) { return line(i); }
+    TextLine& line(int i);
+    TextLine& operator[](int i) { return line(i); }
     // The line to read, or a shared empty line outside the text.
-    const Line<CELL>& line(int i) const;
-    const Line<CELL>& operator[](int i) const { return line(i); }
+    const TextLine& line(int i) const;
+    const TextLine& operator[](int i) const { return line(i); }
     int width() const;  // length of the longest line
 
     // n < 0: all lines from first on.
@@ -32,7 +31,7 @@ public:
     // Inside the text n empty lines before line at; below it the text grows to at + n lines.
     void insert_rows(int at, int n);
     // Inserts the block as a rectangle with its top left cell at (row, col).
-    void insert_block(const Buffer& block, int row, int col);
+    void insert_block(const TextBuffer& block, int row, int col);
     // The number of lines that insert_block inserts: trailing empty lines do not count, but at
     // least 1.
     int block_height() const;
@@ -54,13 +53,15 @@ public:
     void forget_changes(int first, int last);
     // The line at an index inside the text, without growing or remembering anything; different
     // lines may be coloured by different threads.
-    Line<CELL>& line_to_colour(int i) { return lines[i]; }
+    TextLine& line_to_colour(int i) { return lines[i]; }
 
 private:
-    std::vector<Line<CELL>> lines;
+    std::vector<TextLine> lines;
     LineRange touched;  // outside it no line is changed
 };
 
-extern template class Buffer<EdChar>;
+// The name by which callers know it: Buffer<EdChar>.
+template <class CELL>
+using Buffer = OfCells<CELL, TextBuffer>;
 
 }  // namespace KVTextEditor

@@ -37,8 +37,7 @@ char16_t* copyCharacters(char16_t* out, ITERATOR first, ITERATOR end, CHARACTER 
 
 // Puts a text into a line of an earlier content. The line keeps its storage when that fits, which
 // makes undo cheap: most lines are as long as before.
-template <class CELL>
-void refill(Line<CELL>& line, const char16_t* text, int n)
+void refill(TextLine& line, const char16_t* text, int n)
 {
     constexpr int kSpareCells = 4;
     if (line.capacity() < n || line.capacity() > n + kSpareCells) {
@@ -50,8 +49,7 @@ void refill(Line<CELL>& line, const char16_t* text, int n)
 
 }  // namespace
 
-template <class CELL>
-void Buffer<CELL>::set_text(const char16_t* text)
+void TextBuffer::set_text(const char16_t* text)
 {
     int count = 0;
     while (text != nullptr) {
@@ -67,43 +65,35 @@ void Buffer<CELL>::set_text(const char16_t* text)
     touched.include(0, count);
 }
 
-template <class CELL>
-void Buffer<CELL>::set_text(const std::u16string& text)
+void TextBuffer::set_text(const std::u16string& text)
 {
     set_text(text.c_str());
 }
 
-template <class CELL>
-std::u16string Buffer<CELL>::get_all_text(const std::u16string& separator) const
+std::u16string TextBuffer::get_all_text(const std::u16string& separator) const
 {
     std::u16string text;
     get_all_text(separator, text);
     return text;
 }
 
-template <class CELL>
-void Buffer<CELL>::get_all_text(const std::u16string& separator, std::u16string& text) const
+void TextBuffer::get_all_text(const std::u16string& separator, std::u16string& text) const
 {
     std::size_t size = lines.empty() ? 0 : (lines.size() - 1) * separator.size();
-    for (const Line<CELL>& line : lines) {
+    for (const TextLine& line : lines) {
         size += line.length();
     }
     text.resize(size);
     char16_t* out = text.data();
-    for (const Line<CELL>& line : lines) {
+    for (const TextLine& line : lines) {
         if (&line != &lines.front()) {
             out = copyCharacters(out, separator.begin(), separator.end(),
                                  [](char16_t c) { return c; });
         }
-        out =
-            copyCharacters(out, line.begin(), line.end(), [](const CELL& cell) { return cell.ch; });
+        out = copyCharacters(out, line.begin(), line.end(),
+                             [](const EdChar& cell) { return cell.ch; });
     }
     text.resize(out - text.data());
 }
-
-template void Buffer<EdChar>::set_text(const char16_t*);
-template void Buffer<EdChar>::set_text(const std::u16string&);
-template std::u16string Buffer<EdChar>::get_all_text(const std::u16string&) const;
-template void Buffer<EdChar>::get_all_text(const std::u16string&, std::u16string&) const;
 
 }  // namespace KVTextEditor

@@ -6,11 +6,29 @@
 
 namespace KVTextEditor {
 
-template <class CELL>
-CARET EditorBackend<CELL>::snap_to_position(CARET caret) const
+TextLine& TextEditor::current_line()
+{
+    return buffer->line(selection.end.line);
+}
+
+// The nearest line of the text.
+int TextEditor::line_in_text(int line) const
+{
+    return std::max(std::min(line, buffer->line_count() - 1), 0);
+}
+
+// The caret clamped to the text or the line below it, and to the end of its line.
+CARET TextEditor::clamp_to_text(CARET caret) const
+{
+    caret.line = std::max(std::min(caret.line, buffer->line_count()), 0);
+    caret.column = std::max(std::min(caret.column, text().line(caret.line).length()), 0);
+    return caret;
+}
+
+CARET TextEditor::snap_to_position(CARET caret) const
 {
     caret.line = line_in_text(caret.line);
-    const LINE& line = text().line(caret.line);
+    const TextLine& line = text().line(caret.line);
     caret.column = std::min(std::max(caret.column, 0), line.length());
     if (caret.column >= 1 && line.is_filler_at(caret.column)) {
         const std::int64_t width = tab_stop();
@@ -19,8 +37,7 @@ CARET EditorBackend<CELL>::snap_to_position(CARET caret) const
     return caret;
 }
 
-template <class CELL>
-void EditorBackend<CELL>::move_cursor(int dy, int dx)
+void TextEditor::move_cursor(int dy, int dx)
 {
     if (dy == 0 && dx == 0) {
         return;
@@ -44,15 +61,14 @@ void EditorBackend<CELL>::move_cursor(int dy, int dx)
     }
 }
 
-template <class CELL>
-void EditorBackend<CELL>::move_left(int dx)
+void TextEditor::move_left(int dx)
 {
     CARET& caret = selection.end;
     if (caret.column == 0) {
         move_to_previous_line();
         return;
     }
-    const LINE& line = text().line(caret.line);
+    const TextLine& line = text().line(caret.line);
     if (!line.is_filler_at(caret.column - 1)) {
         caret = snap_to_position(caret + CARET{0, dx});
         return;
@@ -62,8 +78,7 @@ void EditorBackend<CELL>::move_left(int dx)
     } while (caret.column > 0 && line.is_filler_at(caret.column));
 }
 
-template <class CELL>
-void EditorBackend<CELL>::move_to_previous_line()
+void TextEditor::move_to_previous_line()
 {
     CARET& caret = selection.end;
     if (selection.block) {
@@ -75,11 +90,10 @@ void EditorBackend<CELL>::move_to_previous_line()
     }
 }
 
-template <class CELL>
-void EditorBackend<CELL>::move_right(int dx)
+void TextEditor::move_right(int dx)
 {
     CARET& caret = selection.end;
-    const LINE& line = text().line(caret.line);
+    const TextLine& line = text().line(caret.line);
     if (caret.column >= line.length()) {
         if (caret.line < buffer->line_count() - 1) {
             caret = snap_to_position({caret.line + 1, 0});
@@ -95,10 +109,26 @@ void EditorBackend<CELL>::move_right(int dx)
     } while (line.is_filler_at(caret.column));
 }
 
-template CARET EditorBackend<EdChar>::snap_to_position(CARET) const;
-template void EditorBackend<EdChar>::move_cursor(int, int);
-template void EditorBackend<EdChar>::move_left(int);
-template void EditorBackend<EdChar>::move_to_previous_line();
-template void EditorBackend<EdChar>::move_right(int);
+CARET TextEditor::start_of_word(CARET caret) const
+{
+    caret = clamp_to_text(caret);
+    const TextLine& line = text().line(caret.line);
+    const BLOCKTYPE type = line.get_blocktype_at(caret.column);
+    while (caret.column > 0 && line.get_blocktype_at(caret.column - 1) == type) {
+        --caret.column;
+    }
+    return caret;
+}
+
+CARET TextEditor::end_of_word(CARET caret) const
+{
+    caret = clamp_to_text(caret);
+    const TextLine& line = text().line(caret.line);
+    const BLOCKTYPE type = line.get_blocktype_at(caret.column);
+    while (caret.column < line.length() && line.get_blocktype_at(caret.column) == type) {
+        ++caret.column;
+    }
+    return caret;
+}
 
 }  // namespace KVTextEditor

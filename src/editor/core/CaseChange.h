@@ -2,7 +2,7 @@
 
 namespace KVTextEditor {
 
-// Changes the case of one character; for Line::transform and EditorBackend::transform.
+// Changes the case of one character; for TextLine::transform and TextEditor::transform.
 using CHARACTER_FUNCTION = char16_t (*)(char16_t);
 
 // The simple case mapping of Unicode, the same in every locale. What has none stays: surrogate

@@ -6,8 +6,8 @@ namespace {
 
 constexpr std::size_t kCodeUnits = 65536;
 
-void enterKeywords(EditorBackend<EdChar>::KEYWORD_TABLE& table,
-                   const std::set<std::u16string>& keywords, COLORINDEX role)
+void enterKeywords(TextEditor::KEYWORD_TABLE& table, const std::set<std::u16string>& keywords,
+                   COLORINDEX role)
 {
     for (const std::u16string& keyword : keywords) {
         if (!keyword.empty()) {
@@ -27,8 +27,7 @@ std::set<std::u16string> wide(const std::vector<std::string>& words)
 
 }  // namespace
 
-template <class CELL>
-void EditorBackend<CELL>::keywords_update_hashtable(bool clear)
+void TextEditor::keywords_update_hashtable(bool clear)
 {
     keyword_table.resize(kCodeUnits);
     if (clear) {
@@ -40,8 +39,7 @@ void EditorBackend<CELL>::keywords_update_hashtable(bool clear)
     enterKeywords(keyword_table, keywords_class2, kSecondKeywordRole);
 }
 
-template <class CELL>
-void EditorBackend<CELL>::init_keywords_cpp()
+void TextEditor::init_keywords_cpp()
 {
     keywords_class1 = {u"#include", u"#if",      u"#ifdef", u"#else",  u"#elif",  u"#endif",
                        u"defined",  u"for",      u"while",  u"do",     u"if",     u"goto",
@@ -53,14 +51,14 @@ void EditorBackend<CELL>::init_keywords_cpp()
     keywords_update_hashtable(true);
 }
 
-void set_new_editor_rules(EditorBackend<EdChar>& editor)
+void set_new_editor_rules(TextEditor& editor)
 {
     editor.init_keywords_cpp();
     editor.keywords_class2 = {u"foo", u"bar"};
     editor.keywords_update_hashtable(false);
 }
 
-void set_script_rules(EditorBackend<EdChar>& editor, const std::vector<std::string>& keywords,
+void set_script_rules(TextEditor& editor, const std::vector<std::string>& keywords,
                       const std::vector<std::string>& options)
 {
     editor.line_comments = {u"'", u"#"};
@@ -68,8 +66,5 @@ void set_script_rules(EditorBackend<EdChar>& editor, const std::vector<std::stri
     editor.keywords_class2 = wide(options);
     editor.keywords_update_hashtable(false);
 }
-
-template void EditorBackend<EdChar>::keywords_update_hashtable(bool);
-template void EditorBackend<EdChar>::init_keywords_cpp();
 
 }  // namespace KVTextEditor

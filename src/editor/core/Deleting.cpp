@@ -4,8 +4,7 @@
 
 namespace KVTextEditor {
 
-template <class CELL>
-void EditorBackend<CELL>::key_delete()
+void TextEditor::key_delete()
 {
     dirty = true;
     selection.normalize();
@@ -25,21 +24,20 @@ void EditorBackend<CELL>::key_delete()
         join_with_next_line(caret.line);
         return;
     }
-    LINE& line = buffer->line(caret.line);
+    TextLine& line = buffer->line(caret.line);
     line.erase(caret.column, 1);
     line.tabs_insert(tab_width);
 }
 
 // Intended: the lower line loses its indentation, and what is left of it goes to the end of the
 // upper line, not to the caret.
-template <class CELL>
-void EditorBackend<CELL>::join_with_next_line(int index)
+void TextEditor::join_with_next_line(int index)
 {
     if (index >= buffer->line_count() - 1) {
         return;
     }
-    LINE& next = buffer->line(index + 1);
-    LINE& line = buffer->line(index);
+    TextLine& next = buffer->line(index + 1);
+    TextLine& line = buffer->line(index);
     next.erase(0, next.indentation());
     line.append(next);
     line.bookmark = line.bookmark || next.bookmark;
@@ -47,13 +45,12 @@ void EditorBackend<CELL>::join_with_next_line(int index)
     buffer->erase_lines(index + 1, 1);
 }
 
-template <class CELL>
-void EditorBackend<CELL>::delete_in_zero_width_block()
+void TextEditor::delete_in_zero_width_block()
 {
     bool erased = false;
     const int last = std::min(selection.end.line, buffer->line_count() - 1);
     for (int i = std::max(selection.start.line, 0); i <= last; ++i) {
-        LINE& line = buffer->line(i);
+        TextLine& line = buffer->line(i);
         if (line.erase(selection.start.column, 1)) {
             line.tabs_insert(tab_width);
             erased = true;
@@ -65,8 +62,7 @@ void EditorBackend<CELL>::delete_in_zero_width_block()
     }
 }
 
-template <class CELL>
-void EditorBackend<CELL>::delete_selected_range()
+void TextEditor::delete_selected_range()
 {
     selection.normalize();
     if (!selection.has_range()) {
@@ -83,13 +79,12 @@ void EditorBackend<CELL>::delete_selected_range()
 }
 
 // The selection stays a zero-width block, so that typing goes on in all of its lines.
-template <class CELL>
-void EditorBackend<CELL>::delete_block()
+void TextEditor::delete_block()
 {
     bool erased = false;
     const int last = std::min(selection.end.line, buffer->line_count() - 1);
     for (int i = std::max(selection.start.line, 0); i <= last; ++i) {
-        LINE& line = buffer->line(i);
+        TextLine& line = buffer->line(i);
         erased = line.erase(selection.start.column, selection.width()) || erased;
         if (erased) {
             line.tabs_insert(tab_width);
@@ -103,8 +98,7 @@ void EditorBackend<CELL>::delete_block()
     }
 }
 
-template <class CELL>
-void EditorBackend<CELL>::delete_stream()
+void TextEditor::delete_stream()
 {
     const CARET from = selection.start.line < 0 ? CARET{0, 0} : selection.start;
     const CARET to = selection.end;
@@ -112,9 +106,9 @@ void EditorBackend<CELL>::delete_stream()
     if (!is_line_of_text(from.line) || to.line < 0) {
         return;
     }
-    LINE rest = text().line(to.line);
+    TextLine rest = text().line(to.line);
     rest.erase(0, std::max(to.column, 0));
-    LINE& line = buffer->line(from.line);
+    TextLine& line = buffer->line(from.line);
     line.erase(from.column, -1);
     line.append(rest);
     line.tabs_insert(tab_width);
@@ -122,21 +116,12 @@ void EditorBackend<CELL>::delete_stream()
 }
 
 // Intended: tabs are not expanded again here, so fillers may stay behind until the line changes.
-template <class CELL>
-void EditorBackend<CELL>::delete_within_line()
+void TextEditor::delete_within_line()
 {
     if (is_line_of_text(selection.start.line)) {
         buffer->line(selection.start.line).erase(selection.start.column, selection.width());
     }
     selection.end = selection.start;
 }
-
-template void EditorBackend<EdChar>::key_delete();
-template void EditorBackend<EdChar>::join_with_next_line(int);
-template void EditorBackend<EdChar>::delete_in_zero_width_block();
-template void EditorBackend<EdChar>::delete_selected_range();
-template void EditorBackend<EdChar>::delete_block();
-template void EditorBackend<EdChar>::delete_stream();
-template void EditorBackend<EdChar>::delete_within_line();
 
 }  // namespace KVTextEditor

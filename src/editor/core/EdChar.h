@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <type_traits>
 
 namespace KVTextEditor {
 
@@ -30,5 +31,9 @@ inline bool operator==(const EdChar& left, const EdChar& right)
 {
     return left.ch == right.ch && left.color == right.color;
 }
+
+// A type, for the one kind of cells that there is: names as Line<EdChar> stand for plain classes.
+template <class CELL, class TYPE>
+using OfCells = std::enable_if_t<std::is_same_v<CELL, EdChar>, TYPE>;
 
 }  // namespace KVTextEditor

@@ -25,22 +25,19 @@ struct UNDO_STATE
 // selection, keeps whole-text snapshots for undo, and colours the text. It knows nothing of
 // drawing and reports no errors: positions are clamped, and lines that something is written to are
 // created.
-template <class CELL>
-class EditorBackend
+class TextEditor
 {
 public:
-    using BUFFER = Buffer<CELL>;
-    using LINE = Line<CELL>;
     // Stores a role in a cell. Colouring calls it for every cell whose role changes, from several
     // threads for different lines.
-    using CELL_WRITER = void (*)(CELL& cell, COLORINDEX role);
+    using CELL_WRITER = void (*)(EdChar& cell, COLORINDEX role);
     using KEYWORD_TABLE = std::vector<std::map<std::u16string, COLORINDEX>>;
 
     // The buffer stays the caller's.
-    explicit EditorBackend(BUFFER* text = nullptr) : buffer(text) {}
+    explicit TextEditor(TextBuffer* text = nullptr) : buffer(text) {}
 
     // Caret
-    LINE& current_line();
+    TextLine& current_line();
     CARET snap_to_position(CARET caret) const;
     void move_cursor(int dy, int dx);
     CARET start_of_word(CARET caret) const;
@@ -57,11 +54,11 @@ public:
     void delete_selected_range();
 
     // Commands on the selection
-    void paste(const BUFFER& block_buffer, bool as_block);
+    void paste(const TextBuffer& block_buffer, bool as_block);
     void indent();
     void indent_negative();
     void transform(const SELECTION& range, CHARACTER_FUNCTION fn);
-    BUFFER get_selected_text() const;
+    TextBuffer get_selected_text() const;
 
     // Search; both leave the caret alone when they find nothing. find_next tries the caret's own
     // position first and does not wrap around.
@@ -101,7 +98,7 @@ public:
 
     std::int32_t undo_limit = 100 * 1024 * 1024;
     bool dirty = false;  // an operation changed text or selection; nothing here clears it
-    BUFFER* buffer;
+    TextBuffer* buffer;
     std::deque<UNDO_STATE> undo_states;
     std::deque<UNDO_STATE> redo_states;
     std::int64_t undo_bytes = 0;  // what undo_states is charged with
@@ -114,7 +111,7 @@ private:
     };
 
     // Reading through this never adds a line.
-    const BUFFER& text() const { return *buffer; }
+    const TextBuffer& text() const { return *buffer; }
     int tab_stop() const { return tab_width > 1 ? tab_width : 1; }
     bool is_line_of_text(int line) const { return line >= 0 && line < buffer->line_count(); }
     int line_in_text(int line) const;
@@ -126,7 +123,7 @@ private:
 
     void key_backspace();
     void type_character(char16_t ch, bool overwrite);
-    void type_into_line(int index, int column, CELL cell, bool overwrite);
+    void type_into_line(int index, int column, EdChar cell, bool overwrite);
     int split_line(int index, int column);
 
     void join_with_next_line(int index);
@@ -135,24 +132,26 @@ private:
     void delete_stream();
     void delete_within_line();
 
-    void paste_stream(const BUFFER& pasted);
-    void paste_further_lines(const BUFFER& pasted);
-    void paste_block(const BUFFER& pasted);
+    void paste_stream(const TextBuffer& pasted);
+    void paste_further_lines(const TextBuffer& pasted);
+    void paste_block(const TextBuffer& pasted);
 
     static LINE_PART part_of_line(const SELECTION& range, int line);
 };
 
-extern template class EditorBackend<EdChar>;
+// The name by which callers know it: EditorBackend<EdChar>.
+template <class CELL>
+using EditorBackend = OfCells<CELL, TextEditor>;
 
 // The writer that the editor passes to colorize.
 void write_cell_color(EdChar& cell, COLORINDEX role);
 
 // What a new editor starts with: init_keywords_cpp and the two words "foo" and "bar".
-void set_new_editor_rules(EditorBackend<EdChar>& editor);
+void set_new_editor_rules(TextEditor& editor);
 
 // Comments and words of the script language, on top of what a new editor starts with. The words, in
 // ASCII, are the two keyword classes. No line is marked changed.
-void set_script_rules(EditorBackend<EdChar>& editor, const std::vector<std::string>& keywords,
+void set_script_rules(TextEditor& editor, const std::vector<std::string>& keywords,
                       const std::vector<std::string>& options);
 
 }  // namespace KVTextEditor

@@ -9,8 +9,7 @@ namespace KVTextEditor {
 namespace {
 
 // A tab with the fillers that really follow it, or blanks; never text.
-template <class CELL>
-int cellsToUnindent(const Line<CELL>& line, int tabWidth)
+int cellsToUnindent(const TextLine& line, int tabWidth)
 {
     int cells = 0;
     if (line.at(0).ch == u'\t') {
@@ -29,19 +28,18 @@ int cellsToUnindent(const Line<CELL>& line, int tabWidth)
 
 // Intended: a last line of which nothing is selected is left out, so a caret in column 0 indents
 // nothing.
-template <class CELL>
-void EditorBackend<CELL>::indent()
+void TextEditor::indent()
 {
     if (tab_width < 1) {
         return;
     }
     dirty = true;
     const SELECTION range = selection.normalized();
-    std::vector<CELL> tab(tab_width);
+    std::vector<EdChar> tab(tab_width);
     tab.front().ch = u'\t';
     const int last = range.end.column == 0 ? saturating_add(range.end.line, -1) : range.end.line;
     for (int i = std::max(range.start.line, 0); i <= last; ++i) {
-        LINE& line = buffer->line(i);
+        TextLine& line = buffer->line(i);
         line.insert(0, tab.data(), tab_width);
         line.tabs_insert(tab_width);
     }
@@ -54,8 +52,7 @@ void EditorBackend<CELL>::indent()
 
 // Intended: unlike indent it takes the last line in any case, and it moves the columns whatever it
 // removed.
-template <class CELL>
-void EditorBackend<CELL>::indent_negative()
+void TextEditor::indent_negative()
 {
     dirty = true;
     if (tab_width < 1) {
@@ -66,7 +63,7 @@ void EditorBackend<CELL>::indent_negative()
     for (int i = std::max(range.start.line, 0); i <= last; ++i) {
         const int cells = cellsToUnindent(text().line(i), tab_width);
         if (cells > 0) {
-            LINE& line = buffer->line(i);
+            TextLine& line = buffer->line(i);
             line.erase(0, cells);
             line.tabs_insert(tab_width);
         }
@@ -75,8 +72,5 @@ void EditorBackend<CELL>::indent_negative()
         caret->column = std::max(saturating_add(caret->column, -tab_width), 0);
     }
 }
-
-template void EditorBackend<EdChar>::indent();
-template void EditorBackend<EdChar>::indent_negative();
 
 }  // namespace KVTextEditor

@@ -19,25 +19,22 @@ int checkedLength(std::int64_t cells)
 
 }  // namespace
 
-template <class CELL>
-Line<CELL>::Line(const Line& other) : bookmark(other.bookmark), changed(other.changed)
+TextLine::TextLine(const TextLine& other) : bookmark(other.bookmark), changed(other.changed)
 {
     alloc(other.used);
     std::copy(other.begin(), other.end(), cells.get());
     used = other.used;
 }
 
-template <class CELL>
-Line<CELL>& Line<CELL>::operator=(const Line& other)
+TextLine& TextLine::operator=(const TextLine& other)
 {
     if (this != &other) {
-        *this = Line(other);
+        *this = TextLine(other);
     }
     return *this;
 }
 
-template <class CELL>
-Line<CELL>::Line(Line&& other) noexcept
+TextLine::TextLine(TextLine&& other) noexcept
     : bookmark(other.bookmark),
       changed(other.changed),
       cells(std::move(other.cells)),
@@ -45,8 +42,7 @@ Line<CELL>::Line(Line&& other) noexcept
       allocated(std::exchange(other.allocated, 0))
 {}
 
-template <class CELL>
-Line<CELL>& Line<CELL>::operator=(Line&& other) noexcept
+TextLine& TextLine::operator=(TextLine&& other) noexcept
 {
     bookmark = other.bookmark;
     changed = other.changed;
@@ -56,48 +52,42 @@ Line<CELL>& Line<CELL>::operator=(Line&& other) noexcept
     return *this;
 }
 
-template <class CELL>
-const CELL& Line<CELL>::at(int pos) const
+const EdChar& TextLine::at(int pos) const
 {
-    static const CELL outside;
+    static const EdChar outside;
     return pos >= 0 && pos < used ? cells[pos] : outside;
 }
 
-template <class CELL>
-bool Line<CELL>::is_filler_at(int pos) const
+bool TextLine::is_filler_at(int pos) const
 {
     return pos >= 0 && pos < used && cells[pos].ch == kFiller;
 }
 
-template <class CELL>
-bool Line<CELL>::is_string_at(const std::u16string& text, int pos) const
+bool TextLine::is_string_at(const std::u16string& text, int pos) const
 {
     if (pos < 0 || pos > used || text.size() > static_cast<std::size_t>(used - pos)) {
         return false;
     }
-    const auto sameCharacter = [](char16_t c, const CELL& cell) { return c == cell.ch; };
+    const auto sameCharacter = [](char16_t c, const EdChar& cell) { return c == cell.ch; };
     return std::equal(text.begin(), text.end(), begin() + pos, sameCharacter);
 }
 
-template <class CELL>
-BLOCKTYPE Line<CELL>::get_blocktype_at(int pos) const
+BLOCKTYPE TextLine::get_blocktype_at(int pos) const
 {
     return pos >= 0 && pos < used ? blocktype_of(cells[pos].ch) : BLOCKTYPE_NONE;
 }
 
-template <class CELL>
-int Line<CELL>::indentation() const
+int TextLine::indentation() const
 {
-    const auto isText = [](const CELL& cell) {
+    const auto isText = [](const EdChar& cell) {
         return cell.ch != kFiller && cell.ch != u' ' && cell.ch != u'\t';
     };
     return static_cast<int>(std::find_if(begin(), end(), isText) - begin());
 }
 
-template <class CELL>
-Line<CELL> Line<CELL>::substr(int pos, int n) const
+TextLine TextLine::substr(int pos, int n) const
 {
-    Line part;
+    TextLine part;
     if (pos >= 0 && pos < used) {
         const int rest = used - pos;
         part.overwrite(0, begin() + pos, n < 0 ? rest : std::min(n, rest));
@@ -105,20 +95,18 @@ Line<CELL> Line<CELL>::substr(int pos, int n) const
     return part;
 }
 
-template <class CELL>
-void Line<CELL>::alloc(int n)
+void TextLine::alloc(int n)
 {
     if (n <= allocated) {
         return;
     }
-    auto grown = std::make_unique<CELL[]>(static_cast<std::size_t>(n) + 1);
+    auto grown = std::make_unique<EdChar[]>(static_cast<std::size_t>(n) + 1);
     std::copy(begin(), end(), grown.get());
     cells = std::move(grown);
     allocated = n;
 }
 
-template <class CELL>
-void Line<CELL>::clear()
+void TextLine::clear()
 {
     cells.reset();
     used = 0;
@@ -126,16 +114,14 @@ void Line<CELL>::clear()
     changed = false;
 }
 
-template <class CELL>
-void Line<CELL>::empty()
+void TextLine::empty()
 {
     used = 0;
     changed = false;
     terminate();
 }
 
-template <class CELL>
-void Line<CELL>::set(const char16_t* text, int n)
+void TextLine::set(const char16_t* text, int n)
 {
     empty();
     if (n == -1) {
@@ -147,12 +133,11 @@ void Line<CELL>::set(const char16_t* text, int n)
     changed = true;
     alloc(n);
     used = n;
-    std::transform(text, text + n, cells.get(), [](char16_t c) { return CELL{c, kPlainRole}; });
+    std::transform(text, text + n, cells.get(), [](char16_t c) { return EdChar{c, kPlainRole}; });
     terminate();
 }
 
-template <class CELL>
-void Line<CELL>::insert_gap(int pos, int n)
+void TextLine::insert_gap(int pos, int n)
 {
     if (pos < 0 || n <= 0) {
         return;
@@ -162,13 +147,12 @@ void Line<CELL>::insert_gap(int pos, int n)
     const int tail = used - std::min(pos, used);
     alloc(checkedLength(std::int64_t{used} + padding + n));
     grow(used + padding + n);
-    std::fill_n(cells.get() + pos - padding, padding, CELL{u' ', kPlainRole});
+    std::fill_n(cells.get() + pos - padding, padding, EdChar{u' ', kPlainRole});
     std::move_backward(cells.get() + pos, cells.get() + pos + tail, cells.get() + used);
-    std::fill_n(cells.get() + pos, n, CELL{});
+    std::fill_n(cells.get() + pos, n, EdChar{});
 }
 
-template <class CELL>
-void Line<CELL>::overwrite(int pos, const CELL* src, int n)
+void TextLine::overwrite(int pos, const EdChar* src, int n)
 {
     if (pos < 0 || n < 0) {
         return;
@@ -181,15 +165,13 @@ void Line<CELL>::overwrite(int pos, const CELL* src, int n)
     std::copy_n(src, n, cells.get() + pos);
 }
 
-template <class CELL>
-void Line<CELL>::insert(int pos, const CELL* src, int n)
+void TextLine::insert(int pos, const EdChar* src, int n)
 {
     insert_gap(pos, n);
     overwrite(pos, src, n);
 }
 
-template <class CELL>
-bool Line<CELL>::erase(int pos, int n)
+bool TextLine::erase(int pos, int n)
 {
     if (pos < 0 || pos >= used || n == 0 || n < -1) {
         return false;
@@ -203,18 +185,16 @@ bool Line<CELL>::erase(int pos, int n)
     return true;
 }
 
-template <class CELL>
-void Line<CELL>::append(const Line& other)
+void TextLine::append(const TextLine& other)
 {
     if (this == &other) {
-        append(Line(other));
+        append(TextLine(other));
         return;
     }
     insert(used, other.begin(), other.used);
 }
 
-template <class CELL>
-bool Line<CELL>::transform(int pos, int n, CHARACTER_FUNCTION fn)
+bool TextLine::transform(int pos, int n, CHARACTER_FUNCTION fn)
 {
     if (pos < 0) {
         return false;
@@ -235,23 +215,19 @@ bool Line<CELL>::transform(int pos, int n, CHARACTER_FUNCTION fn)
 }
 
 // Lengthens the line to n cells; the new ones are plain fillers, whatever stood there before.
-template <class CELL>
-void Line<CELL>::grow(int n)
+void TextLine::grow(int n)
 {
     alloc(n);
-    std::fill_n(cells.get() + used, n - used, CELL{});
+    std::fill_n(cells.get() + used, n - used, EdChar{});
     used = n;
     terminate();
 }
 
-template <class CELL>
-void Line<CELL>::terminate()
+void TextLine::terminate()
 {
     if (cells) {
-        cells[used] = CELL{};
+        cells[used] = EdChar{};
     }
 }
-
-template class Line<EdChar>;
 
 }  // namespace KVTextEditor

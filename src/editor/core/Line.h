@@ -16,29 +16,28 @@ namespace KVTextEditor {
 //
 // Positions and counts are cells. A negative position does nothing (it reads as outside), and so
 // does a negative count, except where a count of -1 means "up to the end of the line".
-template <class CELL>
-class Line
+class TextLine
 {
 public:
-    Line() = default;
-    Line(const Line& other);
-    Line& operator=(const Line& other);
-    Line(Line&& other) noexcept;
-    Line& operator=(Line&& other) noexcept;
-    ~Line() = default;
+    TextLine() = default;
+    TextLine(const TextLine& other);
+    TextLine& operator=(const TextLine& other);
+    TextLine(TextLine&& other) noexcept;
+    TextLine& operator=(TextLine&& other) noexcept;
+    ~TextLine() = default;
 
     bool bookmark = false;
-    // The cells changed since they were coloured. Set it only through Buffer::line, which remembers
-    // where to look for it.
+    // The cells changed since they were coloured. Set it only through TextBuffer::line, which
+    // remembers where to look for it.
     bool changed = false;
 
     // Looking at the line
     int length() const { return used; }
     int capacity() const { return allocated; }
     // The cell at pos, or a shared plain filler cell outside the line.
-    const CELL& at(int pos) const;
-    const CELL* begin() const { return cells.get(); }
-    const CELL* end() const { return cells.get() + used; }
+    const EdChar& at(int pos) const;
+    const EdChar* begin() const { return cells.get(); }
+    const EdChar* end() const { return cells.get() + used; }
     bool is_filler_at(int pos) const;  // false outside the line
     // True when the line holds exactly these characters at pos. The empty text is everywhere.
     bool is_string_at(const std::u16string& text, int pos) const;
@@ -48,7 +47,7 @@ public:
     bool is_floating_point_number_at(int pos, int& first, int& last) const;
     // The number of leading cells that are fillers, blanks or tabs.
     int indentation() const;
-    Line substr(int pos, int n) const;
+    TextLine substr(int pos, int n) const;
 
     static bool is_char_operator(char16_t c) { return KVTextEditor::is_char_operator(c); }
     static bool is_char_whitespace(char16_t c) { return KVTextEditor::is_char_whitespace(c); }
@@ -65,12 +64,12 @@ public:
     // the gap at once.
     void insert_gap(int pos, int n);
     // Replaces n cells from pos on and grows the line as needed. src lies outside this line.
-    void overwrite(int pos, const CELL* src, int n);
+    void overwrite(int pos, const EdChar* src, int n);
     // A gap with its content: n cells (outside this line) inserted at pos.
-    void insert(int pos, const CELL* src, int n);
+    void insert(int pos, const EdChar* src, int n);
     // Returns whether cells were removed. n = -1 erases to the end.
     bool erase(int pos, int n);
-    void append(const Line& other);
+    void append(const TextLine& other);
     // Returns whether there was a cell to transform. n < 0 transforms to the end.
     bool transform(int pos, int n, CHARACTER_FUNCTION fn);
 
@@ -85,7 +84,7 @@ public:
     bool tabs_are_expanded(int width) const;
 
     // The cells, for writing roles; only indices from 0 to length() - 1.
-    CELL* cells_to_colour() { return cells.get(); }
+    EdChar* cells_to_colour() { return cells.get(); }
 
 private:
     void grow(int n);
@@ -93,11 +92,13 @@ private:
     void refresh_fillers();
     void expand_tabs(int width, std::int64_t tabs);
 
-    std::unique_ptr<CELL[]> cells;  // allocated + 1 cells, or none
+    std::unique_ptr<EdChar[]> cells;  // allocated + 1 cells, or none
     int used = 0;
     int allocated = 0;
 };
 
-extern template class Line<EdChar>;
+// The name by which callers know it: Line<EdChar>.
+template <class CELL>
+using Line = OfCells<CELL, TextLine>;
 
 }  // namespace KVTextEditor

@@ -4,9 +4,7 @@
 
 namespace KVTextEditor {
 
-template <class CELL>
-LineColourer<CELL>::LineColourer(const EditorBackend<CELL>& backend, CELL_WRITER fn)
-    : rules(backend), writer(fn)
+LineColourer::LineColourer(const TextEditor& backend, CELL_WRITER fn) : rules(backend), writer(fn)
 {
     for (const std::u16string& opener : rules.line_comments) {
         if (opener.empty()) {
@@ -20,18 +18,16 @@ LineColourer<CELL>::LineColourer(const EditorBackend<CELL>& backend, CELL_WRITER
     }
 }
 
-template <class CELL>
-void LineColourer<CELL>::noteOpener(char16_t c)
+void LineColourer::noteOpener(char16_t c)
 {
     if (c < opens.size()) {
         opens[c] = true;
     }
 }
 
-template <class CELL>
-void LineColourer<CELL>::colour(LINE& line) const
+void LineColourer::colour(TextLine& line) const
 {
-    CELL* cells = line.cells_to_colour();
+    EdChar* cells = line.cells_to_colour();
     line.changed = false;
     bool behindWord = false;
     for (int column = 0; column < line.length();) {
@@ -43,10 +39,9 @@ void LineColourer<CELL>::colour(LINE& line) const
     }
 }
 
-template <class CELL>
-void LineColourer<CELL>::write(CELL_WRITER fn, CELL* cell, int n, COLORINDEX role)
+void LineColourer::write(CELL_WRITER fn, EdChar* cell, int n, COLORINDEX role)
 {
-    for (const CELL* end = cell + n; cell != end; ++cell) {
+    for (const EdChar* end = cell + n; cell != end; ++cell) {
         if (cell->color != role) {
             fn(*cell, role);
         }
@@ -55,9 +50,7 @@ void LineColourer<CELL>::write(CELL_WRITER fn, CELL* cell, int n, COLORINDEX rol
 
 // Comments come before strings and both before keywords, so a quotation mark that is also a comment
 // opener never begins a string.
-template <class CELL>
-typename LineColourer<CELL>::RUN LineColourer<CELL>::runAt(const LINE& line, int column,
-                                                           bool behindWord) const
+LineColourer::RUN LineColourer::runAt(const TextLine& line, int column, bool behindWord) const
 {
     if (mayOpen(line.begin()[column].ch)) {
         const RUN run = commentOrStringAt(line, column);
@@ -68,9 +61,7 @@ typename LineColourer<CELL>::RUN LineColourer<CELL>::runAt(const LINE& line, int
     return behindWord ? RUN() : keywordAt(line, column);
 }
 
-template <class CELL>
-typename LineColourer<CELL>::RUN LineColourer<CELL>::commentOrStringAt(const LINE& line,
-                                                                       int column) const
+LineColourer::RUN LineColourer::commentOrStringAt(const TextLine& line, int column) const
 {
     for (const std::u16string& opener : rules.line_comments) {
         if (line.is_string_at(opener, column)) {
@@ -87,8 +78,7 @@ typename LineColourer<CELL>::RUN LineColourer<CELL>::commentOrStringAt(const LIN
 }
 
 // A keyword counts only as a whole word.
-template <class CELL>
-typename LineColourer<CELL>::RUN LineColourer<CELL>::keywordAt(const LINE& line, int column) const
+LineColourer::RUN LineColourer::keywordAt(const TextLine& line, int column) const
 {
     const char16_t c = line.begin()[column].ch;
     if (c >= rules.keyword_table.size()) {
@@ -105,8 +95,7 @@ typename LineColourer<CELL>::RUN LineColourer<CELL>::keywordAt(const LINE& line,
 }
 
 // Up to the closing delimiter, or to the end of the line.
-template <class CELL>
-int LineColourer<CELL>::stringLength(const LINE& line, int column, char16_t close)
+int LineColourer::stringLength(const TextLine& line, int column, char16_t close)
 {
     int end = column + 1;
     while (end < line.length() && line.begin()[end].ch != close) {
@@ -114,7 +103,5 @@ int LineColourer<CELL>::stringLength(const LINE& line, int column, char16_t clos
     }
     return std::min(end + 1, line.length()) - column;
 }
-
-template class LineColourer<EdChar>;
 
 }  // namespace KVTextEditor

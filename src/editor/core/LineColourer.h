@@ -8,19 +8,17 @@ namespace KVTextEditor {
 
 // Colours single lines by the rules of a backend. It is made for one pass: most characters start
 // nothing, and so it notes at its start which ones may. Several threads may use it.
-template <class CELL>
 class LineColourer
 {
 public:
-    using LINE = Line<CELL>;
-    using CELL_WRITER = typename EditorBackend<CELL>::CELL_WRITER;
+    using CELL_WRITER = TextEditor::CELL_WRITER;
 
-    LineColourer(const EditorBackend<CELL>& backend, CELL_WRITER fn);
+    LineColourer(const TextEditor& backend, CELL_WRITER fn);
 
-    void colour(LINE& line) const;
+    void colour(TextLine& line) const;
 
     // Calls the writer where a role changes.
-    static void write(CELL_WRITER fn, CELL* cell, int n, COLORINDEX role);
+    static void write(CELL_WRITER fn, EdChar* cell, int n, COLORINDEX role);
 
 private:
     // A comment, string or keyword; plain and without length where none begins.
@@ -32,16 +30,14 @@ private:
 
     void noteOpener(char16_t c);
     bool mayOpen(char16_t c) const { return c >= opens.size() || opens[c]; }
-    RUN runAt(const LINE& line, int column, bool behindWord) const;
-    RUN commentOrStringAt(const LINE& line, int column) const;
-    RUN keywordAt(const LINE& line, int column) const;
-    static int stringLength(const LINE& line, int column, char16_t close);
+    RUN runAt(const TextLine& line, int column, bool behindWord) const;
+    RUN commentOrStringAt(const TextLine& line, int column) const;
+    RUN keywordAt(const TextLine& line, int column) const;
+    static int stringLength(const TextLine& line, int column, char16_t close);
 
-    const EditorBackend<CELL>& rules;
+    const TextEditor& rules;
     const CELL_WRITER writer;
     std::array<bool, 256> opens{};  // a comment or string may begin with this character
 };
-
-extern template class LineColourer<EdChar>;
 
 }  // namespace KVTextEditor

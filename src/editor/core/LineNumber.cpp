@@ -178,15 +178,14 @@ NumberRange findNumber(const std::u16string& text, int pos)
 
 }  // namespace
 
-template <class CELL>
-bool Line<CELL>::is_floating_point_number_at(int pos, int& first, int& last) const
+bool TextLine::is_floating_point_number_at(int pos, int& first, int& last) const
 {
     first = last = pos;
     if (pos < 0 || pos >= used) {
         return false;
     }
     std::u16string text(used, 0);
-    std::transform(begin(), end(), text.begin(), [](const CELL& cell) { return cell.ch; });
+    std::transform(begin(), end(), text.begin(), [](const EdChar& cell) { return cell.ch; });
     const NumberRange number = findNumber(text, pos);
     first = number.first;
     last = number.last;
@@ -198,7 +197,5 @@ bool Line<CELL>::is_floating_point_number_at(int pos, int& first, int& last) con
     }
     return first <= pos && get_blocktype_at(first - 1) != BLOCKTYPE_WORD;
 }
-
-template bool Line<EdChar>::is_floating_point_number_at(int, int&, int&) const;
 
 }  // namespace KVTextEditor

@@ -9,14 +9,12 @@ namespace KVTextEditor {
 
 namespace {
 
-template <class CELL>
-bool isTab(const CELL& cell)
+bool isTab(const EdChar& cell)
 {
     return cell.ch == u'\t';
 }
 
-template <class CELL>
-bool isFiller(const CELL& cell)
+bool isFiller(const EdChar& cell)
 {
     return cell.ch == kFiller;
 }
@@ -28,8 +26,7 @@ int fillersBehind(int column, int width)
 }
 
 // Most lines hold no tab. Looks at all cells without a branch, so several at a time.
-template <class CELL>
-bool holdsTabs(const CELL* first, const CELL* end)
+bool holdsTabs(const EdChar* first, const EdChar* end)
 {
     unsigned found = 0;
     for (; first != end; ++first) {
@@ -41,8 +38,7 @@ bool holdsTabs(const CELL* first, const CELL* end)
 
 }  // namespace
 
-template <class CELL>
-void Line<CELL>::tabs_insert(int width)
+void TextLine::tabs_insert(int width)
 {
     if (!holdsTabs(begin(), end())) {
         changed = changed || used > 0;
@@ -54,26 +50,24 @@ void Line<CELL>::tabs_insert(int width)
         return;
     }
     tabs_remove();
-    const auto tabs = std::count_if(begin(), end(), isTab<CELL>);
+    const auto tabs = std::count_if(begin(), end(), isTab);
     if (tabs > 0) {
         expand_tabs(width, tabs);
     }
 }
 
-template <class CELL>
-void Line<CELL>::tabs_remove()
+void TextLine::tabs_remove()
 {
     if (used == 0) {
         return;
     }
     changed = true;
-    used = static_cast<int>(std::remove_if(cells.get(), cells.get() + used, isFiller<CELL>) -
-                            cells.get());
+    used =
+        static_cast<int>(std::remove_if(cells.get(), cells.get() + used, isFiller) - cells.get());
     terminate();
 }
 
-template <class CELL>
-int Line<CELL>::characters_between(int first, int end) const
+int TextLine::characters_between(int first, int end) const
 {
     int characters = 0;
     for (int column = std::max(first, 0); column < std::min(end, used); ++column) {
@@ -82,8 +76,7 @@ int Line<CELL>::characters_between(int first, int end) const
     return characters;
 }
 
-template <class CELL>
-int Line<CELL>::column_behind(int characters) const
+int TextLine::column_behind(int characters) const
 {
     int column = 0;
     while (column < used && (characters > 0 || is_filler_at(column))) {
@@ -93,8 +86,7 @@ int Line<CELL>::column_behind(int characters) const
     return column;
 }
 
-template <class CELL>
-bool Line<CELL>::tabs_are_expanded(int width) const
+bool TextLine::tabs_are_expanded(int width) const
 {
     width = std::max(width, 1);
     for (int column = 0; column < used; ++column) {
@@ -114,26 +106,24 @@ bool Line<CELL>::tabs_are_expanded(int width) const
 }
 
 // Leaves a line whose tabs are expanded as if its fillers had been made anew.
-template <class CELL>
-void Line<CELL>::refresh_fillers()
+void TextLine::refresh_fillers()
 {
     changed = changed || used > 0;
-    std::replace_if(cells.get(), cells.get() + used, isFiller<CELL>, CELL{});
+    std::replace_if(cells.get(), cells.get() + used, isFiller, EdChar{});
 }
 
 // Copies the cells into a new row instead of opening a gap at each tab: a line of many tabs takes
 // one pass.
-template <class CELL>
-void Line<CELL>::expand_tabs(int width, std::int64_t tabs)
+void TextLine::expand_tabs(int width, std::int64_t tabs)
 {
     const std::int64_t room = used + (std::int64_t{width} - 1) * tabs;
     if (room > std::numeric_limits<int>::max()) {
         throw std::bad_array_new_length();
     }
-    Line expanded;
+    TextLine expanded;
     expanded.alloc(std::max(static_cast<int>(room), allocated));
     int column = 0;
-    for (const CELL& cell : *this) {
+    for (const EdChar& cell : *this) {
         expanded.cells[column] = cell;
         column += isTab(cell) ? 1 + fillersBehind(column, width) : 1;
     }
@@ -142,13 +132,5 @@ void Line<CELL>::expand_tabs(int width, std::int64_t tabs)
     std::swap(used, expanded.used);
     std::swap(allocated, expanded.allocated);
 }
-
-template void Line<EdChar>::tabs_insert(int);
-template void Line<EdChar>::tabs_remove();
-template int Line<EdChar>::characters_between(int, int) const;
-template int Line<EdChar>::column_behind(int) const;
-template bool Line<EdChar>::tabs_are_expanded(int) const;
-template void Line<EdChar>::refresh_fillers();
-template void Line<EdChar>::expand_tabs(int, std::int64_t);
 
 }  // namespace KVTextEditor

@@ -2,8 +2,7 @@
 
 namespace KVTextEditor {
 
-template <class CELL>
-void EditorBackend<CELL>::mouse_click(CARET caret, bool extend, bool block)
+void TextEditor::mouse_click(CARET caret, bool extend, bool block)
 {
     if (block) {
         selection.end = {line_in_text(caret.line), caret.column};
@@ -21,14 +20,13 @@ void EditorBackend<CELL>::mouse_click(CARET caret, bool extend, bool block)
     }
 }
 
-template <class CELL>
-void EditorBackend<CELL>::mouse_doubleclick(CARET caret)
+void TextEditor::mouse_doubleclick(CARET caret)
 {
     caret = clamp_to_text(caret);
     selection.set(caret.line, caret.column);
     CARET first = caret;
     CARET last = caret;
-    const LINE& line = text().line(caret.line);
+    const TextLine& line = text().line(caret.line);
     if (line.is_floating_point_number_at(caret.column, first.column, last.column)) {
         selection.start = first;
         selection.end = last;
@@ -37,8 +35,5 @@ void EditorBackend<CELL>::mouse_doubleclick(CARET caret)
     selection.end = end_of_word(caret);
     selection.start = start_of_word(caret);
 }
-
-template void EditorBackend<EdChar>::mouse_click(CARET, bool, bool);
-template void EditorBackend<EdChar>::mouse_doubleclick(CARET);
 
 }  // namespace KVTextEditor

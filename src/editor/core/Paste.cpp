@@ -3,8 +3,7 @@
 
 namespace KVTextEditor {
 
-template <class CELL>
-void EditorBackend<CELL>::paste(const BUFFER& block_buffer, bool as_block)
+void TextEditor::paste(const TextBuffer& block_buffer, bool as_block)
 {
     dirty = true;
     delete_selected_range();
@@ -22,11 +21,10 @@ void EditorBackend<CELL>::paste(const BUFFER& block_buffer, bool as_block)
 
 // Intended: the anchor stays where it was; the caret goes behind the pasted text as its tabs stood
 // before their expansion.
-template <class CELL>
-void EditorBackend<CELL>::paste_stream(const BUFFER& pasted)
+void TextEditor::paste_stream(const TextBuffer& pasted)
 {
     CARET& caret = selection.end;
-    const LINE& first = pasted.line(0);
+    const TextLine& first = pasted.line(0);
     if (first.length() > 0 && caret.line >= 0) {
         current_line().insert(caret.column, first.begin(), first.length());
     }
@@ -36,13 +34,12 @@ void EditorBackend<CELL>::paste_stream(const BUFFER& pasted)
     }
 }
 
-template <class CELL>
-void EditorBackend<CELL>::paste_further_lines(const BUFFER& pasted)
+void TextEditor::paste_further_lines(const TextBuffer& pasted)
 {
     CARET& caret = selection.end;
     const int added = pasted.line_count() - 1;
     if (caret.line >= 0) {
-        LINE tail = current_line().substr(caret.column, -1);
+        TextLine tail = current_line().substr(caret.column, -1);
         current_line().erase(caret.column, -1);
         buffer->insert_rows(caret.line + 1, added);
         for (int i = 1; i <= added; ++i) {
@@ -53,8 +50,7 @@ void EditorBackend<CELL>::paste_further_lines(const BUFFER& pasted)
     caret = {saturating_add(caret.line, added), pasted.line(added).length()};
 }
 
-template <class CELL>
-void EditorBackend<CELL>::paste_block(const BUFFER& pasted)
+void TextEditor::paste_block(const TextBuffer& pasted)
 {
     buffer->insert_block(pasted, selection.start.line, selection.start.column);
     selection.end = selection.start + CARET{pasted.block_height() - 1, pasted.width()};
@@ -62,10 +58,5 @@ void EditorBackend<CELL>::paste_block(const BUFFER& pasted)
     selection.active = selection.has_range();
     selection.normalize();
 }
-
-template void EditorBackend<EdChar>::paste(const BUFFER&, bool);
-template void EditorBackend<EdChar>::paste_stream(const BUFFER&);
-template void EditorBackend<EdChar>::paste_further_lines(const BUFFER&);
-template void EditorBackend<EdChar>::paste_block(const BUFFER&);
 
 }  // namespace KVTextEditor

@@ -29,8 +29,7 @@ Brackets bracketsFor(char16_t c)
 }  // namespace
 
 // Intended: brackets inside strings and comments count like any others.
-template <class CELL>
-bool EditorBackend<CELL>::find_matching_brace(CARET& caret) const
+bool TextEditor::find_matching_brace(CARET& caret) const
 {
     const char16_t own = text().line(caret.line).at(caret.column).ch;
     const Brackets brackets = bracketsFor(own);
@@ -40,7 +39,7 @@ bool EditorBackend<CELL>::find_matching_brace(CARET& caret) const
     int depth = 0;
     CARET found = caret;
     while (is_line_of_text(found.line)) {
-        const LINE& line = text().line(found.line);
+        const TextLine& line = text().line(found.line);
         for (; found.column >= 0 && found.column < line.length(); found.column += brackets.step) {
             const char16_t c = line.at(found.column).ch;
             if (c == brackets.partner && --depth == 0) {
@@ -55,14 +54,13 @@ bool EditorBackend<CELL>::find_matching_brace(CARET& caret) const
     return false;
 }
 
-template <class CELL>
-bool EditorBackend<CELL>::find_next(const std::u16string& wanted, CARET& caret) const
+bool TextEditor::find_next(const std::u16string& wanted, CARET& caret) const
 {
     CARET found{std::max(caret.line, 0), 0};
     const int length = text().line(found.line).length();
     found.column = std::max(std::min(caret.column, length - 1), 0);
     for (; found.line < buffer->line_count(); ++found.line, found.column = 0) {
-        const LINE& line = text().line(found.line);
+        const TextLine& line = text().line(found.line);
         for (; found.column < line.length(); ++found.column) {
             if (line.is_string_at(wanted, found.column)) {
                 caret = found;
@@ -72,8 +70,5 @@ bool EditorBackend<CELL>::find_next(const std::u16string& wanted, CARET& caret) 
     }
     return false;
 }
-
-template bool EditorBackend<EdChar>::find_matching_brace(CARET&) const;
-template bool EditorBackend<EdChar>::find_next(const std::u16string&, CARET&) const;
 
 }  // namespace KVTextEditor

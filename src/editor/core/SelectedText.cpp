@@ -6,9 +6,7 @@ namespace KVTextEditor {
 
 // The cells of a line between the two carets of a normalised selection; a count of -1 runs to the
 // line's end.
-template <class CELL>
-typename EditorBackend<CELL>::LINE_PART EditorBackend<CELL>::part_of_line(const SELECTION& range,
-                                                                          int line)
+TextEditor::LINE_PART TextEditor::part_of_line(const SELECTION& range, int line)
 {
     if (range.block || range.start.line == range.end.line) {
         return {range.start.column, range.width()};
@@ -19,10 +17,9 @@ typename EditorBackend<CELL>::LINE_PART EditorBackend<CELL>::part_of_line(const 
     return {0, line == range.end.line ? std::max(range.end.column, 0) : -1};
 }
 
-template <class CELL>
-typename EditorBackend<CELL>::BUFFER EditorBackend<CELL>::get_selected_text() const
+TextBuffer TextEditor::get_selected_text() const
 {
-    BUFFER selected;
+    TextBuffer selected;
     if (!selection.has_range()) {
         return selected;
     }
@@ -38,8 +35,18 @@ typename EditorBackend<CELL>::BUFFER EditorBackend<CELL>::get_selected_text() co
     return selected;
 }
 
-template typename EditorBackend<EdChar>::LINE_PART
-EditorBackend<EdChar>::part_of_line(const SELECTION&, int);
-template typename EditorBackend<EdChar>::BUFFER EditorBackend<EdChar>::get_selected_text() const;
+void TextEditor::transform(const SELECTION& range, CHARACTER_FUNCTION fn)
+{
+    const SELECTION normal = range.normalized();
+    const int last = std::min(normal.end.line, buffer->line_count() - 1);
+    for (int i = std::max(normal.start.line, 0); i <= last; ++i) {
+        const LINE_PART part = part_of_line(normal, i);
+        TextLine& line = buffer->line(i);
+        if (line.transform(part.column, part.count, fn)) {
+            line.tabs_insert(tab_width);
+            dirty = true;
+        }
+    }
+}
 
 }  // namespace KVTextEditor

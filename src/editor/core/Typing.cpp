@@ -12,8 +12,7 @@ constexpr char16_t kEscape = 27;
 
 }  // namespace
 
-template <class CELL>
-void EditorBackend<CELL>::key_any(char16_t ch, bool overwrite)
+void TextEditor::key_any(char16_t ch, bool overwrite)
 {
     dirty = true;
     switch (ch) {
@@ -35,8 +34,7 @@ void EditorBackend<CELL>::key_any(char16_t ch, bool overwrite)
 }
 
 // Going left first makes it land on the tab when the caret stands behind its fillers.
-template <class CELL>
-void EditorBackend<CELL>::key_backspace()
+void TextEditor::key_backspace()
 {
     if (selection.has_range()) {
         delete_selected_range();
@@ -50,8 +48,7 @@ void EditorBackend<CELL>::key_backspace()
 }
 
 // Intended: a zero-width block types the character on each of its lines.
-template <class CELL>
-void EditorBackend<CELL>::type_character(char16_t ch, bool overwrite)
+void TextEditor::type_character(char16_t ch, bool overwrite)
 {
     delete_selected_range();
     const int column = selection.end.column;
@@ -66,13 +63,12 @@ void EditorBackend<CELL>::type_character(char16_t ch, bool overwrite)
     }
 }
 
-template <class CELL>
-void EditorBackend<CELL>::type_into_line(int index, int column, CELL cell, bool overwrite)
+void TextEditor::type_into_line(int index, int column, EdChar cell, bool overwrite)
 {
     if (column < 0) {
         return;
     }
-    LINE& line = buffer->line(index);
+    TextLine& line = buffer->line(index);
     if (overwrite && column < line.length()) {
         line.overwrite(column, &cell, 1);
     } else {
@@ -81,8 +77,7 @@ void EditorBackend<CELL>::type_into_line(int index, int column, CELL cell, bool 
     line.tabs_insert(tab_width);
 }
 
-template <class CELL>
-void EditorBackend<CELL>::key_enter()
+void TextEditor::key_enter()
 {
     dirty = true;
     delete_selected_range();
@@ -96,11 +91,10 @@ void EditorBackend<CELL>::key_enter()
 
 // Returns the number of cells that the new line took over as its indentation.
 // Intended: the bookmark moves on with the second half, even when that is empty.
-template <class CELL>
-int EditorBackend<CELL>::split_line(int index, int column)
+int TextEditor::split_line(int index, int column)
 {
-    LINE& line = buffer->line(index);
-    LINE rest = line;
+    TextLine& line = buffer->line(index);
+    TextLine rest = line;
     rest.erase(0, column);
     line.bookmark = false;
     line.erase(column, -1);
@@ -114,12 +108,5 @@ int EditorBackend<CELL>::split_line(int index, int column)
     buffer->line(index + 1) = std::move(rest);
     return indentation;
 }
-
-template void EditorBackend<EdChar>::key_any(char16_t, bool);
-template void EditorBackend<EdChar>::key_backspace();
-template void EditorBackend<EdChar>::type_character(char16_t, bool);
-template void EditorBackend<EdChar>::type_into_line(int, int, EdChar, bool);
-template void EditorBackend<EdChar>::key_enter();
-template int EditorBackend<EdChar>::split_line(int, int);
 
 }  // namespace KVTextEditor

@@ -16,8 +16,7 @@ std::int64_t chargeOf(const UNDO_STATE& state)
 }  // namespace
 
 // Intended: at most one snapshot is dropped, even when the rest is still above the limit.
-template <class CELL>
-void EditorBackend<CELL>::push_undo_state()
+void TextEditor::push_undo_state()
 {
     undo_get_state(undo_states.emplace_back());
     redo_states.clear();
@@ -28,8 +27,7 @@ void EditorBackend<CELL>::push_undo_state()
     }
 }
 
-template <class CELL>
-void EditorBackend<CELL>::undo()
+void TextEditor::undo()
 {
     if (!can_undo()) {
         return;
@@ -40,8 +38,7 @@ void EditorBackend<CELL>::undo()
     undo_states.pop_back();
 }
 
-template <class CELL>
-void EditorBackend<CELL>::redo()
+void TextEditor::redo()
 {
     if (!can_redo()) {
         return;
@@ -52,27 +49,19 @@ void EditorBackend<CELL>::redo()
     redo_states.pop_back();
 }
 
-template <class CELL>
-void EditorBackend<CELL>::undo_get_state(UNDO_STATE& state) const
+void TextEditor::undo_get_state(UNDO_STATE& state) const
 {
     state.selection = selection;
     buffer->get_all_text(u"\n", state.text);
 }
 
 // Intended: bookmarks are not part of a snapshot, so undo and redo clear them.
-template <class CELL>
-void EditorBackend<CELL>::undo_from_state(const UNDO_STATE& state)
+void TextEditor::undo_from_state(const UNDO_STATE& state)
 {
     dirty = true;
     buffer->set_text(state.text);
     buffer->tabs_insert(tab_width);
     selection = state.selection;
 }
-
-template void EditorBackend<EdChar>::push_undo_state();
-template void EditorBackend<EdChar>::undo();
-template void EditorBackend<EdChar>::redo();
-template void EditorBackend<EdChar>::undo_get_state(UNDO_STATE&) const;
-template void EditorBackend<EdChar>::undo_from_state(const UNDO_STATE&);
 
 }  // namespace KVTextEditor

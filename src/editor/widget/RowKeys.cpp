@@ -45,7 +45,7 @@ RowKeys::RowKeys(const EditorOptions& options, const TextPainter::BACKEND& backe
 quint64 RowKeys::of_row(int row) const
 {
     const int number = view.first_line + row;
-    const TextPainter::BACKEND::BUFFER& text = *editor.buffer;
+    const KVTextEditor::TextBuffer& text = *editor.buffer;
     if (number >= text.line_count()) {
         return frame;
     }

@@ -71,7 +71,7 @@ void TextPainter::draw_row(int row)
 void TextPainter::draw_line(int row)
 {
     const int line = view.first_line + row;
-    const BACKEND::BUFFER& text = *editor.buffer;
+    const KVTextEditor::TextBuffer& text = *editor.buffer;
     const LINE& cells = text.line(line);
     const int top = device(row * view.cell.height());
     const int bottom = device((row + 1) * view.cell.height());
@@ -140,7 +140,7 @@ void TextPainter::draw_cell(const QRect& place, const LINE& cells, int column, G
 void TextPainter::draw_gutter(int row)
 {
     const int line = view.first_line + row;
-    const BACKEND::BUFFER& text = *editor.buffer;
+    const KVTextEditor::TextBuffer& text = *editor.buffer;
     const bool bookmark = text.line(line).bookmark;
     if (options.show_line_numbers) {
         const std::string number = std::to_string(line + 1);
