@@ -1,17 +1,19 @@
 #include "publish/Assembling.h"
 
+#include "base/FileSystem.h"
+#include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
 #include "publish/GameFile.h"
-#include "publish/OutsideProgram.h"
 #include "publish/ProcessRunner.h"
 
 namespace {
 
 constexpr char kToolFolder[] = "TIPTOITOOL";
 
-// One more folder at the end of PATH while a program is started; the program keeps it.
+// One more folder at the end of PATH while a program is started, which keeps it. Of our own PATH,
+// since there the program is searched.
 class LongerPath
 {
 public:
@@ -61,14 +63,15 @@ void sayNotMade(const std::string& game, const QDateTime& before, ProcessRunner&
 }
 
 // Intended: "done." tells that the program has started. What it has to say follows.
-bool startProgram(const std::string& program, const Oid::OidProject& project, const char* failure,
-                  ProcessRunner& runner)
+bool startProgram(const std::string& program, std::vector<std::string> arguments,
+                  const Oid::OidProject& project, const char* failure, ProcessRunner& runner)
 {
     mi_printf("Compiling yaml to gme...\n");
     const std::string game = project.pathGme();
     const QDateTime before = timeOfChange(game);
-    const std::string command = program + " " + commandPath(project.pathYaml());
-    if (!runner.exec(KVString(command), false)) {
+    arguments.push_back(Platform::nativePath(project.pathYaml()));
+    const std::string folder = FileSystem::getDirectoryOfPath(project.projectPath);
+    if (!runner.run(program, arguments, false, {folder, {}})) {
         mi_printf(failure);
         sayNotMade(game, before, runner);
         return false;
@@ -90,10 +93,13 @@ bool startAssembler(const Oid::OidProject& project, const std::string& builtIn,
     const std::string toolFolder = findToolFolder();
     if (toolFolder.empty()) {
         explainInstallation();
-        const char* const words = runner.readsLatin1() ? " assemble --latin1" : " assemble";
-        return startProgram(commandPath(builtIn) + words, project,
-                            "Execution of the assembler failed\n", runner);
+        std::vector<std::string> arguments{"assemble"};
+        if (runner.readsLatin1()) {
+            arguments.emplace_back("--latin1");
+        }
+        return startProgram(builtIn, arguments, project, "Execution of the assembler failed\n",
+                            runner);
     }
     const LongerPath withTool(toolFolder);
-    return startProgram("tttool assemble", project, "Execution of tttool failed\n", runner);
+    return startProgram("tttool", {"assemble"}, project, "Execution of tttool failed\n", runner);
 }

@@ -2,42 +2,50 @@
 
 #include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"
-#include "base/TextHelpers.h"
+
+#include <QDir>
 
 namespace {
 
-// A single quote character is a word, not a pair of quotes.
-std::string withoutQuotes(const std::string& word)
+// The program may start in another folder, in which a relative path would lead elsewhere.
+QString pathOf(const std::string& program)
 {
-    const bool quoted = word.size() > 1 && word.front() == '"' && word.back() == '"';
-    return quoted ? word.substr(1, word.size() - 2) : word;
+    const QString path = QString::fromStdString(Platform::programToStart(program));
+    return path.contains('/') ? QDir::current().absoluteFilePath(path) : path;
 }
 
 }  // namespace
 
-bool OutsideProgram::start(const KVString& commandLine, bool wait)
+bool OutsideProgram::start(const std::string& program, const std::vector<std::string>& arguments,
+                           bool wait, const Surroundings& surroundings)
 {
     Platform::useUtf8ForSystemTexts();
-    std::vector<std::string> words;
-    SplitStringKeepQuotes(QString(commandLine).toStdString(), words, false);
-
-    QString program;
-    QStringList arguments;
-    for (const std::string& quotedWord : words) {
-        const std::string word = withoutQuotes(quotedWord);
-        if (program.isEmpty()) {
-            program = QString::fromStdString(Platform::programToStart(word));
-        } else {
-            arguments << QString::fromStdString(word);
-        }
+    QStringList words;
+    for (const std::string& argument : arguments) {
+        words << QString::fromStdString(argument);
     }
-    process.start(program, arguments, QIODevice::ReadWrite);
+    surroundWith(surroundings);
+    process.start(pathOf(program), words, QIODevice::ReadWrite);
     const bool started = process.waitForStarted(-1);
     process.closeWriteChannel();  // nobody answers: a question must not wait for ever
     if (started && wait) {
         waitForEnd();
     }
     return started;
+}
+
+void OutsideProgram::surroundWith(const Surroundings& surroundings)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const auto& [name, value] : surroundings.variables) {
+        if (value.empty()) {
+            environment.remove(QString::fromStdString(name));
+        } else {
+            environment.insert(QString::fromStdString(name), QString::fromStdString(value));
+        }
+    }
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(QString::fromStdString(Platform::nativePath(surroundings.folder)));
 }
 
 void OutsideProgram::waitForEnd()
@@ -69,9 +77,4 @@ const char* OutsideProgram::errorText(QProcess::ProcessError error)
         return "ERROR: Unknown Error\n";
     }
     return "";
-}
-
-std::string commandPath(const std::string& path)
-{
-    return "\"" + Platform::nativePath(path) + "\"";
 }

@@ -1,11 +1,25 @@
 #pragma once
 
 #include <functional>
+#include <map>
+#include <string>
 #include <utility>
 #include <vector>
 
 #include "base/KVString.h"
 #include "base/PrintFunction.h"
+
+// What a program finds around it: our own folder and environment, but for what is said here.
+struct Surroundings
+{
+    std::string folder;                            // in which it works
+    std::map<std::string, std::string> variables;  // an empty value removes one of ours
+};
+
+// The words of a command line, the program first. They are separated by white space outside double
+// quotes, and a word in quotes loses them; nothing else is special. The program is the first word
+// that is not empty.
+std::vector<std::string> commandWords(const std::string& commandLine);
 
 // The door through which the build starts outside programs and shows what happens. The console
 // widget is one, the command line has another (TerminalRunner).
@@ -14,24 +28,22 @@ class ProcessRunner
 public:
     virtual ~ProcessRunner() = default;
 
-    // Starts one program, its words as OutsideProgram reads them, and shows its output as it
-    // arrives. False when a program is still running or when this one cannot be started (then that
-    // is shown). With wait it returns when the program has ended.
-    virtual bool exec(const KVString& commandLine, bool wait) = 0;
+    // Starts one program, as OutsideProgram does, and shows its output as it arrives. False when a
+    // program is still running or when this one cannot be started (then that is shown). With wait
+    // it returns when the program has ended.
+    bool run(const std::string& program, const std::vector<std::string>& arguments, bool wait,
+             const Surroundings& surroundings = {});
+    // The same with a command line (commandWords); one without words is a program without a name,
+    // which is not there.
+    bool exec(const KVString& commandLine, bool wait);
     // True while a program is there that was started.
     virtual bool isRunning() const = 0;
     // Of the last program that has ended; -1 when it crashed or did not start.
     virtual int exitCode() const = 0;
 
-    // Calls the step when the program that exec has left running is over, its output shown: at once
-    // if none is. Several steps are called in the order in which they came.
-    void whenEnded(std::function<void()> step)
-    {
-        steps.push_back(std::move(step));
-        if (!isRunning()) {
-            takeSteps();
-        }
-    }
+    // Calls the step when the program that was not waited for is over, its output shown: at once if
+    // none is running. Several steps are called in the order in which they came.
+    void whenEnded(std::function<void()> step);
 
     // True when programs' output is shown as Latin-1, so that one that can should print it.
     virtual bool readsLatin1() const { return false; }
@@ -42,13 +54,11 @@ public:
     virtual PrintFunction printFunction() = 0;
 
 protected:
+    // For runners: the work of run, while no program is running.
+    virtual bool start(const std::string& program, const std::vector<std::string>& arguments,
+                       bool wait, const Surroundings& surroundings) = 0;
     // For runners: a program has ended.
-    void takeSteps()
-    {
-        for (const auto& step : std::exchange(steps, {})) {
-            step();
-        }
-    }
+    void takeSteps();
 
 private:
     std::vector<std::function<void()>> steps;

@@ -8,7 +8,6 @@
 #include "base/TextHelpers.h"
 #include "oid/AudioFolder.h"
 #include "oid/OidProject.h"
-#include "publish/OutsideProgram.h"
 #include "publish/ProcessRunner.h"
 #include "publish/WorkingFolder.h"
 
@@ -19,26 +18,6 @@ using Voices = std::map<std::string, ttbasic::VOICE>;
 constexpr char kSound[] = ".ogg";
 constexpr char kSpeech[] = ".wav";  // for a while only
 constexpr int kStopped = -1;        // exit code of a program that crashed or was stopped
-
-constexpr char kSpeechInLatin1[] = "TEXT2SPEECH_LATIN1";
-
-// While this lives our speech program prints in the encoding that its output is shown in. A
-// variable, not an option: another speech program may take its place.
-class ReadableSpeechMessages
-{
-public:
-    explicit ReadableSpeechMessages(const ProcessRunner& runner)
-        : before(Platform::environmentVariable(kSpeechInLatin1))
-    {
-        Platform::setEnvironmentVariable(kSpeechInLatin1, runner.readsLatin1() ? "1" : "");
-    }
-    ~ReadableSpeechMessages() { Platform::setEnvironmentVariable(kSpeechInLatin1, before); }
-    ReadableSpeechMessages(const ReadableSpeechMessages&) = delete;
-    ReadableSpeechMessages& operator=(const ReadableSpeechMessages&) = delete;
-
-private:
-    std::string before;
-};
 
 // A text that has no audio file yet.
 struct NewText
@@ -107,19 +86,29 @@ bool canBeMade(const NewText& text, ProcessRunner& runner)
     return true;
 }
 
-// Intended: quotes in the text are not escaped. The text is handed over as it stands; only the path
-// takes its native form.
-std::string speechCommand(const ttbasic::VOICE& voice, const std::string& file,
-                          const std::string& text)
+// Our speech program prints in the encoding that its output is shown in. A variable, not an option:
+// another speech program may take its place.
+Surroundings readableMessages(const ProcessRunner& runner)
 {
-    return "Text2Speech.exe -q -v " + voice.language + " -a " + itostr(voice.age) + " -g " +
-           (voice.female ? "f" : "m") + " -f " + commandPath(file) + " -t \"" + text + "\"";
+    return {{}, {{"TEXT2SPEECH_LATIN1", runner.readsLatin1() ? "1" : ""}}};
 }
 
-std::string soundCommand(const std::string& speech, const std::string& sound)
+// The text is handed over as it stands; only the path takes its native form.
+bool speak(const std::string& text, const ttbasic::VOICE& voice, const std::string& speech,
+           ProcessRunner& runner)
 {
-    return "ffmpeg.exe -hide_banner -loglevel error -i " + commandPath(speech) +
-           " -ar 22050 -ac 1 " + commandPath(sound);
+    return runner.run("Text2Speech.exe",
+                      {"-q", "-v", voice.language, "-a", itostr(voice.age), "-g",
+                       voice.female ? "f" : "m", "-f", Platform::nativePath(speech), "-t", text},
+                      true, readableMessages(runner));
+}
+
+bool convert(const std::string& speech, const std::string& sound, ProcessRunner& runner)
+{
+    return runner.run("ffmpeg.exe",
+                      {"-hide_banner", "-loglevel", "error", "-i", Platform::nativePath(speech),
+                       "-ar", "22050", "-ac", "1", Platform::nativePath(sound)},
+                      true);
 }
 
 // The end of the speech program is not looked at: without its file the conversion fails.
@@ -133,13 +122,10 @@ bool makeSoundFile(const NewText& text, const Voices& voices, const std::string&
     const std::string base = folder + FileSystem::directorySeparator + text.audioName;
     const std::string speech = base + kSpeech;
     const std::string sound = base + kSound;
-    const bool spoken = runner.exec(KVString(speechCommand(voice, speech, text.said.text)), true);
-    if (spoken && runner.exitCode() == kStopped) {
+    if (speak(text.said.text, voice, speech, runner) && runner.exitCode() == kStopped) {
         FileSystem::deleteFile(speech);  // half a text, too
     }
-    const bool converted =
-        runner.exec(KVString(soundCommand(speech, sound)), true) && runner.exitCode() == 0;
-    if (!converted) {
+    if (!convert(speech, sound, runner) || runner.exitCode() != 0) {
         FileSystem::deleteFile(sound);  // half a file would pass for a whole one ever after
     }
     if (!FileSystem::doesFileExist(sound)) {
@@ -162,7 +148,6 @@ SpeechOutcome createSoundFiles(const Oid::OidProject& project, ProcessRunner& ru
         return SpeechOutcome::complete;
     }
     FileSystem::createDirectory(folder);
-    const ReadableSpeechMessages readable(runner);
 
     SpeechOutcome outcome = SpeechOutcome::complete;
     const int total = static_cast<int>(texts.size());

@@ -26,13 +26,11 @@ TerminalRunner::TerminalRunner()
                      });
 }
 
-bool TerminalRunner::exec(const KVString& commandLine, bool wait)
+bool TerminalRunner::start(const std::string& program, const std::vector<std::string>& arguments,
+                           bool wait, const Surroundings& surroundings)
 {
-    if (isRunning()) {
-        return false;
-    }
     fflush(stdout);  // what was printed so far stands in front of the program's output
-    return program.start(commandLine, wait);
+    return outside.start(program, arguments, wait, surroundings);
 }
 
 void TerminalRunner::echo(const char* text)

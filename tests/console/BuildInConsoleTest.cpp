@@ -86,6 +86,17 @@ private slots:
         QVERIFY(!QFile::exists(bench->audio(".wav")));
     }
 
+    void aFolderMayHaveQuotesAndBlanksInItsName()
+    {
+        const std::string home = bench->folder.file("the \"big zoo\" of \"ours");
+        fs::create_directory(home);
+        bench->project.projectPath = home + "/zoo.oidpro";
+        QVERIFY(build());
+        QCOMPARE(shown(), QString() + kWarning + kAssembling + kAssembled);
+        QCOMPARE(bench->tttool.calls(), "assemble\n" + home + "/900-Zoo.yaml\n\n");
+        QVERIFY(fs::exists(home + "/900-audio/_welcome_message_text.ogg"));
+    }
+
     // --- The synthesiser and the converter ---
 
     void aSpeechProgramInTrouble_data()

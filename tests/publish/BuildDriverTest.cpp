@@ -14,6 +14,7 @@
 #include "tests/publish/RecordingRunner.h"
 
 namespace fs = std::filesystem;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -62,6 +63,12 @@ protected:
     BuildOptions options;
 };
 
+// The words of a call of our assembler.
+RecordingRunner::Words ours(const std::string& arguments)
+{
+    return commandWords("\"/our tools\\plinkett-cli.exe\" " + arguments);
+}
+
 std::string standardOutputOf(const std::function<void()>& work)
 {
     testing::internal::CaptureStdout();
@@ -80,7 +87,7 @@ TEST_F(BuildingAGame, NumbersAreasWritesTheDescriptionAndStartsTheAssembler)
                               "Compiling yaml to gme...\n"
                               "done.\n");
     EXPECT_THAT(readFile(yaml()), HasSubstr("lion:                1001\r\n"));
-    EXPECT_THAT(runner.commands, ElementsAre("tttool assemble \"" + yaml() + "\" &"));
+    EXPECT_THAT(runner.commands, ElementsAre(commandWords("tttool assemble \"" + yaml() + "\" &")));
 }
 
 TEST_F(BuildingAGame, SpeechComesBeforeTheAssembler)
@@ -88,9 +95,9 @@ TEST_F(BuildingAGame, SpeechComesBeforeTheAssembler)
     fs::remove(folder.file("900-audio/say_adam_Roar.ogg"));
     EXPECT_FALSE(build());  // nobody has written the audio file
     ASSERT_EQ(runner.commands.size(), 3U);
-    EXPECT_THAT(runner.commands[0], HasSubstr("Text2Speech.exe"));
-    EXPECT_THAT(runner.commands[1], HasSubstr("ffmpeg.exe"));
-    EXPECT_THAT(runner.commands[2], HasSubstr("assemble"));
+    EXPECT_THAT(runner.commands[0], Contains("Text2Speech.exe"));
+    EXPECT_THAT(runner.commands[1], Contains("ffmpeg.exe"));
+    EXPECT_THAT(runner.commands[2], Contains("assemble"));
     EXPECT_THAT(runner.shown(), HasSubstr("Error: The text 'Roar' has no audio file\n"));
 }
 
@@ -148,13 +155,24 @@ TEST_F(BuildingAGame, ProgramsStartInTheFolderOfTheProject)
 {
     const std::string before = FileSystem::getCurrentDirectory();
     std::string during;
-    runner.program = [&](const std::string&) {
+    runner.program = [&] {
         during = FileSystem::getCurrentDirectory();
         return 0;
     };
     build();
     EXPECT_EQ(during, fs::canonical(folder.path()).string());
     EXPECT_EQ(FileSystem::getCurrentDirectory(), before);
+}
+
+TEST_F(BuildingAGame, TheAssemblerWorksInTheFolderOfTheProjectWhateverOursIsByThen)
+{
+    const ChangedFolder sameAfterwards(folder.path());
+    options.createSoundFiles = [] {
+        FileSystem::setCurrentDirectory("/");
+        return SpeechOutcome::complete;
+    };
+    EXPECT_TRUE(build());
+    EXPECT_EQ(runner.surroundings.folder, folder.path());
 }
 
 TEST_F(BuildingAGame, AProjectOpenedByARelativePathIsBuiltInItsFolder)
@@ -171,8 +189,7 @@ TEST_F(BuildingAGame, AProjectThatWasNeverSavedIsBuiltInTheCurrentFolder)
     project.projectPath = "";
     EXPECT_TRUE(build());
     EXPECT_TRUE(fs::exists(yaml()));
-    EXPECT_THAT(runner.commands,
-                ElementsAre("\"/our tools/plinkett-cli.exe\" assemble \"./900-Zoo.yaml\" &"));
+    EXPECT_THAT(runner.commands, ElementsAre(ours("assemble ./900-Zoo.yaml &")));
 }
 
 TEST_F(BuildingAGame, ADescriptionThatCannotBeWrittenStopsTheBuild)
@@ -202,7 +219,7 @@ TEST_F(BuildingAGame, TheToolFolderStandsAtTheEndOfPathOnlyWhileTttoolStarts)
 {
     Platform::setEnvironmentVariable("TIPTOITOOL", "/opt/tttool");
     std::string during;
-    runner.program = [&](const std::string&) {
+    runner.program = [&] {
         during = Platform::environmentVariable("PATH");
         return 0;
     };
@@ -218,14 +235,13 @@ TEST_F(BuildingAGame, AnInstalledTttoolHasPrecedence)
     fs::permissions(tools.file("tttool"), fs::perms::owner_all);
     Platform::setEnvironmentVariable("PATH", tools.path());
     EXPECT_EQ(standardOutputOf([&] { build(); }), "");
-    EXPECT_THAT(runner.commands, ElementsAre("tttool assemble \"" + yaml() + "\" &"));
+    EXPECT_THAT(runner.commands, ElementsAre(commandWords("tttool assemble \"" + yaml() + "\" &")));
 }
 
 TEST_F(BuildingAGame, WithoutTttoolOurAssemblerTakesItsPlace)
 {
     EXPECT_EQ(standardOutputOf([&] { EXPECT_TRUE(build()); }), kInstructions);
-    EXPECT_THAT(runner.commands,
-                ElementsAre("\"/our tools/plinkett-cli.exe\" assemble \"" + yaml() + "\" &"));
+    EXPECT_THAT(runner.commands, ElementsAre(ours("assemble \"" + yaml() + "\" &")));
     EXPECT_THAT(runner.shown(), testing::EndsWith("Compiling yaml to gme...\ndone.\n"));
 }
 
@@ -233,9 +249,7 @@ TEST_F(BuildingAGame, OurAssemblerPrintsWhatTheRunnerReads)
 {
     runner.latin1 = true;
     build();
-    EXPECT_THAT(
-        runner.commands,
-        ElementsAre("\"/our tools/plinkett-cli.exe\" assemble --latin1 \"" + yaml() + "\" &"));
+    EXPECT_THAT(runner.commands, ElementsAre(ours("assemble --latin1 \"" + yaml() + "\" &")));
 }
 
 TEST_F(BuildingAGame, TheInstructionsNameTheFolderOfPrograms)
@@ -252,7 +266,7 @@ TEST_F(BuildingAGame, OurAssemblerLiesBesideTheProgram)
 TEST_F(BuildingAGame, ATttoolThatDoesNotStartIsReported)
 {
     Platform::setEnvironmentVariable("TIPTOITOOL", "/opt/tttool");
-    runner.program = [](const std::string&) { return -1; };
+    runner.program = [] { return -1; };
     EXPECT_FALSE(build());
     EXPECT_THAT(runner.shown(), testing::EndsWith("Compiling yaml to gme...\n"
                                                   "Execution of tttool failed\n"
@@ -262,7 +276,7 @@ TEST_F(BuildingAGame, ATttoolThatDoesNotStartIsReported)
 
 TEST_F(BuildingAGame, AnAssemblerOfOursThatDoesNotStartIsReported)
 {
-    runner.program = [](const std::string&) { return -1; };
+    runner.program = [] { return -1; };
     standardOutputOf([&] { EXPECT_FALSE(build()); });
     EXPECT_THAT(runner.shown(), testing::EndsWith("Compiling yaml to gme...\n"
                                                   "Execution of the assembler failed\n"
@@ -274,7 +288,7 @@ TEST_F(BuildingAGame, AnAssemblerOfOursThatDoesNotStartIsReported)
 
 TEST_F(BuildingAGame, AFailedAssemblerHasTheLastWordThatNoGameWasMade)
 {
-    runner.program = [](const std::string&) { return 1; };
+    runner.program = [] { return 1; };
     build();
     EXPECT_THAT(runner.shown(),
                 testing::EndsWith("Compiling yaml to gme...\n"
@@ -286,7 +300,7 @@ TEST_F(BuildingAGame, AnOlderGameThatStillLiesThereIsTold)
 {
     writeFile(game(), "older");
     setTime(game(), "2024-05-31 14:05:40");
-    runner.program = [](const std::string&) { return 1; };
+    runner.program = [] { return 1; };
     build();
     EXPECT_THAT(runner.shown(),
                 testing::EndsWith("done.\nThe game file was not made. An older one of 2024-05-31 "
@@ -297,7 +311,7 @@ TEST_F(BuildingAGame, APartOfAGameIsNotTakenForAnOlderOne)
 {
     writeFile(game(), "older");
     setTime(game(), "2024-05-31 14:05:40");
-    runner.program = [&](const std::string&) {
+    runner.program = [&] {
         writeFile(game(), "");
         return 1;
     };
@@ -311,7 +325,7 @@ TEST_F(BuildingAGame, OldCodesInTheWayOfAnAreaGoBeforeTheAssemblerStarts)
     const std::string codes = folder.file("900-Zoo.codes.yaml");
     writeFile(codes, "scriptcodes:\n  asm1: 3946\n  lion: 4028\n");
     std::string seen;
-    runner.program = [&](const std::string&) {
+    runner.program = [&] {
         seen = readFile(codes);
         return 0;
     };

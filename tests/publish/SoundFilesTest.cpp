@@ -25,7 +25,7 @@ protected:
     SoundFiles()
     {
         project.projectPath = folder.path() + "\\book.oidpro";
-        runner.program = [this](const std::string& command) { return run(command); };
+        runner.program = [this] { return run(); };
     }
 
     void say(const std::string& audioName, const std::string& voice, const std::string& text)
@@ -38,14 +38,13 @@ protected:
     SpeechOutcome create() { return createSoundFiles(project, runner); }
 
     // Speech writes its WAV file and ffmpeg its OGG file, unless they are to fail.
-    int run(const std::string& command) const
+    int run() const
     {
-        const bool speaks = command.rfind("Text2Speech.exe", 0) == 0;
-        const std::string ending = speaks ? ".wav\" -t" : ".ogg\"";
-        const size_t end = command.find(ending) + 4;
-        const size_t start = command.rfind('"', end - 1) + 1;
+        const RecordingRunner::Words& command = runner.commands.back();
+        const bool speaks = command.front() == "Text2Speech.exe";
         if (speaks ? speechStatus == 0 : soundIsWritten) {
-            writeFile(command.substr(start, end - start), speaks ? "speech" : "sound");
+            const auto file = command.end() - (speaks ? 3 : 1);
+            writeFile(*file, speaks ? "speech" : "sound");
         }
         return speaks ? speechStatus : soundStatus;
     }
@@ -70,14 +69,22 @@ TEST_F(SoundFiles, EveryTextIsSpokenAndConverted)
     const std::string eve = folder.path() + "/900-audio/say_eve_Hi";
     const std::string max = folder.path() + "/900-audio/say_max_Gr_n";
     EXPECT_THAT(runner.commands,
-                ElementsAre("Text2Speech.exe -q -v en -a 30 -g f -f \"" + eve + ".wav\" -t \"Hi\"",
-                            "ffmpeg.exe -hide_banner -loglevel error -i \"" + eve +
-                                ".wav\" -ar 22050 -ac 1 \"" + eve + ".ogg\"",
-                            "Text2Speech.exe -q -v de -a 40 -g m -f \"" + max +
-                                ".wav\" -t \"Grün, \\o/ \"so\" 100% 'sure'\"",
-                            "ffmpeg.exe -hide_banner -loglevel error -i \"" + max +
-                                ".wav\" -ar 22050 -ac 1 \"" + max + ".ogg\""));
+                ElementsAre(commandWords("Text2Speech.exe -q -v en -a 30 -g f -f \"" + eve +
+                                         ".wav\" -t \"Hi\""),
+                            commandWords("ffmpeg.exe -hide_banner -loglevel error -i \"" + eve +
+                                         ".wav\" -ar 22050 -ac 1 \"" + eve + ".ogg\""),
+                            commandWords("Text2Speech.exe -q -v de -a 40 -g m -f \"" + max +
+                                         ".wav\" -t \"Grün, \\o/ \"so\" 100% 'sure'\""),
+                            commandWords("ffmpeg.exe -hide_banner -loglevel error -i \"" + max +
+                                         ".wav\" -ar 22050 -ac 1 \"" + max + ".ogg\"")));
     EXPECT_EQ(runner.shown(), "");
+}
+
+TEST_F(SoundFiles, ATextWithQuotesAndBlanksStaysOneArgument)
+{
+    say("say_eve_a", "eve", "a=\"b c\" \"");
+    create();
+    EXPECT_EQ(runner.commands.front().back(), "a=\"b c\" \"");
 }
 
 TEST_F(SoundFiles, OnlyTheOggFileStays)
@@ -227,9 +234,9 @@ TEST_F(SoundFiles, TheCurrentFolderIsTheSameAfterwards)
 {
     const std::string before = FileSystem::getCurrentDirectory();
     say("say_eve_Hi", "eve", "Hi");
-    runner.program = [this](const std::string& command) {
+    runner.program = [this] {
         FileSystem::setCurrentDirectory("/");
-        return run(command);
+        return run();
     };
     create();
     EXPECT_EQ(FileSystem::getCurrentDirectory(), before);
@@ -265,18 +272,32 @@ TEST_F(SoundFiles, CancellingKeepsWhatIsDone)
 TEST_F(SoundFiles, SpeechIsAskedForLatin1WhereItsOutputIsShownSo)
 {
     std::string asked;
-    runner.program = [&](const std::string& command) {
-        asked += Platform::environmentVariable("TEXT2SPEECH_LATIN1") + ";";
-        return run(command);
+    runner.program = [&] {
+        if (runner.commands.back().front() == "Text2Speech.exe") {
+            asked += runner.surroundings.variables.at("TEXT2SPEECH_LATIN1") + ";";
+        }
+        return run();
     };
     say("say_eve_Hi", "eve", "Hi");
     create();
-    EXPECT_EQ(asked, ";;");
+    EXPECT_EQ(asked, ";");
 
     asked.clear();
     runner.latin1 = true;
     say("say_eve_Ho", "eve", "Ho");
     create();
-    EXPECT_EQ(asked, "1;1;");
-    EXPECT_EQ(Platform::environmentVariable("TEXT2SPEECH_LATIN1"), "");
+    EXPECT_EQ(asked, "1;");
+}
+
+TEST_F(SoundFiles, OurOwnEnvironmentKeepsItsEncoding)
+{
+    runner.latin1 = true;
+    std::string ours;
+    runner.program = [&] {
+        ours += Platform::environmentVariable("TEXT2SPEECH_LATIN1") + ";";
+        return run();
+    };
+    say("say_eve_Hi", "eve", "Hi");
+    create();
+    EXPECT_EQ(ours, ";;");
 }

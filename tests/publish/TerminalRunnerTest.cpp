@@ -41,7 +41,7 @@ TEST_F(Terminal, OutputAndErrorsOfAProgramStandAmongTheMessages)
     tool.plan("print out\nerror err\nexit 2\n");
     runner.echo("before\n");
     runner.printFunction()("%s\n", "printed");
-    EXPECT_TRUE(runner.exec("tool", true));
+    EXPECT_TRUE(runner.run("tool", {}, true));
     EXPECT_EQ(runner.exitCode(), 2);
     runner.echo("after\n");
     const std::string text = output();
@@ -52,7 +52,7 @@ TEST_F(Terminal, OutputAndErrorsOfAProgramStandAmongTheMessages)
 
 TEST_F(Terminal, AProgramThatIsNotThereIsReported)
 {
-    EXPECT_FALSE(runner.exec("nothing", true));
+    EXPECT_FALSE(runner.run("nothing", {}, true));
     EXPECT_EQ(runner.exitCode(), -1);
     EXPECT_EQ(output(), "ERROR: File not Found\n");
 }
@@ -60,7 +60,7 @@ TEST_F(Terminal, AProgramThatIsNotThereIsReported)
 TEST_F(Terminal, ACrashIsReported)
 {
     tool.plan("print out\ncrash\n");
-    EXPECT_TRUE(runner.exec("tool", true));
+    EXPECT_TRUE(runner.run("tool", {}, true));
     EXPECT_EQ(runner.exitCode(), -1);
     EXPECT_EQ(output(), "out\nERROR: Program Crash\n");
 }
@@ -68,8 +68,8 @@ TEST_F(Terminal, ACrashIsReported)
 TEST_F(Terminal, OnlyOneProgramRunsAtATimeAndItsEndCanBeAwaited)
 {
     tool.plan("await " + folder.file("signal") + "\nprint out\nexit 3\n");
-    EXPECT_TRUE(runner.exec("tool first", false));
-    EXPECT_FALSE(runner.exec("tool second", true));
+    EXPECT_TRUE(runner.run("tool", {"first"}, false));
+    EXPECT_FALSE(runner.run("tool", {"second"}, true));
     writeFile(folder.file("signal"), "");
     runner.waitForEnd();
     EXPECT_EQ(runner.exitCode(), 3);
@@ -81,20 +81,20 @@ TEST_F(Terminal, OnlyOneProgramRunsAtATimeAndItsEndCanBeAwaited)
 TEST_F(Terminal, AHundredMegabytesPassThrough)
 {
     tool.plan("flood 100000000\n");
-    EXPECT_TRUE(runner.exec("tool", true));
+    EXPECT_TRUE(runner.run("tool", {}, true));
     EXPECT_GE(output().size(), 100000000U);
 }
 
 TEST_F(Terminal, StepsComeWhenTheProgramHasEndedInTheirOrder)
 {
     tool.plan("print out\nexit 3\n");
-    runner.exec("tool", false);
+    runner.run("tool", {}, false);
     runner.whenEnded([this] { runner.echo(runner.exitCode() == 3 ? "three\n" : "?\n"); });
     runner.whenEnded([this] { runner.echo("last\n"); });
     EXPECT_TRUE(runner.isRunning());
     runner.waitForEnd();
     EXPECT_FALSE(runner.isRunning());
-    EXPECT_TRUE(runner.exec("tool", true));  // the steps do not come again
+    EXPECT_TRUE(runner.run("tool", {}, true));  // the steps do not come again
     EXPECT_EQ(output(), "out\nthree\nlast\nout\n");
 }
 

@@ -62,13 +62,11 @@ void KVQtStdoutWidget::chooseFont()
 
 // --- Outside programs ----------------------------------------------------------------------------
 
-bool KVQtStdoutWidget::exec(const KVString& commandLine, bool wait)
+bool KVQtStdoutWidget::start(const std::string& program, const std::vector<std::string>& arguments,
+                             bool wait, const Surroundings& surroundings)
 {
-    if (isRunning()) {
-        return false;
-    }
     m_running = true;
-    return m_program.start(commandLine, wait);
+    return m_program.start(program, arguments, wait, surroundings);
 }
 
 bool KVQtStdoutWidget::stopExecution()

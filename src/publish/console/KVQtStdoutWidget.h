@@ -9,7 +9,6 @@
 
 #include "base/KVString.h"
 #include "publish/OutsideProgram.h"
-#include "publish/ProcessRunner.h"
 #include "publish/console/GatheredOutput.h"
 
 // The console: shows text line by line, runs one outside program at a time and shows what it
@@ -24,8 +23,7 @@ public:
     explicit KVQtStdoutWidget(QWidget* parent = nullptr);
     ~KVQtStdoutWidget() override;
 
-    // --- Outside programs ---
-    bool exec(const KVString& commandLine, bool wait) override;
+    // --- Outside programs: run and exec start one ---
     // Kills the running program, if any; its end is then reported as that of any other. Always
     // true.
     bool stopExecution();
@@ -36,7 +34,7 @@ public:
     }
     int exitCode() const override { return m_exitCode; }
     bool readsLatin1() const override { return true; }
-    // Called about ten times a second while exec waits; it may call stopExecution.
+    // Called about ten times a second while a program is waited for; it may call stopExecution.
     void setWhileWaiting(std::function<void()> step);
 
     // --- Text ---
@@ -67,6 +65,8 @@ public slots:
     void onExecutionFinished(int exitCode);
 
 private:
+    bool start(const std::string& program, const std::vector<std::string>& arguments, bool wait,
+               const Surroundings& surroundings) override;
     void connectProcess();
     void chooseFont();
     void receiveOutput(const QByteArray& chunk);
@@ -80,7 +80,7 @@ private:
     QProcess m_process;
     QString m_pending;       // echoed, not shown yet
     int m_exitCode = 0;      // of the last program that has ended; -1 after an error
-    bool m_running = false;  // from exec until the end or an error
+    bool m_running = false;  // from its start until the end or an error
 
     OutsideProgram m_program{m_process};
     std::function<void()> m_whileWaiting;

@@ -8,6 +8,7 @@
 //   keepinput       reads standard input to its end, into NAME.input
 //   await FILE      goes on when FILE exists        hang         never ends
 //   crash           aborts                          exit N       ends with status N
+//   folder          prints the working folder       variable NAME  prints a variable, or "none"
 //   answer WORD TEXT   a line on standard output, and the end, when WORD is among the arguments
 //
 // Every call adds its arguments, one to a line, and an empty line to NAME.calls.
@@ -16,6 +17,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <string>
@@ -100,6 +102,11 @@ void carryOut(const std::string& action, const std::string& rest, const std::str
         await(rest);
     } else if (action == "hang") {
         await("");
+    } else if (action == "folder") {
+        printf("%s\n", std::filesystem::current_path().u8string().c_str());
+    } else if (action == "variable") {
+        const char* const value = std::getenv(rest.c_str());
+        printf("%s\n", value != nullptr ? value : "none");
     } else if (action == "answer") {
         answer(arguments, rest);
     } else if (action == "crash") {
