@@ -87,7 +87,7 @@ QVariant KVQtHighlightEditCtrlInlay::inputMethodQuery(Qt::InputMethodQuery query
     case Qt::ImEnabled:
         return true;
     case Qt::ImCursorRectangle:
-        return caret_rectangle();
+        return caret_rectangle(editor.selection.end);
     case Qt::ImFont:
         return font();
     default:

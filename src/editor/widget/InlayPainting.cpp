@@ -1,6 +1,7 @@
 // Painting: one frame of text with its line numbers, and the caret on top.
 #include "editor/widget/KVQtHighlightEditCtrlInlay.h"
 
+#include "editor/widget/Characters.h"
 #include "editor/widget/RowKeys.h"
 #include "editor/widget/TextPainter.h"
 
@@ -95,8 +96,14 @@ void KVQtHighlightEditCtrlInlay::update_changed_rows()
             update_to_edges(row_rectangle(row));
         }
     }
-    update_to_edges(drawn_caret);
-    update_to_edges(caret_rectangle());
+    update_caret();
+}
+
+void KVQtHighlightEditCtrlInlay::update_caret()
+{
+    for (const QRect& part : drawn_caret.united(caret_region())) {
+        update_to_edges(part);
+    }
 }
 
 TextView KVQtHighlightEditCtrlInlay::prepare_view()
@@ -150,22 +157,56 @@ void KVQtHighlightEditCtrlInlay::find_brackets()
     }
 }
 
-QRect KVQtHighlightEditCtrlInlay::caret_rectangle() const
+// The caret at a position: a bar in front of the cell, or all cells of the character that typing
+// overwrites, of a tab the first. Empty when it is out of view.
+QRect KVQtHighlightEditCtrlInlay::caret_rectangle(CARET caret) const
 {
-    constexpr int kCaretWidth = 2;  // pixels
-    const QRect cell = CellRectangle(editor.selection.end);
-    return cell.isEmpty() ? QRect() : QRect(cell.topLeft(), QSize(kCaretWidth, cell.height()));
+    constexpr int kBarWidth = 2;  // pixels
+    const QRect cell = CellRectangle(caret);
+    if (cell.isEmpty() || !is_overwrite_mode()) {
+        return cell.isEmpty() ? QRect() : QRect(cell.topLeft(), QSize(kBarWidth, cell.height()));
+    }
+    const auto& line = buffer.line(caret.line);
+    const int next = caret.column + 1;
+    const int end = line.is_filler_at(next) ? next : end_of_character(line, next);
+    return {cell.topLeft(), QSize((end - caret.column) * cell.width(), cell.height())};
+}
+
+// What the carets in view cover: there is one, or one on each line of a rectangle without width.
+QRegion KVQtHighlightEditCtrlInlay::caret_region() const
+{
+    const SELECTION& selection = editor.selection;
+    const CARET caret = selection.end;
+    if (!selection.block || selection.has_range()) {
+        return caret_rectangle(caret);
+    }
+    const auto [first, last] = std::minmax(selection.start.line, caret.line);
+    const int top = first_visible_line();
+    const int bottom = top + height() / cell_height;
+    QRegion carets;
+    for (int line = std::max(first, top); line <= std::min(last, bottom); ++line) {
+        carets += caret_rectangle({line, caret.column});
+    }
+    return carets;
 }
 
 void KVQtHighlightEditCtrlInlay::draw_caret(QPainter& painter)
 {
-    const QRect bar = caret_rectangle();
-    drawn_caret = bar;
-    if (!hasFocus() || !caret_visible || bar.isEmpty()) {
+    drawn_caret = caret_region();
+    if (!hasFocus() || !caret_visible) {
         return;
     }
-    const QColor ground = options.background();
-    painter.fillRect(bar, QColor(255 - ground.red(), 255 - ground.green(), 255 - ground.blue()));
+    QColor color = Qt::white;
+    if (is_overwrite_mode()) {
+        painter.setCompositionMode(
+            QPainter::CompositionMode_Difference);  // the letter stays legible
+    } else {
+        const QColor ground = options.background();
+        color = QColor(255 - ground.red(), 255 - ground.green(), 255 - ground.blue());
+    }
+    for (const QRect& part : drawn_caret) {
+        painter.fillRect(part, color);
+    }
 }
 
 void KVQtHighlightEditCtrlInlay::focusInEvent(QFocusEvent* event)

@@ -101,7 +101,7 @@ void KVQtHighlightEditCtrlInlay::blink()
 {
     if (hasFocus()) {
         caret_visible = !caret_visible;
-        update_to_edges(caret_rectangle());
+        update_caret();
     } else if (area->hasFocus()) {
         setFocus();
     }

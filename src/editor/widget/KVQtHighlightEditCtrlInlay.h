@@ -4,6 +4,8 @@
 #include "editor/widget/EditorOptions.h"
 #include "editor/widget/GlyphCache.h"
 
+#include <QElapsedTimer>
+#include <QRegion>
 #include <QTimer>
 #include <QWidget>
 
@@ -187,7 +189,9 @@ private:
     TextView prepare_view();
     void draw_caret(QPainter& painter);
     int gutter_digits() const;
-    QRect caret_rectangle() const;
+    QRect caret_rectangle(CARET caret) const;
+    QRegion caret_region() const;
+    void update_caret();
     void prepare_glyphs(qreal ratio);
     void find_brackets();
 
@@ -205,7 +209,7 @@ private:
     GlyphCache glyphs;
     QImage canvas;                                   // the frame without its caret
     std::vector<std::optional<quint64>> drawn_rows;  // what the canvas shows, see RowKeys
-    QRect drawn_caret;
+    QRegion drawn_caret;
     int cell_width = 1;
     int cell_height = 1;
     int text_width = 0;  // cells of the widest line
@@ -226,3 +230,7 @@ private:
     CARET press_position;
     CARET drop_position;
 };
+    QPoint mouse_point;               // where the held mouse was last
+    QElapsedTimer double_click_time;  // since the last double-click
+    QPoint double_click_point;
+    SELECTION offered_selection;  // what the middle button was last offered
