@@ -59,6 +59,18 @@
 <context>
     <name>KVQtHighlightEditCtrlInlay</name>
     <message>
+        <source>Go to line</source>
+        <translation>Zu Zeile gehen</translation>
+    </message>
+    <message>
+        <source>&amp;Line (1 to %1):</source>
+        <translation>&amp;Zeile (1 bis %1):</translation>
+    </message>
+    <message>
+        <source>Go</source>
+        <translation>Gehen</translation>
+    </message>
+    <message>
         <source>Context menu</source>
         <translation>Kontextmenü</translation>
     </message>

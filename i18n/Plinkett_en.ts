@@ -59,6 +59,18 @@
 <context>
     <name>KVQtHighlightEditCtrlInlay</name>
     <message>
+        <source>Go to line</source>
+        <translation>Go to line</translation>
+    </message>
+    <message>
+        <source>&amp;Line (1 to %1):</source>
+        <translation>&amp;Line (1 to %1):</translation>
+    </message>
+    <message>
+        <source>Go</source>
+        <translation>Go</translation>
+    </message>
+    <message>
         <source>Context menu</source>
         <translation>Context menu</translation>
     </message>

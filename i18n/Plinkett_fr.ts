@@ -59,6 +59,18 @@
 <context>
     <name>KVQtHighlightEditCtrlInlay</name>
     <message>
+        <source>Go to line</source>
+        <translation>Aller à la ligne</translation>
+    </message>
+    <message>
+        <source>&amp;Line (1 to %1):</source>
+        <translation>&amp;Ligne (1 à %1) :</translation>
+    </message>
+    <message>
+        <source>Go</source>
+        <translation>Aller</translation>
+    </message>
+    <message>
         <source>Context menu</source>
         <translation>Menu contextuel</translation>
     </message>

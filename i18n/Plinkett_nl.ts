@@ -59,6 +59,18 @@
 <context>
     <name>KVQtHighlightEditCtrlInlay</name>
     <message>
+        <source>Go to line</source>
+        <translation>Ga naar regel</translation>
+    </message>
+    <message>
+        <source>&amp;Line (1 to %1):</source>
+        <translation>&amp;Regel (1 tot %1):</translation>
+    </message>
+    <message>
+        <source>Go</source>
+        <translation>Ga</translation>
+    </message>
+    <message>
         <source>Context menu</source>
         <translation>Contextmenu</translation>
     </message>

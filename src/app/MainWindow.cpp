@@ -22,6 +22,7 @@
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScrollArea>
+#include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
 #include <QUrl>
@@ -157,6 +158,19 @@ void MainWindow::prepareTextEditor()
     options.show_whitespace = false;
     KVTextEditor::set_script_rules(ui->codeEditor->editor(), ttbasic::keywords(),
                                    ttbasic::voiceOptions());
+}
+
+void MainWindow::keepSettingsIn(QSettings& settings)
+{
+    constexpr char kLetterSize[] = "script/letterSize";  // points
+    KVQtHighlightEditCtrlInlay& script = ui->codeEditor->surface();
+    bool isNumber = false;
+    const int size = settings.value(kLetterSize).toInt(&isNumber);
+    if (isNumber) {
+        script.SetLetterSize(size);
+    }
+    connect(&script, &KVQtHighlightEditCtrlInlay::LetterSizeChanged, this,
+            [&settings, kLetterSize](int points) { settings.setValue(kLetterSize, points); });
 }
 
 void MainWindow::ProjectDataWasChanged(bool toProject)

@@ -21,6 +21,7 @@ class NumberBar;
 class PictureCopy;
 class QLabel;
 class QScrollArea;
+class QSettings;
 class Recovery;
 struct RecoveryHead;
 
@@ -40,6 +41,9 @@ public:
     void openProject(const QString& path);
     // For a window that begins without a project: offers work that has no file.
     void offerUnsavedWork();
+    // Takes over how the author likes the window, and keeps there what becomes of it. The settings
+    // are the caller's and outlive the window.
+    void keepSettingsIn(QSettings& settings);
 
 private slots:
     // Their order, that of the meta-object, is part of the design, too.

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QSettings>
 
 int main(int argc, char* argv[])
 {
@@ -12,7 +13,9 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     const Translations translations(QLocale::system().uiLanguages());
 
+    QSettings settings("Plinkett", "Plinkett");
     MainWindow window;
+    window.keepSettingsIn(settings);
     fitOntoScreen(window);
     window.show();
     const QStringList arguments = QCoreApplication::arguments();

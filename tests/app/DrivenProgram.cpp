@@ -37,6 +37,7 @@ DrivenProgram::DrivenProgram(const XDisplay& display, const QString& folder, QSi
 {
     environment.insert("HOME", folder);
     environment.remove("XDG_DATA_HOME");
+    environment.remove("XDG_CONFIG_HOME");
     environment.insert("LANG", "C.UTF-8");
     environment.insert("LANGUAGE", "en");
     program.setProcessEnvironment(environment);

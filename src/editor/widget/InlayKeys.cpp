@@ -5,6 +5,7 @@
 #include "editor/widget/Characters.h"
 #include "editor/widget/KVQtFindDialog.h"
 
+#include <QInputDialog>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 
@@ -133,10 +134,10 @@ bool KVQtHighlightEditCtrlInlay::move_by_key(int key)
         move_caret(page, 0);
         return true;
     case Qt::Key_Home:
-        move_home();
+        control_held ? move_to({0, 0}) : move_home();
         return true;
     case Qt::Key_End:
-        move_end();
+        control_held ? move_to(end_of_text()) : move_end();
         return true;
     default:
         return false;
@@ -235,17 +236,38 @@ void KVQtHighlightEditCtrlInlay::move_end()
     finish_movement();
 }
 
+void KVQtHighlightEditCtrlInlay::move_to(CARET caret)
+{
+    begin_movement();
+    editor.selection.end = caret;
+    finish_movement();
+}
+
+KVTextEditor::CARET KVQtHighlightEditCtrlInlay::end_of_text() const
+{
+    const int last = buffer.line_count() - 1;
+    return {last, buffer.line(last).length()};
+}
+
 bool KVQtHighlightEditCtrlInlay::process_function_key(int key)
 {
     switch (key) {
     case Qt::Key_Delete:
-        begin_undo_step();
-        delete_forward();
+        if (control_held && !alt_held) {
+            delete_word(true);
+        } else if (shift_held && !alt_held) {
+            OnEditCut();
+        } else {
+            begin_undo_step();
+            delete_forward();
+        }
         return true;
     case Qt::Key_Insert:
         if (control_held) {
             OnEditCopy();
-        } else if (!shift_held && !alt_held) {
+        } else if (shift_held && !alt_held) {
+            OnEditPaste();
+        } else if (!alt_held) {
             overwrite = !overwrite;
         }
         return true;
@@ -287,7 +309,7 @@ bool KVQtHighlightEditCtrlInlay::process_control_key(int key)
         OnEditPaste();
         return true;
     case Qt::Key_Z:
-        OnEditUndo();
+        shift_held ? OnEditRedo() : OnEditUndo();
         return true;
     case Qt::Key_Y:
         OnEditRedo();
@@ -297,6 +319,22 @@ bool KVQtHighlightEditCtrlInlay::process_control_key(int key)
         return true;
     case Qt::Key_H:
         ShowFindDialog(true);
+        return true;
+    case Qt::Key_G:
+        OnEditGotoLine();
+        return true;
+    case Qt::Key_Backspace:
+        delete_word(false);
+        return true;
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:  // where the plus is typed with Shift
+        SetLetterSize(letter_size() + 1);
+        return true;
+    case Qt::Key_Minus:
+        SetLetterSize(letter_size() - 1);
+        return true;
+    case Qt::Key_0:
+        SetLetterSize(kUsualLetterSize);
         return true;
     case Qt::Key_U:
         change_case(shift_held ? KVTextEditor::transform_to_upper
@@ -313,10 +351,51 @@ void KVQtHighlightEditCtrlInlay::change_case(KVTextEditor::CHARACTER_FUNCTION fn
     editor.transform(editor.selection, fn);
 }
 
+// Deletes what the jump by a word would pass; where that passes nothing, what the key deletes
+// without Control. A rectangle has no word of its own: each of its lines loses a character.
+void KVQtHighlightEditCtrlInlay::delete_word(bool right)
+{
+    SELECTION& selection = editor.selection;
+    begin_undo_step();
+    if (!selection.has_range() && !selection.block) {
+        selection.active = true;  // keeps the anchor
+        move_by_word(right);
+        selection.active = false;
+    }
+    right ? delete_forward() : delete_backward();
+}
+
+void KVQtHighlightEditCtrlInlay::OnEditGotoLine()
+{
+    QInputDialog* const dialog = new QInputDialog(this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setObjectName("gotoLineDialog");
+    dialog->setWindowTitle(tr("Go to line"));
+    dialog->setInputMode(QInputDialog::IntInput);
+    dialog->setLabelText(tr("&Line (1 to %1):").arg(buffer.line_count()));
+    dialog->setIntRange(1, buffer.line_count());
+    dialog->setIntValue(std::min(editor.selection.end.line + 1, buffer.line_count()));
+    dialog->setOkButtonText(tr("Go"));
+    dialog->setCancelButtonText(tr("Cancel"));
+    connect(dialog, &QInputDialog::intValueSelected, this, &KVQtHighlightEditCtrlInlay::goto_line);
+    dialog->open();
+}
+
+// Lines count from 1, as in the gutter.
+void KVQtHighlightEditCtrlInlay::goto_line(int number)
+{
+    editor.selection.set(number - 1, 0);
+    EnsureVisible(editor.selection.end, true);
+    UpdateAllViews();
+}
+
 // Returns whether the code unit did something. A further unit of a character joins the first.
 bool KVQtHighlightEditCtrlInlay::OnChar(char16_t ch, bool further)
 {
-    if ((ch < u' ' && control_held) || ch == kDelete) {
+    // A letter with Control or Alt is a command, also where there is none. Both together are AltGr
+    // on some systems: they type.
+    const bool typed = ch < u' ' ? !control_held : control_held == alt_held;
+    if (!typed || ch == kDelete) {
         return false;
     }
     settle_selection();

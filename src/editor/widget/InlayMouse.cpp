@@ -182,3 +182,10 @@ void KVQtHighlightEditCtrlInlay::update_cursor()
         setCursor(control_held ? Qt::DragCopyCursor : Qt::DragMoveCursor);
     }
 }
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        constexpr int kStep = QWheelEvent::DefaultDeltasPerStep;
+        wheel_turned += event->angleDelta().y();
+        SetLetterSize(letter_size() + wheel_turned / kStep);
+        wheel_turned %= kStep;  // fine wheels turn by less than a step
+        return;
+    }

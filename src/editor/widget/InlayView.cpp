@@ -31,6 +31,24 @@ void KVQtHighlightEditCtrlInlay::SetFont(const QString& family, int pointSize)
     update();
 }
 
+int KVQtHighlightEditCtrlInlay::letter_size() const
+{
+    return font().pointSize();
+}
+
+void KVQtHighlightEditCtrlInlay::SetLetterSize(int points)
+{
+    points = std::clamp(points, kSmallestLetterSize, kLargestLetterSize);
+    if (points == letter_size()) {
+        return;
+    }
+    const int line = first_visible_line();
+    const int column = first_visible_column();
+    SetFont(font().family(), points);
+    ScrollBy(column - first_visible_column(), line - first_visible_line());
+    emit LetterSizeChanged(points);
+}
+
 // A position of a scroll bar, so many cells further on, as far as numbers reach.
 static int moved(int value, int cells, int size)
 {

@@ -21,7 +21,7 @@ KVQtHighlightEditCtrlInlay::KVQtHighlightEditCtrlInlay(QAbstractScrollArea* scro
     setAttribute(Qt::WA_InputMethodEnabled);
     setContextMenuPolicy(Qt::CustomContextMenu);
     KVTextEditor::set_new_editor_rules(editor);
-    SetFont("Consolas", 11);
+    SetFont("Consolas", kUsualLetterSize);
 
     using Self = KVQtHighlightEditCtrlInlay;
     connect(find_dialog->btFind, &QPushButton::clicked, this, &Self::OnEditFindNext);

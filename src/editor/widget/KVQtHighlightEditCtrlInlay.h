@@ -50,6 +50,12 @@ public:
     void SetFont(const QString& family, int pointSize);
 
     // --- the view (InlayView.cpp) ---
+    // The size of the letters, in points; SetLetterSize keeps it within these bounds.
+    static constexpr int kUsualLetterSize = 11;
+    static constexpr int kSmallestLetterSize = 6;
+    static constexpr int kLargestLetterSize = 72;
+    int letter_size() const;
+    void SetLetterSize(int points);
     // Colours what has changed and repaints; ends every command.
     void UpdateAllViews();
     // Scrolls until the cell is in view, to the middle of the height when centre is set and it was
@@ -78,6 +84,9 @@ public:
 
 public slots:
     void OnEditUndo();
+signals:
+    void LetterSizeChanged(int points);
+
     void OnEditRedo();
     void OnEditSelectAll();
     void OnEditCopy();
@@ -91,6 +100,7 @@ public slots:
     void OnEditReplaceAll();
     void OnViewToggleBookmark();
     void ShowContextMenu(const QPoint& point);
+    void OnEditGotoLine();
 
 protected:
     // May rewrite what is searched for and what takes its place.
@@ -126,9 +136,13 @@ private:
     void move_end();
     void begin_movement();
     void finish_movement();
+    void move_to(CARET caret);
+    CARET end_of_text() const;
     bool type_text(const QString& text);
     bool OnChar(char16_t ch, bool further = false);
     bool is_overwrite_mode() const;
+    void delete_word(bool right);
+    void goto_line(int number);
     void change_case(KVTextEditor::CHARACTER_FUNCTION fn);
 
     // --- editing (InlayEditing.cpp) ---
@@ -228,6 +242,7 @@ private:
     bool selecting_lines = false;  // a selection that began in the gutter
     bool dragging = false;         // the selection is on its way to another place
     CARET press_position;
+    int wheel_turned = 0;  // with Control, in eighths of a degree, less than a step
     CARET drop_position;
 };
     QPoint mouse_point;               // where the held mouse was last

@@ -1,8 +1,11 @@
 #include "editor/widget/KVQtFindDialog.h"
 #include "tests/editor/widget/EditorWindow.h"
 
+#include <QAccessible>
 #include <QClipboard>
+#include <QInputDialog>
 #include <QLineEdit>
+#include <QSpinBox>
 #include <QtTest>
 
 namespace {
@@ -156,6 +159,174 @@ private slots:
         QCOMPARE(window.shown(), QString("a\nb\nc\n|d"));
     }
 
+    void controlShiftZGoesForthToo()
+    {
+        EditorWindow window("|");
+        window.type("abc");
+        window.key(Qt::Key_Z, Qt::ControlModifier);
+        window.key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(window.shown(), QString("abc|"));
+    }
+
+    void shiftDeleteCuts()
+    {
+        EditorWindow window("o^n|e");
+        window.key(Qt::Key_Delete, Qt::ShiftModifier);
+        QCOMPARE(window.shown(), QString("o|e"));
+        QCOMPARE(clipboardText(), QString("n"));
+    }
+
+    void shiftInsertPastes()
+    {
+        EditorWindow window("o^n|e");
+        window.key(Qt::Key_Insert, Qt::ShiftModifier);
+        QCOMPARE(window.shown(), QString("obefore|e"));
+    }
+
+    void controlBackspaceAndControlDeleteTakeWhatTheJumpByAWordPasses_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("after");
+        const int back = Qt::Key_Backspace, forth = Qt::Key_Delete;
+        QTest::newRow("back: a word") << back << "say cow|s"
+                                      << "say |s";
+        QTest::newRow("back: blanks") << back << "say  |cow"
+                                      << "say|cow";
+        QTest::newRow("back: operators") << back << "a +=|b"
+                                         << "a |b";
+        QTest::newRow("back: a tab") << back << "\t|cow"
+                                     << "|cow";
+        QTest::newRow("back: the line break") << back << "say\n|cow"
+                                              << "say|cow";
+        QTest::newRow("back: nothing") << back << "|cow"
+                                       << "|cow";
+        QTest::newRow("back: the selection") << back << "sa^y c|ow"
+                                             << "sa|ow";
+        QTest::newRow("forth: a word") << forth << "s|ay cow"
+                                       << "s| cow";
+        QTest::newRow("forth: blanks") << forth << "say|  cow"
+                                       << "say|cow";
+        QTest::newRow("forth: operators") << forth << "a |+=b"
+                                          << "a |b";
+        QTest::newRow("forth: the line break") << forth << "say|\ncow"
+                                               << "say|cow";
+        QTest::newRow("forth: nothing") << forth << "cow|"
+                                        << "cow|";
+        QTest::newRow("forth: the selection") << forth << "sa^y c|ow"
+                                              << "sa|ow";
+    }
+
+    void controlBackspaceAndControlDeleteTakeWhatTheJumpByAWordPasses()
+    {
+        QFETCH(int, key);
+        QFETCH(QString, before);
+        QFETCH(QString, after);
+        EditorWindow window(before);
+        if (before.startsWith('\t')) {
+            window.place({0, 4}, {0, 4});  // behind the tab, which takes four cells
+        }
+        const QString text = window.text();
+        // What X sends with Control and Backspace.
+        QTest::sendKeyEvent(QTest::Click, &window.surface, static_cast<Qt::Key>(key), "\x7f",
+                            Qt::ControlModifier);
+        QCOMPARE(window.shown(), after);
+        QVERIFY(!window.selection().active);
+        window.key(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(window.text(), text);
+    }
+
+    void controlBackspaceInARectangleTakesACharacterOfEachLine()
+    {
+        EditorWindow window("ab|c\ndef");
+        window.key(Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
+        window.key(Qt::Key_Backspace, Qt::ControlModifier);
+        QCOMPARE(window.text(), QString("ac\ndf"));
+    }
+
+    void controlGGoesToALine()
+    {
+        EditorWindow window("|" + QString("a\n").repeated(400));
+        window.key(Qt::Key_G, Qt::ControlModifier);
+        QInputDialog* const dialog = window.surface.findChild<QInputDialog*>();
+        QVERIFY(dialog->isVisible());
+        QCOMPARE(dialog->windowTitle(), QString("Go to line"));
+        QCOMPARE(dialog->labelText(), QString("&Line (1 to 401):"));
+        QCOMPARE(dialog->okButtonText(), QString("Go"));
+        QCOMPARE(dialog->cancelButtonText(), QString("Cancel"));
+        QTest::keyClicks(dialog->focusWidget(), "205");
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+        QVERIFY(!dialog->isVisible());
+        QCOMPARE(window.rectangle(), QString("204,0-204,0"));
+        QVERIFY(window.surface.rect().contains(window.point(204, 0)));
+    }
+
+    void goingToALineBeginsWithTheCaretsOwnAndCanBeCancelled()
+    {
+        EditorWindow window("one\nt^wo\nsi|x");
+        window.key(Qt::Key_G, Qt::ControlModifier);
+        QInputDialog* const dialog = window.surface.findChild<QInputDialog*>();
+        QCOMPARE(dialog->intValue(), 3);
+        QTest::keyClicks(dialog->focusWidget(), "1");
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Escape);
+        QVERIFY(!dialog->isVisible());
+        QCOMPARE(window.shown(), QString("one\nt^wo\nsi|x"));
+    }
+
+    void theFieldForTheLineHasANameForScreenReaders()
+    {
+        EditorWindow window("one");
+        window.key(Qt::Key_G, Qt::ControlModifier);
+        QWidget* const field = window.surface.findChild<QInputDialog*>()->findChild<QSpinBox*>();
+        QCOMPARE(QAccessible::queryAccessibleInterface(field)->text(QAccessible::Name),
+                 QString("Line (1 to 1):"));
+    }
+
+    void aLetterWithControlOrAltThatIsNoCommandTypesNothing_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("modifiers");
+        QTest::newRow("Ctrl+1") << int(Qt::Key_1) << "1" << int(Qt::ControlModifier);
+        QTest::newRow("Ctrl+Shift+;")
+            << int(Qt::Key_Semicolon) << ";" << int(Qt::ControlModifier | Qt::ShiftModifier);
+        QTest::newRow("Alt+Y") << int(Qt::Key_Y) << "y" << int(Qt::AltModifier);
+        QTest::newRow("Alt+Shift+Y")
+            << int(Qt::Key_Y) << "Y" << int(Qt::AltModifier | Qt::ShiftModifier);
+        QTest::newRow("Alt+ü") << int(Qt::Key_Udiaeresis) << QString::fromUtf8("ü")
+                               << int(Qt::AltModifier);
+    }
+
+    void aLetterWithControlOrAltThatIsNoCommandTypesNothing()
+    {
+        QFETCH(int, key);
+        QFETCH(QString, text);
+        QFETCH(int, modifiers);
+        EditorWindow window("o^n|e");
+        QKeyEvent event(QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers), text);
+        QApplication::sendEvent(&window.surface, &event);
+        QCOMPARE(window.shown(), QString("o^n|e"));
+        QVERIFY(!window.surface.editor.can_undo());
+        QVERIFY(!event.isAccepted());
+    }
+
+    void aLetterWithControlThatIsACommandTypesNothingBesides()
+    {
+        EditorWindow window("one|");
+        QTest::sendKeyEvent(QTest::Click, &window.surface, Qt::Key_Plus, "+", Qt::ControlModifier);
+        QCOMPARE(window.shown(), QString("one|"));
+    }
+
+    void altGrTypesWhereItIsAModifierOfItsOwn()
+    {
+        EditorWindow window("|");
+        for (const char* ch : {"@", "{", "[", "\\"}) {
+            QTest::sendKeyEvent(QTest::Click, &window.surface, Qt::Key_Q, ch,
+                                Qt::GroupSwitchModifier);
+        }
+        QCOMPARE(window.shown(), QString("@{[\\|"));
+    }
+
     void altGrTypesAndIsNoCommand()
     {
         EditorWindow window("^one|");
@@ -164,11 +335,10 @@ private slots:
         QCOMPARE(window.shown(), QString("@|"));
     }
 
-    void controlAndBackspaceTypeNothing()
+    void theCharacterDeleteIsNotTyped()
     {
         EditorWindow window("one|");
-        QTest::sendKeyEvent(QTest::Click, &window.surface, Qt::Key_Backspace, "\x7f",
-                            Qt::ControlModifier);
+        QTest::sendKeyEvent(QTest::Click, &window.surface, Qt::Key_unknown, "\x7f", Qt::NoModifier);
         QCOMPARE(window.shown(), QString("one|"));
         QVERIFY(!window.surface.editor.can_undo());
     }

@@ -48,6 +48,33 @@ private slots:
         QVERIFY(window.selection().active);
     }
 
+    void controlHomeAndControlEndGoToTheEndsOfTheText()
+    {
+        EditorWindow window("  one\nt|wo\nsix");
+        window.key(Qt::Key_End, Qt::ControlModifier);
+        QCOMPARE(window.shown(), QString("  one\ntwo\nsix|"));
+        window.key(Qt::Key_Home, Qt::ControlModifier);
+        QCOMPARE(window.shown(), QString("|  one\ntwo\nsix"));
+    }
+
+    void withShiftTheySelectUpToTheEndsOfTheText()
+    {
+        EditorWindow window("one\nt|wo\nsix");
+        window.key(Qt::Key_End, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(window.shown(), QString("one\nt^wo\nsix|"));
+        window.key(Qt::Key_Home, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(window.shown(), QString("|one\nt^wo\nsix"));
+    }
+
+    void theEndsOfALongTextAreScrolledIntoView()
+    {
+        EditorWindow window("|" + QString("a\n").repeated(300));
+        window.key(Qt::Key_End, Qt::ControlModifier);
+        QVERIFY(window.surface.rect().contains(window.point(300, 0)));
+        window.key(Qt::Key_Home, Qt::ControlModifier);
+        QCOMPARE(window.surface.first_visible_line(), 0);
+    }
+
     void anArrowOnlyEndsASelectionAtTheEndThatItPointsTo_data()
     {
         QTest::addColumn<int>("key");

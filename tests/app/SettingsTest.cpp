@@ -1,0 +1,57 @@
+// What a window keeps for the next one. The settings lie in a file of the test's own.
+#include "tests/app/WindowFixture.h"
+
+#include <QSettings>
+
+namespace {
+
+KVQtHighlightEditCtrlInlay& script(MainWindow& window)
+{
+    return window.findChild<KVQtHighlightEditCtrl*>("codeEditor")->surface();
+}
+
+// The size of the script's letters at the start of a window with these settings.
+int sizeAtTheStart(QSettings& settings)
+{
+    MainWindow window;
+    window.keepSettingsIn(settings);
+    return script(window).letter_size();
+}
+
+}  // namespace
+
+class SettingsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theSizeOfTheScriptsLettersIsKeptForTheNextStart()
+    {
+        const TemporaryFolder folder;
+        const QString file = QString::fromStdString(folder.file("settings.ini"));
+        {
+            QSettings settings(file, QSettings::IniFormat);
+            MainWindow window;
+            window.keepSettingsIn(settings);
+            QCOMPARE(script(window).letter_size(), 11);
+            QTest::keyClick(&script(window), Qt::Key_Plus, Qt::ControlModifier);
+            QTest::keyClick(&script(window), Qt::Key_Plus, Qt::ControlModifier);
+        }
+        QSettings settings(file, QSettings::IniFormat);
+        QCOMPARE(sizeAtTheStart(settings), 13);
+    }
+
+    void aSizeThatIsNoneIsNotTakenOver()
+    {
+        const TemporaryFolder folder;
+        QSettings settings(QString::fromStdString(folder.file("settings.ini")),
+                           QSettings::IniFormat);
+        settings.setValue("script/letterSize", "large");
+        QCOMPARE(sizeAtTheStart(settings), 11);
+        settings.setValue("script/letterSize", 1000000);
+        QCOMPARE(sizeAtTheStart(settings), 72);
+    }
+};
+
+QTEST_MAIN(SettingsTest)
+#include "SettingsTest.moc"
