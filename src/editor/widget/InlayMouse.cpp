@@ -3,7 +3,7 @@
 #include "editor/widget/KVQtHighlightEditCtrlInlay.h"
 
 #include <QAbstractScrollArea>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QMouseEvent>
 #include <QWheelEvent>
 
@@ -11,6 +11,10 @@
 
 void KVQtHighlightEditCtrlInlay::mousePressEvent(QMouseEvent* event)
 {
+    if (event->button() == Qt::MiddleButton) {
+        paste_selection_at(event->pos());
+        return;
+    }
     if (event->button() != Qt::LeftButton) {
         event->ignore();
         return;
@@ -19,9 +23,23 @@ void KVQtHighlightEditCtrlInlay::mousePressEvent(QMouseEvent* event)
     // Qt reports the second press of a double-click with this type.
     if (event->type() == QEvent::MouseButtonDblClick) {
         OnLButtonDblClk(event->pos());
+        double_click_time.start();
+        double_click_point = event->pos();
+    } else if (is_third_click(event->pos())) {
+        setFocus();
+        double_click_time.invalidate();
+        begin_line_selection(FromPoint(event->pos()).line);
+        UpdateAllViews();
     } else {
         OnLButtonDown(event->pos());
     }
+}
+
+bool KVQtHighlightEditCtrlInlay::is_third_click(QPoint point) const
+{
+    return double_click_time.isValid() &&
+           double_click_time.elapsed() < QApplication::doubleClickInterval() &&
+           (point - double_click_point).manhattanLength() < QApplication::startDragDistance();
 }
 
 void KVQtHighlightEditCtrlInlay::OnLButtonDblClk(QPoint point)
@@ -51,11 +69,20 @@ void KVQtHighlightEditCtrlInlay::OnLButtonDown(QPoint point)
         editor.mouse_click(caret, false, alt_held);
         editor.selection.stop_selecting();
         if (inGutter) {
-            ++editor.selection.end.line;
-            selecting_lines = true;
+            begin_line_selection(caret.line);
         }
     }
     UpdateAllViews();
+}
+
+// Selects the whole line; the lines that the mouse is moved to follow.
+void KVQtHighlightEditCtrlInlay::begin_line_selection(int line)
+{
+    button_held = true;
+    selecting_lines = true;
+    press_position = drop_position = {line, 0};
+    editor.selection.set(line, 0);
+    ++editor.selection.end.line;
 }
 
 void KVQtHighlightEditCtrlInlay::mouseMoveEvent(QMouseEvent* event)
@@ -64,7 +91,30 @@ void KVQtHighlightEditCtrlInlay::mouseMoveEvent(QMouseEvent* event)
     if (!button_held) {
         return;
     }
-    const CARET caret = FromPoint(event->pos(), alt_held);
+    mouse_point = event->pos();
+    follow_mouse();
+    constexpr int kScrollTime = 50;  // ms
+    if (rect().contains(mouse_point)) {
+        scroll_timer.stop();
+    } else if (!scroll_timer.isActive()) {
+        scroll_timer.start(kScrollTime);
+    }
+}
+
+// While the mouse is held beyond the edge the text goes on scrolling, the faster the farther away
+// it is.
+void KVQtHighlightEditCtrlInlay::scroll_on()
+{
+    if (!button_held || !isVisible()) {
+        scroll_timer.stop();
+    } else if (FromPoint(mouse_point, alt_held) != drop_position) {
+        follow_mouse();
+    }
+}
+
+void KVQtHighlightEditCtrlInlay::follow_mouse()
+{
+    const CARET caret = FromPoint(mouse_point, alt_held);
     drop_position = caret;
     if (selecting_lines) {
         extend_line_selection(caret);
@@ -160,9 +210,17 @@ int KVQtHighlightEditCtrlInlay::characters_before_drop(const SELECTION& removed)
                                    drop_position.column);
 }
 
-// The scroll area knows what to do, but only with what reaches its viewport.
+// The scroll area knows what to do, but only with what reaches its viewport. With Control the wheel
+// changes the size of the letters.
 void KVQtHighlightEditCtrlInlay::wheelEvent(QWheelEvent* event)
 {
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        constexpr int kStep = QWheelEvent::DefaultDeltasPerStep;
+        wheel_turned += event->angleDelta().y();
+        SetLetterSize(letter_size() + wheel_turned / kStep);
+        wheel_turned %= kStep;  // fine wheels turn by less than a step
+        return;
+    }
     QCoreApplication::sendEvent(area->viewport(), event);
 }
 
@@ -171,6 +229,7 @@ void KVQtHighlightEditCtrlInlay::end_gesture()
     button_held = false;
     selecting_lines = false;
     dragging = false;
+    scroll_timer.stop();
     update_cursor();
 }
 
@@ -182,10 +241,3 @@ void KVQtHighlightEditCtrlInlay::update_cursor()
         setCursor(control_held ? Qt::DragCopyCursor : Qt::DragMoveCursor);
     }
 }
-    if (event->modifiers().testFlag(Qt::ControlModifier)) {
-        constexpr int kStep = QWheelEvent::DefaultDeltasPerStep;
-        wheel_turned += event->angleDelta().y();
-        SetLetterSize(letter_size() + wheel_turned / kStep);
-        wheel_turned %= kStep;  // fine wheels turn by less than a step
-        return;
-    }

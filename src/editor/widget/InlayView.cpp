@@ -71,6 +71,7 @@ void KVQtHighlightEditCtrlInlay::UpdateAllViews()
     caret_visible = true;
     update_changed_rows();
     updateMicroFocus();
+    offer_selection();
     EditorAccessible::announce(this);
 }
 

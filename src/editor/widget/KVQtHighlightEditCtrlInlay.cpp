@@ -34,6 +34,7 @@ KVQtHighlightEditCtrlInlay::KVQtHighlightEditCtrlInlay(QAbstractScrollArea* scro
     blink_timer.start(kBlinkTime);
 }
 
+    connect(&scroll_timer, &QTimer::timeout, this, &Self::scroll_on);
 KVQtHighlightEditCtrlInlay::~KVQtHighlightEditCtrlInlay() = default;
 
 QString KVQtHighlightEditCtrlInlay::text() const

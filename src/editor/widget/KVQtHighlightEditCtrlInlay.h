@@ -15,6 +15,8 @@
 
 class KVQtFindDialog;
 class QAbstractScrollArea;
+class QMimeData;
+class SearchNote;
 struct TextView;
 
 // The surface of the code editor: it draws a grid of cells with line numbers in front, and turns
@@ -48,14 +50,14 @@ public:
     void forgetHistory();  // ends undo and redo; text, bookmarks and caret stay
 
     void SetFont(const QString& family, int pointSize);
-
-    // --- the view (InlayView.cpp) ---
     // The size of the letters, in points; SetLetterSize keeps it within these bounds.
     static constexpr int kUsualLetterSize = 11;
     static constexpr int kSmallestLetterSize = 6;
     static constexpr int kLargestLetterSize = 72;
     int letter_size() const;
     void SetLetterSize(int points);
+
+    // --- the view (InlayView.cpp) ---
     // Colours what has changed and repaints; ends every command.
     void UpdateAllViews();
     // Scrolls until the cell is in view, to the middle of the height when centre is set and it was
@@ -82,11 +84,11 @@ public:
     // The format that marks the text on the clipboard as a rectangle.
     static const char* const kRectangleFormat;
 
-public slots:
-    void OnEditUndo();
 signals:
     void LetterSizeChanged(int points);
 
+public slots:
+    void OnEditUndo();
     void OnEditRedo();
     void OnEditSelectAll();
     void OnEditCopy();
@@ -98,9 +100,9 @@ signals:
     void OnEditFindPrevious();
     void OnEditDoReplace();
     void OnEditReplaceAll();
+    void OnEditGotoLine();
     void OnViewToggleBookmark();
     void ShowContextMenu(const QPoint& point);
-    void OnEditGotoLine();
 
 protected:
     // May rewrite what is searched for and what takes its place.
@@ -134,15 +136,15 @@ private:
     void keep_whole_characters(bool forward);
     void move_home();
     void move_end();
-    void begin_movement();
-    void finish_movement();
     void move_to(CARET caret);
     CARET end_of_text() const;
+    void begin_movement();
+    void finish_movement();
+    void delete_word(bool right);
+    void goto_line(int number);
     bool type_text(const QString& text);
     bool OnChar(char16_t ch, bool further = false);
     bool is_overwrite_mode() const;
-    void delete_word(bool right);
-    void goto_line(int number);
     void change_case(KVTextEditor::CHARACTER_FUNCTION fn);
 
     // --- editing (InlayEditing.cpp) ---
@@ -176,12 +178,22 @@ private:
     // --- mouse (InlayMouse.cpp) ---
     void OnLButtonDown(QPoint point);
     void OnLButtonDblClk(QPoint point);
+    bool is_third_click(QPoint point) const;
+    void begin_line_selection(int line);
+    void follow_mouse();
+    void scroll_on();
     void extend_line_selection(CARET caret);
     void drop_selection();
     CARET remove_selection_before_drop();
     int characters_before_drop(const SELECTION& removed) const;
     void end_gesture();
     void update_cursor();
+
+    // --- clipboard (InlayClipboard.cpp) ---
+    QMimeData* selected_data() const;
+    void paste_data(const QMimeData* offered);
+    void offer_selection();
+    void paste_selection_at(QPoint point);
 
     // --- find and replace (InlaySearch.cpp) ---
     void ShowFindDialog(bool replace);
@@ -221,6 +233,7 @@ private:
     KVQtFindDialog* find_dialog;
     QTimer blink_timer;
     GlyphCache glyphs;
+    QTimer scroll_timer;  // while the mouse is held beyond the edge
     QImage canvas;                                   // the frame without its caret
     std::vector<std::optional<quint64>> drawn_rows;  // what the canvas shows, see RowKeys
     QRegion drawn_caret;
@@ -229,6 +242,7 @@ private:
     int text_width = 0;  // cells of the widest line
     int widest_line = 0;
 
+    int wheel_turned = 0;  // with Control, in eighths of a degree, less than a step
     bool caret_visible = true;
     std::array<CARET, 2> brackets = {{{-1, -1}, {-1, -1}}};  // at the caret, and its partner
     CARET brackets_caret;
@@ -242,10 +256,9 @@ private:
     bool selecting_lines = false;  // a selection that began in the gutter
     bool dragging = false;         // the selection is on its way to another place
     CARET press_position;
-    int wheel_turned = 0;  // with Control, in eighths of a degree, less than a step
     CARET drop_position;
-};
     QPoint mouse_point;               // where the held mouse was last
     QElapsedTimer double_click_time;  // since the last double-click
     QPoint double_click_point;
     SELECTION offered_selection;  // what the middle button was last offered
+};

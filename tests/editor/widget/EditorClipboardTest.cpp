@@ -19,17 +19,17 @@ bool holdsRectangle()
 }
 
 // What an editor with the lines "1" and "2" holds after pasting what another process has copied.
-QString pastedFromAnotherProcess(const QString& whatToCopy)
+QString pastedFromAnotherProcess(const QStringList& copy, const QString& paste = "paste")
 {
     const XDisplay display;
     QProcess copying, pasting;
     copying.setProcessEnvironment(display.environment());
     pasting.setProcessEnvironment(display.environment());
-    copying.start(CLIPBOARD_PROGRAM, {"copy", whatToCopy});
-    if (!copying.waitForReadyRead() || copying.readLine() != "copied\n") {
+    copying.start(CLIPBOARD_PROGRAM, copy);
+    if (!copying.waitForReadyRead() || !copying.readLine().endsWith("ed\n")) {
         return "nothing was copied: " + copying.readAllStandardError();
     }
-    pasting.start(CLIPBOARD_PROGRAM, {"paste"});
+    pasting.start(CLIPBOARD_PROGRAM, {paste});
     pasting.waitForFinished();
     copying.closeWriteChannel();
     copying.waitForFinished();
@@ -175,12 +175,27 @@ private slots:
 
     void aRectangleFromAnotherProcessIsPastedAsARectangle()
     {
-        QCOMPARE(pastedFromAnotherProcess("rectangle"), QString("b1\ne2"));
+        QCOMPARE(pastedFromAnotherProcess({"copy", "rectangle"}), QString("b1\ne2"));
     }
 
     void aTextFromAnotherProcessIsPastedAsText()
     {
-        QCOMPARE(pastedFromAnotherProcess("text"), QString("bc\nd1\n2"));
+        QCOMPARE(pastedFromAnotherProcess({"copy", "text"}), QString("bc\nd1\n2"));
+    }
+
+    void theMiddleButtonPastesWhatAnotherProcessSelected()
+    {
+        QCOMPARE(pastedFromAnotherProcess({"select"}, "middle"), QString("1\n2bc\nde|"));
+    }
+
+    void theMiddleButtonPastesWhatWasSelectedWithKeysAsTextOrAsARectangle()
+    {
+        const XDisplay display;
+        QProcess program;
+        program.setProcessEnvironment(display.environment());
+        program.start(CLIPBOARD_PROGRAM, {"both"});
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(QString(program.readAllStandardOutput()), QString("aba\nb b| < ab\nb"));
     }
 };
 

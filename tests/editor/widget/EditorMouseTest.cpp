@@ -1,5 +1,6 @@
 #include "tests/editor/widget/EditorWindow.h"
 
+#include <QClipboard>
 #include <QtTest>
 
 class EditorMouseTest : public QObject
@@ -147,6 +148,44 @@ private slots:
         QCOMPARE(window.shown(), QString("x = ^1.5e-3|;"));
     }
 
+    void aTripleClickSelectsTheLine()
+    {
+        EditorWindow window("one\ntwo six ten\nend");
+        window.doubleClick(window.point(1, 5));
+        window.click(window.point(1, 5));
+        QCOMPARE(window.shown(), QString("one\n^two six ten\n|end"));
+    }
+
+    void draggingAfterATripleClickSelectsWholeLines()
+    {
+        EditorWindow window("one\ntwo\nsix\nten");
+        window.doubleClick(window.point(1, 1));
+        window.drag(window.point(1, 1), window.point(2, 2));
+        QCOMPARE(window.shown(), QString("one\n^two\nsix\n|ten"));
+    }
+
+    void aThirdClickElsewhereOrLaterIsAClick()
+    {
+        EditorWindow window("one two");
+        window.doubleClick(window.point(0, 1));
+        window.click(window.point(0, 6));
+        QCOMPARE(window.shown(), QString("one tw|o"));
+
+        window.doubleClick(window.point(0, 6));
+        QTest::qWait(QApplication::doubleClickInterval() + 50);
+        window.click(window.point(0, 6));
+        QCOMPARE(window.shown(), QString("one tw|o"));
+    }
+
+    void aFourthClickIsNoThirdOne()
+    {
+        EditorWindow window("one two\nsix");
+        window.doubleClick(window.point(0, 5));
+        window.click(window.point(0, 5));
+        window.click(window.point(0, 5));
+        QCOMPARE(window.shown(), QString("one t|wo\nsix"));
+    }
+
     void aClickInTheGutterSelectsTheLine()
     {
         EditorWindow window("|one\ntwo\nsix");
@@ -201,6 +240,77 @@ private slots:
         window.move(QPoint(below.x(), -1000));
         QCOMPARE(window.surface.first_visible_line(), 0);
         window.release(window.point(0, 2));
+    }
+
+    void holdingTheMouseBeyondTheEdgeScrollsOnToTheEnd()
+    {
+        EditorWindow window(QString("abc\n").repeated(100));
+        window.press(window.point(0, 1));
+        const QPoint below(window.point(0, 2).x(), window.surface.height() + 100);
+        window.move(below);
+        QTRY_COMPARE(window.caret(), (KVTextEditor::CARET{100, 0}));
+        QCOMPARE(window.selection().start, (KVTextEditor::CARET{0, 1}));
+        window.move(QPoint(below.x(), -100));
+        QTRY_COMPARE(window.caret(), (KVTextEditor::CARET{0, 2}));
+        window.release(QPoint(below.x(), -100));
+    }
+
+    void holdingItBesideALongLineScrollsOnToItsEnd()
+    {
+        EditorWindow window(QString(400, 'x'));
+        window.press(window.point(0, 1));
+        window.move(QPoint(window.surface.width() + 30, window.point(0, 1).y()));
+        QTRY_COMPARE(window.caret(), (KVTextEditor::CARET{0, 400}));
+        window.release(QPoint(0, 0));
+    }
+
+    void theScrollingStops_data()
+    {
+        QTest::addColumn<QString>("how");
+        QTest::newRow("when the mouse comes back") << "back";
+        QTest::newRow("when the button is released") << "release";
+        QTest::newRow("with Escape") << "escape";
+    }
+
+    void theScrollingStops()
+    {
+        QFETCH(QString, how);
+        EditorWindow window(QString("abc\n").repeated(5000));
+        const QPoint below(window.point(0, 2).x(), window.surface.height() + 10);
+        window.press(window.point(0, 1));
+        window.move(below);
+        const int once = window.surface.first_visible_line();
+        QTRY_VERIFY(window.surface.first_visible_line() > once);
+        if (how == "back") {
+            window.move(QPoint(below.x(), 40));
+        } else if (how == "release") {
+            window.release(below);
+        } else {
+            window.key(Qt::Key_Escape);
+        }
+        const int line = window.surface.first_visible_line();
+        QTest::qWait(200);
+        QCOMPARE(window.surface.first_visible_line(), line);
+    }
+
+    void aDraggedSelectionScrollsTooAndIsDroppedThere()
+    {
+        EditorWindow window("^cow|\n" + QString("\n").repeated(100));
+        window.press(window.point(0, 1));
+        const QPoint below(window.point(0, 2).x(), window.surface.height() + 100);
+        window.move(below);
+        QTRY_VERIFY(window.surface.rect().contains(window.point(101, 0)));
+        window.release(below);
+        QCOMPARE(window.text(), QString("\n").repeated(101) + "cow");
+    }
+
+    void theMiddleButtonDoesNothingWhereThereIsNoSelectionOfTheSystem()
+    {
+        QVERIFY(!QApplication::clipboard()->supportsSelection());
+        QApplication::clipboard()->setText("clipboard");
+        EditorWindow window("a|bc");
+        QTest::mouseClick(&window.surface, Qt::MiddleButton, Qt::NoModifier, window.point(0, 3));
+        QCOMPARE(window.shown(), QString("a|bc"));
     }
 };
 
