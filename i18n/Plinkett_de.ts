@@ -16,8 +16,8 @@
         <translation>&amp;Ersetzen</translation>
     </message>
     <message>
-        <source>Replaces the text that is selected</source>
-        <translation>Ersetzt den ausgewählten Text</translation>
+        <source>Replaces what is selected, or else the next place that holds the text</source>
+        <translation>Ersetzt, was ausgewählt ist, oder sonst die nächste Fundstelle</translation>
     </message>
     <message>
         <source>Replace &amp;All</source>
@@ -121,6 +121,18 @@
     <message>
         <source>Previous Bookmark	Shift+F2</source>
         <translation>Voriges Lesezeichen	Umschalt+F2</translation>
+    </message>
+    <message>
+        <source>Went on from the end.</source>
+        <translation>Am Ende weitergesucht.</translation>
+    </message>
+    <message>
+        <source>Went on from the beginning.</source>
+        <translation>Am Anfang weitergesucht.</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Nichts gefunden.</translation>
     </message>
     <message>
         <source>Replacing...</source>

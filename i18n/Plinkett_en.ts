@@ -16,8 +16,8 @@
         <translation>&amp;Replace</translation>
     </message>
     <message>
-        <source>Replaces the text that is selected</source>
-        <translation>Replaces the text that is selected</translation>
+        <source>Replaces what is selected, or else the next place that holds the text</source>
+        <translation>Replaces what is selected, or else the next place that holds the text</translation>
     </message>
     <message>
         <source>Replace &amp;All</source>
@@ -121,6 +121,18 @@
     <message>
         <source>Previous Bookmark	Shift+F2</source>
         <translation>Previous Bookmark	Shift+F2</translation>
+    </message>
+    <message>
+        <source>Went on from the end.</source>
+        <translation>Went on from the end.</translation>
+    </message>
+    <message>
+        <source>Went on from the beginning.</source>
+        <translation>Went on from the beginning.</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Nothing found.</translation>
     </message>
     <message>
         <source>Replacing...</source>

@@ -16,8 +16,8 @@
         <translation>&amp;Remplacer</translation>
     </message>
     <message>
-        <source>Replaces the text that is selected</source>
-        <translation>Remplace le texte sélectionné</translation>
+        <source>Replaces what is selected, or else the next place that holds the text</source>
+        <translation>Remplace la sélection ou, à défaut, la prochaine occurrence</translation>
     </message>
     <message>
         <source>Replace &amp;All</source>
@@ -121,6 +121,18 @@
     <message>
         <source>Previous Bookmark	Shift+F2</source>
         <translation>Signet précédent	Maj+F2</translation>
+    </message>
+    <message>
+        <source>Went on from the end.</source>
+        <translation>Recherche reprise depuis la fin.</translation>
+    </message>
+    <message>
+        <source>Went on from the beginning.</source>
+        <translation>Recherche reprise depuis le début.</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Rien trouvé.</translation>
     </message>
     <message>
         <source>Replacing...</source>

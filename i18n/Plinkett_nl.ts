@@ -16,8 +16,8 @@
         <translation>&amp;Vervangen</translation>
     </message>
     <message>
-        <source>Replaces the text that is selected</source>
-        <translation>Vervangt de geselecteerde tekst</translation>
+        <source>Replaces what is selected, or else the next place that holds the text</source>
+        <translation>Vervangt de selectie of anders de volgende vindplaats</translation>
     </message>
     <message>
         <source>Replace &amp;All</source>
@@ -121,6 +121,18 @@
     <message>
         <source>Previous Bookmark	Shift+F2</source>
         <translation>Vorige bladwijzer	Shift+F2</translation>
+    </message>
+    <message>
+        <source>Went on from the end.</source>
+        <translation>Verder gezocht vanaf het einde.</translation>
+    </message>
+    <message>
+        <source>Went on from the beginning.</source>
+        <translation>Verder gezocht vanaf het begin.</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Niets gevonden.</translation>
     </message>
     <message>
         <source>Replacing...</source>

@@ -50,9 +50,8 @@ void KVQtHighlightEditCtrlInlay::settle_selection()
     keep_between_characters();
 }
 
-// A caret stands neither in a tab nor in a surrogate pair (a found tab is selected without its
-// fillers). A rectangle has its columns where it is drawn, so its lines are expanded as they will
-// be when something is typed there.
+// A caret stands neither in a tab nor in a surrogate pair. A rectangle has its columns where it is
+// drawn, so its lines are expanded as they will be when something is typed there.
 void KVQtHighlightEditCtrlInlay::keep_between_characters()
 {
     SELECTION& selection = editor.selection;
@@ -64,11 +63,9 @@ void KVQtHighlightEditCtrlInlay::keep_between_characters()
         return;
     }
     const BUFFER& text = buffer;
-    const bool range = selection.has_range();
     for (CARET* caret : {&selection.start, &selection.end}) {
         const LINE& line = text.line(caret->line);
-        const bool inTab = !range && line.is_filler_at(caret->column);
-        if (inTab || parts_pair(line, caret->column)) {
+        if (line.is_filler_at(caret->column) || parts_pair(line, caret->column)) {
             caret->column = end_of_character(line, caret->column);
         }
     }

@@ -2,13 +2,14 @@
 #include "editor/core/ReplaceAll.h"
 #include "editor/widget/KVQtFindDialog.h"
 #include "editor/widget/KVQtHighlightEditCtrlInlay.h"
+#include "editor/widget/SearchNote.h"
+#include "editor/widget/TextSearch.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QProgressDialog>
 
-#include <algorithm>
 #include <utility>
 
 void KVQtHighlightEditCtrlInlay::FindPrepareSearchString(QString& /*text*/) {}
@@ -28,15 +29,21 @@ void KVQtHighlightEditCtrlInlay::OnEditReplace()
 void KVQtHighlightEditCtrlInlay::ShowFindDialog(bool replace)
 {
     const QString text = find_dialog->find_text();
-    if (text.isEmpty() || text != text_of(selected_lines())) {
+    if (text.isEmpty() || text != text_to_find()) {
         SetFindStringFromSelection();
     }
     find_dialog->open_for(replace);
 }
 
+// What is selected; of several lines the first one.
+QString KVQtHighlightEditCtrlInlay::text_to_find() const
+{
+    return text_of(selected_lines()).section("\r\n", 0, 0);
+}
+
 void KVQtHighlightEditCtrlInlay::SetFindStringFromSelection()
 {
-    QString text = text_of(selected_lines());
+    QString text = text_to_find();
     FindPrepareSearchString(text);
     find_dialog->set_find_text(text);
 }
@@ -61,86 +68,66 @@ bool KVQtHighlightEditCtrlInlay::DoFindNext(bool wrap)
         ShowFindDialog(false);
         return false;
     }
-    const std::u16string text = find.toStdU16String();
-    CARET found;
-    const bool hit = find_dialog->backwards() ? find_backward(text, wrap, found)
-                                              : find_forward(text, wrap, found);
-    if (!hit) {
+    const TextSearch search(buffer, find.toStdU16String());
+    const bool back = find_dialog->backwards();
+    std::optional<TextSearch::MATCH> match =
+        back ? search.last_before(editor.selection.start) : search.first_from(editor.selection.end);
+    QString message;
+    if (!match && wrap) {
+        message = back ? tr("Went on from the end.") : tr("Went on from the beginning.");
+        match = back ? search.last_before(end_of_text()) : search.first_from({0, 0});
+    }
+    if (!match) {
+        say_of_search(tr("Nothing found."));
         return false;
     }
     SELECTION& selection = editor.selection;
     selection.stop_selecting();
-    selection.start = found;
-    selection.end = {found.line, found.column + static_cast<int>(text.size())};
-    EnsureVisible(found, true);
+    selection.start = match->start;
+    selection.end = match->end;
+    EnsureVisible(selection.start, true);
     EnsureVisible(selection.end);
     UpdateAllViews();
+    say_of_search(message);
     return true;
 }
 
-// The first match whose first cell lies at the caret or behind it.
-bool KVQtHighlightEditCtrlInlay::find_forward(const std::u16string& text, bool wrap,
-                                              CARET& found) const
+// Beside the field, or in a corner of the text while the dialog is closed. The empty text takes the
+// last message away.
+void KVQtHighlightEditCtrlInlay::say_of_search(const QString& message)
 {
-    const CARET caret = editor.selection.end;
-    // A caret at a line's end would be moved back onto the match that has just been found.
-    found = caret.column < buffer.line(caret.line).length() ? caret : CARET{caret.line + 1, 0};
-    if (found.line < buffer.line_count() && editor.find_next(text, found)) {
-        return true;
-    }
-    found = {0, 0};
-    return wrap && editor.find_next(text, found);
+    find_dialog->say(message);
+    search_note->say(find_dialog->isVisible() ? QString() : message);
 }
 
-// The last match whose first cell lies before a position.
-static bool find_last_before(const KVQtHighlightEditCtrlInlay::BUFFER& buffer,
-                             const std::u16string& text, KVTextEditor::CARET position,
-                             KVTextEditor::CARET& found)
-{
-    int column = position.column;
-    for (int line = position.line; line >= 0; --line) {
-        const auto& cells = buffer.line(line);
-        for (column = std::min(column, cells.length()) - 1; column >= 0; --column) {
-            if (cells.is_string_at(text, column)) {
-                found = {line, column};
-                return true;
-            }
-        }
-        column = line > 0 ? buffer.line(line - 1).length() : 0;
-    }
-    return false;
-}
-
-bool KVQtHighlightEditCtrlInlay::find_backward(const std::u16string& text, bool wrap,
-                                               CARET& found) const
-{
-    const int last = buffer.line_count() - 1;
-    return find_last_before(buffer, text, editor.selection.start, found) ||
-           (wrap && find_last_before(buffer, text, {last, buffer.line(last).length()}, found));
-}
-
+// Without a selection it takes the next match, so that it can be used again and again.
 void KVQtHighlightEditCtrlInlay::OnEditDoReplace()
 {
-    if (!editor.selection.has_range()) {
+    const bool searched = !editor.selection.has_range();
+    if (searched && (find_dialog->find_text().isEmpty() || !DoFindNext(true))) {
         return;
     }
     QString replacement = find_dialog->replace_text();
     FindPrepareReplaceString(replacement);
     begin_undo_step();
+    const CARET start = editor.selection.normalized().start;
     BUFFER pasted;
     pasted.set_text(replacement.toStdU16String());
     const CARET behind = paste_lines(pasted, false);
-    editor.selection.set(behind.line, behind.column);
+    const CARET caret = find_dialog->backwards() ? start : behind;  // the next search goes on there
+    editor.selection.set(caret.line, caret.column);
     EnsureVisible(editor.selection.end);
     UpdateAllViews();
 }
 
 void KVQtHighlightEditCtrlInlay::OnEditReplaceAll()
 {
-    const std::optional<std::u16string> replaced = replace_all_in(buffer.get_all_text(u"\r\n"));
+    const std::u16string before = buffer.get_all_text(u"\r\n");
+    const std::optional<std::u16string> replaced = replace_all_in(before);
     if (!replaced) {
         return;
     }
+    say_of_search(*replaced == before ? tr("Nothing found.") : QString());
     begin_undo_step();
     const CARET caret = editor.selection.end;
     // Intended: tabs stay unexpanded until their lines are edited.

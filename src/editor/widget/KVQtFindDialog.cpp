@@ -1,5 +1,6 @@
 #include "editor/widget/KVQtFindDialog.h"
 
+#include "editor/widget/SearchNote.h"
 #include "qtsync/KVQt.h"
 #include "qtsync/KVQtSync.h"
 
@@ -17,7 +18,8 @@ KVQtFindDialog::KVQtFindDialog(QWidget* parent)
       btReplace(new QPushButton(tr("&Replace"), this)),
       btReplaceAll(new QPushButton(tr("Replace &All"), this)),
       chBackwards(new QCheckBox(tr("Search &backwards"), this)),
-      lbReplace(new QLabel(tr("Replace with:"), this))
+      lbReplace(new QLabel(tr("Replace with:"), this)),
+      lbMessage(new QLabel(this))
 {
     setWindowTitle(tr("Find and replace"));
     setObjectName("KVQtFindDialog");
@@ -27,11 +29,19 @@ KVQtFindDialog::KVQtFindDialog(QWidget* parent)
     btReplace->setObjectName("btReplace");
     btReplaceAll->setObjectName("btReplaceAll");
     chBackwards->setObjectName("chBackwards");
+    lbMessage->setObjectName("lbMessage");
+    lbMessage->setMinimumHeight(lbMessage->fontMetrics().height());
+    QSizePolicy keepsItsPlace = lbMessage->sizePolicy();
+    keepsItsPlace.setRetainSizeWhenHidden(true);
+    lbMessage->setSizePolicy(keepsItsPlace);
+    lbMessage->hide();
+    connect(txFind, &QLineEdit::textChanged, this, [this] { say(QString()); });
 
     txFind->setToolTip(tr("The text that is searched for; capital and small letters differ"));
     txReplace->setToolTip(tr("The text that takes its place"));
     btFind->setToolTip(tr("Goes to the next place that holds the text"));
-    btReplace->setToolTip(tr("Replaces the text that is selected"));
+    btReplace->setToolTip(
+        tr("Replaces what is selected, or else the next place that holds the text"));
     btReplaceAll->setToolTip(tr("Replaces the text wherever it stands"));
     chBackwards->setToolTip(tr("Searches toward the beginning"));
 
@@ -44,16 +54,18 @@ KVQtFindDialog::KVQtFindDialog(QWidget* parent)
     grid->addWidget(lbFind, 0, 0);
     grid->addWidget(txFind, 0, 1);
     grid->addWidget(btFind, 0, 2);
-    grid->addWidget(lbReplace, 1, 0);
-    grid->addWidget(txReplace, 1, 1);
-    grid->addWidget(btReplace, 1, 2);
-    grid->addWidget(chBackwards, 2, 1);
-    grid->addWidget(btReplaceAll, 2, 2);
-    grid->setRowStretch(3, 1);
+    grid->addWidget(lbMessage, 1, 1, 1, 2);
+    grid->addWidget(lbReplace, 2, 0);
+    grid->addWidget(txReplace, 2, 1);
+    grid->addWidget(btReplace, 2, 2);
+    grid->addWidget(chBackwards, 3, 1);
+    grid->addWidget(btReplaceAll, 3, 2);
+    grid->setRowStretch(4, 1);
 }
 
 void KVQtFindDialog::open_for(bool replace)
 {
+    say(QString());
     lbReplace->setVisible(replace);
     txReplace->setVisible(replace);
     txReplace->setEnabled(replace);
@@ -64,6 +76,18 @@ void KVQtFindDialog::open_for(bool replace)
     activateWindow();
     txFind->setFocus();
     txFind->selectAll();
+}
+
+void KVQtFindDialog::say(const QString& message)
+{
+    lbMessage->setText(message);
+    lbMessage->setVisible(!message.isEmpty());
+    if (txFind->accessibleDescription() != message || !message.isEmpty()) {
+        txFind->setAccessibleDescription(message);
+    }
+    if (isVisible() && !message.isEmpty()) {
+        alertScreenReaders(*lbMessage);
+    }
 }
 
 QString KVQtFindDialog::find_text() const

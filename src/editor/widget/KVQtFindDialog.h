@@ -24,6 +24,8 @@ public:
     QString replace_text() const;
     bool backwards() const;
     void set_backwards(bool backwards);
+    // Says beside the field what came of a search, until another text is searched for.
+    void say(const QString& message);
 
     QLineEdit* txFind;
     QLineEdit* txReplace;
@@ -34,4 +36,5 @@ public:
 
 private:
     QLabel* lbReplace;
+    QLabel* lbMessage;
 };

@@ -2,6 +2,7 @@
 
 #include "editor/widget/EditorAccessible.h"
 #include "editor/widget/KVQtFindDialog.h"
+#include "editor/widget/SearchNote.h"
 
 #include <QAbstractScrollArea>
 #include <QPushButton>
@@ -11,6 +12,7 @@ KVQtHighlightEditCtrlInlay::KVQtHighlightEditCtrlInlay(QAbstractScrollArea* scro
       editor(&buffer),
       area(scrollArea),
       find_dialog(new KVQtFindDialog(this)),
+      search_note(new SearchNote(this)),
       blink_timer(this)
 {
     EditorAccessible::install();
@@ -32,9 +34,9 @@ KVQtHighlightEditCtrlInlay::KVQtHighlightEditCtrlInlay(QAbstractScrollArea* scro
     constexpr int kBlinkTime = 500;  // ms
     connect(&blink_timer, &QTimer::timeout, this, &Self::blink);
     blink_timer.start(kBlinkTime);
+    connect(&scroll_timer, &QTimer::timeout, this, &Self::scroll_on);
 }
 
-    connect(&scroll_timer, &QTimer::timeout, this, &Self::scroll_on);
 KVQtHighlightEditCtrlInlay::~KVQtHighlightEditCtrlInlay() = default;
 
 QString KVQtHighlightEditCtrlInlay::text() const

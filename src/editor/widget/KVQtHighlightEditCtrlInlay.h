@@ -197,10 +197,10 @@ private:
 
     // --- find and replace (InlaySearch.cpp) ---
     void ShowFindDialog(bool replace);
+    QString text_to_find() const;
     void SetFindStringFromSelection();
     bool DoFindNext(bool wrap);
-    bool find_forward(const std::u16string& text, bool wrap, CARET& found) const;
-    bool find_backward(const std::u16string& text, bool wrap, CARET& found) const;
+    void say_of_search(const QString& message);
     std::optional<std::u16string> replace_all_in(std::u16string text);
 
     void goto_bookmark(int step);
@@ -231,9 +231,10 @@ private:
 
     QAbstractScrollArea* area;
     KVQtFindDialog* find_dialog;
+    SearchNote* search_note;
     QTimer blink_timer;
-    GlyphCache glyphs;
     QTimer scroll_timer;  // while the mouse is held beyond the edge
+    GlyphCache glyphs;
     QImage canvas;                                   // the frame without its caret
     std::vector<std::optional<quint64>> drawn_rows;  // what the canvas shows, see RowKeys
     QRegion drawn_caret;
@@ -241,8 +242,8 @@ private:
     int cell_height = 1;
     int text_width = 0;  // cells of the widest line
     int widest_line = 0;
-
     int wheel_turned = 0;  // with Control, in eighths of a degree, less than a step
+
     bool caret_visible = true;
     std::array<CARET, 2> brackets = {{{-1, -1}, {-1, -1}}};  // at the caret, and its partner
     CARET brackets_caret;

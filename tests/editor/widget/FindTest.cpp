@@ -88,6 +88,15 @@ private slots:
         QCOMPARE(window.findDialog().find_text(), QString("cow"));
     }
 
+    void openingOnASelectionOfSeveralLinesTakesItsFirstLine()
+    {
+        EditorWindow window("say ^cow\nsay du|ck");
+        window.key(Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(window.findDialog().find_text(), QString("cow"));
+        QTest::mouseClick(window.findDialog().btFind, Qt::LeftButton);
+        QCOMPARE(window.shown(), QString("say ^cow|\nsay duck"));
+    }
+
     void openingWithoutASelectionAsksForANewText()
     {
         EditorWindow window("c|ow duck");
@@ -161,11 +170,33 @@ private slots:
         }
     }
 
-    void tabsAreFoundAsOneCharacter()
+    void aSearchedTabFindsTabsWhateverTheirWidth()
     {
         EditorWindow window("|x\t\ty");
         find(window, "\t");
-        QCOMPARE(window.rectangle(), QString("0,1-0,2"));
+        QCOMPARE(window.rectangle(), QString("0,1-0,4"));
+        find(window, "\t");
+        QCOMPARE(window.rectangle(), QString("0,4-0,8"));
+        find(window, "x\t\ty");
+        QCOMPARE(window.rectangle(), QString("0,0-0,9"));
+    }
+
+    void aSearchedTabFindsTabsBackwardsToo()
+    {
+        EditorWindow window("a\tb\tc");
+        window.place({0, 9}, {0, 9});
+        find(window, "\t", true);
+        QCOMPARE(window.rectangle(), QString("0,5-0,8"));
+        find(window, "a\tb", true);
+        QCOMPARE(window.rectangle(), QString("0,0-0,5"));
+    }
+
+    void whatIsSelectedIsFoundAgainWithItsTabs()
+    {
+        EditorWindow window("say\tcow\n\tsay\tcow");
+        window.place({0, 0}, {0, 7});
+        window.key(Qt::Key_F3, Qt::ControlModifier);
+        QCOMPARE(window.rectangle(), QString("1,4-1,11"));
     }
 
     void withoutATextTheDialogOpens()
@@ -249,6 +280,48 @@ private slots:
         QCOMPARE(window.shown(), QString("a goose| and"));
         window.surface.OnEditUndo();
         QCOMPARE(window.shown(), QString("a ^duck| and"));
+    }
+
+    void replacingAgainTakesTheNextMatch()
+    {
+        EditorWindow window("^cow| cow\ncow");
+        window.surface.OnEditReplace();
+        window.findDialog().txReplace->setText("cowcow");
+        QTest::mouseClick(window.findDialog().btReplace, Qt::LeftButton);
+        QCOMPARE(window.shown(), QString("cowcow| cow\ncow"));
+        QTest::mouseClick(window.findDialog().btReplace, Qt::LeftButton);
+        QCOMPARE(window.shown(), QString("cowcow cowcow|\ncow"));
+        QTest::mouseClick(window.findDialog().btReplace, Qt::LeftButton);
+        QCOMPARE(window.shown(), QString("cowcow cowcow\ncowcow|"));
+        window.surface.OnEditUndo();
+        QCOMPARE(window.shown(), QString("cowcow cowcow\n^cow|"));
+    }
+
+    void replacingBackwardsLeavesTheReplacementBehind()
+    {
+        EditorWindow window("cow cow ^cow|");
+        window.surface.OnEditReplace();
+        window.findDialog().set_backwards(true);
+        window.findDialog().txReplace->setText("cows");
+        QTest::mouseClick(window.findDialog().btReplace, Qt::LeftButton);
+        QCOMPARE(window.shown(), QString("cow cow |cows"));
+        QTest::mouseClick(window.findDialog().btReplace, Qt::LeftButton);
+        QCOMPARE(window.shown(), QString("cow |cows cows"));
+        QTest::mouseClick(window.findDialog().btReplace, Qt::LeftButton);
+        QCOMPARE(window.shown(), QString("|cows cows cows"));
+    }
+
+    void replacingWhereNothingIsFoundChangesNothingAndSaysSo()
+    {
+        EditorWindow window("a| duck");
+        window.surface.OnEditReplace();
+        window.findDialog().set_find_text("cow");
+        window.findDialog().txReplace->setText("goose");
+        QTest::mouseClick(window.findDialog().btReplace, Qt::LeftButton);
+        QCOMPARE(window.shown(), QString("a| duck"));
+        QVERIFY(!window.surface.editor.can_undo());
+        QCOMPARE(visibleLabels(window.findDialog()),
+                 QStringList({"Find &what:", "Nothing found.", "Replace with:"}));
     }
 
     void replaceWithoutASelectionDoesNothing()
