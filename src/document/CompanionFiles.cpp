@@ -45,6 +45,13 @@ QStringList filesBelow(const QDir& folder)
     return files;
 }
 
+// Of a project without audio files so far; empty when the folder of that name is another book's.
+std::string ownAudioFolder(const Oid::OidProject& project)
+{
+    const std::string folder = audioFolder(project);
+    return QFileInfo::exists(native(folder)) ? std::string() : folder;
+}
+
 // False when there is no such file afterwards.
 bool copyUnlessThere(const QString& source, const QString& target)
 {
@@ -71,14 +78,19 @@ void CompanionFiles::cameIn(const Oid::OidProject& project, int n)
 CompanionFiles::Outcome CompanionFiles::follow(const Oid::OidProject& project,
                                                const MayOverwrite& mayOverwrite)
 {
+    Platform::useUtf8ForSystemTexts();
     if (place.projectPath.empty()) {
-        areBeside(project);  // it was never saved: it has no files yet
+        areBeside(project);
+        audio = ownAudioFolder(project);
         return {};
     }
-    Platform::useUtf8ForSystemTexts();
     Outcome outcome;
     followPictures(project, mayOverwrite, outcome);
-    followAudio(audioFolder(project), outcome);
+    if (audio.empty()) {
+        audio = ownAudioFolder(project);
+    } else {
+        followAudio(audioFolder(project), outcome);
+    }
     place.projectPath = project.projectPath;
     place.productId = project.productId;
     return outcome;

@@ -46,5 +46,5 @@ private:
 
     Oid::OidProject place;             // no more than path and number: those of the files' names
     std::map<int, Picture> elsewhere;  // pictures that are not there, by page
-    std::string audio;                 // the folder
+    std::string audio;                 // the folder; empty while it has none of its own
 };

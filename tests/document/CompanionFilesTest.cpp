@@ -243,3 +243,25 @@ TEST_F(Companions, AProjectThatWasNeverSavedHasNone)
     fs::current_path(before);
     EXPECT_EQ(newFiles(), "");
 }
+
+TEST_F(Companions, ANewBookTakesNoAudioFilesOfTheOneThatHasItsNumber)
+{
+    companions = CompanionFiles();
+    project.pictures.clear();
+    EXPECT_EQ(save("here/new.oidpro", 900), "");
+    EXPECT_EQ(save("here/new.oidpro", 900), "");
+    EXPECT_EQ(save("here/new.oidpro", 901), "");
+    EXPECT_EQ(newFiles(), "");
+}
+
+TEST_F(Companions, AudioFilesMadeUnderAFreeNumberFollow)
+{
+    companions = CompanionFiles();
+    project.pictures.clear();
+    save("here/new.oidpro", 900);
+    save("here/new.oidpro", 901);
+    fs::create_directory(folder.file("here/901-audio"));
+    writeFile(folder.file("here/901-audio/baa.ogg"), "baa!");
+    save("there/new.oidpro", 902);
+    EXPECT_EQ(newFiles(), "here/901-audio/baa.ogg: baa!\nthere/902-audio/baa.ogg: baa!\n");
+}
