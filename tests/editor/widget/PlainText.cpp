@@ -167,6 +167,17 @@ void PlainText::deleteForward()
     }
 }
 
+void PlainText::deleteWord(bool right)
+{
+    const State before = {text, caret, anchor};
+    if (!hasRange()) {
+        right ? wordRight() : wordLeft();
+        anchor = before.anchor;
+    }
+    right ? deleteForward() : backspace();
+    undoStates.last() = before;
+}
+
 void PlainText::paste(const Characters& characters)
 {
     snapshot();

@@ -33,6 +33,8 @@ public:
     void shiftTab();
     void backspace();
     void deleteForward();
+    // As far as the jump by a word goes; where that goes nowhere, a character.
+    void deleteWord(bool right);
     void insert(const Characters& characters);
     void paste(const Characters& characters);
     void lowerCase();

@@ -131,7 +131,17 @@ void Pair::type()
 
 void Pair::edit()
 {
-    switch (any(14)) {
+    switch (any(16)) {
+    case 14:
+        note("wordBackspace");
+        window.key(Qt::Key_Backspace, Qt::ControlModifier);
+        plain.deleteWord(false);
+        break;
+    case 15:
+        note("wordDelete");
+        window.key(Qt::Key_Delete, Qt::ControlModifier);
+        plain.deleteWord(true);
+        break;
     case 0:
     case 1:
         note("backspace");
