@@ -1,5 +1,6 @@
 # A room is one folder of sources and one target. Its LINKS are the whole list of what it may
-# include: a room that does not link Qt Widgets cannot include <QWidget> by accident.
+# include: what is not linked is not found by the compiler. A test reads the same list from rooms.txt
+# and also sees what comes in through another room.
 #
 #   plinkett_room(oid LINKS base ttbasic Qt5::Gui)
 #
@@ -12,9 +13,34 @@ function(plinkett_room name)
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   plinkett_drop_other_platform(sources)
   add_library(${name} STATIC ${sources} ${ROOM_EXTRA_SOURCES})
-  target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  plinkett_show_headers(${name} ${ROOM_LINKS})
   target_link_libraries(${name} PUBLIC ${ROOM_LINKS} PRIVATE plinkett_warnings)
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
+endfunction()
+
+# The include folder of a room, with links to its headers under their paths below src/. So who links
+# the room sees its headers, and no other room's.
+function(plinkett_show_headers name)
+  set(shown ${CMAKE_BINARY_DIR}/rooms/${name})
+  file(REMOVE_RECURSE ${shown})
+  file(GLOB headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h
+       ${CMAKE_CURRENT_SOURCE_DIR}/*.inc)
+  foreach(header ${headers})
+    file(RELATIVE_PATH path ${CMAKE_SOURCE_DIR}/src ${header})
+    get_filename_component(folder ${shown}/${path} DIRECTORY)
+    file(MAKE_DIRECTORY ${folder})
+    file(CREATE_LINK ${header} ${shown}/${path} SYMBOLIC COPY_ON_ERROR)
+  endforeach()
+  target_include_directories(${name} PUBLIC ${shown})
+  file(RELATIVE_PATH path ${CMAKE_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
+  set_property(GLOBAL APPEND_STRING PROPERTY PLINKETT_ROOMS "${name} ${path} ${ARGN}\n")
+endfunction()
+
+# A line for each room: its name, its folder below src/, what it links.
+function(plinkett_write_rooms file)
+  get_property(rooms GLOBAL PROPERTY PLINKETT_ROOMS)
+  string(REPLACE ";" " " rooms "${rooms}")
+  file(WRITE ${file} "${rooms}")
 endfunction()
 
 # A program: plinkett_program(plinkett-cli LINKS publish oid). Its sources are the folder's *.cpp.
