@@ -7,6 +7,7 @@ build_packages=(
 )
 run_packages=(espeak-ng ffmpeg libqt5svg5 qttranslations5-l10n
     fonts-dejavu-core fonts-noto-color-emoji)
+style_packages=(clang-format clang-tidy)
 test_packages=(
     libgtest-dev libgmock-dev locales
     imagemagick libtiff-tools qt5-image-formats-plugins
