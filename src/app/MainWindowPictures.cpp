@@ -4,7 +4,7 @@
 #include "app/FileDialogs.h"
 #include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
-#include "oid/PictureCopy.h"
+#include "oid/PictureFile.h"
 #include "ui_MainWindow.h"
 
 #include <QMessageBox>

@@ -25,6 +25,24 @@ bool createDirectory(const std::string& path);
 // 0 on success, as chdir.
 int setCurrentDirectory(const std::string& path);
 std::string getCurrentDirectory();
+// Leaving a scope, the process is back in the folder in which it was before.
+class WorkingFolder
+{
+public:
+    WorkingFolder() : before(getCurrentDirectory()) {}
+    // Works in the given folder until then; one that is not there changes nothing.
+    explicit WorkingFolder(const std::string& folder) : WorkingFolder()
+    {
+        setCurrentDirectory(folder);
+    }
+    ~WorkingFolder() { setCurrentDirectory(before); }
+    WorkingFolder(const WorkingFolder&) = delete;
+    WorkingFolder& operator=(const WorkingFolder&) = delete;
+
+private:
+    std::string before;
+};
+
 // The folder of the running program, without a separator at its end.
 std::string exeDirectory();
 

@@ -2,7 +2,7 @@
 // KVStringText.cpp, KVStringWide.cpp, KVStringPaths.cpp and KVStringNumbers.cpp.
 #include "base/KVString.h"
 
-#include "base/PlatformFormat.h"
+#include "base/PlatformText.h"
 
 #include <algorithm>
 #include <cstring>

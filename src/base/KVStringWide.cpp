@@ -1,8 +1,8 @@
 // Between bytes, wide text and QString.
 #include "base/KVString.h"
 
-#include "base/PlatformCodePage.h"
-#include "base/Utf8.h"
+#include "base/PlatformText.h"
+#include "base/Unicode.h"
 
 #include <cerrno>
 #include <cstdlib>

@@ -3,7 +3,8 @@
 #include <string>
 #include <vector>
 
-// The drives of this computer.
+// The drives of this computer. Nothing else stands here: a test links drives of its own in their
+// place.
 namespace Platform {
 
 // The roots of the volumes that may be a pen, in the order in which they are to be searched: on

@@ -1,6 +1,6 @@
 #include "base/PlatformFiles.h"
 
-#include "base/TextHelpers.h"
+#include "base/Unicode.h"
 
 #include <direct.h>
 #include <io.h>

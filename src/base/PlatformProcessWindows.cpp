@@ -2,6 +2,7 @@
 
 #include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
+#include "base/Unicode.h"
 
 #include <cstdio>
 #include <cstdlib>

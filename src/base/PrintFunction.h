@@ -12,3 +12,5 @@ PrintFunction defaultPrintf();
 
 // printf to standard output, as a plain function that the pointer above can hold.
 int printToStandardOutput(const char* format, ...);
+// For work of which nothing is to be heard: prints nothing.
+int printNothing(const char* format, ...);

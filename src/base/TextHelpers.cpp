@@ -1,7 +1,10 @@
 #include "base/TextHelpers.h"
 
+#include "base/PlatformText.h"
+
 #include <algorithm>
-#include <cctype>
+#include <cstdlib>
+#include <limits>
 
 bool isSpace(char c)
 {
@@ -56,6 +59,23 @@ double parseFlt(const char*& text)
     return toDouble(parseString(text).c_str());
 }
 
+int toInt(const char* text)
+{
+    const long long value = strtoll(text, nullptr, 10);  // saturates, too
+    return static_cast<int>(std::clamp<long long>(value, std::numeric_limits<int>::min(),
+                                                  std::numeric_limits<int>::max()));
+}
+
+double toDouble(const char* text)
+{
+    return Platform::parseDouble(text);
+}
+
+std::string formatFixed(double value, int decimals, int width)
+{
+    return Platform::formatFixed(value, decimals, width);
+}
+
 // The C library lowers by locale; in the "C" locale, which every text of ours means, only A to Z.
 std::string toLower(std::string text)
 {
@@ -93,6 +113,11 @@ bool strReplace(std::string& text, const std::string& search, const std::string&
     result.append(text, done, std::string::npos);
     text = std::move(result);
     return true;
+}
+
+std::string itostr(int value)
+{
+    return std::to_string(value);
 }
 
 int SplitStringKeepQuotes(const std::string& text, std::vector<std::string>& out, bool removeQuotes)

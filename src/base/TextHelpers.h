@@ -46,6 +46,3 @@ std::vector<std::string> commandLineArguments();
 std::map<std::string, std::string>
 parseCommandLineOptions(const std::map<std::string, std::string>& defaults,
                         const std::vector<std::string>& arguments);
-
-std::string toUtf8(const wchar_t* text);
-std::wstring fromUtf8(const std::string& text);

@@ -3,7 +3,7 @@
 #include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"
-#include "oid/AudioFolder.h"
+#include "oid/OidProject.h"
 
 #include <QDir>
 #include <QDirIterator>

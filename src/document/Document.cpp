@@ -4,7 +4,7 @@
 #include <functional>
 #include <utility>
 
-#include "base/PrintNothing.h"
+#include "base/PrintFunction.h"
 #include "oid/OidTable.h"
 
 // The history: which step is being made, going back and forth, and what is told of it. How each

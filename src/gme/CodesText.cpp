@@ -1,7 +1,7 @@
 #include "gme/CodesFile.h"
 
 #include "base/TextHelpers.h"
-#include "base/Utf8.h"
+#include "base/Unicode.h"
 #include "gme/Yaml.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "gme/Game.h"
 
-#include "base/Utf8.h"
+#include "base/Unicode.h"
 #include "gme/DescriptionReader.h"
 #include "gme/GameFile.h"
 #include "gme/LineParser.h"

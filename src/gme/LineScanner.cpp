@@ -1,7 +1,6 @@
 #include "gme/LineScanner.h"
 
-#include "base/CharacterClass.h"
-#include "base/Utf8.h"
+#include "base/Unicode.h"
 #include "gme/Messages.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "gme/YamlProblem.h"
 
 #include "base/FileSystem.h"
-#include "base/Utf8.h"
+#include "base/Unicode.h"
 
 #include <algorithm>
 #include <cstdio>

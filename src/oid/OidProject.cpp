@@ -65,4 +65,10 @@ std::string OidProject::pathBesideProject(const std::string& nameAfterId) const
            itostr(productId) + nameAfterId;
 }
 
+std::string audioFolder(const OidProject& project)
+{
+    return FileSystem::getDirectoryOfPath(project.projectPath) + FileSystem::directorySeparator +
+           itostr(project.productId) + "-audio";
+}
+
 }  // namespace Oid

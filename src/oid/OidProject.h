@@ -116,4 +116,8 @@ private:
     std::string pathBesideProject(const std::string& nameAfterId) const;
 };
 
+// The folder of a project's audio files, in our form of a path: "900-audio" beside the project
+// file.
+std::string audioFolder(const OidProject& project);
+
 }  // namespace Oid

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/PlatformMemory.h"
+#include "base/PlatformMachine.h"
 #include "oid/PrintImage.h"
 
 namespace {

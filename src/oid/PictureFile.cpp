@@ -1,6 +1,44 @@
 #include "oid/PictureFile.h"
 
-#include "base/PlatformMemory.h"
+#include <QBuffer>
+#include <QFile>
+#include <QImageWriter>
+
+#include <algorithm>
+
+#include "base/PlatformMachine.h"
+
+namespace {
+
+// The whole file; a null array when it cannot be read to its end.
+QByteArray allBytes(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    const QByteArray bytes = file.readAll();
+    return file.error() == QFileDevice::NoError ? bytes : QByteArray();
+}
+
+// What shines through a picture is the paper. JPEG knows no transparency and would make it black.
+QImage onWhitePaper(const QImage& image)
+{
+    if (!image.hasAlphaChannel()) {
+        return image;
+    }
+    QImage paper = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < paper.height(); ++y) {
+        QRgb* const row = reinterpret_cast<QRgb*>(paper.scanLine(y));
+        std::transform(row, row + paper.width(), row, [](QRgb pixel) {
+            const int white = 255 - qAlpha(pixel);
+            return qRgb(qRed(pixel) + white, qGreen(pixel) + white, qBlue(pixel) + white);
+        });
+    }
+    return paper;
+}
+
+}  // namespace
 
 PictureFile::PictureFile(const QString& path) : reader(path)
 {
@@ -29,4 +67,28 @@ bool PictureFile::isUprightJpeg() const
 QImage PictureFile::read()
 {
     return fitsMemory() ? reader.read() : QImage();
+}
+
+PictureCopy::PictureCopy(const QString& path)
+{
+    PictureFile file(path);
+    const bool keepBytes = file.isUprightJpeg();
+    picture = file.read();
+    if (keepBytes && !picture.isNull()) {
+        asItCame = allBytes(path);
+        if (asItCame.isEmpty()) {
+            picture = QImage();
+        }
+    }
+}
+
+QByteArray PictureCopy::file() const
+{
+    if (!asItCame.isEmpty()) {
+        return asItCame;
+    }
+    QByteArray compressed;
+    QBuffer buffer(&compressed);
+    buffer.open(QIODevice::WriteOnly);
+    return QImageWriter(&buffer, "jpg").write(onWhitePaper(picture)) ? compressed : QByteArray();
 }

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "base/FileSystem.h"
-#include "base/PlatformMemory.h"
+#include "base/PlatformMachine.h"
 #include "oid/PageRenderer.h"
 #include "oid/PreparedPage.h"
 #include "oid/TiffWriter.h"

@@ -2,7 +2,7 @@
 
 #include <cstdarg>
 
-#include "base/PlatformFormat.h"
+#include "base/PlatformText.h"
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
 

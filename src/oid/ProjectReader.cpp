@@ -7,7 +7,7 @@
 
 #include "base/TextHelpers.h"
 #include "oid/OidTable.h"
-#include "oid/ShorthandLines.h"
+#include "oid/ProjectWriter.h"
 
 namespace Oid {
 

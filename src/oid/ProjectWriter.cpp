@@ -4,7 +4,6 @@
 
 #include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
-#include "oid/ShorthandLines.h"
 
 // Writes the format of docs/project-file.md. Names are written as they are, without any escape.
 namespace Oid {

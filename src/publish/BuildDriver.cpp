@@ -3,17 +3,24 @@
 #include <QDir>
 #include <map>
 
+#include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
 #include "gme/Assembler.h"
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
 #include "publish/Assembling.h"
-#include "publish/CompileProject.h"
 #include "publish/ProcessRunner.h"
-#include "publish/WorkingFolder.h"
 #include "publish/YamlFile.h"
+#include "ttbasic/ttbasic.h"
 
 namespace {
+
+// Says that the build ends here. Always false, so that a step can end with it.
+bool stopBuild(PrintFunction print)
+{
+    print("Stopped build process.\n");
+    return false;
+}
 
 // The build works in the project's folder, where a relative path would no longer lead to it. A
 // project that was never saved has no path and is built in the current folder.
@@ -39,7 +46,7 @@ std::map<std::string, int> drawnAreas(const Oid::OidProject& project)
 bool makeFiles(Oid::OidProject& project, ProcessRunner& runner, const BuildOptions& options)
 {
     makePathAbsolute(project.projectPath);
-    const WorkingFolder folder(FileSystem::getDirectoryOfPath(project.projectPath));
+    const FileSystem::WorkingFolder folder(FileSystem::getDirectoryOfPath(project.projectPath));
     if (!makeYAML(project)) {
         return false;
     }
@@ -55,6 +62,15 @@ bool makeFiles(Oid::OidProject& project, ProcessRunner& runner, const BuildOptio
 }
 
 }  // namespace
+
+bool compileProject(Oid::OidProject& project, bool debugMode)
+{
+    project.updateUsedOIDs();
+    if (!compileScript(project.compiler, debugMode) || !project.checkSanity()) {
+        return stopBuild(project.print);
+    }
+    return true;
+}
 
 std::string builtInAssembler()
 {

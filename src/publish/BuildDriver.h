@@ -10,6 +10,11 @@ namespace Oid {
 class OidProject;
 }
 
+// The first steps of every build: numbers for new areas, the compiled script, and the comparison of
+// script and pictures. False when nothing may be built from the project; the last message then says
+// so. All messages go through the project's print function.
+bool compileProject(Oid::OidProject& project, bool debugMode);
+
 // Our own assembler, for machines without tttool: plinkett-cli beside the running program.
 std::string builtInAssembler();
 

@@ -6,10 +6,8 @@
 #include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"
 #include "base/TextHelpers.h"
-#include "oid/AudioFolder.h"
 #include "oid/OidProject.h"
 #include "publish/ProcessRunner.h"
-#include "publish/WorkingFolder.h"
 
 namespace {
 
@@ -141,7 +139,7 @@ SpeechOutcome createSoundFiles(const Oid::OidProject& project, ProcessRunner& ru
                                const SpeechProgress& progress)
 {
     const std::string folder = audioFolder(project);
-    const WorkingFolder sameAfterwards;
+    const FileSystem::WorkingFolder sameAfterwards;
     putToolsOnPath();
     const std::vector<NewText> texts = newTexts(project, folder);
     if (texts.empty()) {

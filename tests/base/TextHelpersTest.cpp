@@ -179,17 +179,3 @@ TEST(SplittingWords, LeavesTheOutputAloneForAnEmptyTextOnly)
     EXPECT_EQ(SplitStringKeepQuotes("  ", words, true), 0);
     EXPECT_THAT(words, ElementsAre());
 }
-
-TEST(Unicode, RoundTripsThroughWideText)
-{
-    const std::string text = "Kuh \xC3\xA4 \xE2\x82\xAC \xF0\x9F\x90\x84";
-    EXPECT_EQ(toUtf8(fromUtf8(text).c_str()), text);
-    EXPECT_EQ(fromUtf8("\xC3\xA4"), L"\u00e4");
-}
-
-TEST(Unicode, EndsAtTheFirstZeroAndTakesNothingForNull)
-{
-    EXPECT_EQ(fromUtf8(std::string("ab\0cd", 5)), L"ab");
-    EXPECT_EQ(toUtf8(nullptr), "");
-    EXPECT_EQ(toUtf8(L""), "");
-}

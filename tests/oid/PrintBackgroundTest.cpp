@@ -4,7 +4,6 @@
 
 #include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
-#include "oid/BackgroundReader.h"
 #include "oid/PageBackground.h"
 #include "oid/PrintImage.h"
 #include "tests/helpers/CapturedMessages.h"

@@ -8,7 +8,7 @@
 #include "gme/DescriptionReader.h"
 #include "gme/Game.h"
 #include "oid/OidProject.h"
-#include "publish/CompileProject.h"
+#include "publish/BuildDriver.h"
 #include "publish/YamlFile.h"
 #include "tests/helpers/CapturedMessages.h"
 #include "tests/helpers/TemporaryFolder.h"

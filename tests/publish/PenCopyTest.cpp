@@ -3,9 +3,9 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
-#include "base/PrintNothing.h"
+#include "base/PrintFunction.h"
 #include "oid/OidProject.h"
-#include "publish/CompileProject.h"
+#include "publish/BuildDriver.h"
 #include "publish/YamlFile.h"
 #include "tests/helpers/FileTimes.h"
 #include "tests/helpers/SmallDisk.h"

@@ -1,6 +1,6 @@
 #include "qtsync/KVQSyncDialog.h"
 
-#include "qtsync/KVQt.h"
+#include "qtsync/KVQtSync.h"
 
 #include <QDialogButtonBox>
 #include <QLineEdit>

@@ -1,4 +1,3 @@
-#include "qtsync/KVQt.h"
 #include "qtsync/KVQtSync.h"
 #include "tests/helpers/GermanLocale.h"
 

@@ -5,7 +5,8 @@
 #include "base/TextHelpers.h"
 #include "tools/text2speech/Espeak.h"
 #include "tools/text2speech/Languages.h"
-#include "tools/text2speech/VoiceVariant.h"
+
+#include <iterator>
 
 namespace {
 
@@ -34,6 +35,38 @@ std::string whyUnwritable(const std::string& file)
         return "the folder '" + folder + "' does not exist";
     }
     return "cannot write the file '" + file + "'";
+}
+
+// How espeak-ng is to sound: one of its voice variants, and a pitch from 0 to 99.
+struct VoiceVariant
+{
+    const char* name;
+    int pitch;
+};
+
+struct AgeGroup
+{
+    int oldest;  // years
+    VoiceVariant female;
+    VoiceVariant male;
+};
+
+constexpr AgeGroup kGroups[] = {
+    {12, {"f3", 99}, {"m2", 99}},  // child
+    {24, {"f5", 65}, {"m2", 68}},  // young
+    {59, {"f2", 55}, {"m3", 50}},  // adult
+    {99, {"f1", 30}, {"m1", 42}},  // old
+};
+
+// Child (up to 12 years), young, adult (from 25) or old (from 60): the eight voices differ in
+// timbre and each in its pitch.
+VoiceVariant variantFor(bool female, int age)
+{
+    const AgeGroup* group = std::begin(kGroups);
+    while (group + 1 != std::end(kGroups) && age > group->oldest) {
+        ++group;
+    }
+    return female ? group->female : group->male;
 }
 
 // The sound comes through a pipe, since espeak-ng itself cuts long paths.

@@ -1,5 +1,5 @@
 #include "app/cli/Commands.h"
-#include "base/PlatformFormat.h"
+#include "base/PlatformText.h"
 #include "gme/Assembler.h"
 
 #include <QString>

@@ -1,6 +1,6 @@
 #include "app/cli/Commands.h"
 #include "oid/OpenProject.h"
-#include "publish/CompileProject.h"
+#include "publish/BuildDriver.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // Keys: the map of the keyboard, and typed characters.
-#include "base/PlatformKeys.h"
+#include "base/PlatformMachine.h"
 #include "editor/widget/KVQtHighlightEditCtrlInlay.h"
 
 #include "editor/widget/Characters.h"

@@ -1,7 +1,6 @@
 #include "editor/widget/KVQtFindDialog.h"
 
 #include "editor/widget/SearchNote.h"
-#include "qtsync/KVQt.h"
 #include "qtsync/KVQtSync.h"
 
 #include <QCheckBox>

@@ -1,5 +1,5 @@
 // What a project keeps of the pictures that come in.
-#include "oid/PictureCopy.h"
+#include "oid/PictureFile.h"
 
 #include <QBuffer>
 #include <QImageReader>

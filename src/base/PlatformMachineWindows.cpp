@@ -1,4 +1,4 @@
-#include "base/PlatformMemory.h"
+#include "base/PlatformMachine.h"
 
 #include <algorithm>
 #include <limits>
@@ -19,6 +19,11 @@ std::uint64_t availableMemory()
 void releaseFreeMemory()
 {
     HeapCompact(GetProcessHeap(), 0);
+}
+
+std::optional<bool> insertKeyToggled()
+{
+    return (GetKeyState(VK_INSERT) & 1) != 0;
 }
 
 }  // namespace Platform

@@ -1,7 +1,10 @@
-#include "base/PlatformFormat.h"
+#include "base/PlatformText.h"
+
+#include "base/Unicode.h"
 
 #include <clocale>
 #include <cstdio>
+#include <cstdlib>
 
 namespace Platform {
 
@@ -35,6 +38,12 @@ private:
     locale_t previous = nullptr;
 };
 
+locale_t plainLocale()
+{
+    static const locale_t plain = newlocale(LC_ALL_MASK, "C", static_cast<locale_t>(nullptr));
+    return plain;
+}
+
 }  // namespace
 
 std::string formatText(const char* format, va_list arguments)
@@ -50,6 +59,25 @@ std::string formatText(const char* format, va_list arguments)
     std::string text(static_cast<size_t>(size), '\0');
     vsnprintf(text.data(), text.size() + 1, format, arguments);
     return text;
+}
+
+std::string formatFixed(double value, int decimals, int width)
+{
+    const locale_t previous = uselocale(plainLocale());
+    std::string text(snprintf(nullptr, 0, "%*.*f", width, decimals, value), '\0');
+    snprintf(text.data(), text.size() + 1, "%*.*f", width, decimals, value);
+    uselocale(previous);
+    return text;
+}
+
+double parseDouble(const char* text)
+{
+    return strtod_l(text, nullptr, plainLocale());
+}
+
+std::string wideToCodePage(const std::wstring& text)
+{
+    return Utf8::encode(text);
 }
 
 }  // namespace Platform

@@ -1,4 +1,4 @@
-#include "base/PlatformMemory.h"
+#include "base/PlatformMachine.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -56,6 +56,11 @@ void releaseFreeMemory()
 #ifdef __GLIBC__
     malloc_trim(0);  // else pieces between what is still in use would stay for good
 #endif
+}
+
+std::optional<bool> insertKeyToggled()
+{
+    return std::nullopt;
 }
 
 }  // namespace Platform

@@ -1,4 +1,4 @@
-#include "base/CharacterClass.h"
+#include "base/Unicode.h"
 
 #include <gtest/gtest.h>
 
@@ -29,4 +29,18 @@ TEST(CharacterClass, LettersAndZeroWidthSpacesAreNoWhiteSpace)
     for (const char32_t c : {U'a', U'_', U'\u200B', U'\uFEFF'}) {
         EXPECT_FALSE(isUnicodeSpace(c)) << std::hex << static_cast<unsigned>(c);
     }
+}
+
+TEST(Unicode, RoundTripsThroughWideText)
+{
+    const std::string text = "Kuh \xC3\xA4 \xE2\x82\xAC \xF0\x9F\x90\x84";
+    EXPECT_EQ(toUtf8(fromUtf8(text).c_str()), text);
+    EXPECT_EQ(fromUtf8("\xC3\xA4"), L"\u00e4");
+}
+
+TEST(Unicode, EndsAtTheFirstZeroAndTakesNothingForNull)
+{
+    EXPECT_EQ(fromUtf8(std::string("ab\0cd", 5)), L"ab");
+    EXPECT_EQ(toUtf8(nullptr), "");
+    EXPECT_EQ(toUtf8(L""), "");
 }

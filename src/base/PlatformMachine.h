@@ -1,8 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
-// The memory of the machine.
+// The machine: its memory and its keyboard.
 namespace Platform {
 
 // Bytes that this process can still fill without driving the machine out of memory; the largest
@@ -12,5 +13,8 @@ std::uint64_t availableMemory();
 // Gives memory that has been freed back to the system, as far as the system allows that. For the
 // end of work that needed much of it.
 void releaseFreeMemory();
+
+// Whether the Insert key is toggled on; nothing where the system keeps no such state.
+std::optional<bool> insertKeyToggled();
 
 }  // namespace Platform
