@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/MainWindow.h"
-#include "tests/helpers/OwnDataFolder.h"
+#include "tests/helpers/Environment.h"
 #include "tests/helpers/XDisplay.h"
 
 #include <QImage>

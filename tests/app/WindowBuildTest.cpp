@@ -3,8 +3,8 @@
 #include "oid/PrintImage.h"
 #include "tests/app/ProgressCancel.h"
 #include "tests/app/WindowFixture.h"
-#include "tests/helpers/FileTimes.h"
-#include "tests/helpers/SmallDisk.h"
+#include "tests/helpers/Environment.h"
+#include "tests/helpers/TemporaryFolder.h"
 
 #include <QCheckBox>
 #include <QDir>

@@ -5,7 +5,7 @@
 #include "editor/widget/KVQtHighlightEditCtrl.h"
 #include "tests/app/DialogAnswers.h"
 #include "tests/app/PaintCounter.h"
-#include "tests/helpers/OwnDataFolder.h"
+#include "tests/helpers/Environment.h"
 
 #include <QImage>
 #include <QTest>

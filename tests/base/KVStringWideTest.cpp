@@ -1,7 +1,6 @@
 #include "base/KVString.h"
 
-#include "tests/helpers/GermanLocale.h"
-#include "tests/helpers/PlainLocale.h"
+#include "tests/helpers/Locales.h"
 #include "tests/helpers/PrintKVString.h"
 
 #include <gtest/gtest.h>

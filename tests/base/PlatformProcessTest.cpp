@@ -1,5 +1,6 @@
 #include "base/PlatformProcess.h"
 
+#include "base/FileSystem.h"
 #include "tests/helpers/Environment.h"
 #include "tests/helpers/FakeProgram.h"
 #include "tests/helpers/TemporaryFolder.h"
@@ -55,7 +56,7 @@ TEST(FindingPrograms, AnEmptyFolderOfPathIsNotTheCurrentOne)
 {
     const TemporaryFolder folder;
     const FakeProgram program(folder.path(), "speak");
-    const ChangedFolder current(folder.path());
+    const FileSystem::WorkingFolder current(folder.path());
     const ChangedVariable path("PATH", ":/nowhere:");
     EXPECT_EQ(Platform::findProgram("speak"), "");
 }

@@ -1,6 +1,6 @@
 #include "base/TextHelpers.h"
 
-#include "tests/helpers/GermanLocale.h"
+#include "tests/helpers/Locales.h"
 
 #include <gmock/gmock.h>
 #include <limits>

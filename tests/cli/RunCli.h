@@ -3,5 +3,9 @@
 #include "tests/helpers/RunProgram.h"
 
 // The real plinkett-cli, run to its end; see runProgram.
-ProgramRun cli(const std::vector<std::string>& words,
-               const std::vector<std::string>& environment = {}, const std::string& folder = "");
+inline ProgramRun cli(const std::vector<std::string>& words,
+                      const std::vector<std::string>& environment = {},
+                      const std::string& folder = "")
+{
+    return runProgram(PLINKETT_BIN_DIR "/plinkett-cli", words, environment, folder);
+}

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
-#include "tests/helpers/SmallDisk.h"
+#include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
 
 namespace fs = std::filesystem;

@@ -3,7 +3,7 @@
 #include "base/PlatformFiles.h"
 #include "tests/document/Snapshot.h"
 #include "tests/helpers/CapturedMessages.h"
-#include "tests/helpers/SmallDisk.h"
+#include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

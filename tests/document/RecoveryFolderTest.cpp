@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QFile>
 
-#include "tests/helpers/OwnDataFolder.h"
+#include "tests/helpers/Environment.h"
 
 #include <filesystem>
 

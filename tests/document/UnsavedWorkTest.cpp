@@ -6,7 +6,7 @@
 #include <QThread>
 
 #include "oid/OpenProject.h"
-#include "tests/helpers/OwnDataFolder.h"
+#include "tests/helpers/Environment.h"
 
 #include <filesystem>
 #include <functional>

@@ -3,7 +3,7 @@
 #include "gme/Assembler.h"
 #include "tests/gme/GameFolder.h"
 #include "tests/helpers/CapturedMessages.h"
-#include "tests/helpers/SmallDisk.h"
+#include "tests/helpers/Environment.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>

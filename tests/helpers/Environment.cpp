@@ -1,7 +1,9 @@
 #include "tests/helpers/Environment.h"
 
-#include "base/FileSystem.h"
 #include "base/PlatformProcess.h"
+
+#include <csignal>
+#include <sys/resource.h>
 
 ChangedVariable::ChangedVariable(const std::string& variable, const std::string& value)
     : name(variable), before(Platform::environmentVariable(variable))
@@ -14,12 +16,23 @@ ChangedVariable::~ChangedVariable()
     Platform::setEnvironmentVariable(name, before);
 }
 
-ChangedFolder::ChangedFolder(const std::string& path) : before(FileSystem::getCurrentDirectory())
+static void limitFiles(unsigned long bytes, unsigned long& before)
 {
-    FileSystem::setCurrentDirectory(path);
+    rlimit limit = {};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    before = limit.rlim_cur;
+    limit.rlim_cur = bytes;
+    setrlimit(RLIMIT_FSIZE, &limit);
 }
 
-ChangedFolder::~ChangedFolder()
+SmallDisk::SmallDisk(unsigned long bytes) : handlerBefore(std::signal(SIGXFSZ, SIG_IGN))
 {
-    FileSystem::setCurrentDirectory(before);
+    limitFiles(bytes, before);
+}
+
+SmallDisk::~SmallDisk()
+{
+    unsigned long ignored = 0;
+    limitFiles(before, ignored);
+    std::signal(SIGXFSZ, handlerBefore);
 }

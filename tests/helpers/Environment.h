@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/helpers/TemporaryFolder.h"
+
 #include <string>
 
 // An environment variable with another value (or none, when it is empty) for the length of a scope.
@@ -16,15 +18,31 @@ private:
     std::string before;
 };
 
-// The current folder is another one for the length of a scope.
-class ChangedFolder
+// While it lives, what this process keeps for its user lies in a folder that is gone afterwards.
+class OwnDataFolder
 {
 public:
-    explicit ChangedFolder(const std::string& path);
-    ~ChangedFolder();
-    ChangedFolder(const ChangedFolder&) = delete;
-    ChangedFolder& operator=(const ChangedFolder&) = delete;
+    OwnDataFolder() : variable("XDG_DATA_HOME", folder.path()) {}
+
+    // The folder of the recovery copies.
+    std::string recovery() const { return folder.file("plinkett/recovery"); }
 
 private:
-    std::string before;
+    TemporaryFolder folder;
+    ChangedVariable variable;
+};
+
+// No file of this process can grow beyond a size while this lives: writing on fails as on a full
+// disk.
+class SmallDisk
+{
+public:
+    explicit SmallDisk(unsigned long bytes);
+    ~SmallDisk();
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+
+private:
+    unsigned long before;
+    void (*handlerBefore)(int);
 };

@@ -1,5 +1,8 @@
 #include "tests/helpers/TemporaryFolder.h"
 
+#include <QDateTime>
+#include <QFile>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -56,4 +59,12 @@ void writeFile(const std::string& path, const std::string& bytes)
     if (!file.flush()) {
         throw std::runtime_error("cannot write " + path);
     }
+}
+
+void setTime(const std::string& path, const char* time)
+{
+    QFile file(QString::fromStdString(path));
+    file.open(QIODevice::Append);
+    file.setFileTime(QDateTime::fromString(time, "yyyy-MM-dd HH:mm:ss"),
+                     QFileDevice::FileModificationTime);
 }

@@ -24,3 +24,5 @@ private:
 // Whole files as bytes. Reading a file that is not there fails the running test.
 std::string readFile(const std::string& path);
 void writeFile(const std::string& path, const std::string& bytes);
+// Makes a file look as if it was changed at that local time: "2024-05-31 14:05:40".
+void setTime(const std::string& path, const char* time);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -75,4 +76,17 @@ inline std::string savedText(Oid::OidProject& project)
 }
 
 // The areas of a project, one line each: "0: cow 10000 (1,2) (3.5,4)".
-std::string areasOf(const Oid::OidProject& project);
+inline std::string areasOf(const Oid::OidProject& project)
+{
+    std::ostringstream text;
+    for (std::size_t n = 0; n < project.pictures.size(); ++n) {
+        for (const Oid::POLY& poly : project.pictures[n].polys) {
+            text << n << ": " << poly.name << " " << project.oids.at(poly.name).oid;
+            for (const Oid::PNT& point : poly.points) {
+                text << " (" << point.x << "," << point.y << ")";
+            }
+            text << "\n";
+        }
+    }
+    return text.str();
+}

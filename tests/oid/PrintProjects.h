@@ -11,6 +11,7 @@
 #include "tests/helpers/CapturedMessages.h"
 #include "tests/helpers/TemporaryFolder.h"
 #include "tests/oid/Builders.h"
+#include "tests/oid/PlainPrintImage.h"
 
 // A book with one picture in a folder of its own, printed by the tests.
 class PrintedBook
@@ -47,7 +48,12 @@ public:
 
     QImage printed() const { return QImage(QString::fromStdString(printFile())); }
     // Empty when the book is printed pixel for pixel as the slow way prints it.
-    std::string differenceToPlainWay();
+    std::string differenceToPlainWay()
+    {
+        Oid::OidProject twin = twinOf(project);
+        const QImage expected = plainPrintImage(0, twin);
+        return print() ? firstDifference(printed(), expected) : "nothing was printed: " + messages;
+    }
 
     std::string backgroundFile() const { return folder.file("900-bkgnd0.jpg"); }
     std::string printFile() const { return folder.file("900-print0.tiff"); }
@@ -58,4 +64,14 @@ public:
 };
 
 // A picture with hard edges and soft gradients.
-QImage colourfulPicture(int width, int height);
+inline QImage colourfulPicture(int width, int height)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            const int stripe = (x / 3 + y / 5) % 2 * 120;
+            image.setPixel(x, y, qRgb(x * 255 / width, y * 255 / height, 100 + stripe));
+        }
+    }
+    return image;
+}

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/helpers/GermanLocale.h"
+#include "tests/helpers/Locales.h"
 #include "tests/oid/Builders.h"
 
 // What the loader does with each keyword and with broken lines.

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/helpers/GermanLocale.h"
+#include "tests/helpers/Locales.h"
 #include "tests/oid/Builders.h"
 
 namespace fs = std::filesystem;

@@ -8,8 +8,6 @@
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
 #include "tests/helpers/Environment.h"
-#include "tests/helpers/FileTimes.h"
-#include "tests/helpers/SmallDisk.h"
 #include "tests/helpers/TemporaryFolder.h"
 #include "tests/publish/RecordingRunner.h"
 
@@ -166,7 +164,7 @@ TEST_F(BuildingAGame, ProgramsStartInTheFolderOfTheProject)
 
 TEST_F(BuildingAGame, TheAssemblerWorksInTheFolderOfTheProjectWhateverOursIsByThen)
 {
-    const ChangedFolder sameAfterwards(folder.path());
+    const FileSystem::WorkingFolder sameAfterwards(folder.path());
     options.createSoundFiles = [] {
         FileSystem::setCurrentDirectory("/");
         return SpeechOutcome::complete;
@@ -177,7 +175,7 @@ TEST_F(BuildingAGame, TheAssemblerWorksInTheFolderOfTheProjectWhateverOursIsByTh
 
 TEST_F(BuildingAGame, AProjectOpenedByARelativePathIsBuiltInItsFolder)
 {
-    const ChangedFolder outside(fs::path(folder.path()).parent_path().string());
+    const FileSystem::WorkingFolder outside(fs::path(folder.path()).parent_path().string());
     project.projectPath = fs::path(folder.path()).filename().string() + "/zoo.oidpro";
     EXPECT_TRUE(build());
     EXPECT_TRUE(fs::exists(yaml()));
@@ -185,7 +183,7 @@ TEST_F(BuildingAGame, AProjectOpenedByARelativePathIsBuiltInItsFolder)
 
 TEST_F(BuildingAGame, AProjectThatWasNeverSavedIsBuiltInTheCurrentFolder)
 {
-    const ChangedFolder current(folder.path());
+    const FileSystem::WorkingFolder current(folder.path());
     project.projectPath = "";
     EXPECT_TRUE(build());
     EXPECT_TRUE(fs::exists(yaml()));

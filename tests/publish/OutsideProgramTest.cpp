@@ -137,7 +137,7 @@ TEST_F(StartingAProgram, InAFolderThatIsNotThereItDoesNotStart)
 TEST_F(StartingAProgram, ARelativePathIsOneFromOurFolder)
 {
     const FakeProgram tool(folder.file("tools"), "show", "folder\n");
-    const ChangedFolder ours(folder.path());
+    const FileSystem::WorkingFolder ours(folder.path());
     const TemporaryFolder other;
     EXPECT_TRUE(start("tools\\show", {}, {other.path(), {}}));
     EXPECT_EQ(process.readAllStandardOutput().toStdString(),

@@ -7,8 +7,7 @@
 #include "oid/OidProject.h"
 #include "publish/BuildDriver.h"
 #include "publish/YamlFile.h"
-#include "tests/helpers/FileTimes.h"
-#include "tests/helpers/SmallDisk.h"
+#include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
 #include "tests/publish/RecordingRunner.h"
 

@@ -1,7 +1,7 @@
 #include "qtsync/KVQtNumEditItemDelegate.h"
 
 #include "qtsync/KVQtNumEdit.h"
-#include "tests/helpers/GermanLocale.h"
+#include "tests/helpers/Locales.h"
 
 #include <QLineEdit>
 #include <QStandardItemModel>

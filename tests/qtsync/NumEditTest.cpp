@@ -1,6 +1,6 @@
 #include "qtsync/KVQtNumEdit.h"
 
-#include "tests/helpers/GermanLocale.h"
+#include "tests/helpers/Locales.h"
 
 #include <QLineEdit>
 #include <QVBoxLayout>

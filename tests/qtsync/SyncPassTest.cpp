@@ -1,5 +1,5 @@
 #include "qtsync/KVQtSync.h"
-#include "tests/helpers/GermanLocale.h"
+#include "tests/helpers/Locales.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 
+#include <clocale>
 #include <string>
 
 // While it lives, the process speaks German: numbers have a decimal comma, and text is in the given
@@ -17,4 +18,15 @@ public:
 private:
     std::string previous;
     QByteArray previousFolder;
+};
+
+// While it lives, the locale is plain "C", which knows ASCII only.
+class PlainLocale
+{
+public:
+    PlainLocale() : previous(setlocale(LC_ALL, nullptr)) { setlocale(LC_ALL, "C"); }
+    ~PlainLocale() { setlocale(LC_ALL, previous.c_str()); }
+
+private:
+    std::string previous;
 };

@@ -1,4 +1,4 @@
-#include "tests/helpers/GermanLocale.h"
+#include "tests/helpers/Locales.h"
 
 #include <clocale>
 #include <stdexcept>
