@@ -202,7 +202,7 @@ bool Document::redo()
 
 bool Document::carryOver(Step& step, bool forward)
 {
-    if (!exchangeFiles(step)) {
+    if (!exchangeFiles(step, forward)) {
         return false;
     }
     contents.apply(step, forward);
@@ -213,13 +213,23 @@ bool Document::carryOver(Step& step, bool forward)
 }
 
 // All or none.
-bool Document::exchangeFiles(Step& step)
+bool Document::exchangeFiles(Step& step, bool forward)
 {
     const auto exchange = [&](std::size_t i) {
         return keptFiles.exchange(record.pathImageSource(step.files[i].page), step.files[i]);
     };
+    const auto keepAsItIs = [&](std::size_t i) {
+        return keptFiles.keepAsItIs(record.pathImageSource(step.files[i].page), step.files[i]);
+    };
+    // Until the next save the file on the disk needs the pictures of its pages.
+    const std::size_t pagesBefore =
+        contents.pages().size() + step.pages.before.size() - step.pages.after.size();
+    const auto isNeeded = [&](std::size_t i) {
+        const auto page = static_cast<std::size_t>(step.files[i].page);
+        return !forward && page >= pagesBefore && page < savedPages;
+    };
     for (std::size_t i = 0; i < step.files.size(); ++i) {
-        if (!exchange(i)) {
+        if (!(isNeeded(i) ? keepAsItIs(i) : exchange(i))) {
             while (i-- > 0) {
                 exchange(i);
             }
@@ -233,6 +243,7 @@ void Document::setClean()
 {
     closeStep();
     cleanState = state;
+    savedPages = record.pictures.size();
     cleanProductName = record.productName;
     cleanProductId = record.productId;
     note(Change::history, kNoPage);

@@ -124,7 +124,7 @@ private:
 
     // Both leave all as it was when a picture file could not be written.
     bool carryOver(Step& step, bool forward);
-    bool exchangeFiles(Step& step);
+    bool exchangeFiles(Step& step, bool forward);
     void forgetUnchangedFiles(Recording& recording);
     Oid::POLY* living(AreaId area);
     void noteStep(const Step& step);
@@ -147,6 +147,7 @@ private:
     std::uint64_t states = 0;  // that the project has been in
     std::uint64_t state = 0;
     std::uint64_t cleanState = 0;
+    std::size_t savedPages = 0;  // of the file
     std::string typedName;
     int typedId = 0;
     std::string cleanProductName;

@@ -30,6 +30,18 @@ bool KeptFiles::exchange(const std::string& place, KeptFile& kept)
     return true;
 }
 
+bool KeptFiles::keepAsItIs(const std::string& place, KeptFile& kept)
+{
+    std::string copy;
+    if (!keep(place, copy)) {
+        forget({kept.page, copy});
+        return false;
+    }
+    forget(kept);
+    kept.copy = copy;
+    return true;
+}
+
 static bool writeWhole(const std::string& place, const QByteArray& content)
 {
     Platform::FileReplacement replacement(place);

@@ -20,6 +20,8 @@ public:
     // Puts what is kept in the place of the page's picture file, and keeps that. False when a file
     // could not be written; all is then as it was.
     bool exchange(const std::string& place, KeptFile& kept);
+    // Keeps what is in the place, and leaves it there. False when that failed.
+    bool keepAsItIs(const std::string& place, KeptFile& kept);
     // Puts a new content in the place of the file, and keeps what was there.
     bool replace(const std::string& place, const QByteArray& content, KeptFile& kept);
     // Whether the page's picture file holds what is kept; also when there is neither.

@@ -261,6 +261,38 @@ TEST_F(DocumentTest, ANewPageIsUndoneWithItsFileAndComesBackWithIt)
     EXPECT_EQ(names(1), "cow");
 }
 
+TEST_F(DocumentTest, UndoingAPageLeavesThePictureThatTheSavedProjectHas)
+{
+    document.apply(edit::AddPage{{}, "picture"});
+    document.setClean();
+    const std::string file = document.project().pathImageSource(1);
+    document.undo();
+    EXPECT_EQ(document.project().pictures.size(), 1U);
+    EXPECT_EQ(readFile(Platform::nativePath(file)), "picture");
+    document.redo();
+    EXPECT_EQ(document.project().pictures.size(), 2U);
+    EXPECT_EQ(readFile(Platform::nativePath(file)), "picture");
+}
+
+TEST_F(DocumentTest, APageThatWasUndoneAfterASaveComesBackWithItsPictureAndNotWithALaterOne)
+{
+    document.apply(edit::AddPage{{}, "picture"});
+    document.setClean();
+    const std::string file = document.project().pathImageSource(1);
+    document.undo();
+    writeFile(Platform::nativePath(file), "other");
+    document.redo();
+    EXPECT_EQ(readFile(Platform::nativePath(file)), "picture");
+}
+
+TEST_F(DocumentTest, APictureThatReplacedNoneIsUndoneAlsoOnAPageThatIsSaved)
+{
+    document.apply(edit::ReplacePicture{0, "picture"});
+    document.setClean();
+    document.undo();
+    EXPECT_FALSE(Platform::fileExists(document.project().pathImageSource(0)));
+}
+
 TEST_F(DocumentTest, APictureThatCannotBeWrittenChangesNothing)
 {
     document.projectRecord().projectPath = folder.file("missing/book.oidpro");
