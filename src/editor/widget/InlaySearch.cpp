@@ -103,8 +103,10 @@ void KVQtHighlightEditCtrlInlay::say_of_search(const QString& message)
 // Without a selection it takes the next match, so that it can be used again and again.
 void KVQtHighlightEditCtrlInlay::OnEditDoReplace()
 {
-    const bool searched = !editor.selection.has_range();
-    if (searched && (find_dialog->find_text().isEmpty() || !DoFindNext(true))) {
+    // Pressed again it takes the next place; else without a selection it does nothing.
+    const bool again = replaced_to && *replaced_to == editor.selection.end;
+    if (!editor.selection.has_range() &&
+        (!again || find_dialog->find_text().isEmpty() || !DoFindNext(true))) {
         return;
     }
     QString replacement = find_dialog->replace_text();
@@ -116,6 +118,7 @@ void KVQtHighlightEditCtrlInlay::OnEditDoReplace()
     const CARET behind = paste_lines(pasted, false);
     const CARET caret = find_dialog->backwards() ? start : behind;  // the next search goes on there
     editor.selection.set(caret.line, caret.column);
+    replaced_to = caret;
     EnsureVisible(editor.selection.end);
     UpdateAllViews();
 }

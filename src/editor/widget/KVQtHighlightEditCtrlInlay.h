@@ -258,6 +258,7 @@ private:
     bool dragging = false;         // the selection is on its way to another place
     CARET press_position;
     CARET drop_position;
+    std::optional<CARET> replaced_to;  // where the last "Replace" has put the caret
     QPoint mouse_point;               // where the held mouse was last
     QElapsedTimer double_click_time;  // since the last double-click
     QPoint double_click_point;
