@@ -177,7 +177,7 @@ private:
     // One line for each picture whose resolution is too low; empty if none is.
     QString tooFewDpi() const;
     // Greys out Build and Copy until the assembler that Build has left running is done.
-    void waitForAssembler(std::function<void()> done);
+    void waitForAssembler(const std::function<void()>& done);
 
     // The speech step of a build, with its progress.
     SpeechOutcome createSoundFiles();

@@ -116,7 +116,7 @@ void MainWindow::on_btBuild_clicked()
 }
 
 // A button that goes grey hands the keyboard on to another control, and gets it back.
-void MainWindow::waitForAssembler(std::function<void()> done)
+void MainWindow::waitForAssembler(const std::function<void()>& done)
 {
     const auto letBuildAndCopy = [this](bool free) {
         ui->btBuild->setEnabled(free);

@@ -7,7 +7,11 @@ namespace {
 // Bit by bit: a zero and its negative are written differently.
 bool sameNumber(double a, double b)
 {
-    return std::memcmp(&a, &b, sizeof(double)) == 0;
+    std::uint64_t bitsOfA = 0;
+    std::uint64_t bitsOfB = 0;
+    std::memcpy(&bitsOfA, &a, sizeof a);
+    std::memcpy(&bitsOfB, &b, sizeof b);
+    return bitsOfA == bitsOfB;
 }
 
 bool samePoint(const Oid::PNT& a, const Oid::PNT& b)

@@ -23,7 +23,8 @@ void reportUnreadable(const std::string& path, const DiagnosticSink& sink)
 bool openWith(OidProject& project, const std::string& filePath, SavedEmptyPages emptyPages,
               const DiagnosticSink& sink)
 {
-    const std::string path = filePath;  // which clear would empty if it is the project's own
+    // clear would empty it if it is the project's own
+    const std::string path = filePath;  // NOLINT(performance-unnecessary-copy-initialization)
     project.clear();
     const std::unique_ptr<FILE, int (*)(FILE*)> file(FileSystem::myfopen(path, "rb"), fclose);
     if (file == nullptr) {

@@ -83,6 +83,7 @@ void KVQtHighlightEditCtrlInlay::expand_tabs_of(int index)
         carets.insert(carets.end(), {&editor.selection.start, &editor.selection.end});
     }
     std::vector<Place> places;
+    places.reserve(carets.size());
     for (const CARET* caret : carets) {
         places.emplace_back(line, caret->column);
     }

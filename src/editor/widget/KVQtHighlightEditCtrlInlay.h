@@ -259,8 +259,8 @@ private:
     CARET press_position;
     CARET drop_position;
     std::optional<CARET> replaced_to;  // where the last "Replace" has put the caret
-    QPoint mouse_point;               // where the held mouse was last
-    QElapsedTimer double_click_time;  // since the last double-click
+    QPoint mouse_point;                // where the held mouse was last
+    QElapsedTimer double_click_time;   // since the last double-click
     QPoint double_click_point;
     SELECTION offered_selection;  // what the middle button was last offered
 };
