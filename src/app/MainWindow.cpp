@@ -41,6 +41,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     new StorableName(ui->txPolyName);
     new ProductNameNote(ui->txProjectName, ui->lbProjectNameProblems);
     ui->polyArea->setDocument(&document);
+    ui->polyArea->setTool(&tool());
     prepareHistory();
     const auto typed = [this] {
         document.typeProduct(ui->txProjectName->text().toStdString(), ui->txProjectId->value());

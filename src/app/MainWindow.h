@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/PageTool.h"
 #include "document/CompanionFiles.h"
 #include "document/Document.h"
 #include "publish/SoundFiles.h"
@@ -147,7 +148,8 @@ private:
     const Oid::POLY* selectedArea() const;
     // Fills the fields of the selected area; without one they keep what they show.
     void showSelectedArea();
-    void setMode(Mode newMode, Qt::CursorShape cursor);
+    void setMode(Mode newMode);
+    PageTool& tool();  // of the mode
 
     // True when the form holds a name, id or script that the project does not have yet.
     bool formWasEdited() const;
@@ -187,7 +189,8 @@ private:
     Oid::OidProject& project = document.projectRecord();
     CompanionFiles companions;
     int mode = pick;
-    AreaId drawnArea = AreaId::none;  // in the mode addPolygon
+    PickTool pickTool{document};
+    DrawTool drawTool{document};
     // What is typed into a field without a pause is one step of the history.
     const Gesture typedName = document.newGesture();
     const Gesture typedNumber = document.newGesture();

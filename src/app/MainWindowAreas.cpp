@@ -2,12 +2,9 @@
 #include "app/MainWindow.h"
 
 #include "app/StorableName.h"
-#include "base/TextHelpers.h"
 #include "ui_MainWindow.h"
 
 #include <QScopedValueRollback>
-
-#include <utility>
 
 const Oid::POLY* MainWindow::selectedArea() const
 {
@@ -25,7 +22,7 @@ void MainWindow::selectPolygon(int i)
         document.select(page, document.areaAt(page, i) != AreaId::none ? i : -1);
     }
     showSelectedArea();
-    ui->polyArea->repaint();
+    ui->polyArea->paintChanges();
 }
 
 void MainWindow::showSelectedArea()
@@ -42,50 +39,37 @@ void MainWindow::showSelectedArea()
     ui->txOidOfArea->setValue(document.numberOf(document.selectedArea()));
 }
 
-void MainWindow::setMode(Mode newMode, Qt::CursorShape cursor)
+void MainWindow::setMode(Mode newMode)
 {
     mode = newMode;
-    ui->polyArea->setCursor(cursor);
+    ui->polyArea->setTool(&tool());
+}
+
+PageTool& MainWindow::tool()
+{
+    return mode == addPolygon ? static_cast<PageTool&>(drawTool) : pickTool;
 }
 
 void MainWindow::onPolyAreaClickedLB(Oid::PNT pt)
 {
-    const Oid::PICTURE* const picture = ui->polyArea->picture();
-    if (picture == nullptr) {
-        return;
-    }
-    const int page = document.currentPage();
-    if (mode == pick) {
-        selectPolygon(project.pntInPoly(page, pt));
-    } else if (!picture->polys.empty()) {
-        std::vector<Oid::PNT> corners = picture->polys.back().points;
-        corners.push_back(pt);
-        const int last = static_cast<int>(picture->polys.size()) - 1;
-        document.apply(edit::SetCorners{document.areaAt(page, last), std::move(corners)});
-        ui->polyArea->repaint();
-    }
+    tool().click(pt);
+    showSelectedArea();
+    ui->polyArea->paintChanges();
 }
 
 void MainWindow::on_btPickPoly_clicked()
 {
-    setMode(pick, Qt::ArrowCursor);
+    setMode(pick);
     selectPolygon(-1);
 }
 
 void MainWindow::on_btAddPoly_clicked()
 {
-    const Oid::PICTURE* const picture = ui->polyArea->picture();
-    if (picture == nullptr) {
-        return;
+    const int added = drawTool.begin();
+    if (added >= 0) {
+        setMode(addPolygon);
+        selectPolygon(added);
     }
-    const int count = static_cast<int>(picture->polys.size());
-    const int page = document.currentPage();
-    Oid::POLY area;
-    area.name = "polygon" + itostr(count + 1);
-    document.apply(edit::AddArea{page, std::move(area)});
-    drawnArea = document.areaAt(page, count);
-    setMode(addPolygon, Qt::CrossCursor);
-    selectPolygon(count);
 }
 
 void MainWindow::on_btDelPoly_clicked()
@@ -93,7 +77,7 @@ void MainWindow::on_btDelPoly_clicked()
     if (!document.apply(edit::RemoveArea{document.selectedArea()})) {
         return;
     }
-    setMode(pick, Qt::ArrowCursor);
+    setMode(pick);
     selectPolygon(document.selectedIndex() - 1);
 }
 

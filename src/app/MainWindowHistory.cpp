@@ -63,8 +63,8 @@ void MainWindow::undo()
     } else if (document.canUndo() && !document.undo()) {
         warn(tr("The picture could not be kept beside the project file."));
     }
-    if (mode == addPolygon && document.placeOf(drawnArea).page < 0) {
-        setMode(pick, Qt::ArrowCursor);  // the area that was being drawn is gone
+    if (mode == addPolygon && !drawTool.hasArea()) {
+        setMode(pick);  // the area that was being drawn is gone
     }
 }
 

@@ -1,12 +1,15 @@
 #include "app/PolyEditorWidget.h"
 
+#include "app/PageTool.h"
 #include "base/PlatformFiles.h"
 #include "oid/PictureFile.h"
 
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 PolyEditorWidget::PolyEditorWidget(QWidget* parent) : QWidget(parent)
 {
@@ -22,12 +25,10 @@ void PolyEditorWidget::setDocument(Document* shown)
     connect(document, &Document::changed, this, &PolyEditorWidget::showChange);
 }
 
-void PolyEditorWidget::showChange(const Change& change)
+void PolyEditorWidget::setTool(PageTool* chosen)
 {
-    if (change.has(Change::pictureFile)) {
-        loadedPath.clear();
-    }
-    update();
+    tool = chosen;
+    setCursor(tool->cursor());
 }
 
 int PolyEditorWidget::currentPicture() const
@@ -58,27 +59,19 @@ int PolyEditorWidget::heightForWidth(int width) const
     return static_cast<int>(std::clamp<qint64>(height, 1, 1000000)) + 1;
 }
 
-Oid::PNT PolyEditorWidget::toProz(QPoint pixel) const
+PageView PolyEditorWidget::view() const
 {
-    if (!rect().isValid()) {
-        return {};
-    }
-    return {pixel.x() * 100.0 / width(), pixel.y() * 100.0 / width()};
+    return {std::max(1, width()), {0, 0}};
 }
 
-// Truncates toward zero; areas far outside the picture stay within what the painter can take.
-static int toPixel(double percent, int width)
+Oid::PNT PolyEditorWidget::toProz(QPoint pixel) const
 {
-    constexpr double kFarOutside = 1e6;
-    return static_cast<int>(std::clamp(percent * 0.01 * width, -kFarOutside, kFarOutside));
+    return rect().isValid() ? view().toPercent(pixel) : Oid::PNT();
 }
 
 QPoint PolyEditorWidget::toPix(const Oid::PNT& point) const
 {
-    if (!rect().isValid()) {
-        return {0, 0};
-    }
-    return {toPixel(point.x, width()), toPixel(point.y, width())};
+    return rect().isValid() ? view().toPixel(point) : QPoint(0, 0);
 }
 
 void PolyEditorWidget::loadImage(const QString& path)
@@ -94,7 +87,7 @@ void PolyEditorWidget::readImage(const QString& path)
     if (loaded.isNull()) {
         clearImage();
     } else {
-        setImage(loaded);
+        image = loaded;
     }
 }
 
@@ -106,40 +99,109 @@ void PolyEditorWidget::clearImage()
     painter.drawText(10, 10, "NO IMAGE LOADED");
     painter.drawLine(0, 0, 150, 100);
     painter.end();
-    setImage(placeholder);
+    image = placeholder;
 }
 
-void PolyEditorWidget::setImage(QImage loaded)
+// A click between pixels is at the nearest one.
+static QPoint pixelOf(const QMouseEvent& event)
 {
-    image = std::move(loaded);
-    scaledImage = {};
-    page = {};
+    return {qRound(event.localPos().x()), qRound(event.localPos().y())};
 }
 
-void PolyEditorWidget::mousePressEvent(QMouseEvent* /*event*/) {}
-
-void PolyEditorWidget::mouseReleaseEvent(QMouseEvent* event)
+static PageMouse mouseOn(const PageView& view, const QMouseEvent& event)
 {
-    if (event->button() == Qt::LeftButton) {
-        const QPointF position = event->localPos();
-        emit clickedLB(toProz({qRound(position.x()), qRound(position.y())}));
+    return {view.toPercent(pixelOf(event)), view, event.button(), event.buttons(),
+            event.modifiers()};
+}
+
+void PolyEditorWidget::mousePressEvent(QMouseEvent* event)
+{
+    if (tool != nullptr) {
+        tool->press(mouseOn(view(), *event));
     }
 }
 
-void PolyEditorWidget::paintEvent(QPaintEvent* /*event*/)
+void PolyEditorWidget::mouseMoveEvent(QMouseEvent* event)
 {
+    if (tool != nullptr) {
+        tool->move(mouseOn(view(), *event));
+    }
+}
+
+void PolyEditorWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (tool != nullptr) {
+        tool->release(mouseOn(view(), *event));
+    }
+    if (event->button() == Qt::LeftButton) {
+        emit clickedLB(toProz(pixelOf(*event)));
+    }
+}
+
+void PolyEditorWidget::keyPressEvent(QKeyEvent* event)
+{
+    if (tool == nullptr || !tool->key(*event)) {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void PolyEditorWidget::showChange(const Change& change)
+{
+    if (change.has(Change::pictureFile)) {
+        loadedPath.clear();
+    }
+    const bool otherPage = picture() == nullptr || tiles.isEmpty() ||
+                           document->project().pathImageSource(currentPicture()) != loadedPath;
+    updateSoon(otherPage ? rect() : takeChangedAreas());
+}
+
+void PolyEditorWidget::updateSoon(const QRegion& region)
+{
+    unpainted += region;
+    update(region);
+}
+
+void PolyEditorWidget::paintChanges()
+{
+    repaint(unpainted);
+}
+
+QRegion PolyEditorWidget::takeChangedAreas()
+{
+    const PageView page = view();
+    const QRect seen = visibleRegion().boundingRect().translated(-page.origin);
+    AreaOutlines areas(picture()->polys, selectedPoly(), {page.width, {0, 0}});
+    return tiles.showAreas(std::move(areas), seen).translated(page.origin);
+}
+
+QRegion PolyEditorWidget::takeChanges()
+{
+    const int pageWidth = view().width;
+    const QSize page(pageWidth, heightForWidth(pageWidth));
+    const bool otherPage = tiles.showPicture(image, page, devicePixelRatioF());
+    const QRegion changed = takeChangedAreas();
+    return otherPage ? rect() : changed;
+}
+
+void PolyEditorWidget::paintEvent(QPaintEvent* event)
+{
+    unpainted -= event->region();
     if (picture() != nullptr) {
         readCurrentImage();
     }
     askForHeight();
-    if (picture() == nullptr) {
+    if (picture() == nullptr || !rect().isValid()) {
+        tiles.clear();
         return;
     }
-    if (!rect().isValid()) {
-        return;
-    }
+    updateSoon(takeChanges() - event->region());
+    const QPoint origin = view().origin;
     QPainter painter(this);
-    drawPage(painter);
+    painter.translate(origin);
+    const QRegion region = event->region().translated(-origin);
+    tiles.paint(painter, region);
+    tiles.paintBeside(painter, region);
+    tiles.keepWithin(visibleRegion().boundingRect().translated(-origin));
 }
 
 void PolyEditorWidget::readCurrentImage()
@@ -158,80 +220,5 @@ void PolyEditorWidget::askForHeight()
     if (height != askedHeight) {
         askedHeight = height;
         updateGeometry();
-    }
-}
-
-// A picture like a thread would be scaled to far more than any screen shows.
-constexpr qint64 kMostScaledPixels = 64 * 1024 * 1024;
-
-void PolyEditorWidget::drawPage(QPainter& painter)
-{
-    const QRect place(0, 0, width(), heightForWidth(width()));
-    const qreal ratio = devicePixelRatioF();
-    const QSize pixels = (QSizeF(place.size()) * ratio).toSize();
-    const DrawnAreas areas = areasToDraw();
-    if (qint64(pixels.width()) * pixels.height() > kMostScaledPixels) {
-        painter.drawImage(place, image);  // only what is seen of it
-        draw(painter, areas);
-        return;
-    }
-    if (scaledImage.size() != pixels) {
-        scaledImage = QPixmap::fromImage(
-            image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-        page = {};
-    }
-    if (page.isNull() || areas.selected != areasOnPage.selected ||
-        areas.corners != areasOnPage.corners) {
-        page = scaledImage;
-        page.setDevicePixelRatio(ratio);
-        QPainter onPage(&page);
-        draw(onPage, areas);
-        areasOnPage = areas;
-    }
-    painter.drawPixmap(place, page);
-    drawBelow(painter, areas, place.height());
-}
-
-// Areas may reach below the picture, where the page ends: it may be lower than the tab, or its file
-// may be missing.
-void PolyEditorWidget::drawBelow(QPainter& painter, DrawnAreas areas, int pageHeight) const
-{
-    const QRect below = rect().adjusted(0, pageHeight, 0, 0);
-    if (below.isEmpty()) {
-        return;
-    }
-    for (QPolygon& corners : areas.corners) {
-        if (corners.boundingRect().bottom() < below.top()) {
-            corners.clear();
-        }
-    }
-    painter.setClipRect(below);
-    draw(painter, areas);
-}
-
-PolyEditorWidget::DrawnAreas PolyEditorWidget::areasToDraw() const
-{
-    DrawnAreas areas;
-    areas.selected = selectedPoly();
-    for (const Oid::POLY& area : picture()->polys) {
-        QPolygon& corners = areas.corners.emplace_back();
-        for (const Oid::PNT& point : area.points) {
-            corners << toPix(point);
-        }
-    }
-    return areas;
-}
-
-void PolyEditorWidget::draw(QPainter& painter, const DrawnAreas& areas)
-{
-    for (size_t i = 0; i < areas.corners.size(); ++i) {
-        const bool selected = static_cast<int>(i) == areas.selected;
-        painter.setPen(selected ? QColor(255, 32, 32) : QColor(32, 96, 255));
-        painter.setBrush(selected ? QColor(255, 32, 32, 64) : QColor(0, 255, 196, 64));
-        const QPolygon& corners = areas.corners[i];
-        painter.drawPolygon(corners, Qt::OddEvenFill);
-        if (corners.size() == 1) {
-            painter.drawPoint(corners[0]);  // the first corner of a new area
-        }
     }
 }

@@ -1,17 +1,17 @@
 #pragma once
 
+#include "app/PageTiles.h"
+#include "app/PageView.h"
 #include "document/Document.h"
 
 #include <QImage>
-#include <QPixmap>
-#include <QPolygon>
 #include <QWidget>
 
-#include <vector>
+class PageTool;
 
-// Shows the document's current page at the widget's full width, with its areas, and says where it
-// was clicked. Points are in percent of the width, for x and for y, so that they do not depend on
-// the size of the window.
+// Shows the document's current page at the widget's full width, with its areas, hands mouse and
+// keys to the tool that the author has chosen, and says where it was clicked. Points are in percent
+// of the width, for x and for y, so that they do not depend on the size of the window.
 class PolyEditorWidget : public QWidget
 {
     Q_OBJECT
@@ -21,6 +21,8 @@ public:
 
     // Not owned, outlives the widget.
     void setDocument(Document* shown);
+    // Not owned, stays until another one is set. Its cursor is the widget's.
+    void setTool(PageTool* chosen);
 
     // Index of the current picture and of the highlighted area, as the document has them.
     int currentPicture() const;
@@ -31,12 +33,17 @@ public:
     // So high is the whole picture when it is this wide; 0 without a picture.
     int heightForWidth(int width) const override;
 
+    // Where the page lies in the widget.
+    PageView view() const;
     Oid::PNT toProz(QPoint pixel) const;
     QPoint toPix(const Oid::PNT& point) const;
 
     // Shows the picture file, or a placeholder when it cannot be read.
     void loadImage(const QString& path);
     void clearImage();
+
+    // Paints what has changed in the document at once, not only when nothing else is to be done.
+    void paintChanges();
 
     std::string loadedPath;  // where the image came from; emptied to have it loaded again
 
@@ -46,34 +53,26 @@ signals:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void setImage(QImage loaded);
     void readImage(const QString& path);
     void readCurrentImage();
     void askForHeight();
-    // What the areas look like, in the widget's pixels.
-    struct DrawnAreas
-    {
-        std::vector<QPolygon> corners;
-        int selected = -1;
-    };
-
-    void drawPage(QPainter& painter);
-    DrawnAreas areasToDraw() const;
-    static void draw(QPainter& painter, const DrawnAreas& areas);
-    void drawBelow(QPainter& painter, DrawnAreas areas, int pageHeight) const;
 
     void showChange(const Change& change);
+    void updateSoon(const QRegion& region);
+    // What looks different since the last call, in the widget's pixels.
+    QRegion takeChanges();
+    QRegion takeChangedAreas();
 
     Document* document = nullptr;
+    PageTool* tool = nullptr;
     QImage image;
-    // Scaling costs much more than painting, and so do many areas: both are kept for the next
-    // paint.
-    QPixmap scaledImage;
-    QPixmap page;  // the scaled image with the areas on it
-    DrawnAreas areasOnPage;
+    PageTiles tiles;
+    QRegion unpainted;    // has changed since it was painted
     int askedHeight = 0;  // what the layout knows of the picture
 };

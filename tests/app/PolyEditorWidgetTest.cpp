@@ -57,6 +57,20 @@ Oid::POLY square(const char* name, double left, double top, double size)
     return area;
 }
 
+// But for what nobody sees.
+bool looksLike(const QImage& a, const QImage& b)
+{
+    constexpr int kUnseen = 2;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int i = 0; i < a.width() * 4; ++i) {
+            if (std::abs(a.constScanLine(y)[i] - b.constScanLine(y)[i]) > kUnseen) {
+                return false;
+            }
+        }
+    }
+    return a.size() == b.size();
+}
+
 }  // namespace
 
 class PolyEditorWidgetTest : public QObject
@@ -178,8 +192,9 @@ private slots:
 
         Shown shown({}, false);
         shown.widget.resize(150, 101);
-        QCOMPARE(shown.picture(),
-                 expected.scaled(150, 101, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        // One row more than the shape.
+        QVERIFY(looksLike(shown.picture(), expected.scaled(150, 101, Qt::IgnoreAspectRatio,
+                                                           Qt::SmoothTransformation)));
     }
 
     void aFileIsShownWhereverItLies()

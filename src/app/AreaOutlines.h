@@ -1,0 +1,44 @@
+#pragma once
+
+#include "app/PageView.h"
+
+#include <QPolygon>
+#include <QRect>
+#include <QRegion>
+
+#include <vector>
+
+class QPainter;
+
+// What the areas of a page look like, in pixels.
+class AreaOutlines
+{
+public:
+    AreaOutlines() = default;
+    AreaOutlines(const std::vector<Oid::POLY>& areas, int selected, const PageView& view);
+
+    // Those that reach into the region, in their order.
+    void draw(QPainter& painter, const QRegion& region) const;
+
+    // All pixels within the bounds on which these and those do not look alike, and not many more:
+    // the way of a dragged corner, and not the area that it belongs to.
+    QRegion differenceTo(const AreaOutlines& other, QRect bounds) const;
+
+private:
+    struct Outline
+    {
+        bool operator==(const Outline& other) const
+        {
+            return selected == other.selected && corners == other.corners;
+        }
+
+        QPolygon corners;
+        QRect place;  // with all that the pen draws
+        bool selected = false;
+    };
+
+    static void draw(QPainter& painter, const Outline& outline);
+    static QRegion difference(const Outline& a, const Outline& b, QRect bounds);
+
+    std::vector<Outline> outlines;
+};
