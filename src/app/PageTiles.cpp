@@ -35,7 +35,7 @@ QRegion PageTiles::showAreas(AreaOutlines shown, QRect bounds)
     for (const auto& entry : tiles) {
         bounds |= toWidget(placeOf(entry.first.second, entry.first.first));
     }
-    const QRegion changed = areas.differenceTo(shown, bounds);
+    QRegion changed = areas.differenceTo(shown, bounds);
     areas = std::move(shown);
     if (changed.isEmpty()) {
         return changed;

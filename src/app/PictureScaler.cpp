@@ -77,8 +77,8 @@ void mixLines(const QImage& picture, QPoint origin, const Sources& rows, const S
     std::fill(sums.begin(), sums.end(), 0U);
     const std::size_t count = sums.size();
     for (int i = 0; i < run.count; ++i) {
-        const uchar* const values =
-            picture.constScanLine(run.first + i - origin.y()) + origin.x() * kChannels;
+        const uchar* const values = picture.constScanLine(run.first + i - origin.y()) +
+                                    std::ptrdiff_t{origin.x()} * kChannels;
         const quint16 weight = rows.weights[static_cast<std::size_t>(run.weight + i)];
         for (std::size_t k = 0; k < count; ++k) {
             sums[k] += static_cast<quint32>(values[k]) * weight;
