@@ -1,5 +1,6 @@
 // The picture with its areas: coordinates, clicks, and what is painted.
 #include "app/PolyEditorWidget.h"
+#include "app/PageTool.h"
 #include "tests/app/PaintCounter.h"
 #include "tests/helpers/TemporaryFolder.h"
 
@@ -56,6 +57,39 @@ Oid::POLY square(const char* name, double left, double top, double size)
     area.points = {{left, top}, {left + size, top}, {left + size, top + size}, {left, top + size}};
     return area;
 }
+
+// Writes down what it gets, and takes one key.
+class NotingTool : public PageTool
+{
+public:
+    using PageTool::PageTool;
+    Qt::CursorShape cursor() const override { return Qt::CrossCursor; }
+    void press(const PageMouse& mouse) override { note("press", mouse); }
+    void move(const PageMouse& mouse) override { note("move", mouse); }
+    void release(const PageMouse& mouse) override { note("release", mouse); }
+    void click(const Oid::PNT& /*at*/) override { notes << "click"; }
+    bool key(const QKeyEvent& event) override
+    {
+        if (event.key() == Qt::Key_Escape) {
+            notes << "key " + QString::number(event.key(), 16);
+        }
+        return event.key() == Qt::Key_Escape;
+    }
+
+    QStringList notes;
+
+private:
+    void note(const char* what, const PageMouse& mouse)
+    {
+        notes << QString("%1 %2 %3 button %4 of %5 keys %6")
+                     .arg(what)
+                     .arg(mouse.at.x)
+                     .arg(mouse.at.y)
+                     .arg(mouse.button)
+                     .arg(static_cast<int>(mouse.buttons))
+                     .arg(static_cast<int>(mouse.modifiers), 0, 16);
+    }
+};
 
 // But for what nobody sees.
 bool looksLike(const QImage& a, const QImage& b)
@@ -147,6 +181,45 @@ private slots:
         const Oid::PNT point = clicks[0][0].value<Oid::PNT>();
         QCOMPARE(point.x, 50.0);
         QCOMPARE(point.y, 40.0);
+    }
+
+    void theToolGetsWhatTheMouseDoesInPercent()
+    {
+        Shown shown;
+        NotingTool tool(shown.document);
+        shown.widget.setTool(&tool);
+        QCOMPARE(shown.widget.cursor().shape(), Qt::CrossCursor);
+        QTest::mousePress(&shown.widget, Qt::RightButton, Qt::ShiftModifier, {50, 40});
+        QMouseEvent move(QEvent::MouseMove, QPointF(99.6, 80.4), Qt::NoButton, Qt::LeftButton,
+                         Qt::ControlModifier);
+        QCoreApplication::sendEvent(&shown.widget, &move);
+        QTest::mouseRelease(&shown.widget, Qt::LeftButton, Qt::NoModifier, {100, 100});
+        QCOMPARE(tool.notes, QStringList({"press 25 20 button 2 of 2 keys 2000000",
+                                          "move 50 40 button 0 of 1 keys 4000000",
+                                          "release 50 50 button 1 of 0 keys 0"}));
+    }
+
+    void theToolGetsTheKeysThatItTakes()
+    {
+        Shown shown;
+        NotingTool tool(shown.document);
+        shown.widget.setTool(&tool);
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QKeyEvent other(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+        QCoreApplication::sendEvent(&shown.widget, &escape);
+        QCoreApplication::sendEvent(&shown.widget, &other);
+        QCOMPARE(tool.notes, QStringList({"key 1000000"}));
+        QVERIFY(escape.isAccepted());
+        QVERIFY(!other.isAccepted());
+    }
+
+    void aPageMayLieAnywhere()
+    {
+        const PageView view{400, {10, -20}};
+        QCOMPARE(view.toPixel({25, 50}), QPoint(110, 180));
+        const Oid::PNT point = view.toPercent({110, 180});
+        QCOMPARE(point.x, 25.0);
+        QCOMPARE(point.y, 50.0);
     }
 
     void thePictureTakesTheFullWidthAndKeepsItsShape()
