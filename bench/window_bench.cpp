@@ -6,6 +6,7 @@
 #include "base/PlatformFiles.h"
 #include "bench/EditorBench.h"
 #include "bench/MeasuredProcess.h"
+#include "oid/PictureFile.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -25,6 +26,7 @@ using EditorBench::medianMicroseconds;
 namespace {
 
 constexpr char kBareOption[] = "--bare";
+constexpr char kShowOption[] = "--show";
 constexpr char kSampleBook[] = PLINKETT_SOURCE_DIR "/examples/farm/farm.oidpro";
 constexpr int kStarts = 9;
 constexpr int kRepaints = 31;
@@ -122,24 +124,32 @@ double repaintTime(QWidget& widget, QSize size)
     return medianMicroseconds(kRepaints, [&] { widget.repaint(); }) / 1e3;
 }
 
+QString scanOf(const Oid::OidProject& project)
+{
+    return QString::fromStdString(Platform::nativePath(project.pathImageSource(0)));
+}
+
+void fill(Document& document, const QString& projectPath)
+{
+    Oid::OidProject& project = document.projectRecord();
+    project.projectPath = projectPath.toStdString();
+    project.pictures.resize(1);
+    for (int i = 0; i < kAreas; ++i) {
+        project.pictures[0].polys.push_back(makeArea(i));
+    }
+    document.restart();
+}
+
 // A page of the scan with its areas, in a folder of its own.
 struct Book
 {
     Book()
     {
-        Oid::OidProject& project = document.projectRecord();
-        project.projectPath = folder.filePath("book.oidpro").toStdString();
-        project.pictures.resize(1);
-        for (int i = 0; i < kAreas; ++i) {
-            project.pictures[0].polys.push_back(makeArea(i));
-        }
-        scan = QString::fromStdString(Platform::nativePath(project.pathImageSource(0)));
-        makeScan(scan);
-        document.restart();
+        fill(document, folder.filePath("book.oidpro"));
+        makeScan(scanOf(document.project()));
     }
 
     const QTemporaryDir folder;
-    QString scan;
     Document document;
 };
 
@@ -147,7 +157,7 @@ bool measureRepaints(Book& book)
 {
     PolyEditorWidget editor;
     editor.setDocument(&book.document);
-    PlainPicture plain(book.document.project().pictures[0], book.scan);
+    PlainPicture plain(book.document.project().pictures[0], scanOf(book.document.project()));
     bool good = true;
     for (const QSize size : {QSize(1000, 667), QSize(1920, 1280)}) {
         const QString what = QString("repaint of 6000 x 4000 with 500 areas at %1 x %2")
@@ -214,7 +224,6 @@ double dragTime(Document& document, AreaId area, QSize viewport, int zoom)
     return taken / 1e3;
 }
 
-// A limit of its own for what is more than anybody draws.
 bool measureDrags(Book& book)
 {
     Document& document = book.document;
@@ -244,6 +253,43 @@ bool measureDrags(Book& book)
     return good;
 }
 
+constexpr QSize kFineScreen(3840, 2160);
+
+// A program that shows a page of the scan, or only has it in memory. The page is scrolled to where
+// its pixels lie least well.
+int showPage(QSize viewport, int zoom, const QString& projectPath, bool shown)
+{
+    Document document;
+    fill(document, projectPath);
+    const QImage picture = shown ? QImage() : PictureFile(scanOf(document.project())).read();
+    if (!shown) {
+        document.select(-1, -1);
+    }
+    ShownPage page(document, viewport, zoom);
+    page.show({50.1, 30.1});
+    return 0;
+}
+
+// Memory beside the decoded picture, in screens of four bytes a pixel.
+bool measureMemory(const Book& book)
+{
+    const QString path = QString::fromStdString(book.document.project().projectPath);
+    const auto peak = [&](int zoom, const char* what) {
+        return peakMemoryOf(QCoreApplication::applicationFilePath(),
+                            {kShowOption, QString::number(zoom), path, what});
+    };
+    bool good = true;
+    for (const int zoom : {1, 4, 16}) {
+        const double bytes = peak(zoom, "page") - peak(zoom, "picture");
+        const double screens = bytes / (4.0 * kFineScreen.width() * kFineScreen.height());
+        std::printf("| memory beside the picture, 3840 x 2160 pixels, zoom %d | %.2f screens | | | "
+                    "1.5 screens |\n",
+                    zoom, screens);
+        good = good && screens > 0 && screens < 1.5;
+    }
+    return good;
+}
+
 }  // namespace
 
 int main(int argc, char* argv[])
@@ -255,10 +301,15 @@ int main(int argc, char* argv[])
         window.show();
         return QApplication::exec();
     }
+    if (argc > 4 && std::strcmp(argv[1], kShowOption) == 0) {
+        return showPage(kFineScreen, std::atoi(argv[2]), argv[3],
+                        std::strcmp(argv[4], "page") == 0);
+    }
     std::printf("| what | the window | compared with | that | limit |\n|---|---|---|---|---|\n");
     const bool quick = measureStartUp();
     Book book;
     const bool painted = measureRepaints(book);
     const bool dragged = measureDrags(book);
-    return quick && painted && dragged ? 0 : 1;
+    const bool small = measureMemory(book);
+    return quick && painted && dragged && small ? 0 : 1;
 }

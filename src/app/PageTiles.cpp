@@ -6,21 +6,28 @@
 
 namespace {
 
-// In pixels of the screen. Long lines are quicker to copy.
-constexpr int kTileWidth = 512;
-constexpr int kTileHeight = 128;
+// In pixels of the screen. Long lines are quicker to copy; but of a page that is wider than what is
+// seen of it, not much more is to be kept.
+QSize tileSizeFor(QSize page, bool allOfItsWidthIsSeen)
+{
+    return allOfItsWidthIsSeen ? QSize(page.width(), 64) : QSize(512, 128);
+}
 
 }  // namespace
 
-bool PageTiles::showPicture(const QImage& picture, QSize shownSize, qreal shownRatio)
+bool PageTiles::showPicture(const QImage& picture, QSize shownSize, qreal shownRatio, int seenWidth)
 {
-    if (picture.cacheKey() == pictureKey && shownSize == size && shownRatio == ratio) {
+    const QSize pixels = (QSizeF(shownSize) * shownRatio).toSize();
+    const QSize tiling = tileSizeFor(pixels, shownSize.width() <= seenWidth);
+    if (picture.cacheKey() == pictureKey && shownSize == size && shownRatio == ratio &&
+        tiling == tileSize) {
         return false;
     }
     pictureKey = picture.cacheKey();
     size = shownSize;
     ratio = shownRatio;
-    scaler = PictureScaler(picture, (QSizeF(size) * ratio).toSize());
+    tileSize = tiling;
+    scaler = PictureScaler(picture, pixels);
     tiles.clear();
     return true;
 }
@@ -55,9 +62,10 @@ void PageTiles::paint(QPainter& painter, const QRegion& region)
     const QRect around = seen.boundingRect();
     painter.save();
     painter.scale(1 / ratio, 1 / ratio);
-    for (int row = around.top() / kTileHeight; row <= around.bottom() / kTileHeight; ++row) {
-        for (int column = around.left() / kTileWidth; column <= around.right() / kTileWidth;
-             ++column) {
+    for (int row = around.top() / tileSize.height(); row <= around.bottom() / tileSize.height();
+         ++row) {
+        for (int column = around.left() / tileSize.width();
+             column <= around.right() / tileSize.width(); ++column) {
             const QRect place = placeOf(column, row);
             if (seen.intersects(place)) {
                 painter.drawImage(place.topLeft(), freshTile(column, row).image);
@@ -89,8 +97,8 @@ void PageTiles::keepWithin(QRect bounds)
 
 QRect PageTiles::placeOf(int column, int row) const
 {
-    return QRect(column * kTileWidth, row * kTileHeight, kTileWidth, kTileHeight) &
-           QRect({}, scaler.size());
+    const QPoint corner(column * tileSize.width(), row * tileSize.height());
+    return QRect(corner, tileSize) & QRect({}, scaler.size());
 }
 
 static QRect scaledOutward(QRect rect, qreal factor)

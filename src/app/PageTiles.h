@@ -14,8 +14,9 @@ class PageTiles
 {
 public:
     // The picture that is shown at this size, on a screen that has ratio pixels for each of the
-    // widget's. True when the page is another one than before; then nothing is kept.
-    bool showPicture(const QImage& picture, QSize size, qreal ratio);
+    // widget's; so much of its width is seen. True when the page is another one than before; then
+    // nothing is kept.
+    bool showPicture(const QImage& picture, QSize size, qreal ratio, int seenWidth);
     // Shows no page, and keeps nothing.
     void clear();
     bool isEmpty() const { return size.isEmpty(); }
@@ -52,6 +53,7 @@ private:
 
     QSize size;       // of the page, in the widget's pixels
     qreal ratio = 1;  // the screen's pixels for one of the widget's
+    QSize tileSize;   // in pixels of the screen
     qint64 pictureKey = 0;
     PictureScaler scaler;
     AreaOutlines areas;

@@ -178,7 +178,8 @@ QRegion PolyEditorWidget::takeChanges()
 {
     const int pageWidth = view().width;
     const QSize page(pageWidth, heightForWidth(pageWidth));
-    const bool otherPage = tiles.showPicture(image, page, devicePixelRatioF());
+    const int seenWidth = visibleRegion().boundingRect().width();
+    const bool otherPage = tiles.showPicture(image, page, devicePixelRatioF(), seenWidth);
     const QRegion changed = takeChangedAreas();
     return otherPage ? rect() : changed;
 }
@@ -196,12 +197,14 @@ void PolyEditorWidget::paintEvent(QPaintEvent* event)
     }
     updateSoon(takeChanges() - event->region());
     const QPoint origin = view().origin;
+    const QRect seen = visibleRegion().boundingRect().translated(-origin);
+    tiles.keepWithin(seen);
     QPainter painter(this);
     painter.translate(origin);
     const QRegion region = event->region().translated(-origin);
     tiles.paint(painter, region);
     tiles.paintBeside(painter, region);
-    tiles.keepWithin(visibleRegion().boundingRect().translated(-origin));
+    tiles.keepWithin(seen);  // an image of the widget has more
 }
 
 void PolyEditorWidget::readCurrentImage()
