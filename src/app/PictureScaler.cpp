@@ -79,6 +79,7 @@ void mixLines(const QImage& picture, QPoint origin, const Sources& rows, const S
     for (int i = 0; i < run.count; ++i) {
         const uchar* const values = picture.constScanLine(run.first + i - origin.y()) +
                                     std::ptrdiff_t{origin.x()} * kChannels;
+        // NOLINTNEXTLINE(bugprone-misplaced-widening-cast): a few thousand at most
         const quint16 weight = rows.weights[static_cast<std::size_t>(run.weight + i)];
         for (std::size_t k = 0; k < count; ++k) {
             sums[k] += static_cast<quint32>(values[k]) * weight;
