@@ -2,11 +2,11 @@
 // areas is painted again. Ends with 1 when a limit is missed. QT_SCALE_FACTOR=2 shows a fine
 // screen.
 #include "app/MainWindow.h"
-#include "app/PolyEditorWidget.h"
 #include "base/PlatformFiles.h"
 #include "bench/EditorBench.h"
 #include "bench/MeasuredProcess.h"
 #include "oid/PictureFile.h"
+#include "page/PolyEditorWidget.h"
 
 #include <QApplication>
 #include <QMainWindow>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/PageTool.h"
 #include "document/CompanionFiles.h"
 #include "document/Document.h"
+#include "page/PageTool.h"
 #include "publish/SoundFiles.h"
 
 #include <QMainWindow>

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "app/MainWindow.h"
-#include "app/PolyEditorWidget.h"
 #include "editor/widget/KVQtHighlightEditCtrl.h"
+#include "page/PolyEditorWidget.h"
 #include "tests/app/DialogAnswers.h"
-#include "tests/app/PaintCounter.h"
 #include "tests/helpers/Environment.h"
+#include "tests/helpers/PaintCounter.h"
 
 #include <QImage>
 #include <QTest>

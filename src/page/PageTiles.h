@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/AreaOutlines.h"
-#include "app/PictureScaler.h"
+#include "page/AreaOutlines.h"
+#include "page/PictureScaler.h"
 
 #include <map>
 #include <utility>

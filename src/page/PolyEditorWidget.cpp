@@ -1,8 +1,8 @@
-#include "app/PolyEditorWidget.h"
+#include "page/PolyEditorWidget.h"
 
-#include "app/PageTool.h"
 #include "base/PlatformFiles.h"
 #include "oid/PictureFile.h"
+#include "page/PageTool.h"
 
 #include <QMouseEvent>
 #include <QPaintEvent>

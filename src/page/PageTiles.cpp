@@ -1,4 +1,4 @@
-#include "app/PageTiles.h"
+#include "page/PageTiles.h"
 
 #include <QPainter>
 

@@ -1,5 +1,5 @@
 // Pictures scaled in parts.
-#include "app/PictureScaler.h"
+#include "page/PictureScaler.h"
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
 // The picture with its areas: coordinates, clicks, and what is painted.
-#include "app/PolyEditorWidget.h"
-#include "app/PageTool.h"
-#include "tests/app/PaintCounter.h"
+#include "page/PolyEditorWidget.h"
+#include "page/PageTool.h"
+#include "tests/helpers/PaintCounter.h"
 #include "tests/helpers/TemporaryFolder.h"
 
 #include <QMouseEvent>

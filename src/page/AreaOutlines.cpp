@@ -1,4 +1,4 @@
-#include "app/AreaOutlines.h"
+#include "page/AreaOutlines.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/PageView.h"
+#include "page/PageView.h"
 
 #include <QPolygon>
 #include <QRect>

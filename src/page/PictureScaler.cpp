@@ -1,4 +1,4 @@
-#include "app/PictureScaler.h"
+#include "page/PictureScaler.h"
 
 #include <algorithm>
 #include <utility>

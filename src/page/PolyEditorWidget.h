@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/PageTiles.h"
-#include "app/PageView.h"
 #include "document/Document.h"
+#include "page/PageTiles.h"
+#include "page/PageView.h"
 
 #include <QImage>
 #include <QWidget>

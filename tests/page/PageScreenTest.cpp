@@ -1,7 +1,7 @@
 // What stands on the screen after edits, resizing and scrolling is what a new window shows, and no
 // more of it is painted than has to be. Runs on a fine screen, too.
-#include "app/PolyEditorWidget.h"
 #include "base/PlatformFiles.h"
+#include "page/PolyEditorWidget.h"
 #include "tests/helpers/TemporaryFolder.h"
 
 #include <QApplication>

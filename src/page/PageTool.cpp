@@ -1,4 +1,4 @@
-#include "app/PageTool.h"
+#include "page/PageTool.h"
 
 #include "base/TextHelpers.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/PageView.h"
 #include "document/Document.h"
+#include "page/PageView.h"
 
 class QKeyEvent;
 
