@@ -11,11 +11,6 @@ namespace {
 constexpr double kTurn = 6.283185307179586;
 constexpr int kVertices = 20;
 
-int printNothing(const char*, ...)
-{
-    return 0;
-}
-
 // Random colours on a coarse grid, scaled up smoothly.
 QImage octave(int width, int height, int cells, std::mt19937& random)
 {

@@ -27,11 +27,6 @@ constexpr int kSampledRows = 24;  // of the per-pixel test
 constexpr int kDotRepeats = 20;   // within a run: milliseconds each
 constexpr double kMegabyte = 1e6;
 
-int printNothing(const char*, ...)
-{
-    return 0;
-}
-
 // The medians of all measurements, by name.
 class Measurements
 {
