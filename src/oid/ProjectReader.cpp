@@ -70,7 +70,7 @@ void ProjectReader::read(FILE* projectFile)
         }
         cutComment(buffer);
         readLine(buffer);
-        if (*skipWhite(buffer) != '\0') {
+        if (shorthands > 0 && *skipWhite(buffer) != '\0') {
             shorthands = 0;  // they were not the end of the picture
         }
     }
@@ -80,8 +80,11 @@ void ProjectReader::read(FILE* projectFile)
 
 bool ProjectReader::isNextShorthand() const
 {
+    if (*line != '#' || shorthands == std::size(kShorthandLines)) {
+        return false;
+    }
     const std::string_view text(line, strcspn(line, "\r\n"));
-    return shorthands < std::size(kShorthandLines) && text == kShorthandLines[shorthands];
+    return text == kShorthandLines[shorthands];
 }
 
 void ProjectReader::readLine(const char* text)
@@ -108,10 +111,10 @@ void ProjectReader::readVertices(const char*& text)
         if (x.empty()) {
             return;
         }
-        const std::string_view place = between(begin, text);
+        const char* const end = text;
         const std::string y = parseString(text);
         if (y.empty()) {
-            reportArea(Severity::error, "vertices-odd", place,
+            reportArea(Severity::error, "vertices-odd", between(begin, end),
                        "POLY X,Y count is odd. Did you forget an Y value?");
             return;
         }

@@ -1,3 +1,4 @@
+#include <initializer_list>
 #include <string_view>
 #include <unordered_map>
 
@@ -9,16 +10,56 @@ namespace {
 
 constexpr int kLargestReadableOid = 15000;  // of the pen
 
-Diagnostic warning(const char* kind, const std::string& subject, const std::string& text)
+// Tells the warnings, of which there may be a hundred thousand: one value serves for all.
+class Warnings
 {
+public:
+    explicit Warnings(const DiagnosticSink& usedSink) : sink(usedSink)
+    {
+        diagnostic.severity = Severity::warning;
+    }
+
+    void ofMissingArea(const std::string& name, const ttbasic::Place& place)
+    {
+        diagnostic.line = place.line;
+        diagnostic.column = place.column;
+        diagnostic.length = place.length;
+        tell("area-missing", name, {"Used OID '", name, "' in script, but not in the image"});
+    }
+
+    void ofMissingSub(const std::string& name, int page, int area)
+    {
+        diagnostic.page = page;
+        diagnostic.area = area;
+        tell("sub-missing", name, {"Used OID '", name, "' in image, but not in the script"});
+    }
+
+    void ofUnreadableOid(const std::string& name)
+    {
+        tell("oid-unreadable", name, {"OIDs > 15000 are not recognized by the pen!"});
+    }
+
+private:
+    void tell(const char* kind, const std::string& subject,
+              std::initializer_list<std::string_view> words)
+    {
+        diagnostic.kind = kind;
+        diagnostic.subject = subject;
+        diagnostic.text.clear();
+        for (const std::string_view word : words) {
+            diagnostic.text += word;
+        }
+        diagnostic.printed = "!!! Warning: ";
+        diagnostic.printed += diagnostic.text;
+        diagnostic.printed += '\n';
+        sink(diagnostic);
+        diagnostic.line = diagnostic.column = diagnostic.length = 0;
+        diagnostic.page = diagnostic.area = 0;
+    }
+
+    const DiagnosticSink& sink;
     Diagnostic diagnostic;
-    diagnostic.severity = Severity::warning;
-    diagnostic.kind = kind;
-    diagnostic.text = text;
-    diagnostic.subject = subject;
-    diagnostic.printed = "!!! Warning: " + text + "\n";
-    return diagnostic;
-}
+};
 
 struct Area
 {
@@ -61,26 +102,6 @@ Places placesOfSubs(const ttbasic& script)
     return places;
 }
 
-void warnOfMissingArea(const std::string& name, const ttbasic::Place& place,
-                       const DiagnosticSink& sink)
-{
-    Diagnostic diagnostic =
-        warning("area-missing", name, "Used OID '" + name + "' in script, but not in the image");
-    diagnostic.line = place.line;
-    diagnostic.column = place.column;
-    diagnostic.length = place.length;
-    sink(diagnostic);
-}
-
-void warnOfMissingSub(const Area& area, const DiagnosticSink& sink)
-{
-    Diagnostic diagnostic = warning(
-        "sub-missing", *area.name, "Used OID '" + *area.name + "' in image, but not in the script");
-    diagnostic.page = area.page;
-    diagnostic.area = area.index;
-    sink(diagnostic);
-}
-
 }  // namespace
 
 bool OidProject::checkSanity() const
@@ -99,19 +120,22 @@ bool OidProject::checkSanity(const DiagnosticSink& sink) const
     }
     const std::vector<Area> withoutSub = areasWithoutSub(pictures, drawn);
 
+    Warnings warn(sink);
     Places places;
     for (const std::string& name : scriptNames) {
         if (!drawn[name]) {
-            places = places.empty() ? placesOfSubs(compiler) : std::move(places);
-            warnOfMissingArea(name, places[name], sink);
+            if (places.empty()) {
+                places = placesOfSubs(compiler);
+            }
+            warn.ofMissingArea(name, places[name]);
         }
     }
     for (const Area& area : withoutSub) {
-        warnOfMissingSub(area, sink);
+        warn.ofMissingSub(*area.name, area.page, area.index);
     }
     for (const auto& [name, entry] : oids) {
         if (entry.oid > kLargestReadableOid) {
-            sink(warning("oid-unreadable", name, "OIDs > 15000 are not recognized by the pen!"));
+            warn.ofUnreadableOid(name);
         }
     }
     return true;
