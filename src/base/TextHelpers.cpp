@@ -1,6 +1,7 @@
 #include "base/TextHelpers.h"
 
 #include "base/PlatformText.h"
+#include "base/QuotedWords.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -126,19 +127,8 @@ int SplitStringKeepQuotes(const std::string& text, std::vector<std::string>& out
         return 0;
     }
     out.clear();
-    for (size_t i = 0; i < text.size();) {
-        if (isSpace(text[i])) {
-            ++i;
-            continue;
-        }
-        const size_t begin = i;
-        bool inQuotes = false;
-        for (; i < text.size() && (inQuotes || !isSpace(text[i])); ++i) {
-            inQuotes ^= text[i] == '"';
-        }
-        const bool quoted = i - begin > 2 && text[begin] == '"' && text[i - 1] == '"';
-        const size_t cut = removeQuotes && quoted ? 1 : 0;
-        out.push_back(text.substr(begin + cut, i - begin - 2 * cut));
+    for (const QuotedWord& word : quotedWordsOf(text)) {
+        out.emplace_back(removeQuotes ? word.contentIn(text) : word.in(text));
     }
     return static_cast<int>(out.size());
 }

@@ -1,6 +1,5 @@
 #include "ttbasic/ExpressionParser.h"
 
-#include <deque>
 #include <string_view>
 
 namespace {
@@ -34,6 +33,11 @@ std::map<std::string, std::pair<int, int>> makeOpmap()
     return map;
 }
 
+bool isOperatorCharacter(char c)
+{
+    return kOperatorCharacters.find(c) != kNone;
+}
+
 // "=" and "!" are operators only so that "==" and "!=" can grow from them.
 bool isHalfOperator(const std::string& token)
 {
@@ -41,18 +45,18 @@ bool isHalfOperator(const std::string& token)
 }
 
 using Tokens = std::vector<std::string>;
-using OperatorStack = std::deque<std::string>;
+using Indices = std::vector<std::size_t>;
 
-void moveTop(OperatorStack& operators, Tokens& postfix)
+void moveTop(Indices& operators, Indices& postfix)
 {
-    postfix.push_back(std::move(operators.back()));
+    postfix.push_back(operators.back());
     operators.pop_back();
 }
 
 // Takes the stack down to the "(" that a ")" closes. False when there is none.
-bool closeParenthesis(OperatorStack& operators, Tokens& postfix)
+bool closeParenthesis(const Tokens& tokens, Indices& operators, Indices& postfix)
 {
-    while (!operators.empty() && operators.back() != "(") {
+    while (!operators.empty() && tokens[operators.back()] != "(") {
         moveTop(operators, postfix);
     }
     if (operators.empty()) {
@@ -60,18 +64,6 @@ bool closeParenthesis(OperatorStack& operators, Tokens& postfix)
     }
     operators.pop_back();
     return true;
-}
-
-// From the position on the expression holds the token, perhaps with blanks between its characters.
-std::pair<size_t, size_t> placeOfToken(const std::string& token, const std::string& expression,
-                                       size_t position)
-{
-    const size_t begin = expression.find_first_not_of(' ', position);
-    size_t end = begin;
-    for (const char c : token) {
-        end = expression.find(c, end) + 1;
-    }
-    return {begin, end};
 }
 
 }  // namespace
@@ -86,7 +78,7 @@ bool expression_parser::isParenthesis(const std::string& token) const
 bool expression_parser::isOperator(const std::string& token) const
 {
     if (token.size() == 1) {
-        return kOperatorCharacters.find(token[0]) != kNone;
+        return isOperatorCharacter(token[0]);
     }
     return token.size() == 2 && token[1] == '=' && kBeforeEquals.find(token[0]) != kNone;
 }
@@ -101,66 +93,92 @@ int expression_parser::cmpPrecedence(const std::string& a, const std::string& b)
     return opmap.at(a).first - opmap.at(b).first;
 }
 
-// Intended: operators that follow each other grow together, across blanks too, and whatever comes
-// of it is kept: x * -2 gives x, *- and 2. There is no sign in front of a number.
 std::vector<std::string> expression_parser::getExpressionTokens(const std::string& expression) const
 {
     std::vector<std::string> tokens;
-    std::string operand;
-    const auto endOperand = [&] {
-        if (!operand.empty()) {
-            tokens.push_back(std::move(operand));
-            operand.clear();
+    for (ExpressionToken& token : placedTokens(expression)) {
+        tokens.push_back(std::move(token.text));
+    }
+    return tokens;
+}
+
+// Intended: operators that follow each other grow together, across blanks too, and whatever comes
+// of it is kept: x * -2 gives x, *- and 2. There is no sign in front of a number.
+std::vector<ExpressionToken> expression_parser::placedTokens(std::string_view expression) const
+{
+    std::vector<ExpressionToken> tokens;
+    std::size_t operand = kNone;  // where the one begins that is being read
+    const auto endOperand = [&](std::size_t end) {
+        if (operand != kNone) {
+            tokens.push_back(
+                {std::string(expression.substr(operand, end - operand)), operand, end});
+            operand = kNone;
         }
     };
-    for (const char c : expression) {
-        const std::string s(1, c);
-        if (isOperator(s)) {
-            endOperand();
-            if (!tokens.empty() && isOperator(tokens.back())) {
-                tokens.back() += s;
+    for (std::size_t i = 0; i < expression.size(); ++i) {
+        const char c = expression[i];
+        if (isOperatorCharacter(c)) {
+            endOperand(i);
+            if (!tokens.empty() && isOperator(tokens.back().text)) {
+                tokens.back().text += c;
+                tokens.back().end = i + 1;
             } else {
-                tokens.push_back(s);
+                tokens.push_back({std::string(1, c), i, i + 1});
             }
-        } else if (isParenthesis(s)) {
-            endOperand();
-            tokens.push_back(s);
+        } else if (c == '(' || c == ')') {
+            endOperand(i);
+            tokens.push_back({std::string(1, c), i, i + 1});
         } else if (c == ' ') {
-            endOperand();
-        } else {
-            operand += c;
+            endOperand(i);
+        } else if (operand == kNone) {
+            operand = i;
         }
     }
-    endOperand();
+    endOperand(expression.size());
     return tokens;
 }
 
 bool expression_parser::infixToRPN(const std::vector<std::string>& tokens,
                                    std::vector<std::string>& out) const
 {
-    OperatorStack operators;
-    Tokens postfix;
-    for (const std::string& token : tokens) {
+    Indices order;
+    if (!postfixOrder(tokens, order)) {
+        return false;
+    }
+    out.clear();
+    for (const std::size_t index : order) {
+        out.push_back(tokens[index]);
+    }
+    return true;
+}
+
+bool expression_parser::postfixOrder(const std::vector<std::string>& tokens,
+                                     std::vector<std::size_t>& out) const
+{
+    Indices operators;
+    Indices postfix;
+    for (std::size_t i = 0; i < tokens.size(); ++i) {
+        const std::string& token = tokens[i];
         if (isHalfOperator(token)) {
             return false;
         }
         if (isOperator(token)) {
-            while (!operators.empty() && isDueBefore(token, operators.back())) {
+            while (!operators.empty() && isDueBefore(token, tokens[operators.back()])) {
                 moveTop(operators, postfix);
             }
-            operators.push_back(token);
+            operators.push_back(i);
         } else if (token == "(") {
-            operators.push_back(token);
+            operators.push_back(i);
         } else if (token == ")") {
-            if (!closeParenthesis(operators, postfix)) {
+            if (!closeParenthesis(tokens, operators, postfix)) {
                 return false;
             }
         } else {
-            postfix.push_back(token);
+            postfix.push_back(i);
         }
     }
     while (!operators.empty()) {
-        if (isParenthesis(operators.back())) {
+        if (isParenthesis(tokens[operators.back()])) {
             return false;
         }
         moveTop(operators, postfix);
@@ -174,10 +192,8 @@ bool expression_parser::infixToRPN(const std::vector<std::string>& tokens,
 std::pair<std::size_t, std::size_t> expression_parser::faultIn(const std::string& expression) const
 {
     std::vector<std::pair<std::size_t, std::size_t>> open;
-    std::size_t position = 0;
-    for (const std::string& token : getExpressionTokens(expression)) {
-        const std::pair<std::size_t, std::size_t> place = placeOfToken(token, expression, position);
-        position = place.second;
+    for (const auto& [token, begin, end] : placedTokens(expression)) {
+        const std::pair<std::size_t, std::size_t> place = {begin, end};
         if (isHalfOperator(token) || (token == ")" && open.empty())) {
             return place;
         }

@@ -118,8 +118,7 @@ bool ttbasic::parse(bool debugMode)
 
 bool ttbasic::compileLine(char* line)
 {
-    CutComment(line, '\'', true);
-    CutComment(line, '#', true);
+    CutComments(line);
     // Intended: blanks in front of a "#" survive the cut, so such a line leaves an empty echo.
     if (*line == '\0') {
         return true;

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "base/TextHelpers.h"
+#include "ttbasic/ScriptLanguage.h"
 
 namespace {
 
@@ -45,17 +46,30 @@ char* LineSplitter::next()
     return line;
 }
 
-void CutComment(char* line, char marker, bool respectQuotes)
+char* CutComment(char* line, char marker, bool respectQuotes)
 {
     removeTrailingWhite(line);
     bool insideQuotes = false;
     for (char* c = line; *c != '\0'; ++c) {
         if (*c == marker && !(respectQuotes && insideQuotes)) {
             *c = '\0';
-            return;
+            return c;
         }
         if (*c == '"') {
             insideQuotes = !insideQuotes;
         }
     }
+    return nullptr;
+}
+
+// What is left in front of the one marker may still hold the other one.
+char* CutComments(char* line)
+{
+    char* begin = nullptr;
+    for (const char marker : ScriptLanguage::kCommentMarkers) {
+        if (char* const found = CutComment(line, marker, true)) {
+            begin = found;
+        }
+    }
+    return begin;
 }

@@ -21,5 +21,8 @@ char* nextLine(char* text);
 
 // Cuts the line at the first marker; with respectQuotes, at the first one outside double quotes.
 // White space at the end of the line is removed before the cut, so what stands in front of the
-// marker keeps its blanks.
-void CutComment(char* line, char marker, bool respectQuotes);
+// marker keeps its blanks. Returns where the marker stood, null when there is none.
+char* CutComment(char* line, char marker, bool respectQuotes);
+
+// Cuts the comment of a line of a script. Returns where it began, null without one.
+char* CutComments(char* line);

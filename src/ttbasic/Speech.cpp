@@ -1,4 +1,5 @@
 #include "base/TextHelpers.h"
+#include "ttbasic/ScriptLanguage.h"
 #include "ttbasic/ttbasic.h"
 
 namespace {
@@ -9,11 +10,6 @@ const char* const kSaySyntax = "Syntax is: SAY \"text\" _or_ SAY voice_name \"te
                                "[\"text 2\"] [...].";
 const char* const kWelcomeName = "_welcome_message_text";
 
-std::string audioName(const std::string& voice, const std::string& text)
-{
-    return replaceNonAscii("say_" + voice + "_" + text);
-}
-
 std::vector<std::string> wordsOf(const std::string& text)
 {
     std::vector<std::string> words;
@@ -21,51 +17,61 @@ std::vector<std::string> wordsOf(const std::string& text)
     return words;
 }
 
-// What may stand behind a voice's name, each with a value. Set answers whether the value is fine.
-struct VoiceOption
-{
-    const char* word;
-    bool (*set)(ttbasic::VOICE& voice, const std::string& value);
-    const char* kind;
-    const char* problem;
-};
-
 // Intended: speed and pitch go up to 99 although their messages speak of 5.
 bool setNumber(int& number, const std::string& value)
 {
     number = toInt(value.c_str());
-    return number >= 1 && number <= 99;
+    return number >= ScriptLanguage::kSmallestVoiceNumber &&
+           number <= ScriptLanguage::kLargestVoiceNumber;
 }
 
-bool setSex(ttbasic::VOICE& voice, const std::string& value)
+// True when the value is fine.
+bool setOption(ttbasic::VOICE& voice, VoiceOptionKind option, const std::string& value)
 {
-    voice.female = value == "f";
-    return voice.female || value == "m";
+    switch (option) {
+    case VoiceOptionKind::language:
+        voice.language = value;
+        return true;
+    case VoiceOptionKind::age:
+        return setNumber(voice.age, value);
+    case VoiceOptionKind::speed:
+        return setNumber(voice.speed, value);
+    case VoiceOptionKind::pitch:
+        return setNumber(voice.pitch, value);
+    case VoiceOptionKind::sex:
+        voice.female = value == "f";
+        return voice.female || value == "m";
+    }
+    return false;
 }
 
-bool setLanguage(ttbasic::VOICE& voice, const std::string& value)
+// What an author is told whose value is not fine.
+struct Problem
 {
-    voice.language = value;
-    return true;
-}
-
-using Voice = ttbasic::VOICE;
-using Value = const std::string&;
-
-constexpr VoiceOption kVoiceOptions[] = {
-    {"lang", setLanguage, "", ""},
-    {"age", [](Voice& voice, Value value) { return setNumber(voice.age, value); }, "voice-age",
-     "voice age must be in range 1..99"},
-    {"speed", [](Voice& voice, Value value) { return setNumber(voice.speed, value); },
-     "voice-speed", "voice speed must be in range 1..5"},
-    {"pitch", [](Voice& voice, Value value) { return setNumber(voice.pitch, value); },
-     "voice-pitch", "voice pitch must be in range 1..5"},
-    {"sex", setSex, "voice-sex", "sex only supports 'm' and 'f'."},
+    const char* kind;
+    const char* text;
 };
 
-const VoiceOption* voiceOption(const std::string& word)
+Problem problemOf(VoiceOptionKind option)
 {
-    for (const VoiceOption& option : kVoiceOptions) {
+    switch (option) {
+    case VoiceOptionKind::age:
+        return {"voice-age", "voice age must be in range 1..99"};
+    case VoiceOptionKind::speed:
+        return {"voice-speed", "voice speed must be in range 1..5"};
+    case VoiceOptionKind::pitch:
+        return {"voice-pitch", "voice pitch must be in range 1..5"};
+    case VoiceOptionKind::sex:
+        return {"voice-sex", "sex only supports 'm' and 'f'."};
+    case VoiceOptionKind::language:
+        break;  // every language is fine
+    }
+    return {"", ""};
+}
+
+const ScriptLanguage::VoiceOption* voiceOption(const std::string& word)
+{
+    for (const ScriptLanguage::VoiceOption& option : ScriptLanguage::voiceOptions()) {
         if (word == option.word) {
             return &option;
         }
@@ -78,7 +84,7 @@ const VoiceOption* voiceOption(const std::string& word)
 std::vector<std::string> ttbasic::voiceOptions()
 {
     std::vector<std::string> words;
-    for (const VoiceOption& option : kVoiceOptions) {
+    for (const ScriptLanguage::VoiceOption& option : ScriptLanguage::voiceOptions()) {
         words.emplace_back(option.word);
     }
     return words;
@@ -92,12 +98,13 @@ bool ttbasic::doVoice(const std::string& rest)
     size_t wrong = words.empty() ? 0 : words.size() - 1;  // a keyword without its value
     bool isUnknown = false;
     for (size_t i = 1; i + 1 < words.size(); i += 2) {
-        const VoiceOption* const option = voiceOption(toLower(words[i]));
+        const ScriptLanguage::VoiceOption* const option = voiceOption(toLower(words[i]));
         if (option == nullptr) {
             wrong = isUnknown ? wrong : i;
             isMalformed = isUnknown = true;
-        } else if (!option->set(voice, toLower(words[i + 1]))) {
-            return error(option->kind, argument(i + 1), option->problem, words[0]);
+        } else if (!setOption(voice, option->kind, toLower(words[i + 1]))) {
+            const Problem problem = problemOf(option->kind);
+            return error(problem.kind, argument(i + 1), problem.text, words[0]);
         }
     }
     if (isMalformed) {
@@ -125,7 +132,7 @@ bool ttbasic::doSay(const std::string& rest)
         if (text.empty()) {
             return error("say-empty", wholeStatement(), "Found an empty string to say.");
         }
-        const std::string name = audioName(voice, text);
+        const std::string name = audioNameOf(voice, text);
         talkTexts[name] = {voice, text};
         names += (names.empty() ? "" : ", ") + name;
     }

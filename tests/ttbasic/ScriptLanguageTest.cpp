@@ -1,0 +1,157 @@
+// The language in data, beside what the compiler does and what the author's page says.
+#include "ttbasic/ScriptLanguage.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "base/TextHelpers.h"
+#include "tests/helpers/TemporaryFolder.h"
+#include "tests/ttbasic/Compile.h"
+#include "ttbasic/ExpressionParser.h"
+
+using testing::ElementsAreArray;
+
+namespace {
+
+using Rows = std::vector<std::string>;
+
+// The rows of the first table in the author's page whose headline begins with the words.
+Rows tableOfDocs(const std::string& headline)
+{
+    std::istringstream page(readFile(PLINKETT_SOURCE_DIR "/docs/script-language.md"));
+    Rows rows;
+    bool isInTable = false;
+    for (std::string line; std::getline(page, line);) {
+        if (line.rfind(headline, 0) == 0) {
+            isInTable = true;
+            std::getline(page, line);  // the rule below the headline
+        } else if (isInTable && line.empty()) {
+            break;
+        } else if (isInTable) {
+            rows.push_back(line);
+        }
+    }
+    return rows;
+}
+
+std::string row(std::initializer_list<std::string> cells)
+{
+    std::string text = "|";
+    for (const std::string& cell : cells) {
+        text += (cell.empty() ? "" : " " + cell) + " |";
+    }
+    return text;
+}
+
+}  // namespace
+
+TEST(ScriptLanguage, ThePageOfTheLanguageHasItsStatements)
+{
+    Rows rows;
+    for (const ScriptLanguage::Statement& statement : ScriptLanguage::statements()) {
+        rows.push_back(row({statement.syntax, statement.meaning}));
+    }
+    EXPECT_THAT(tableOfDocs("| statement |"), ElementsAreArray(rows));
+}
+
+TEST(ScriptLanguage, ThePageOfTheLanguageHasItsVoiceOptions)
+{
+    Rows rows;
+    for (const ScriptLanguage::VoiceOption& option : ScriptLanguage::voiceOptions()) {
+        rows.push_back(
+            row({"`" + std::string(option.word) + "`", option.values, option.byDefault}));
+    }
+    EXPECT_THAT(tableOfDocs("| option |"), ElementsAreArray(rows));
+}
+
+TEST(ScriptLanguage, ThePageOfTheLanguageHasItsOperators)
+{
+    const auto& all = ScriptLanguage::operators();
+    Rows rows;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        std::string words;
+        for (std::string word : all[i].words) {
+            strReplace(word, "|", "\\|");
+            words += (words.empty() ? "`" : " `") + word + "`";
+        }
+        const std::string binding = i == 0 ? "tightest" : i + 1 == all.size() ? "loosest" : "";
+        rows.push_back(row({words, all[i].meaning, binding}));
+    }
+    EXPECT_THAT(tableOfDocs("| operators |"), ElementsAreArray(rows));
+}
+
+TEST(ScriptLanguage, OperatorsBindAsTheirOrderSays)
+{
+    std::size_t count = 0;
+    int tighter = 100;
+    for (const ScriptLanguage::Operators& group : ScriptLanguage::operators()) {
+        const int precedence = opmap.at(group.words.front()).first;
+        EXPECT_LT(precedence, tighter);
+        for (const char* word : group.words) {
+            EXPECT_EQ(opmap.at(word).first, precedence) << word;
+            ++count;
+        }
+        tighter = precedence;
+    }
+    EXPECT_EQ(count, opmap.size());
+}
+
+TEST(ScriptLanguage, EveryExampleCompilesAndShowsItsStatement)
+{
+    for (const ScriptLanguage::Statement& statement : ScriptLanguage::statements()) {
+        EXPECT_EQ(compile(statement.example).messages, "") << statement.example;
+        bool isShown = false;
+        std::istringstream lines(statement.example);
+        for (std::string line; std::getline(lines, line);) {
+            isShown = isShown || readStatement(line.c_str()).kind == statement.kind;
+        }
+        EXPECT_TRUE(isShown) << statement.example;
+    }
+}
+
+TEST(ScriptLanguage, WhatHoldsWithoutAnOptionIsWhatAVoiceBeginsWith)
+{
+    const ttbasic::VOICE voice;
+    const auto byDefault = [&](VoiceOptionKind kind) -> std::string {
+        switch (kind) {
+        case VoiceOptionKind::language:
+            return "`" + voice.language + "`";
+        case VoiceOptionKind::sex:
+            return voice.female ? "`f`" : "`m`";
+        case VoiceOptionKind::age:
+            return std::to_string(voice.age);
+        case VoiceOptionKind::speed:
+            return std::to_string(voice.speed);
+        case VoiceOptionKind::pitch:
+            return std::to_string(voice.pitch);
+        }
+        return {};
+    };
+    for (const ScriptLanguage::VoiceOption& option : ScriptLanguage::voiceOptions()) {
+        EXPECT_EQ(option.byDefault, byDefault(option.kind)) << option.word;
+    }
+}
+
+TEST(ScriptLanguage, TheRangeOfAVoicesNumbersIsTheOneThatTheCompilerTakes)
+{
+    const auto isTaken = [](int age) {
+        return compile("voice max age " + std::to_string(age) + "\n").ok;
+    };
+    EXPECT_TRUE(isTaken(ScriptLanguage::kSmallestVoiceNumber));
+    EXPECT_FALSE(isTaken(ScriptLanguage::kSmallestVoiceNumber - 1));
+    EXPECT_TRUE(isTaken(ScriptLanguage::kLargestVoiceNumber));
+    EXPECT_FALSE(isTaken(ScriptLanguage::kLargestVoiceNumber + 1));
+}
+
+TEST(ScriptLanguage, AKeywordOfTwoWordsIsReadAsOne)
+{
+    const StatementHead head = readStatement("\tEnd  IF x");
+    EXPECT_EQ(head.kind, StatementKind::endIf);
+    EXPECT_EQ(head.begin, 1u);
+    EXPECT_EQ(head.end, 8u);
+    EXPECT_EQ(readStatement("end foo").kind, StatementKind::unknown);
+    EXPECT_EQ(readStatement("end foo").end, 3u);
+    EXPECT_EQ(readStatement("end foo = 1").kind, StatementKind::assignment);
+}
