@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <set>
 #include <utility>
 
 #include "base/PrintFunction.h"
@@ -29,7 +30,8 @@ void Document::restart()
     endGesture();
     history.clear();
     contents.restart();
-    selection.page = 0;  // Intended: the index of the area stays, as it does on another page.
+    // Intended: the index of the area stays, as it does on another page.
+    selection = {0, selection.area, {}};
     state = ++states;
     typeProduct(record.productName, record.productId);
     setClean();
@@ -292,18 +294,53 @@ void Document::setProduct(const std::string& name, int id)
     tell();
 }
 
+std::vector<AreaId> Document::selectedAreas() const
+{
+    const AreaId last = selectedArea();
+    std::vector<AreaId> areas;
+    for (const AreaId area : selection.before) {
+        if (area != last && contents.placeOf(area).page == selection.page) {
+            areas.push_back(area);
+        }
+    }
+    if (last != AreaId::none) {
+        areas.push_back(last);
+    }
+    return areas;
+}
+
 void Document::select(int page, int area)
 {
-    const Selection chosen{page, area};
+    choose({page, area, {}});
+}
+
+void Document::selectAreas(int page, const std::vector<AreaId>& areas)
+{
+    Selection chosen{page, -1, {}};
+    std::set<AreaId> once;
+    for (const AreaId area : areas) {
+        if (contents.placeOf(area).page == page && once.insert(area).second) {
+            chosen.before.push_back(area);
+        }
+    }
+    if (!chosen.before.empty()) {
+        chosen.area = contents.placeOf(chosen.before.back()).index;
+        chosen.before.pop_back();
+    }
+    choose(std::move(chosen));
+}
+
+void Document::choose(Selection chosen)
+{
     if (chosen == selection) {
         return;
     }
     endGesture();
-    selection = chosen;
+    selection = std::move(chosen);
     if (Step* const last = history.toUndo(); last != nullptr && last->stateAfter == state) {
-        last->selectionAfter = chosen;  // so redoing leads to what the author chose then
+        last->selectionAfter = selection;  // so redoing leads to what the author chose then
     }
-    note(Change::selection, page);
+    note(Change::selection, selection.page);
     tell();
 }
 

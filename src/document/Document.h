@@ -40,6 +40,11 @@ public:
     Gesture newGesture();
     // Nothing more belongs to the gesture.
     void endGesture();
+    // Whether another edit of the gesture would belong to the same step.
+    bool goesOn(Gesture gesture) const
+    {
+        return gesture != Gesture::none && gesture == openGesture;
+    }
     // Takes back all that the gesture did, as if it had never been.
     void takeBack(Gesture gesture);
 
@@ -74,10 +79,16 @@ public:
     Oid::OidProject projectToSave() const;
 
     int currentPage() const { return selection.page; }
-    // May be beyond the areas of the page; then no area is selected.
+    // May be beyond the areas of the page; then no area is selected. The selected area stays
+    // selected when others come, go or change places; when it goes itself, the index stays.
     int selectedIndex() const { return selection.area; }
     AreaId selectedArea() const { return contents.areaAt(selection.page, selection.area); }
+    // All that are selected, on the current page, in the order in which they were: the last one is
+    // the selectedArea.
+    std::vector<AreaId> selectedAreas() const;
     void select(int page, int area);
+    // Several, each once; those that are not on the page are left out.
+    void selectAreas(int page, const std::vector<AreaId>& areas);
 
     // None where there is no such page or area.
     PageId pageAt(int page) const { return contents.pageAt(page); }
@@ -117,6 +128,9 @@ private:
     Recording& beginStep();
     void closeStep();
     void touchOrder(int page);
+    // The order of areas has changed: the index goes with the area that was selected before.
+    void keepSelected(AreaId area);
+    void choose(Selection chosen);
     void touchNumber(const std::string& name);
     void setCorners(AreaId area, std::vector<Oid::PNT> corners);
     void numberNewAreas();

@@ -32,6 +32,15 @@ void Document::touchOrder(int page)
     beginStep().orders.try_emplace(id, contents.areasOf(id));
 }
 
+void Document::keepSelected(AreaId area)
+{
+    const Contents::Place place = contents.placeOf(area);
+    if (place.page == selection.page && place.index != selection.area) {
+        selection.area = place.index;
+        note(Change::selection, selection.page);
+    }
+}
+
 void Document::touchNumber(const std::string& name)
 {
     beginStep().numbers.try_emplace(name, contents.number(name));
@@ -46,7 +55,9 @@ bool Document::carryOut(const edit::AddArea& add)
     const std::size_t count = contents.areasOf(contents.pageAt(add.page)).size();
     const std::size_t index =
         add.index < 0 ? count : std::min(static_cast<std::size_t>(add.index), count);
+    const AreaId selected = selectedArea();
     const AreaId area = contents.addArea(add.page, index, add.area);
+    keepSelected(selected);
     numberNewAreas();
     note(Change::areas | Change::numbers, add.page, area);
     return true;
@@ -72,7 +83,9 @@ bool Document::carryOut(const edit::RemoveArea& remove)
         return false;
     }
     touchOrder(page);
+    const AreaId selected = selectedArea();
     contents.removeArea(remove.area);
+    keepSelected(selected);
     note(Change::areas, page, remove.area);
     return true;
 }
@@ -156,7 +169,9 @@ bool Document::carryOut(const edit::ReorderArea& reorder)
     }
     if (there != reorder.area) {
         touchOrder(place.page);
+        const AreaId selected = selectedArea();
         contents.moveArea(reorder.area, static_cast<std::size_t>(reorder.index));
+        keepSelected(selected);
         note(Change::areas, place.page, reorder.area);
     }
     return true;

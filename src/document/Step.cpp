@@ -85,8 +85,10 @@ bool Step::empty() const
 
 std::size_t Step::bytes() const
 {
-    std::size_t sum = sizeof(Step) + pages.bytes() + heapBytes(orders) + heapBytes(corners) +
-                      heapBytes(names) + heapBytes(numbers) + heapBytes(papers) + heapBytes(files);
+    std::size_t sum = sizeof(Step) + heapBytes(selectionBefore.before) +
+                      heapBytes(selectionAfter.before) + pages.bytes() + heapBytes(orders) +
+                      heapBytes(corners) + heapBytes(names) + heapBytes(numbers) +
+                      heapBytes(papers) + heapBytes(files);
     for (const AreaOrderChange& order : orders) {
         sum += order.areas.bytes();
     }

@@ -19,10 +19,12 @@ struct Selection
 {
     int page = 0;
     int area = -1;
+    // Those that were selected before that one, in their order. Only those on the page count.
+    std::vector<AreaId> before;
 
     bool operator==(const Selection& other) const
     {
-        return page == other.page && area == other.area;
+        return page == other.page && area == other.area && before == other.before;
     }
     bool operator!=(const Selection& other) const { return !(*this == other); }
 };

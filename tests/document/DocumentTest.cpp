@@ -464,6 +464,98 @@ TEST_F(DocumentTest, UndoAndRedoLeadToWhatWasChosenThen)
     EXPECT_EQ(document.selectedIndex(), 1);
 }
 
+TEST_F(DocumentTest, SeveralAreasAreSelectedInTheirOrderAndTheLastOneIsTheOne)
+{
+    const AreaId cow = add("cow");
+    const AreaId pig = add("pig");
+    const AreaId hen = add("hen");
+    document.selectAreas(0, {hen, cow});
+    EXPECT_EQ(document.selectedAreas(), (std::vector<AreaId>{hen, cow}));
+    EXPECT_EQ(document.selectedArea(), cow);
+    EXPECT_EQ(document.selectedIndex(), 0);
+    EXPECT_EQ(lastChange.what, unsigned(Change::selection));
+    document.select(0, 1);
+    EXPECT_EQ(document.selectedAreas(), std::vector<AreaId>{pig});
+    document.selectAreas(0, {});
+    EXPECT_EQ(document.selectedAreas(), std::vector<AreaId>{});
+    EXPECT_EQ(document.selectedIndex(), -1);
+}
+
+TEST_F(DocumentTest, OnlyAreasOfThePageAreSelectedEachOnce)
+{
+    document.apply(edit::AddPage{});
+    const AreaId cow = add("cow");
+    const AreaId far = add("far", 1);
+    document.selectAreas(0, {cow, far, AreaId::none, cow});
+    EXPECT_EQ(document.selectedAreas(), std::vector<AreaId>{cow});
+}
+
+TEST_F(DocumentTest, AnotherPageHasNoOtherSelectedAreas)
+{
+    document.apply(edit::AddPage{});
+    const AreaId cow = add("cow");
+    const AreaId pig = add("pig");
+    const AreaId far = add("far", 1);
+    document.selectAreas(0, {pig, cow});
+    document.select(1, document.selectedIndex());
+    EXPECT_EQ(document.selectedAreas(), std::vector<AreaId>{far});
+    document.selectAreas(0, {pig, cow});
+    document.restart();
+    EXPECT_EQ(document.selectedAreas().size(), 1U);
+}
+
+TEST_F(DocumentTest, TheSelectedAreasStaySelectedWhenOthersComeGoAndChangePlaces)
+{
+    const AreaId cow = add("cow");
+    const AreaId pig = add("pig");
+    const AreaId hen = add("hen");
+    const std::vector<AreaId> both{hen, pig};
+    document.selectAreas(0, both);
+    document.apply(edit::AddArea{0, area("dog"), 0});
+    EXPECT_EQ(document.selectedAreas(), both);
+    EXPECT_TRUE(lastChange.has(Change::selection));
+    document.apply(edit::RemoveArea{cow});
+    EXPECT_EQ(document.selectedAreas(), both);
+    document.apply(edit::ReorderArea{pig, 0});
+    EXPECT_EQ(document.selectedAreas(), both);
+    EXPECT_EQ(document.selectedIndex(), 0);
+    document.apply(edit::RemoveArea{hen});
+    EXPECT_EQ(document.selectedAreas(), std::vector<AreaId>{pig});
+    for (int i = 0; i < 4; ++i) {
+        document.undo();
+    }
+    EXPECT_EQ(document.selectedAreas(), both);
+    EXPECT_EQ(names(), "cow pig hen");
+}
+
+TEST_F(DocumentTest, UndoAndRedoLeadToAllAreasThatWereSelectedThen)
+{
+    const AreaId cow = add("cow");
+    const AreaId pig = add("pig");
+    document.selectAreas(0, {cow, pig});
+    const Gesture both = document.newGesture();
+    document.apply(edit::RemoveArea{cow}, both);
+    document.apply(edit::RemoveArea{pig}, both);
+    document.select(0, -1);
+    EXPECT_EQ(document.selectedAreas(), std::vector<AreaId>{});
+    document.undo();
+    EXPECT_EQ(document.selectedAreas(), (std::vector<AreaId>{cow, pig}));
+    document.redo();
+    EXPECT_EQ(document.selectedAreas(), std::vector<AreaId>{});
+}
+
+TEST_F(DocumentTest, AGestureGoesOnUntilSomethingElseIsDone)
+{
+    const AreaId cow = add("cow");
+    const Gesture drag = document.newGesture();
+    EXPECT_FALSE(document.goesOn(drag));
+    document.apply(edit::MoveAreas{{cow}, {1, 1}}, drag);
+    EXPECT_TRUE(document.goesOn(drag));
+    document.undo();
+    EXPECT_FALSE(document.goesOn(drag));
+    EXPECT_FALSE(document.goesOn(Gesture::none));
+}
+
 TEST_F(DocumentTest, TurningCornersForThePrintGoesWithTheStepBefore)
 {
     const std::string empty = snapshot(document);

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 namespace {
@@ -27,6 +28,14 @@ public:
         for (int count = 1 + below(6); count > 0; --count) {
             edit(one);
         }
+    }
+
+    // Any areas of a page, or none.
+    void select()
+    {
+        std::vector<AreaId> areas(static_cast<std::size_t>(below(5)));
+        std::generate(areas.begin(), areas.end(), [this] { return anyArea(); });
+        document.selectAreas(below(pages()), areas);
     }
 
 private:
@@ -142,6 +151,11 @@ TEST(RandomEdits, AreUndoneAndRedoneExactly)
         std::vector<std::string> done{all(document)};  // the last one is now
         std::vector<std::string> undone;
         for (int i = 0; i < 100; ++i) {
+            if (undone.empty() &&
+                author.below(4) == 0) {  // what was undone would know of the old one
+                author.select();
+                done.back() = all(document);
+            }
             const int what = author.below(10);
             if (what < 7) {
                 what < 4 ? author.edit() : what < 6 ? author.gesture() : follow(document);
@@ -180,6 +194,7 @@ TEST(RandomEdits, ThatAreGivenUpLeaveNothing)
         RandomAuthor author(document, seed);
         for (int i = 0; i < 30; ++i) {
             author.edit();
+            author.select();
             const std::string before = all(document);
             const Gesture gesture = document.newGesture();
             for (int count = author.below(6); count > 0; --count) {

@@ -26,7 +26,11 @@ std::string snapshot(const Document& document)
     for (const auto& [name, entry] : project.oids) {
         text << name << " = " << entry.oid << ' ' << entry.rawCode << '\n';
     }
-    text << "at " << document.currentPage() << ' ' << document.selectedIndex() << '\n';
+    text << "at " << document.currentPage() << ' ' << document.selectedIndex();
+    for (const AreaId area : document.selectedAreas()) {
+        text << ' ' << document.placeOf(area).index;
+    }
+    text << '\n';
     return text.str();
 }
 
