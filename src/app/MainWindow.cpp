@@ -9,6 +9,7 @@
 #include "base/FileSystem.h"
 #include "oid/OpenProject.h"
 #include "oid/PrintImage.h"
+#include "page/FocusFrame.h"
 #include "qtsync/KVQtSync.h"
 #include "ttbasic/ttbasic.h"
 #include "ui_MainWindow.h"
@@ -82,12 +83,13 @@ void MainWindow::letPictureScroll()
     pictureScroll = new QScrollArea;
     delete ui->verticalLayout_2->replaceWidget(ui->polyArea, pictureScroll);
     pictureScroll->setObjectName("pictureScroll");
-    pictureScroll->setAccessibleName(ui->polyArea->accessibleName());
+    pictureScroll->setFocusPolicy(Qt::NoFocus);  // the page has it, and lets it scroll
     pictureScroll->setFrameShape(QFrame::NoFrame);
     pictureScroll->setWidgetResizable(true);
     pictureScroll->setWidget(ui->polyArea);
     // The tab shows through; the scroll area has switched this on.
     pictureScroll->viewport()->setAutoFillBackground(false);
+    new FocusFrame(ui->polyArea, pictureScroll->viewport());
     ui->polyArea->setAutoFillBackground(false);
 }
 

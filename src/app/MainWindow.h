@@ -2,7 +2,8 @@
 
 #include "document/CompanionFiles.h"
 #include "document/Document.h"
-#include "page/PageTool.h"
+#include "page/DrawTool.h"
+#include "page/PickTool.h"
 #include "publish/SoundFiles.h"
 
 #include <QMainWindow>

@@ -52,7 +52,9 @@ PageTool& MainWindow::tool()
 
 void MainWindow::onPolyAreaClickedLB(Oid::PNT pt)
 {
-    tool().click(pt);
+    if (ui->polyArea->isClick()) {
+        tool().click(pt);
+    }
     showSelectedArea();
     ui->polyArea->paintChanges();
 }

@@ -78,8 +78,10 @@ QRegion stripesOf(const QPoint (&corners)[3], QRect bounds)
     return region;
 }
 
-// What lies between two outlines: the triangles between their edges, one behind the other.
-QRegion between(QPolygon a, QPolygon b, QRect bounds)
+}  // namespace
+
+// The triangles between their edges, one behind the other.
+QRegion regionBetween(QPolygon a, QPolygon b, QRect bounds)
 {
     a << a.first();
     b << b.first();
@@ -103,9 +105,8 @@ QRegion between(QPolygon a, QPolygon b, QRect bounds)
     return region;
 }
 
-}  // namespace
-
-AreaOutlines::AreaOutlines(const std::vector<Oid::POLY>& areas, int selected, const PageView& view)
+AreaOutlines::AreaOutlines(const std::vector<Oid::POLY>& areas, const std::vector<int>& selected,
+                           const PageView& view)
 {
     outlines.reserve(areas.size());
     for (const Oid::POLY& area : areas) {
@@ -117,7 +118,11 @@ AreaOutlines::AreaOutlines(const std::vector<Oid::POLY>& areas, int selected, co
         if (!outline.corners.isEmpty()) {
             outline.place = withPen(outline.corners.boundingRect());
         }
-        outline.selected = static_cast<int>(outlines.size()) - 1 == selected;
+    }
+    for (const int index : selected) {
+        if (index >= 0 && static_cast<std::size_t>(index) < outlines.size()) {
+            outlines[static_cast<std::size_t>(index)].selected = true;
+        }
     }
 }
 
@@ -148,7 +153,7 @@ QRegion AreaOutlines::difference(const Outline& a, const Outline& b, QRect bound
     if (a.selected != b.selected || a.corners.isEmpty() || b.corners.isEmpty()) {
         return QRegion(a.place & bounds) + (b.place & bounds);
     }
-    return between(a.corners, b.corners, bounds);
+    return regionBetween(a.corners, b.corners, bounds);
 }
 
 QRegion AreaOutlines::differenceTo(const AreaOutlines& other, QRect bounds) const

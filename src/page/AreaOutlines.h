@@ -10,12 +10,18 @@
 
 class QPainter;
 
+// All pixels within the bounds that a pen draws between two lines of corners that are closed, one
+// of which becomes the other, and not many more.
+QRegion regionBetween(QPolygon a, QPolygon b, QRect bounds);
+
 // What the areas of a page look like, in pixels.
 class AreaOutlines
 {
 public:
     AreaOutlines() = default;
-    AreaOutlines(const std::vector<Oid::POLY>& areas, int selected, const PageView& view);
+    // The selected ones are given by their indices.
+    AreaOutlines(const std::vector<Oid::POLY>& areas, const std::vector<int>& selected,
+                 const PageView& view);
 
     // Those that reach into the region, in their order.
     void draw(QPainter& painter, const QRegion& region) const;

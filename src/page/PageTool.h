@@ -1,7 +1,10 @@
 #pragma once
 
 #include "document/Document.h"
+#include "page/PageMarks.h"
 #include "page/PageView.h"
+
+#include <QRect>
 
 class QKeyEvent;
 
@@ -13,10 +16,12 @@ struct PageMouse
     Qt::MouseButton button = Qt::NoButton;  // that went down or up
     Qt::MouseButtons buttons;               // that are down now
     Qt::KeyboardModifiers modifiers;
+    QPoint pixel;  // of the widget, the nearest one
 };
 
 // What mouse and keys do to the areas of the current page: a tool turns them into edits of the
-// document. The page has one tool at a time.
+// document. The page has one tool at a time. After each call the page shows the tool's cursor and
+// marks as they are then.
 class PageTool
 {
 public:
@@ -27,44 +32,34 @@ public:
     PageTool& operator=(const PageTool&) = delete;
 
     virtual Qt::CursorShape cursor() const = 0;
+    // What the tool shows over the page; what lies outside the seen pixels may be left out.
+    virtual PageMarks marks(const PageView& /*view*/, const QRect& /*seen*/) const { return {}; }
 
     virtual void press(const PageMouse& /*mouse*/) {}
+    // With and without a button.
     virtual void move(const PageMouse& /*mouse*/) {}
-    virtual void release(const PageMouse& /*mouse*/) {}
-    // The left button was released here: comes behind each such release.
+    // True when this ends a drag: then no click comes behind it.
+    virtual bool release(const PageMouse& /*mouse*/) { return false; }
+    // The left button was released here: comes behind each such release, unless that ended a drag
+    // or belongs to a double click of the tool's.
     virtual void click(const Oid::PNT& at) = 0;
+    // Each comes instead of a press; when it returns true it is the tool's, and neither a press nor
+    // a click (or, for the right button, a menu) follows.
+    virtual bool doubleClick(const PageMouse& /*mouse*/) { return false; }
+    virtual bool rightClick(const PageMouse& /*mouse*/) { return false; }
+    // The mouse is over the page no more.
+    virtual void leave() {}
+
     // True when the key is the tool's; any other goes on to the window.
-    virtual bool key(const QKeyEvent& /*event*/) { return false; }
+    virtual bool key(const QKeyEvent& /*event*/, const PageView& /*view*/) { return false; }
+    // Gives up what has been begun, as Escape asks for. False when there is nothing to give up.
+    virtual bool giveUp() { return false; }
+    // Another tool comes, or the window is left: what has been done stays.
+    virtual void stop() {}
 
 protected:
     // The current page; null when there is none.
     const Oid::PICTURE* page() const;
 
     Document& document;
-};
-
-// Selects the first area that lies under the click, or none.
-class PickTool : public PageTool
-{
-public:
-    using PageTool::PageTool;
-    Qt::CursorShape cursor() const override { return Qt::ArrowCursor; }
-    void click(const Oid::PNT& at) override;
-};
-
-// Each click is the next corner of the page's last area.
-class DrawTool : public PageTool
-{
-public:
-    using PageTool::PageTool;
-    Qt::CursorShape cursor() const override { return Qt::CrossCursor; }
-    void click(const Oid::PNT& at) override;
-
-    // Adds an area without corners to the current page. Its index; -1 without a page.
-    int begin();
-    // Whether the area of the last begin is on any page.
-    bool hasArea() const { return document.placeOf(area).page >= 0; }
-
-private:
-    AreaId area = AreaId::none;
 };

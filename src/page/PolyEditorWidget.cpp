@@ -4,6 +4,7 @@
 #include "oid/PictureFile.h"
 #include "page/PageTool.h"
 
+#include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -16,6 +17,8 @@ PolyEditorWidget::PolyEditorWidget(QWidget* parent) : QWidget(parent)
     QSizePolicy policy = sizePolicy();
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
     clearImage();
 }
 
@@ -27,8 +30,19 @@ void PolyEditorWidget::setDocument(Document* shown)
 
 void PolyEditorWidget::setTool(PageTool* chosen)
 {
+    if (tool != nullptr && tool != chosen) {
+        tool->stop();
+    }
     tool = chosen;
-    setCursor(tool->cursor());
+    showTool();
+}
+
+void PolyEditorWidget::showTool()
+{
+    if (cursor().shape() != tool->cursor()) {
+        setCursor(tool->cursor());
+    }
+    updateSoon(takeChangedMarks(seen()));
 }
 
 int PolyEditorWidget::currentPicture() const
@@ -62,6 +76,11 @@ int PolyEditorWidget::heightForWidth(int width) const
 PageView PolyEditorWidget::view() const
 {
     return {std::max(1, width()), {0, 0}};
+}
+
+QRect PolyEditorWidget::seen() const
+{
+    return visibleRegion().boundingRect();
 }
 
 Oid::PNT PolyEditorWidget::toProz(QPoint pixel) const
@@ -110,38 +129,89 @@ static QPoint pixelOf(const QMouseEvent& event)
 
 static PageMouse mouseOn(const PageView& view, const QMouseEvent& event)
 {
-    return {view.toPercent(pixelOf(event)), view, event.button(), event.buttons(),
-            event.modifiers()};
+    return {view.toPercent(pixelOf(event)),
+            view,
+            event.button(),
+            event.buttons(),
+            event.modifiers(),
+            pixelOf(event)};
 }
 
 void PolyEditorWidget::mousePressEvent(QMouseEvent* event)
 {
-    if (tool != nullptr) {
-        tool->press(mouseOn(view(), *event));
+    if (tool == nullptr) {
+        return;
     }
+    const PageMouse mouse = mouseOn(view(), *event);
+    if (event->button() == Qt::RightButton) {
+        rightClickIsTaken = tool->rightClick(mouse);
+    }
+    if (event->button() != Qt::RightButton || !rightClickIsTaken) {
+        tool->press(mouse);
+    }
+    showTool();
+}
+
+void PolyEditorWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && tool != nullptr &&
+        tool->doubleClick(mouseOn(view(), *event))) {
+        releaseIsTaken = true;
+        showTool();
+        return;
+    }
+    mousePressEvent(event);
 }
 
 void PolyEditorWidget::mouseMoveEvent(QMouseEvent* event)
 {
     if (tool != nullptr) {
         tool->move(mouseOn(view(), *event));
+        showTool();
     }
 }
 
 void PolyEditorWidget::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (tool != nullptr) {
-        tool->release(mouseOn(view(), *event));
+    if (tool != nullptr && tool->release(mouseOn(view(), *event))) {
+        releaseIsTaken = true;
     }
     if (event->button() == Qt::LeftButton) {
         emit clickedLB(toProz(pixelOf(*event)));
+        releaseIsTaken = false;
     }
+    if (tool != nullptr) {
+        showTool();
+    }
+}
+
+void PolyEditorWidget::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        emit menuWanted(mapToGlobal(seen().center()), std::nullopt);
+    } else if (!rightClickIsTaken) {
+        emit menuWanted(event->globalPos(), toProz(event->pos()));
+    }
+}
+
+void PolyEditorWidget::leaveEvent(QEvent* event)
+{
+    if (tool != nullptr) {
+        tool->leave();
+        showTool();
+    }
+    QWidget::leaveEvent(event);
 }
 
 void PolyEditorWidget::keyPressEvent(QKeyEvent* event)
 {
-    if (tool == nullptr || !tool->key(*event)) {
+    const bool isTools = tool != nullptr && ((event->key() == Qt::Key_Escape && tool->giveUp()) ||
+                                             tool->key(*event, view()));
+    if (!isTools) {
         QWidget::keyPressEvent(event);
+    }
+    if (tool != nullptr) {
+        showTool();
     }
 }
 
@@ -152,7 +222,7 @@ void PolyEditorWidget::showChange(const Change& change)
     }
     const bool otherPage = picture() == nullptr || tiles.isEmpty() ||
                            document->project().pathImageSource(currentPicture()) != loadedPath;
-    updateSoon(otherPage ? rect() : takeChangedAreas());
+    updateSoon(otherPage ? rect() : takeChangedAreas() + takeChangedMarks(seen()));
 }
 
 void PolyEditorWidget::updateSoon(const QRegion& region)
@@ -169,17 +239,31 @@ void PolyEditorWidget::paintChanges()
 QRegion PolyEditorWidget::takeChangedAreas()
 {
     const PageView page = view();
-    const QRect seen = visibleRegion().boundingRect().translated(-page.origin);
-    AreaOutlines areas(picture()->polys, selectedPoly(), {page.width, {0, 0}});
-    return tiles.showAreas(std::move(areas), seen).translated(page.origin);
+    std::vector<int> selected;
+    for (const AreaId area : document->selectedAreas()) {
+        selected.push_back(document->placeOf(area).index);
+    }
+    AreaOutlines areas(picture()->polys, selected, {page.width, {0, 0}});
+    return tiles.showAreas(std::move(areas), seen().translated(-page.origin))
+        .translated(page.origin);
+}
+
+QRegion PolyEditorWidget::takeChangedMarks(QRect seen)
+{
+    PageMarks now;
+    if (tool != nullptr && picture() != nullptr) {
+        now = tool->marks(view(), seen);
+    }
+    const QRegion changed = marks.differenceTo(now, seen);
+    marks = std::move(now);
+    return changed;
 }
 
 QRegion PolyEditorWidget::takeChanges()
 {
     const int pageWidth = view().width;
     const QSize page(pageWidth, heightForWidth(pageWidth));
-    const int seenWidth = visibleRegion().boundingRect().width();
-    const bool otherPage = tiles.showPicture(image, page, devicePixelRatioF(), seenWidth);
+    const bool otherPage = tiles.showPicture(image, page, devicePixelRatioF(), seen().width());
     const QRegion changed = takeChangedAreas();
     return otherPage ? rect() : changed;
 }
@@ -193,18 +277,22 @@ void PolyEditorWidget::paintEvent(QPaintEvent* event)
     askForHeight();
     if (picture() == nullptr || !rect().isValid()) {
         tiles.clear();
+        marks = {};
         return;
     }
-    updateSoon(takeChanges() - event->region());
+    const QRect painted = seen() | event->rect();  // an image of the widget has more
+    updateSoon(takeChanges() + takeChangedMarks(painted) - event->region());
     const QPoint origin = view().origin;
-    const QRect seen = visibleRegion().boundingRect().translated(-origin);
-    tiles.keepWithin(seen);
+    const QRect kept = seen().translated(-origin);
+    tiles.keepWithin(kept);
     QPainter painter(this);
     painter.translate(origin);
     const QRegion region = event->region().translated(-origin);
     tiles.paint(painter, region);
     tiles.paintBeside(painter, region);
-    tiles.keepWithin(seen);  // an image of the widget has more
+    painter.translate(-origin);
+    marks.draw(painter, event->region());
+    tiles.keepWithin(kept);
 }
 
 void PolyEditorWidget::readCurrentImage()

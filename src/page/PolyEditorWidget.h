@@ -1,11 +1,15 @@
 #pragma once
 
 #include "document/Document.h"
+#include "page/PageMarks.h"
 #include "page/PageTiles.h"
 #include "page/PageView.h"
 
 #include <QImage>
 #include <QWidget>
+
+#include <optional>
+#include <string>
 
 class PageTool;
 
@@ -21,8 +25,15 @@ public:
 
     // Not owned, outlives the widget.
     void setDocument(Document* shown);
-    // Not owned, stays until another one is set. Its cursor is the widget's.
+    // Not owned, stays until another one is set. Its cursor is the widget's, its marks lie over the
+    // page.
     void setTool(PageTool* chosen);
+    // Shows cursor and marks of the tool as they are now. Needed only after something else than an
+    // event of the widget or a change of the document.
+    void showTool();
+    // While clickedLB is told: whether this release is a click for the tool. It is not when it ends
+    // a drag, or a double click that the tool took.
+    bool isClick() const { return !releaseIsTaken; }
 
     // Index of the current picture and of the highlighted area, as the document has them.
     int currentPicture() const;
@@ -35,6 +46,8 @@ public:
 
     // Where the page lies in the widget.
     PageView view() const;
+    // What of the widget is on the screen.
+    QRect seen() const;
     Oid::PNT toProz(QPoint pixel) const;
     QPoint toPix(const Oid::PNT& point) const;
 
@@ -50,11 +63,16 @@ public:
 signals:
     // The left button was released here.
     void clickedLB(Oid::PNT point);
+    // The menu of what lies here is asked for: by the mouse at the pixel, by a key without one.
+    void menuWanted(QPoint globalPos, std::optional<Oid::PNT> point);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -68,11 +86,15 @@ private:
     // What looks different since the last call, in the widget's pixels.
     QRegion takeChanges();
     QRegion takeChangedAreas();
+    QRegion takeChangedMarks(QRect seen);
 
     Document* document = nullptr;
     PageTool* tool = nullptr;
     QImage image;
     PageTiles tiles;
+    PageMarks marks;  // as they are shown
+    bool releaseIsTaken = false;
+    bool rightClickIsTaken = false;
     QRegion unpainted;    // has changed since it was painted
     int askedHeight = 0;  // what the layout knows of the picture
 };

@@ -17,6 +17,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -287,7 +288,7 @@ private slots:
         QTest::newRow("Areas") << QStringList{tabs,          "btPreviousPicture", "btNextPicture",
                                               "btLoadImage", "btDeletePicture",   "btPickPoly",
                                               "btAddPoly",   "btDelPoly",         "txPolyName",
-                                              "txOidOfArea", "btEditPolyCode",    "pictureScroll",
+                                              "txOidOfArea", "btEditPolyCode",    "polyArea",
                                               tabs};
         QTest::newRow("Script") << QStringList{tabs, "inlay"};
         QTest::newRow("Build") << QStringList{tabs,          "btBuild",   "chDebugMode",
@@ -312,6 +313,28 @@ private slots:
             reached << QApplication::focusWidget()->objectName();
         }
         QCOMPARE(reached, order);
+    }
+
+    void thePageShowsThatItHasTheFocus()
+    {
+        WindowFixture w;
+        w.get<QTabWidget>("ribbonTab")->setCurrentWidget(w.get<QWidget>("tabAreas"));
+        w.window.activateWindow();
+        auto* const page = w.get<PolyEditorWidget>("polyArea");
+        QWidget* const frame = w.get<QWidget>("focusFrame");
+        QVERIFY(!frame->isVisible());
+        QTest::mouseClick(page, Qt::LeftButton, Qt::NoModifier, {5, 5});
+        QCOMPARE(QApplication::focusWidget(), page);
+        const auto edge = [&] {
+            const QPoint corner = frame->mapTo(&w.window, {0, 0});
+            return w.window.grab().toImage().pixelColor(corner + QPoint(20, 1));
+        };
+        QCOMPARE(edge(), page->palette().color(QPalette::Highlight));
+        w.window.resize(800, 600);
+        QCoreApplication::processEvents();
+        QCOMPARE(frame->size(), w.get<QScrollArea>("pictureScroll")->viewport()->size());
+        w.get<QWidget>("txPolyName")->setFocus();
+        QVERIFY(!frame->isVisible());
     }
 
     void everyControlHasANameForScreenReaders_data() { everyControlIsReachedByTab_data(); }

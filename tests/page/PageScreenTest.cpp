@@ -172,7 +172,7 @@ struct Book
             document.apply(edit::ReorderArea{anyAreaThere(), anyOf(random, 5)});
             break;
         case 4:
-            document.select(document.currentPage(), anyOf(random, 14) - 1);
+            document.selectAreas(document.currentPage(), {anyAreaThere(), anyAreaThere()});
             break;
         case 5:
             document.undo();

@@ -4,6 +4,7 @@
 #include "tests/helpers/PaintCounter.h"
 #include "tests/helpers/TemporaryFolder.h"
 
+#include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSignalSpy>
@@ -58,7 +59,7 @@ Oid::POLY square(const char* name, double left, double top, double size)
     return area;
 }
 
-// Writes down what it gets, and takes one key.
+// Writes down what it gets, takes one key and, when it is greedy, all that it is offered.
 class NotingTool : public PageTool
 {
 public:
@@ -66,9 +67,30 @@ public:
     Qt::CursorShape cursor() const override { return Qt::CrossCursor; }
     void press(const PageMouse& mouse) override { note("press", mouse); }
     void move(const PageMouse& mouse) override { note("move", mouse); }
-    void release(const PageMouse& mouse) override { note("release", mouse); }
+    bool release(const PageMouse& mouse) override
+    {
+        note("release", mouse);
+        return greedy;
+    }
+    bool doubleClick(const PageMouse& mouse) override
+    {
+        note("double click", mouse);
+        return greedy;
+    }
+    bool rightClick(const PageMouse& mouse) override
+    {
+        note("right click", mouse);
+        return greedy;
+    }
+    void leave() override { notes << "leave"; }
+    void stop() override { notes << "stop"; }
+    bool giveUp() override
+    {
+        notes << "give up";
+        return greedy;
+    }
     void click(const Oid::PNT& /*at*/) override { notes << "click"; }
-    bool key(const QKeyEvent& event) override
+    bool key(const QKeyEvent& event, const PageView& /*view*/) override
     {
         if (event.key() == Qt::Key_Escape) {
             notes << "key " + QString::number(event.key(), 16);
@@ -77,6 +99,7 @@ public:
     }
 
     QStringList notes;
+    bool greedy = false;
 
 private:
     void note(const char* what, const PageMouse& mouse)
@@ -90,6 +113,46 @@ private:
                      .arg(static_cast<int>(mouse.modifiers), 0, 16);
     }
 };
+
+// Shows one line.
+class MarkingTool : public PageTool
+{
+public:
+    using PageTool::PageTool;
+    Qt::CursorShape cursor() const override { return Qt::ArrowCursor; }
+    void click(const Oid::PNT& /*at*/) override {}
+    PageMarks marks(const PageView& /*view*/, const QRect& /*seen*/) const override
+    {
+        PageMarks shown;
+        shown.add(PageMark::line, {QVector<QPoint>{begin, end}});
+        return shown;
+    }
+
+    QPoint begin{10, 10};
+    QPoint end{190, 10};
+};
+
+// What of a widget is painted from now on.
+class PaintedRegion : public QObject
+{
+public:
+    explicit PaintedRegion(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            region += static_cast<QPaintEvent*>(event)->region();
+        }
+        return false;
+    }
+
+    QRegion region;
+};
+
+void menu(QWidget& widget, QContextMenuEvent::Reason reason, QPoint at)
+{
+    QContextMenuEvent event(reason, at, widget.mapToGlobal(at));
+    QCoreApplication::sendEvent(&widget, &event);
+}
 
 // But for what nobody sees.
 bool looksLike(const QImage& a, const QImage& b)
@@ -194,7 +257,8 @@ private slots:
                          Qt::ControlModifier);
         QCoreApplication::sendEvent(&shown.widget, &move);
         QTest::mouseRelease(&shown.widget, Qt::LeftButton, Qt::NoModifier, {100, 100});
-        QCOMPARE(tool.notes, QStringList({"press 25 20 button 2 of 2 keys 2000000",
+        QCOMPARE(tool.notes, QStringList({"right click 25 20 button 2 of 2 keys 2000000",
+                                          "press 25 20 button 2 of 2 keys 2000000",
                                           "move 50 40 button 0 of 1 keys 4000000",
                                           "release 50 50 button 1 of 0 keys 0"}));
     }
@@ -208,9 +272,159 @@ private slots:
         QKeyEvent other(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
         QCoreApplication::sendEvent(&shown.widget, &escape);
         QCoreApplication::sendEvent(&shown.widget, &other);
-        QCOMPARE(tool.notes, QStringList({"key 1000000"}));
+        QCOMPARE(tool.notes, QStringList({"give up", "key 1000000"}));
         QVERIFY(escape.isAccepted());
         QVERIFY(!other.isAccepted());
+    }
+
+    void escapeGivesUpBeforeItIsAKey()
+    {
+        Shown shown;
+        NotingTool tool(shown.document);
+        tool.greedy = true;
+        shown.widget.setTool(&tool);
+        QTest::keyClick(&shown.widget, Qt::Key_Escape);
+        QCOMPARE(tool.notes, QStringList({"give up"}));
+    }
+
+    void theToolSeesTheMouseWithoutAButtonAndItsLeaving()
+    {
+        Shown shown;
+        NotingTool tool(shown.document);
+        shown.widget.setTool(&tool);
+        QVERIFY(shown.widget.hasMouseTracking());
+        QMouseEvent move(QEvent::MouseMove, QPointF(50, 40), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QCoreApplication::sendEvent(&shown.widget, &move);
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(&shown.widget, &leave);
+        QCOMPARE(tool.notes, QStringList({"move 25 20 button 0 of 0 keys 0", "leave"}));
+    }
+
+    void aToolIsStoppedWhenAnotherOneComes()
+    {
+        Shown shown;
+        NotingTool tool(shown.document);
+        MarkingTool other(shown.document);
+        shown.widget.setTool(&tool);
+        shown.widget.setTool(&tool);
+        QCOMPARE(tool.notes, QStringList());
+        shown.widget.setTool(&other);
+        QCOMPARE(tool.notes, QStringList({"stop"}));
+    }
+
+    void theReleaseThatEndsADragIsNoClickForTheTool()
+    {
+        Shown shown;
+        NotingTool tool(shown.document);
+        shown.widget.setTool(&tool);
+        QVector<bool> clicks;
+        connect(&shown.widget, &PolyEditorWidget::clickedLB,
+                [&] { clicks << shown.widget.isClick(); });
+        QTest::mouseClick(&shown.widget, Qt::LeftButton, Qt::NoModifier, {50, 40});
+        tool.greedy = true;
+        QTest::mouseClick(&shown.widget, Qt::LeftButton, Qt::NoModifier, {50, 40});
+        tool.greedy = false;
+        QTest::mouseClick(&shown.widget, Qt::LeftButton, Qt::NoModifier, {50, 40});
+        QCOMPARE(clicks, QVector<bool>({true, false, true}));
+    }
+
+    void aDoubleClickIsTheToolsOrASecondClick()
+    {
+        Shown shown;
+        NotingTool tool(shown.document);
+        shown.widget.setTool(&tool);
+        QVector<bool> clicks;
+        connect(&shown.widget, &PolyEditorWidget::clickedLB,
+                [&] { clicks << shown.widget.isClick(); });
+        const auto doubleClick = [&](bool greedy) {
+            tool.notes.clear();
+            tool.greedy = greedy;
+            QMouseEvent event(QEvent::MouseButtonDblClick, QPointF(50, 40), Qt::LeftButton,
+                              Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&shown.widget, &event);
+            tool.greedy = false;
+            QTest::mouseRelease(&shown.widget, Qt::LeftButton, Qt::NoModifier, {50, 40});
+        };
+        doubleClick(true);
+        QCOMPARE(tool.notes, QStringList({"double click 25 20 button 1 of 1 keys 0",
+                                          "release 25 20 button 1 of 0 keys 0"}));
+        doubleClick(false);
+        QCOMPARE(tool.notes, QStringList({"double click 25 20 button 1 of 1 keys 0",
+                                          "press 25 20 button 1 of 1 keys 0",
+                                          "release 25 20 button 1 of 0 keys 0"}));
+        QCOMPARE(clicks, QVector<bool>({false, true}));
+    }
+
+    void aRightClickIsTheToolsOrAsksForAMenu()
+    {
+        Shown shown;
+        NotingTool tool(shown.document);
+        shown.widget.setTool(&tool);
+        std::vector<std::optional<Oid::PNT>> menus;
+        connect(&shown.widget, &PolyEditorWidget::menuWanted,
+                [&](QPoint /*place*/, const std::optional<Oid::PNT>& at) { menus.push_back(at); });
+        tool.greedy = true;
+        QTest::mousePress(&shown.widget, Qt::RightButton, Qt::NoModifier, {50, 40});
+        menu(shown.widget, QContextMenuEvent::Mouse, {50, 40});
+        QCOMPARE(tool.notes, QStringList({"right click 25 20 button 2 of 2 keys 0"}));
+        QCOMPARE(menus.size(), std::size_t(0));
+        tool.greedy = false;
+        QTest::mousePress(&shown.widget, Qt::RightButton, Qt::NoModifier, {50, 40});
+        menu(shown.widget, QContextMenuEvent::Mouse, {50, 40});
+        menu(shown.widget, QContextMenuEvent::Keyboard, {0, 0});
+        QCOMPARE(menus.size(), std::size_t(2));
+        QCOMPARE(menus[0]->x, 25.0);
+        QCOMPARE(menus[0]->y, 20.0);
+        QVERIFY(!menus[1]);
+    }
+
+    void whatAToolShowsLiesOverThePage()
+    {
+        Shown shown({square("cow", 0, 0, 40)});
+        MarkingTool tool(shown.document);
+        shown.widget.setTool(&tool);
+        const QImage marked = shown.picture();
+        tool.end = tool.begin;
+        shown.widget.showTool();
+        const QImage plain = shown.picture();
+        for (int x = 20; x < 78; ++x) {
+            QVERIFY(marked.pixel(x, 10) != plain.pixel(x, 10));
+        }
+        QCOMPARE(marked.pixel(50, 13), plain.pixel(50, 13));
+    }
+
+    void ofWhatAToolShowsOnlyTheChangeIsPainted()
+    {
+        Shown shown;
+        MarkingTool tool(shown.document);
+        shown.widget.setTool(&tool);
+        shown.widget.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&shown.widget));
+        QCoreApplication::processEvents();
+        const PaintedRegion painted(shown.widget);
+        shown.widget.showTool();
+        QCoreApplication::processEvents();
+        QVERIFY(painted.region.isEmpty());
+        tool.end = {190, 90};
+        shown.widget.showTool();
+        QCoreApplication::processEvents();
+        QVERIFY(painted.region.contains(QRect(10, 10, 180, 1)));
+        QVERIFY(painted.region.contains(QPoint(189, 89)));
+        QVERIFY(painted.region.contains(QPoint(100, 50)));
+        QVERIFY(!painted.region.contains(QPoint(20, 60)));
+        QVERIFY(!painted.region.contains(QPoint(180, 40)));
+    }
+
+    void allSelectedAreasAreRed()
+    {
+        Shown shown({square("cow", 5, 5, 10), square("hen", 25, 5, 10), square("pig", 45, 5, 10)});
+        shown.document.selectAreas(0, {shown.document.areaAt(0, 2), shown.document.areaAt(0, 0)});
+        QCOMPARE(shown.pixel(10, 20), QColor(255, 32, 32));
+        QCOMPARE(shown.pixel(50, 20), QColor(32, 96, 255));
+        QCOMPARE(shown.pixel(90, 20), QColor(255, 32, 32));
+        shown.document.select(0, 0);
+        QCOMPARE(shown.pixel(90, 20), QColor(32, 96, 255));
     }
 
     void aPageMayLieAnywhere()
