@@ -19,6 +19,9 @@ struct UNDO_STATE
 {
     SELECTION selection;
     std::u16string text;
+    // Of the step between this state and the one it leads back (or on) to: a name that the caller
+    // gave it, 0 for none.
+    std::uint64_t link = 0;
 };
 
 // The editing logic: applies keys, mouse gestures, pastes and commands to a buffer and to the
@@ -71,6 +74,9 @@ public:
     void redo();
     bool can_undo() const { return !undo_states.empty(); }
     bool can_redo() const { return !redo_states.empty(); }
+    // The links of the steps that undo and redo would carry out; 0 when there is no such step.
+    std::uint64_t link_to_undo() const { return can_undo() ? undo_states.back().link : 0; }
+    std::uint64_t link_to_redo() const { return can_redo() ? redo_states.back().link : 0; }
     void undo_get_state(UNDO_STATE& state) const;
     void undo_from_state(const UNDO_STATE& state);
 

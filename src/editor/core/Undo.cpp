@@ -33,6 +33,7 @@ void TextEditor::undo()
         return;
     }
     undo_get_state(redo_states.emplace_back());
+    redo_states.back().link = undo_states.back().link;
     undo_from_state(undo_states.back());
     undo_bytes -= chargeOf(undo_states.back());
     undo_states.pop_back();
@@ -44,6 +45,7 @@ void TextEditor::redo()
         return;
     }
     undo_get_state(undo_states.emplace_back());
+    undo_states.back().link = redo_states.back().link;
     undo_bytes += chargeOf(undo_states.back());
     undo_from_state(redo_states.back());
     redo_states.pop_back();

@@ -400,7 +400,7 @@ bool KVQtHighlightEditCtrlInlay::OnChar(char16_t ch, bool further)
     }
     settle_selection();
     // A run of letters and digits is undone in one step.
-    if (ch < u'0' || !editor.can_undo()) {
+    if (ch < u'0' || !editor.can_undo() || editor.link_to_undo() != 0) {
         editor.push_undo_state();
     }
     const SELECTION& selection = editor.selection;

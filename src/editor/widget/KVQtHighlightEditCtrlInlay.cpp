@@ -74,20 +74,23 @@ void KVQtHighlightEditCtrlInlay::forgetHistory()
 
 void KVQtHighlightEditCtrlInlay::OnEditUndo()
 {
-    undo_or_redo(&BACKEND::undo);
+    undo_or_redo(&BACKEND::undo, editor.link_to_undo(), false);
 }
 
 void KVQtHighlightEditCtrlInlay::OnEditRedo()
 {
-    undo_or_redo(&BACKEND::redo);
+    undo_or_redo(&BACKEND::redo, editor.link_to_redo(), true);
 }
 
-void KVQtHighlightEditCtrlInlay::undo_or_redo(void (BACKEND::*step)())
+void KVQtHighlightEditCtrlInlay::undo_or_redo(void (BACKEND::*step)(), quint64 link, bool forward)
 {
     settle_selection();
     (editor.*step)();
     UpdateAllViews();
     EnsureVisible(editor.selection.end);
+    if (link != 0) {
+        emit LinkedStepMoved(link, forward);
+    }
 }
 
 void KVQtHighlightEditCtrlInlay::OnEditSelectAll()

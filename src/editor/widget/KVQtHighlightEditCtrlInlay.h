@@ -84,8 +84,26 @@ public:
     // The format that marks the text on the clipboard as a rectangle.
     static const char* const kRectangleFormat;
 
+    // --- editing by others (InlayReplacing.cpp) ---
+    // A part of the text, as compilers count: line from 1, column from 1 and length in bytes of
+    // UTF-8.
+    struct Part
+    {
+        int line = 0;
+        int column = 0;
+        int length = 0;
+    };
+    // The part's first cell and the one behind it. A line outside the text gives empty places.
+    SELECTION CellsOf(const Part& part) const;
+    // Replaces the parts, which are in ascending order and do not overlap, as one step of undo; the
+    // replacement is one line. Caret and bookmarks stay where they are in the text. The link, when
+    // it is not 0, names the step to LinkedStepMoved; what is typed next does not join it.
+    void ReplaceParts(const std::vector<Part>& parts, const QString& replacement, quint64 link = 0);
+
 signals:
     void LetterSizeChanged(int points);
+    // Undo (or, with forward, redo) has carried out a step that ReplaceParts gave a link.
+    void LinkedStepMoved(quint64 link, bool forward);
 
 public slots:
     void OnEditUndo();
@@ -204,7 +222,7 @@ private:
     std::optional<std::u16string> replace_all_in(std::u16string text);
 
     void goto_bookmark(int step);
-    void undo_or_redo(void (BACKEND::*step)());
+    void undo_or_redo(void (BACKEND::*step)(), quint64 link, bool forward);
     static QString text_of(const BUFFER& lines);  // joined with CR LF
 
     // --- painting (InlayPainting.cpp) ---
