@@ -135,6 +135,7 @@ void Document::closeStep()
     }
     forgetUnchangedFiles(*open);
     Step step = contents.stepOf(*open);
+    step.link = open->link;
     open.reset();
     if (step.empty()) {
         state = step.stateBefore;
@@ -176,12 +177,14 @@ bool Document::undo()
     endGesture();
     while (const Step* const last = history.lastDone()) {
         const bool silent = last->silent;
+        const StepLink link = last->link;
         if (!carryOver(*history.toUndo(), false)) {
             break;
         }
         history.moveToUndone();
         if (!silent) {
             tell();
+            tellOfLink(link, false);
             return true;
         }
     }
@@ -191,7 +194,7 @@ bool Document::undo()
 
 bool Document::redo()
 {
-    endGesture();
+    const StepLink link = linkToRedo();
     bool done = false;
     while (history.canRedo() && (!done || history.redoGoesOn()) &&
            carryOver(*history.toRedo(), true)) {
@@ -199,7 +202,36 @@ bool Document::redo()
         done = true;
     }
     tell();
+    if (done) {
+        tellOfLink(link, true);
+    }
     return done;
+}
+
+void Document::linkStep(Gesture gesture, StepLink link)
+{
+    if (open && gesture != Gesture::none && gesture == openGesture) {
+        open->link = link;
+    }
+}
+
+StepLink Document::linkToUndo()
+{
+    endGesture();
+    return history.linkToUndo();
+}
+
+StepLink Document::linkToRedo()
+{
+    endGesture();
+    return history.linkToRedo();
+}
+
+void Document::tellOfLink(StepLink link, bool forward)
+{
+    if (link != StepLink::none) {
+        emit linkedStepMoved(link, forward);
+    }
 }
 
 bool Document::carryOver(Step& step, bool forward)

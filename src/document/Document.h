@@ -48,6 +48,12 @@ public:
     // Takes back all that the gesture did, as if it had never been.
     void takeBack(Gesture gesture);
 
+    // The step that is being made of this gesture has a companion in another history.
+    void linkStep(Gesture gesture, StepLink link);
+    // The links of the steps that undo and redo would carry out now; both end the gesture.
+    StepLink linkToUndo();
+    StepLink linkToRedo();
+
     // Carries an edit out that the author did not ask for by itself: it comes and goes with the
     // step before it.
     bool follow(const Edit& edit);
@@ -98,6 +104,8 @@ public:
 
 signals:
     void changed(const Change& change);
+    // Undo (or, with forward, redo) has carried out a step that has a companion.
+    void linkedStepMoved(StepLink link, bool forward);
 
 private:
     // While it lives, what is done follows the last step.
@@ -118,6 +126,7 @@ private:
     bool carryOut(const edit::SetCorners& set);
     bool carryOut(const edit::MoveAreas& move);
     bool carryOut(const edit::RenameArea& rename);
+    bool carryOut(const edit::RenameAreas& rename);
     bool carryOut(const edit::SetNumber& set);
     bool carryOut(const edit::ReorderArea& reorder);
     bool carryOut(const edit::SetPaper& set);
@@ -144,6 +153,7 @@ private:
     void noteStep(const Step& step);
     void note(unsigned what, int page, AreaId area = AreaId::none);
     void tell();
+    void tellOfLink(StepLink link, bool forward);
     void forgetStep(const Step& step, bool forward);
 
     Oid::OidProject record;

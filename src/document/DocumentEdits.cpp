@@ -145,6 +145,40 @@ bool Document::carryOut(const edit::RenameArea& rename)
     return true;
 }
 
+bool Document::carryOut(const edit::RenameAreas& rename)
+{
+    std::vector<AreaId> renamed;
+    for (const AreaId id : rename.areas) {
+        const Oid::POLY* const area = living(id);
+        if (area == nullptr) {
+            return false;
+        }
+        const bool isListed = std::find(renamed.begin(), renamed.end(), id) != renamed.end();
+        if (area->name != rename.name && !isListed) {
+            renamed.push_back(id);
+        }
+    }
+    for (const AreaId id : renamed) {
+        Oid::POLY& area = *contents.area(id);
+        beginStep().names.try_emplace(id, area.name);
+        touchNumber(area.name);
+        touchNumber(rename.name);
+        note(Change::names | Change::numbers, contents.placeOf(id).page, id);
+    }
+    // The last one takes the number along, when no other one needs it any more.
+    naming.finish();
+    for (const AreaId id : renamed) {
+        Oid::POLY& area = *contents.area(id);
+        if (id == renamed.back()) {
+            naming.rename(area, rename.name);
+        } else {
+            area.name = rename.name;
+        }
+    }
+    naming.finish();
+    return true;
+}
+
 bool Document::carryOut(const edit::SetNumber& set)
 {
     const Oid::POLY* const area = living(set.area);

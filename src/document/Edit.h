@@ -52,6 +52,14 @@ struct RenameArea
     std::string name;
 };
 
+// Areas of one name get another one. The number goes along, and those that bear the new name
+// already share it.
+struct RenameAreas
+{
+    std::vector<AreaId> areas;
+    std::string name;
+};
+
 // The number of all areas that bear this one's name.
 struct SetNumber
 {
@@ -91,5 +99,5 @@ struct ReplacePicture
 }  // namespace edit
 
 using Edit = std::variant<edit::AddArea, edit::RemoveArea, edit::SetCorners, edit::MoveAreas,
-                          edit::RenameArea, edit::SetNumber, edit::ReorderArea, edit::SetPaper,
-                          edit::AddPage, edit::ReplacePicture>;
+                          edit::RenameArea, edit::RenameAreas, edit::SetNumber, edit::ReorderArea,
+                          edit::SetPaper, edit::AddPage, edit::ReplacePicture>;

@@ -1,5 +1,6 @@
 #include "document/History.h"
 
+#include <algorithm>
 #include <utility>
 
 void History::clear()
@@ -36,6 +37,18 @@ void History::dropOldest()
         forget(done.front(), false);
         done.pop_front();
     } while (!done.empty() && done.front().silent);
+}
+
+StepLink History::linkToUndo() const
+{
+    const auto step =
+        std::find_if(done.rbegin(), done.rend(), [](const Step& one) { return !one.silent; });
+    return step != done.rend() ? step->link : StepLink::none;
+}
+
+StepLink History::linkToRedo() const
+{
+    return undone.empty() ? StepLink::none : undone.back().link;
 }
 
 void History::moveToUndone()

@@ -32,6 +32,9 @@ public:
     const Step* lastDone() const { return done.empty() ? nullptr : &done.back(); }
     Step* toUndo() { return done.empty() ? nullptr : &done.back(); }
     Step* toRedo() { return undone.empty() ? nullptr : &undone.back(); }
+    // Of the author's steps; none where there is no such step.
+    StepLink linkToUndo() const;
+    StepLink linkToRedo() const;
     // The step has been carried out in that direction.
     void moveToUndone();
     void moveToDone();

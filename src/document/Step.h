@@ -29,6 +29,10 @@ struct Selection
     bool operator!=(const Selection& other) const { return !(*this == other); }
 };
 
+// Of a step that has a companion in another history, such as that of the script: a name that both
+// have.
+enum class StepLink : std::uint64_t { none = 0 };
+
 struct Paper
 {
     double width = 0;   // mm
@@ -78,6 +82,7 @@ struct Step
     std::uint64_t stateBefore = 0;  // names of the states between which the step leads
     std::uint64_t stateAfter = 0;
     bool silent = false;  // goes back and forth with the step before it
+    StepLink link = StepLink::none;
 
     Splice<PageId> pages;
     std::vector<AreaOrderChange> orders;
@@ -94,6 +99,7 @@ struct Recording
     Selection selection;
     std::uint64_t state = 0;
     bool silent = false;
+    StepLink link = StepLink::none;
 
     std::optional<std::vector<PageId>> pages;
     std::map<PageId, std::vector<AreaId>> orders;

@@ -195,6 +195,76 @@ TEST_F(DocumentTest, ChoosingAnotherAreaEndsTheTyping)
     EXPECT_EQ(names(), "cows pig");
 }
 
+TEST_F(DocumentTest, AllAreasOfANameGetAnotherOneWithTheirNumberInOneStep)
+{
+    document.apply(edit::AddPage{});
+    const AreaId cow = add("cow");
+    const AreaId pig = add("pig");
+    const AreaId further = add("cow", 1);
+    const std::string before = snapshot(document);
+    EXPECT_TRUE(document.apply(edit::RenameAreas{{cow, further}, "bull"}));
+    EXPECT_EQ(names(0), "bull pig");
+    EXPECT_EQ(names(1), "bull");
+    EXPECT_EQ(oid("bull"), 1001);
+    EXPECT_EQ(oid("cow"), -1);
+    EXPECT_EQ(oid("pig"), 1002);
+    const std::string after = snapshot(document);
+    document.undo();
+    EXPECT_EQ(snapshot(document), before);
+    document.redo();
+    EXPECT_EQ(snapshot(document), after);
+    EXPECT_EQ(document.placeOf(pig).index, 1);
+}
+
+TEST_F(DocumentTest, AreasThatGetTheNameOfOthersShareTheirNumberWithThem)
+{
+    const AreaId cow = add("cow");
+    const AreaId further = add("cow");
+    add("pig");
+    EXPECT_TRUE(document.apply(edit::RenameAreas{{cow, further}, "pig"}));
+    EXPECT_EQ(names(), "pig pig pig");
+    EXPECT_EQ(oid("pig"), 1001);
+    document.undo();
+    EXPECT_EQ(oid("pig"), 1002);
+    EXPECT_EQ(oid("cow"), 1001);
+}
+
+TEST_F(DocumentTest, AreasOfAPageThatIsNotThereAreNotRenamed)
+{
+    const AreaId cow = add("cow");
+    const AreaId gone = add("cow");
+    document.apply(edit::RemoveArea{gone});
+    EXPECT_FALSE(document.apply(edit::RenameAreas{{cow, gone}, "bull"}));
+    EXPECT_EQ(names(), "cow");
+    EXPECT_TRUE(document.apply(edit::RenameAreas{{cow, cow}, "bull"}));
+    EXPECT_EQ(oid("bull"), 1001);
+}
+
+TEST_F(DocumentTest, AStepWithACompanionSaysSoWhenItGoesBackAndForth)
+{
+    std::vector<std::string> moved;
+    QObject::connect(&document, &Document::linkedStepMoved, [&](StepLink link, bool forward) {
+        moved.push_back(std::to_string(static_cast<int>(link)) + (forward ? " done" : " undone"));
+    });
+    const AreaId cow = add("cow");
+    const Gesture gesture = document.newGesture();
+    document.apply(edit::RenameAreas{{cow}, "bull"}, gesture);
+    document.linkStep(gesture, StepLink(7));
+    document.orientAreas(0);  // follows the step
+    EXPECT_EQ(document.linkToUndo(), StepLink(7));
+    EXPECT_EQ(document.linkToRedo(), StepLink::none);
+    document.undo();
+    EXPECT_EQ(document.linkToUndo(), StepLink::none);
+    EXPECT_EQ(document.linkToRedo(), StepLink(7));
+    document.undo();
+    document.redo();
+    document.redo();
+    EXPECT_EQ(document.linkToUndo(), StepLink(7));
+    EXPECT_EQ(moved, (std::vector<std::string>{"7 undone", "7 done"}));
+    document.linkStep(gesture, StepLink(8));  // the gesture is over
+    EXPECT_EQ(document.linkToUndo(), StepLink(7));
+}
+
 TEST_F(DocumentTest, TheNumberIsThatOfAllAreasOfTheName)
 {
     const AreaId cow = add("cow");

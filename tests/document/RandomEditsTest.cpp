@@ -99,6 +99,7 @@ private:
         case 6:
             return edit::MoveAreas{{anyArea()}, {anyNumber(), anyNumber()}};
         case 7:
+            return edit::RenameAreas{{anyArea(), anyArea()}, anyName()};
         case 8:
             return edit::RenameArea{anyArea(), anyName()};
         case 9:
