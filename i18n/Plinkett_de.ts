@@ -590,6 +590,14 @@
         <translation>Das Bild konnte nicht neben der Projektdatei abgelegt werden.</translation>
     </message>
     <message>
+        <source>The pictures could not be brought to their pages.</source>
+        <translation>Die Bilder konnten nicht zu ihren Seiten gebracht werden.</translation>
+    </message>
+    <message>
+        <source>The pictures are in the order of the pages again. Pages had been moved, but not saved.</source>
+        <translation>Die Bilder sind wieder in der Reihenfolge der Seiten. Seiten waren verschoben, aber nicht gespeichert worden.</translation>
+    </message>
+    <message>
         <source>These files could not be copied along. The old ones are still where they were.</source>
         <translation>Diese Dateien konnten nicht mitkopiert werden. Die alten liegen noch, wo sie waren.</translation>
     </message>
@@ -683,34 +691,22 @@
     </message>
 </context>
 <context>
-    <name>ZoomActions</name>
+    <name>PagePictures</name>
     <message>
-        <source>Zoom in</source>
-        <translation>Vergrößern</translation>
+        <source>The book has another number now. Save it before that.</source>
+        <translation>Das Buch hat jetzt eine andere Nummer. Bitte vorher speichern.</translation>
     </message>
     <message>
-        <source>Shows the page larger</source>
-        <translation>Zeigt die Seite größer</translation>
+        <source>The folder cannot be written.</source>
+        <translation>In den Ordner kann nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Verkleinern</translation>
+        <source>Another window has moved pages of this book and not saved that yet.</source>
+        <translation>Ein anderes Fenster hat Seiten dieses Buchs verschoben und das noch nicht gespeichert.</translation>
     </message>
     <message>
-        <source>Shows the page smaller</source>
-        <translation>Zeigt die Seite kleiner</translation>
-    </message>
-    <message>
-        <source>Fit</source>
-        <translation>Einpassen</translation>
-    </message>
-    <message>
-        <source>Shows the page&apos;s whole width</source>
-        <translation>Zeigt die Seite in ihrer ganzen Breite</translation>
-    </message>
-    <message>
-        <source>Zoom: %1 %</source>
-        <translation>Zoom: %1 %</translation>
+        <source>It is damaged. Put the pictures in order, then remove it.</source>
+        <translation>Sie ist beschädigt. Bitte die Bilder ordnen und sie dann löschen.</translation>
     </message>
 </context>
 </TS>

@@ -590,6 +590,14 @@
         <translation>The picture could not be kept beside the project file.</translation>
     </message>
     <message>
+        <source>The pictures could not be brought to their pages.</source>
+        <translation>The pictures could not be brought to their pages.</translation>
+    </message>
+    <message>
+        <source>The pictures are in the order of the pages again. Pages had been moved, but not saved.</source>
+        <translation>The pictures are in the order of the pages again. Pages had been moved, but not saved.</translation>
+    </message>
+    <message>
         <source>These files could not be copied along. The old ones are still where they were.</source>
         <translation>These files could not be copied along. The old ones are still where they were.</translation>
     </message>
@@ -683,34 +691,22 @@
     </message>
 </context>
 <context>
-    <name>ZoomActions</name>
+    <name>PagePictures</name>
     <message>
-        <source>Zoom in</source>
-        <translation>Zoom in</translation>
+        <source>The book has another number now. Save it before that.</source>
+        <translation>The book has another number now. Save it before that.</translation>
     </message>
     <message>
-        <source>Shows the page larger</source>
-        <translation>Shows the page larger</translation>
+        <source>The folder cannot be written.</source>
+        <translation>The folder cannot be written.</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Zoom out</translation>
+        <source>Another window has moved pages of this book and not saved that yet.</source>
+        <translation>Another window has moved pages of this book and not saved that yet.</translation>
     </message>
     <message>
-        <source>Shows the page smaller</source>
-        <translation>Shows the page smaller</translation>
-    </message>
-    <message>
-        <source>Fit</source>
-        <translation>Fit</translation>
-    </message>
-    <message>
-        <source>Shows the page&apos;s whole width</source>
-        <translation>Shows the page&apos;s whole width</translation>
-    </message>
-    <message>
-        <source>Zoom: %1 %</source>
-        <translation>Zoom: %1 %</translation>
+        <source>It is damaged. Put the pictures in order, then remove it.</source>
+        <translation>It is damaged. Put the pictures in order, then remove it.</translation>
     </message>
 </context>
 </TS>

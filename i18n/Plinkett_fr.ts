@@ -590,6 +590,14 @@
         <translation>L&apos;image n&apos;a pas pu être gardée à côté du fichier de projet.</translation>
     </message>
     <message>
+        <source>The pictures could not be brought to their pages.</source>
+        <translation>Les images n&apos;ont pas pu être placées avec leurs pages.</translation>
+    </message>
+    <message>
+        <source>The pictures are in the order of the pages again. Pages had been moved, but not saved.</source>
+        <translation>Les images sont de nouveau dans l&apos;ordre des pages. Des pages avaient été déplacées, mais pas enregistrées.</translation>
+    </message>
+    <message>
         <source>These files could not be copied along. The old ones are still where they were.</source>
         <translation>Ces fichiers n&apos;ont pas pu être copiés avec le projet. Les anciens sont toujours à leur place.</translation>
     </message>
@@ -683,34 +691,22 @@
     </message>
 </context>
 <context>
-    <name>ZoomActions</name>
+    <name>PagePictures</name>
     <message>
-        <source>Zoom in</source>
-        <translation>Agrandir</translation>
+        <source>The book has another number now. Save it before that.</source>
+        <translation>Le livre a maintenant un autre numéro. Enregistrez-le d&apos;abord.</translation>
     </message>
     <message>
-        <source>Shows the page larger</source>
-        <translation>Montre la page plus grande</translation>
+        <source>The folder cannot be written.</source>
+        <translation>Impossible d&apos;écrire dans le dossier.</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Réduire</translation>
+        <source>Another window has moved pages of this book and not saved that yet.</source>
+        <translation>Une autre fenêtre a déplacé des pages de ce livre sans les enregistrer.</translation>
     </message>
     <message>
-        <source>Shows the page smaller</source>
-        <translation>Montre la page plus petite</translation>
-    </message>
-    <message>
-        <source>Fit</source>
-        <translation>Ajuster</translation>
-    </message>
-    <message>
-        <source>Shows the page&apos;s whole width</source>
-        <translation>Montre la page sur toute sa largeur</translation>
-    </message>
-    <message>
-        <source>Zoom: %1 %</source>
-        <translation>Zoom : %1 %</translation>
+        <source>It is damaged. Put the pictures in order, then remove it.</source>
+        <translation>Il est endommagé. Remettez les images en ordre, puis supprimez-le.</translation>
     </message>
 </context>
 </TS>

@@ -590,6 +590,14 @@
         <translation>De afbeelding kon niet naast het projectbestand worden bewaard.</translation>
     </message>
     <message>
+        <source>The pictures could not be brought to their pages.</source>
+        <translation>De afbeeldingen konden niet bij hun pagina&apos;s worden gezet.</translation>
+    </message>
+    <message>
+        <source>The pictures are in the order of the pages again. Pages had been moved, but not saved.</source>
+        <translation>De afbeeldingen staan weer in de volgorde van de pagina&apos;s. Er waren pagina&apos;s verplaatst, maar niet opgeslagen.</translation>
+    </message>
+    <message>
         <source>These files could not be copied along. The old ones are still where they were.</source>
         <translation>Deze bestanden konden niet worden meegekopieerd. De oude staan nog waar ze waren.</translation>
     </message>
@@ -683,34 +691,22 @@
     </message>
 </context>
 <context>
-    <name>ZoomActions</name>
+    <name>PagePictures</name>
     <message>
-        <source>Zoom in</source>
-        <translation>Inzoomen</translation>
+        <source>The book has another number now. Save it before that.</source>
+        <translation>Het boek heeft nu een ander nummer. Sla het eerst op.</translation>
     </message>
     <message>
-        <source>Shows the page larger</source>
-        <translation>Toont de pagina groter</translation>
+        <source>The folder cannot be written.</source>
+        <translation>In de map kan niet worden geschreven.</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Uitzoomen</translation>
+        <source>Another window has moved pages of this book and not saved that yet.</source>
+        <translation>Een ander venster heeft pagina&apos;s van dit boek verplaatst en dat nog niet opgeslagen.</translation>
     </message>
     <message>
-        <source>Shows the page smaller</source>
-        <translation>Toont de pagina kleiner</translation>
-    </message>
-    <message>
-        <source>Fit</source>
-        <translation>Passend</translation>
-    </message>
-    <message>
-        <source>Shows the page&apos;s whole width</source>
-        <translation>Toont de pagina over haar hele breedte</translation>
-    </message>
-    <message>
-        <source>Zoom: %1 %</source>
-        <translation>Zoom: %1 %</translation>
+        <source>It is damaged. Put the pictures in order, then remove it.</source>
+        <translation>Het is beschadigd. Zet de afbeeldingen op volgorde en verwijder het dan.</translation>
     </message>
 </context>
 </TS>

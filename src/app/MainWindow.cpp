@@ -6,14 +6,10 @@
 #include "app/ProductNameNote.h"
 #include "app/Recovery.h"
 #include "app/StorableName.h"
-#include "app/ZoomActions.h"
 #include "base/FileSystem.h"
 #include "oid/OpenProject.h"
 #include "oid/PrintImage.h"
 #include "page/FocusFrame.h"
-#include "page/PagePanning.h"
-#include "page/PageScrollArea.h"
-#include "page/PageTouch.h"
 #include "qtsync/KVQtSync.h"
 #include "ttbasic/ttbasic.h"
 #include "ui_MainWindow.h"
@@ -80,17 +76,21 @@ void MainWindow::takeDrops()
     setAcceptDrops(true);
 }
 
-// A picture is as wide as the tab, or zoomed; every spot of it can be touched on any screen.
+// A picture is as wide as the tab; one that is higher can be scrolled, so that every spot of it can
+// be touched on any screen.
 void MainWindow::letPictureScroll()
 {
-    pictureScroll = new PageScrollArea(ui->polyArea);
-    ui->verticalLayout_2->addWidget(pictureScroll, 1);
+    pictureScroll = new QScrollArea;
+    delete ui->verticalLayout_2->replaceWidget(ui->polyArea, pictureScroll);
     pictureScroll->setObjectName("pictureScroll");
     pictureScroll->setFocusPolicy(Qt::NoFocus);  // the page has it, and lets it scroll
+    pictureScroll->setFrameShape(QFrame::NoFrame);
+    pictureScroll->setWidgetResizable(true);
+    pictureScroll->setWidget(ui->polyArea);
+    // The tab shows through; the scroll area has switched this on.
+    pictureScroll->viewport()->setAutoFillBackground(false);
     new FocusFrame(ui->polyArea, pictureScroll->viewport());
-    new PagePanning(pictureScroll);
-    new PageTouch(pictureScroll);
-    new ZoomActions(pictureScroll, *ui->editBar, *ui->statusbar);
+    ui->polyArea->setAutoFillBackground(false);
 }
 
 // What is told below "Create" may be long; on a small screen one scrolls to it.
@@ -241,10 +241,12 @@ void MainWindow::openProject(const QString& path)
 {
     clearMessages();
     recovery->leaving();
+    document.leave();
     // Creating print images, for one, goes to another folder.
     const std::string file = QFileInfo(path).absoluteFilePath().toStdString();
     const std::string before = project.projectPath;
     const bool opened = Oid::openProject(project, file);
+    const bool foundMoved = !project.movedPictures.empty();
 
     showProject(opened);
     if (project.projectPath != before) {
@@ -254,6 +256,10 @@ void MainWindow::openProject(const QString& path)
     recovery->opened(file, opened);
     const QString name = QFileInfo(path).fileName();
     tell(opened ? tr("Opened: %1").arg(name) : tr("Not opened: %1").arg(name));
+    if (foundMoved && project.movedPictures.empty()) {
+        tell(tr("The pictures are in the order of the pages again. Pages had been moved, but not "
+                "saved."));
+    }
 }
 
 void MainWindow::clearMessages()
@@ -269,7 +275,6 @@ void MainWindow::showProject(bool opened)
     ui->ribbonTab->setCurrentWidget(opened ? ui->tabProject : ui->tabBuild);
     // First the index: the form would show, and later write back, the sizes of another page.
     document.restart();
-    pictureScroll->fit();
     showTopOfPicture();
     selectPolygon(-1);
     ProjectDataWasChanged(false);
@@ -302,14 +307,16 @@ void MainWindow::on_actionSave_triggered()
 
 bool MainWindow::saveProject(const std::string& path)
 {
-    const bool saved = project.save(path);
+    const bool saved = document.save(path);
     const QString name = QFileInfo(QString::fromStdString(path)).fileName();
     tell(saved ? tr("Saved: %1").arg(name) : tr("Not saved: %1").arg(name));
     if (saved) {
-        document.setClean();
         numberBar->saved(project);
         recovery->saved(path);
         takeFilesAlong();
+        companions.wereRenamed(document.wentElsewhere());
+    } else if (!document.problem().file.empty()) {
+        warnOfPictures();
     }
     return saved;
 }

@@ -20,7 +20,6 @@ class MainWindow;
 }
 class NoticeBar;
 class NumberBar;
-class PageScrollArea;
 class PictureCopy;
 class QLabel;
 class QScrollArea;
@@ -164,6 +163,8 @@ private:
     std::optional<PictureCopy> choosePicture(int n);
     // Says so when the edit, which brings a picture in, could not keep its copy.
     bool keepPicture(const Edit& edit);
+    // Says which picture file could not be written or renamed.
+    void warnOfPictures();
     // After a save that gave the project another folder or number.
     void takeFilesAlong();
     void warnOfMissingCopies(const std::vector<std::string>& paths);
@@ -200,7 +201,7 @@ private:
     bool fillingFields = false;  // with what the project has, so that they change nothing
     bool typingPaper = false;    // the fields have what the project gets
     std::unique_ptr<Ui::MainWindow> ui;
-    PageScrollArea* pictureScroll = nullptr;
+    QScrollArea* pictureScroll = nullptr;
     QScrollArea* projectScroll = nullptr;
     NumberBar* numberBar = nullptr;
     std::unique_ptr<Recovery> recovery;  // ends first: it reads the form

@@ -41,6 +41,8 @@ void MainWindow::prepareHistory()
     connect(ui->actionRedo, &QAction::triggered, this, &MainWindow::redo);
     connect(ui->ribbonTab, &QTabWidget::currentChanged, this, &MainWindow::updateHistoryActions);
     connect(&document, &Document::changed, this, &MainWindow::showChange);
+    connect(&document, &Document::pagesArranged, this,
+            [this](const std::vector<int>& from) { companions.pagesArranged(from); });
     updateHistoryActions();
 }
 
@@ -61,7 +63,7 @@ void MainWindow::undo()
     if (scriptIsShown()) {
         ui->codeEditor->surface().OnEditUndo();
     } else if (document.canUndo() && !document.undo()) {
-        warn(tr("The picture could not be kept beside the project file."));
+        warnOfPictures();
     }
     if (mode == addPolygon && !drawTool.hasArea()) {
         setMode(pick);  // the area that was being drawn is gone
@@ -73,14 +75,14 @@ void MainWindow::redo()
     if (scriptIsShown()) {
         ui->codeEditor->surface().OnEditRedo();
     } else if (document.canRedo() && !document.redo()) {
-        warn(tr("The picture could not be kept beside the project file."));
+        warnOfPictures();
     }
 }
 
 void MainWindow::showChange(const Change& change)
 {
     updateHistoryActions();
-    if (change.has(Change::pictureFile)) {
+    if (change.has(Change::pictureFile) && change.page >= 0) {
         companions.cameIn(project, change.page);
     }
     if (!typingPaper && (change.has(Change::paper) || change.has(Change::selection))) {

@@ -5,10 +5,10 @@
 #include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
 #include "oid/PictureFile.h"
-#include "page/PageScrollArea.h"
 #include "ui_MainWindow.h"
 
 #include <QMessageBox>
+#include <QScrollArea>
 #include <QScrollBar>
 
 bool MainWindow::formWasEdited() const
@@ -126,9 +126,20 @@ bool MainWindow::keepPicture(const Edit& edit)
 {
     const bool kept = document.apply(edit);
     if (!kept) {
-        warn(tr("The picture could not be kept beside the project file."));
+        warnOfPictures();
     }
     return kept;
+}
+
+void MainWindow::warnOfPictures()
+{
+    const FileProblem& problem = document.problem();
+    QString text = tr("The picture could not be kept beside the project file.");
+    if (!problem.file.empty()) {
+        text = tr("The pictures could not be brought to their pages.") + "\n\n" +
+               QString::fromStdString(problem.file) + "\n" + QString::fromStdString(problem.cause);
+    }
+    warn(text);
 }
 
 void MainWindow::takeFilesAlong()

@@ -12,7 +12,8 @@ void MainWindow::prepareRecovery()
     RecoveryBar* const bar = new RecoveryBar;
     addNotice(bar);
     const UnsavedWork::Source source = {[this] { return workFingerprint(); },
-                                        [this] { return projectToSave(); }};
+                                        [this] { return projectToSave(); },
+                                        [this] { return document.pagesMoved(); }};
     recovery = std::make_unique<Recovery>(
         source,
         [this](const QString& file, const RecoveryHead& head) { return restore(file, head); },
@@ -42,6 +43,7 @@ void MainWindow::offerUnsavedWork()
 bool MainWindow::restore(const QString& file, const RecoveryHead& head)
 {
     clearMessages();
+    document.leave();
     const bool sameFile = project.projectPath == head.projectPath;
     const bool opened = Oid::openProject(project, file.toStdString());
     if (opened) {
@@ -50,6 +52,9 @@ bool MainWindow::restore(const QString& file, const RecoveryHead& head)
         project.pictures.resize(static_cast<size_t>(head.pages));
     }
     showProject(opened);
+    if (opened && !document.restoreMoved(head.moved)) {
+        warnOfPictures();
+    }
     if (!sameFile) {
         ui->codeEditor->forgetHistory();
         noteFiles();  // else the work may have another number than its file has

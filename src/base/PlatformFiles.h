@@ -16,6 +16,10 @@ FILE* openFile(const std::string& path, const std::string& mode);
 bool fileExists(const std::string& path);
 bool removeFile(const std::string& path);
 bool createDirectory(const std::string& path);
+// Never overwrites: false also when there is a file of the new name.
+bool renameFile(const std::string& from, const std::string& to);
+// Why the function above or another one that works on files has just failed, in the system's words.
+std::string lastFileError();
 // Overwrites; the copy appears under its name only when it is complete.
 bool copyFile(const std::string& source, const std::string& destination);
 

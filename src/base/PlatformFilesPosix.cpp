@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <memory>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace Platform {
@@ -123,6 +124,22 @@ bool fileExists(const std::string& path)
 bool removeFile(const std::string& path)
 {
     return unlink(nativePath(path).c_str()) == 0;
+}
+
+bool renameFile(const std::string& from, const std::string& to)
+{
+    const std::string target = nativePath(to);
+    struct stat status = {};
+    if (lstat(target.c_str(), &status) == 0) {
+        errno = EEXIST;
+        return false;
+    }
+    return rename(nativePath(from).c_str(), target.c_str()) == 0;
+}
+
+std::string lastFileError()
+{
+    return std::generic_category().message(errno);
 }
 
 bool createDirectory(const std::string& path)

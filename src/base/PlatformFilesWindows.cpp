@@ -28,6 +28,22 @@ bool removeFile(const std::string& path)
     return DeleteFileW(fromUtf8(path).c_str()) != 0;
 }
 
+bool renameFile(const std::string& from, const std::string& to)
+{
+    return MoveFileExW(fromUtf8(from).c_str(), fromUtf8(to).c_str(), MOVEFILE_WRITE_THROUGH) != 0;
+}
+
+std::string lastFileError()
+{
+    wchar_t text[512];
+    const DWORD length =
+        FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                       GetLastError(), 0, text, 512, nullptr);
+    std::wstring words(text, length);
+    words.erase(words.find_last_not_of(L"\r\n. ") + 1);
+    return toUtf8(words.c_str());
+}
+
 bool createDirectory(const std::string& path)
 {
     const std::wstring wide = fromUtf8(path);

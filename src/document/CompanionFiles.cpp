@@ -9,6 +9,8 @@
 #include <QDirIterator>
 #include <QFile>
 
+#include <algorithm>
+
 namespace {
 
 QString native(const std::string& path)
@@ -66,6 +68,7 @@ void CompanionFiles::areBeside(const Oid::OidProject& project)
 {
     place.projectPath = project.projectPath;
     place.productId = project.productId;
+    place.movedPictures = project.movedPictures;
     elsewhere.clear();
     audio = audioFolder(place);
 }
@@ -73,6 +76,35 @@ void CompanionFiles::areBeside(const Oid::OidProject& project)
 void CompanionFiles::cameIn(const Oid::OidProject& project, int n)
 {
     elsewhere[n] = {project.pathImageSource(n), {}};
+}
+
+void CompanionFiles::pagesArranged(const std::vector<int>& from)
+{
+    std::map<int, Picture> arranged;
+    for (std::size_t i = 0; i < from.size(); ++i) {
+        const auto page = static_cast<int>(i);
+        const auto found = elsewhere.find(from[i]);
+        if (found == elsewhere.end() || found->second.file == place.pathImageSource(from[i])) {
+            continue;
+        }
+        Picture& picture = arranged[page] = found->second;
+        if (picture.inTheWay == place.pathImageSource(from[i])) {
+            picture.inTheWay = place.pathImageSource(page);
+        }
+    }
+    elsewhere = std::move(arranged);
+}
+
+void CompanionFiles::wereRenamed(const std::vector<std::pair<std::string, std::string>>& paths)
+{
+    for (auto& entry : elsewhere) {
+        const auto renamed = std::find_if(paths.begin(), paths.end(), [&](const auto& path) {
+            return path.first == entry.second.file;
+        });
+        if (renamed != paths.end()) {
+            entry.second.file = renamed->second;
+        }
+    }
 }
 
 CompanionFiles::Outcome CompanionFiles::follow(const Oid::OidProject& project,
@@ -93,6 +125,7 @@ CompanionFiles::Outcome CompanionFiles::follow(const Oid::OidProject& project,
     }
     place.projectPath = project.projectPath;
     place.productId = project.productId;
+    place.movedPictures.clear();
     return outcome;
 }
 

@@ -27,6 +27,11 @@ public:
     void areBeside(const Oid::OidProject& project);
     // After picture n was brought in: its file is where the project looks for it.
     void cameIn(const Oid::OidProject& project, int n);
+    // Pages have changed their order, and their files with them: from says for each page which one
+    // it was before, -1 for one that has come.
+    void pagesArranged(const std::vector<int>& from);
+    // Files of before the last save have been renamed: their old and new paths.
+    void wereRenamed(const std::vector<std::pair<std::string, std::string>>& paths);
     // After saving: copies what is missing. Audio files that are there already stay as they are; a
     // picture overwrites another one only when mayOverwrite says so. What was not copied is tried
     // again at the next call, but nobody is asked twice about the same file.

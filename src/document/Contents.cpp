@@ -181,6 +181,22 @@ PageId Contents::addPage(Oid::PICTURE page)
     return id;
 }
 
+void Contents::removePage(int page)
+{
+    const auto index = static_cast<std::size_t>(page);
+    parkedPages[pageOrder[index]] = std::move(project.pictures[index]);
+    project.pictures.erase(at(project.pictures, index));
+    pageOrder.erase(at(pageOrder, index));
+    placesKnown = false;
+}
+
+void Contents::movePage(int page, int to)
+{
+    moveWithin(pageOrder, static_cast<std::size_t>(page), static_cast<std::size_t>(to));
+    moveWithin(project.pictures, static_cast<std::size_t>(page), static_cast<std::size_t>(to));
+    placesKnown = false;
+}
+
 AreaId Contents::addArea(int page, std::size_t index, Oid::POLY area)
 {
     const auto id = AreaId(++names);
@@ -319,17 +335,19 @@ void Contents::applyValues(const Step& step, bool forward)
     }
 }
 
-void Contents::forget(const Step& step, bool forward)
+std::vector<PageId> Contents::forget(const Step& step, bool forward)
 {
     for (const AreaOrderChange& change : step.orders) {
         for (const AreaId id : onlyOnSide(change.areas, forward)) {
             parkedAreas.erase(id);
         }
     }
-    for (const PageId id : onlyOnSide(step.pages, forward)) {
+    const std::vector<PageId> pages = onlyOnSide(step.pages, forward);
+    for (const PageId id : pages) {
         parkedPages.erase(id);
         areas.erase(id);
     }
+    return pages;
 }
 
 std::size_t Contents::parkedBytes() const

@@ -33,7 +33,11 @@ public:
     const std::vector<PageId>& pages() const { return pageOrder; }
     const std::vector<AreaId>& areasOf(PageId page) const { return areas.at(page); }
 
+    // The name that the next page gets.
+    PageId nextPage() const { return PageId(names + 1); }
     PageId addPage(Oid::PICTURE page);
+    void removePage(int page);
+    void movePage(int page, int to);
     AreaId addArea(int page, std::size_t index, Oid::POLY area);
     void removeArea(AreaId area);
     void moveArea(AreaId area, std::size_t index);
@@ -42,8 +46,8 @@ public:
     Step stepOf(const Recording& recording);
     void apply(const Step& step, bool forward);
     // The step will never be carried out in this direction again: what only it could bring back is
-    // forgotten.
-    void forget(const Step& step, bool forward);
+    // forgotten. The pages among that.
+    std::vector<PageId> forget(const Step& step, bool forward);
     std::size_t parkedBytes() const;
 
 private:

@@ -30,6 +30,7 @@ void Document::restart()
     endGesture();
     history.clear();
     contents.restart();
+    pictures.restart(contents.pages());
     // Intended: the index of the area stays, as it does on another page.
     selection = {0, selection.area, {}};
     state = ++states;
@@ -41,11 +42,17 @@ void Document::restart()
 
 bool Document::apply(const Edit& edit, Gesture gesture)
 {
-    if (gesture == Gesture::none || gesture != openGesture) {
+    const bool movesPages = std::holds_alternative<edit::RemovePage>(edit) ||
+                            std::holds_alternative<edit::MovePage>(edit);
+    if (movesPages || gesture == Gesture::none || gesture != openGesture) {
         endGesture();
     }
-    asked = gesture;
+    pictures.forgetProblem();
+    asked = movesPages ? Gesture::none : gesture;
     const bool done = std::visit([this](const auto& one) { return carryOut(one); }, edit);
+    if (movesPages) {
+        endGesture();  // what a step does to files is by their pages' places
+    }
     tell();
     return done;
 }
@@ -156,7 +163,9 @@ void Document::closeStep()
 
 void Document::forgetStep(const Step& step, bool forward)
 {
-    contents.forget(step, forward);
+    for (const PageId page : contents.forget(step, forward)) {
+        pictures.forget(page);
+    }
     for (const KeptFile& file : step.files) {
         keptFiles.forget(file);
     }
@@ -236,13 +245,53 @@ void Document::tellOfLink(StepLink link, bool forward)
 
 bool Document::carryOver(Step& step, bool forward)
 {
-    if (!exchangeFiles(step, forward)) {
+    const std::vector<PageId> before = contents.pages();
+    if (!carryPagesOver(step, forward)) {
         return false;
     }
     contents.apply(step, forward);
+    notePages(before);
     selection = forward ? step.selectionAfter : step.selectionBefore;
     state = forward ? step.stateAfter : step.stateBefore;
     noteStep(step);
+    return true;
+}
+
+// All or none. What a step did to the file of a page comes behind the page's coming, and goes
+// before its going.
+bool Document::carryPagesOver(Step& step, bool forward)
+{
+    pictures.forgetProblem();
+    if (step.pages.empty()) {
+        return exchangeFiles(step, forward);
+    }
+    const std::vector<PageId> before = contents.pages();
+    std::vector<PageId> after = before;
+    step.pages.apply(after, forward);
+    if (forward) {
+        if (!pictures.arrange(after)) {
+            return false;
+        }
+        if (!exchangeFiles(step, true)) {
+            pictures.arrange(before);
+            return false;
+        }
+        return true;
+    }
+    if (!exchangeFiles(step, false)) {
+        return false;
+    }
+    if (!pictures.arrange(after)) {
+        exchangeFiles(step, true);
+        return false;
+    }
+    for (const KeptFile& file : step.files) {
+        const bool isGone = static_cast<std::size_t>(file.page) >= after.size();
+        const PageId page = contents.pageAt(file.page);
+        if (isGone && !pictures.isSaved(page)) {
+            pictures.drop(page);
+        }
+    }
     return true;
 }
 
@@ -259,8 +308,9 @@ bool Document::exchangeFiles(Step& step, bool forward)
     const std::size_t pagesBefore =
         contents.pages().size() + step.pages.before.size() - step.pages.after.size();
     const auto isNeeded = [&](std::size_t i) {
-        const auto page = static_cast<std::size_t>(step.files[i].page);
-        return !forward && page >= pagesBefore && page < savedPages;
+        const int page = step.files[i].page;
+        return !forward && static_cast<std::size_t>(page) >= pagesBefore &&
+               pictures.isSaved(contents.pageAt(page));
     };
     for (std::size_t i = 0; i < step.files.size(); ++i) {
         if (!(isNeeded(i) ? keepAsItIs(i) : exchange(i))) {
@@ -273,11 +323,32 @@ bool Document::exchangeFiles(Step& step, bool forward)
     return true;
 }
 
+bool Document::save(const std::string& path)
+{
+    Oid::OidProject place;
+    place.projectPath = path;
+    place.productId = record.productId;
+    const bool stays = pictures.isAt(place);
+    pictures.forgetProblem();
+    if (stays && !pictures.beforeSaving(contents.pages())) {
+        return false;
+    }
+    if (!record.save(path)) {
+        pictures.couldNotSave();
+        return false;
+    }
+    record.movedPictures.clear();
+    setClean();
+    return true;
+}
+
 void Document::setClean()
 {
     closeStep();
     cleanState = state;
-    savedPages = record.pictures.size();
+    if (pictures.isInPlace()) {
+        pictures.saved(contents.pages());
+    }
     cleanProductName = record.productName;
     cleanProductId = record.productId;
     note(Change::history, kNoPage);
@@ -395,15 +466,27 @@ void Document::noteStep(const Step& step)
     if (!step.numbers.empty()) {
         note(Change::numbers, -1);
     }
-    if (!step.pages.empty()) {
-        note(Change::pages, -1);
-    }
     if (!step.papers.empty()) {
         note(Change::paper, -1);
     }
     for (const KeptFile& file : step.files) {
         note(Change::pictureFile, file.page);
     }
+}
+
+void Document::notePages(const std::vector<PageId>& before)
+{
+    const std::vector<PageId>& now = contents.pages();
+    if (before == now) {
+        return;
+    }
+    note(Change::pages | Change::pictureFile, -1);
+    std::vector<int> from;
+    for (const PageId page : now) {
+        const auto place = std::find(before.begin(), before.end(), page);
+        from.push_back(place != before.end() ? static_cast<int>(place - before.begin()) : -1);
+    }
+    emit pagesArranged(from);
 }
 
 void Document::note(unsigned what, int page, AreaId area)

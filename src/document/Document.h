@@ -9,6 +9,7 @@
 #include "document/Change.h"
 #include "document/Contents.h"
 #include "document/History.h"
+#include "document/PagePictures.h"
 #include "oid/AreaNaming.h"
 
 // Edits of one gesture, such as a drag or the typing of a name, are one step of the history.
@@ -33,9 +34,14 @@ public:
     void restart();
 
     // Carries the edit out, as a step of the history or, when the last one was of the same gesture,
-    // as a part of it. What is like that already makes no step. False, and nothing is changed, when
+    // as a part of it; pages are moved and removed by steps of their own. What is like that already
+    // makes no step. False, and nothing is changed, when
     // the document has no such page or area, or a picture file could not be written.
     bool apply(const Edit& edit, Gesture gesture = Gesture::none);
+    // Which file it was when a page could not be moved, removed or brought back, or the project not
+    // be saved because of it, and why. No file when the last edit, undo, redo or save had no such
+    // problem.
+    const FileProblem& problem() const { return pictures.problem(); }
     // One that no edit had yet.
     Gesture newGesture();
     // Nothing more belongs to the gesture.
@@ -70,6 +76,21 @@ public:
     // nothing is changed then.
     bool undo();
     bool redo();
+
+    // Writes the project to the file, and what it holds is what is saved. False, and nothing is
+    // changed, when the file cannot be written or problem says what is wrong with the pictures.
+    bool save(const std::string& path);
+    // After a save in another folder or under another number, when the pictures have been taken
+    // along: those of moved pages go back where the old project file looks for them. Their old and
+    // new paths.
+    PagePictures::Renamed wentElsewhere() { return pictures.wentElsewhere(contents.pages()); }
+    // Before another project is read, or the window closes: pages that were moved and not saved
+    // leave no trace on the disk.
+    void leave() { pictures.leave(); }
+    // Unsaved work was restored; it has moved pages like that. False when their pictures could not
+    // be brought to them; they are shown from where they are then.
+    bool restoreMoved(const PagesMoved& moved) { return pictures.restart(contents.pages(), moved); }
+    PagesMoved pagesMoved() const { return pictures.moved(contents.pages()); }
 
     // Pages, areas, product are as in the file from now on. A gesture goes on with another step.
     void setClean();
@@ -106,6 +127,8 @@ signals:
     void changed(const Change& change);
     // Undo (or, with forward, redo) has carried out a step that has a companion.
     void linkedStepMoved(StepLink link, bool forward);
+    // Before changed is: where each page was among the pages before; -1 for one that has come.
+    void pagesArranged(const std::vector<int>& from);
 
 private:
     // While it lives, what is done follows the last step.
@@ -131,6 +154,8 @@ private:
     bool carryOut(const edit::ReorderArea& reorder);
     bool carryOut(const edit::SetPaper& set);
     bool carryOut(const edit::AddPage& add);
+    bool carryOut(const edit::RemovePage& remove);
+    bool carryOut(const edit::MovePage& move);
     bool carryOut(const edit::ReplacePicture& replace);
 
     // Begins a step, unless this belongs to the one that is being made.
@@ -144,10 +169,13 @@ private:
     void setCorners(AreaId area, std::vector<Oid::PNT> corners);
     void numberNewAreas();
     bool replaceFile(int page, const QByteArray& file);
+    void touchPages();
+    void notePages(const std::vector<PageId>& before);
 
     // Both leave all as it was when a picture file could not be written.
     bool carryOver(Step& step, bool forward);
     bool exchangeFiles(Step& step, bool forward);
+    bool carryPagesOver(Step& step, bool forward);
     void forgetUnchangedFiles(Recording& recording);
     Oid::POLY* living(AreaId area);
     void noteStep(const Step& step);
@@ -161,6 +189,8 @@ private:
     History history;
     Oid::AreaNaming naming;
     KeptFiles keptFiles;
+    PictureFileWork pictureWork;
+    PagePictures pictures{record, keptFiles, pictureWork};
     Selection selection;
 
     std::optional<Recording> open;  // the step that is being made
@@ -171,7 +201,6 @@ private:
     std::uint64_t states = 0;  // that the project has been in
     std::uint64_t state = 0;
     std::uint64_t cleanState = 0;
-    std::size_t savedPages = 0;  // of the file
     std::string typedName;
     int typedId = 0;
     std::string cleanProductName;

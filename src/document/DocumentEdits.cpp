@@ -251,15 +251,80 @@ bool Document::replaceFile(int page, const QByteArray& file)
 bool Document::carryOut(const edit::AddPage& add)
 {
     const int page = static_cast<int>(contents.pages().size());
-    if (!add.file.isEmpty() && !replaceFile(page, add.file)) {
+    const PageId id = contents.nextPage();
+    std::vector<PageId> pages = contents.pages();
+    pages.push_back(id);
+    if (!pictures.arrange(pages)) {
         return false;
     }
+    if (!add.file.isEmpty() && !replaceFile(page, add.file)) {
+        pictures.arrange(contents.pages());
+        pictures.drop(id);
+        return false;
+    }
+    touchPages();
+    contents.addPage(add.page);
+    note(Change::pages, page);
+    return true;
+}
+
+void Document::touchPages()
+{
     Recording& recording = beginStep();
     if (!recording.pages) {
         recording.pages = contents.pages();
     }
-    contents.addPage(add.page);
-    note(Change::pages, page);
+}
+
+// The author stays on the page where he is; when that goes, the one that takes its place is shown.
+bool Document::carryOut(const edit::RemovePage& remove)
+{
+    const std::vector<PageId> before = contents.pages();
+    if (contents.pageAt(remove.page) == PageId::none) {
+        return false;
+    }
+    std::vector<PageId> after = before;
+    after.erase(after.begin() + remove.page);
+    if (!pictures.arrange(after)) {
+        return false;
+    }
+    touchPages();
+    contents.removePage(remove.page);
+    const int last = std::max(static_cast<int>(after.size()) - 1, 0);
+    if (remove.page == selection.page) {
+        selection = {std::min(selection.page, last), -1, {}};
+    } else if (remove.page < selection.page) {
+        --selection.page;
+    }
+    notePages(before);
+    note(Change::areas | Change::selection, -1);
+    return true;
+}
+
+bool Document::carryOut(const edit::MovePage& move)
+{
+    const std::vector<PageId> before = contents.pages();
+    if (contents.pageAt(move.page) == PageId::none || contents.pageAt(move.to) == PageId::none) {
+        return false;
+    }
+    if (move.page == move.to) {
+        return true;
+    }
+    const PageId current = contents.pageAt(selection.page);
+    std::vector<PageId> after = before;
+    after.erase(after.begin() + move.page);
+    after.insert(after.begin() + move.to, before[static_cast<std::size_t>(move.page)]);
+    if (!pictures.arrange(after)) {
+        return false;
+    }
+    touchPages();
+    contents.movePage(move.page, move.to);
+    const auto shown = std::find(after.begin(), after.end(), current);
+    if (shown != after.end()) {
+        selection.page = static_cast<int>(shown - after.begin());
+    }
+    notePages(before);
+    note(Change::selection, -1);
     return true;
 }
 

@@ -89,6 +89,20 @@ struct AddPage
     QByteArray file;
 };
 
+// The page goes with its areas and its picture; those behind it move up. The numbers stay with the
+// names, so that areas of the same name get them back.
+struct RemovePage
+{
+    int page = 0;
+};
+
+// To another place among the pages, with its areas and its picture.
+struct MovePage
+{
+    int page = 0;
+    int to = 0;  // where it stands afterwards
+};
+
 // Another picture file for a page; its areas, paper and resolution stay.
 struct ReplacePicture
 {
@@ -100,4 +114,5 @@ struct ReplacePicture
 
 using Edit = std::variant<edit::AddArea, edit::RemoveArea, edit::SetCorners, edit::MoveAreas,
                           edit::RenameArea, edit::RenameAreas, edit::SetNumber, edit::ReorderArea,
-                          edit::SetPaper, edit::AddPage, edit::ReplacePicture>;
+                          edit::SetPaper, edit::AddPage, edit::RemovePage, edit::MovePage,
+                          edit::ReplacePicture>;

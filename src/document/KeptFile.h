@@ -26,12 +26,11 @@ public:
     bool replace(const std::string& place, const QByteArray& content, KeptFile& kept);
     // Whether the page's picture file holds what is kept; also when there is neither.
     bool isAsKept(const std::string& place, const KeptFile& kept) const;
+    // Makes a copy of the file; false when that failed. Its path is empty when there is no file.
+    bool keep(const std::string& place, std::string& copy);
     void forget(const KeptFile& kept);
 
 private:
-    // A copy of the file; false when that failed. Its path is empty when there is no file.
-    bool keep(const std::string& place, std::string& copy);
-
     QTemporaryDir folder;
     int count = 0;
 };

@@ -13,6 +13,8 @@ constexpr char kProject[] = "# project ";
 constexpr char kName[] = "# name ";
 constexpr char kPages[] = "# pages ";
 constexpr char kSince[] = "# since ";
+constexpr char kMoved[] = "# moved ";
+constexpr char kMovedFrom[] = "# from ";
 constexpr char kSaved[] = "# saved ";
 // Long lines of a project file are read in pieces, and only the first would be a comment.
 constexpr int kLongestValue = 500;
@@ -36,6 +38,20 @@ void appendText(QByteArray& text, const char* key, const std::string& value)
     }
 }
 
+// "# moved 3 0 2": of three pages the second is gone.
+void appendMoved(QByteArray& text, const PagesMoved& moved)
+{
+    QByteArray value = QByteArray::number(moved.saved);
+    for (const int picture : moved.pictures) {
+        value += ' ' + QByteArray::number(picture);
+        if (value.size() > kLongestValue) {
+            appendLine(text, kMoved, value);
+            value.clear();
+        }
+    }
+    appendLine(text, kMoved, value);
+}
+
 // What the lines of this key hold, one behind the other. The head ends where the project begins.
 QByteArray valueOf(const QByteArray& text, const char* key)
 {
@@ -49,6 +65,21 @@ QByteArray valueOf(const QByteArray& text, const char* key)
         i = end + static_cast<int>(qstrlen(kLineEnd));
     }
     return value;
+}
+
+PagesMoved movedIn(const QByteArray& text)
+{
+    PagesMoved moved;
+    for (const QByteArray& number : valueOf(text, kMoved).split(' ')) {
+        if (!number.isEmpty()) {
+            moved.pictures.push_back(number.toInt());
+        }
+    }
+    if (!moved.pictures.empty()) {
+        moved.saved = moved.pictures.front();
+        moved.pictures.erase(moved.pictures.begin());
+    }
+    return moved;
 }
 
 std::string textOf(const QByteArray& text, const char* key)
@@ -79,7 +110,7 @@ QByteArray recoveryCopy(const Oid::OidProject& project, const RecoveryHead& head
     const std::string beforeScript = Oid::textBeforeScript(project);
     const std::string& script = project.compiler.source;
     const QByteArray hash = hashOfSavedText(beforeScript, script);
-    if (hash == savedHash) {
+    if (hash == savedHash && head.moved.empty()) {
         return {};
     }
     QByteArray text;
@@ -87,6 +118,10 @@ QByteArray recoveryCopy(const Oid::OidProject& project, const RecoveryHead& head
     appendText(text, kName, project.productName);
     appendLine(text, kPages, QByteArray::number(static_cast<int>(project.pictures.size())));
     appendLine(text, kSince, head.since.toUTC().toString(Qt::ISODateWithMs).toLatin1());
+    if (!head.moved.empty()) {
+        appendMoved(text, head.moved);
+        appendLine(text, kMovedFrom, savedHash);
+    }
     appendLine(text, kSaved, hash);
     text += QByteArray::fromStdString(beforeScript) + QByteArray::fromStdString(script);
     return kTitle + hashOf(text) + kLineEnd + text;
@@ -105,6 +140,8 @@ std::optional<RecoveryHead> readRecoveryHead(const QByteArray& copy)
     head.pages = valueOf(text, kPages).toInt();
     head.since =
         QDateTime::fromString(QString::fromLatin1(valueOf(text, kSince)), Qt::ISODateWithMs);
+    head.moved = movedIn(text);
+    head.movedFrom = valueOf(text, kMovedFrom);
     head.savedHash = valueOf(text, kSaved);
     return head;
 }

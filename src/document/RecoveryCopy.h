@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/PagesMoved.h"
 #include "oid/OidProject.h"
 
 #include <QByteArray>
@@ -17,6 +18,8 @@ struct RecoveryHead
     std::string productName;  // to the letter: the line PRODUCT does not bring back every name
     int pages = 0;            // a project file that has none is read as one that has one
     QDateTime since;          // when the work began that is not saved, in UTC
+    PagesMoved moved;         // where pages stand elsewhere than in the project file
+    QByteArray movedFrom;     // as savedHash, of that file; only with moved
     QByteArray savedHash;     // of the file that saving this work would write
 };
 
@@ -25,8 +28,8 @@ QByteArray hashOfSaved(const Oid::OidProject& project);
 // Of such a file as it is there.
 QByteArray hashOfSavedFile(const QByteArray& bytes);
 
-// The whole copy; empty when saving would write just the file of this hash. Of the head only path
-// and time are taken; the rest is the project's.
+// The whole copy; empty when saving would write just the file of this hash and no page has been
+// moved. Of the head only path, time and moved pages are taken; the rest is the project's.
 QByteArray recoveryCopy(const Oid::OidProject& project, const RecoveryHead& head,
                         const QByteArray& savedHash = {});
 

@@ -107,7 +107,10 @@ std::optional<FoundCopy> RecoveryFolder::newestFor(const std::string& projectPat
 {
     const QByteArray inFile = hashOfFile(projectPath);
     for (const FoundCopy& found : find(nameOf(projectPath) + "-*" + kSuffix)) {
-        if (!found.head || found.head->savedHash != inFile) {
+        // Pages that look alike may have been moved: then the file's bytes are the same.
+        const bool sameBytes = found.head && found.head->savedHash == inFile;
+        const bool moved = sameBytes && !found.head->moved.empty();
+        if (!sameBytes || (moved && found.head->movedFrom == inFile)) {
             return found;
         }
         if (const auto copy = RecoveryFile::take(found.path)) {

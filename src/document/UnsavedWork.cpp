@@ -91,6 +91,9 @@ void UnsavedWork::startWriting()
     RecoveryHead head;
     head.projectPath = path;
     head.since = since;
+    if (source.moved) {
+        head.moved = source.moved();
+    }
     writing = std::async(std::launch::async,
                          [head, project = source.project(), hash = savedHash, file = copy->path()] {
                              return write(project, head, hash, file);

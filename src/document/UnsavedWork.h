@@ -21,6 +21,8 @@ public:
         std::function<std::uint64_t()> fingerprint;
         // The project as it would be saved now; asked after a change.
         std::function<Oid::OidProject()> project;
+        // Its pages that stand elsewhere than in the project file. May be left out.
+        std::function<PagesMoved()> moved = nullptr;
     };
 
     explicit UnsavedWork(Source source);

@@ -19,6 +19,11 @@ std::string today()
     return {text, length};
 }
 
+DiagnosticSink printedBy(PrintFunction print)
+{
+    return printWith(print != nullptr ? print : defaultPrintf());
+}
+
 class Assembly
 {
 public:
@@ -116,7 +121,7 @@ bool Assembly::writeFiles()
 }  // namespace
 
 bool makeRoomForAreas(const std::string& yamlFile, const std::map<std::string, int>& areas,
-                      const DiagnosticSink& sink)
+                      PrintFunction print)
 {
     const std::string path = codesFileFor(yamlFile);
     CodesFile codesFile(path);
@@ -124,7 +129,7 @@ bool makeRoomForAreas(const std::string& yamlFile, const std::map<std::string, i
     if (!codesFile.read(unheard)) {
         return true;
     }
-    Messages messages(path, sink);
+    Messages messages(path, printedBy(print));
     return codesFile.makeRoomFor(areas, messages);
 }
 
@@ -135,7 +140,7 @@ bool assemble(const AssembleOptions& options, const DiagnosticSink& sink)
 
 bool assemble(const AssembleOptions& options, PrintFunction print)
 {
-    return assemble(options, printWith(print != nullptr ? print : defaultPrintf()));
+    return assemble(options, printedBy(print));
 }
 
 }  // namespace gme

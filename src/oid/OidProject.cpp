@@ -24,6 +24,7 @@ OidProject& OidProject::operator=(OidProject&& other)
     oids = std::move(other.oids);
     compiler = std::move(other.compiler);
     print = other.print;
+    movedPictures = std::move(other.movedPictures);
     return *this;
 }
 
@@ -51,7 +52,9 @@ std::string OidProject::pathGme() const
 
 std::string OidProject::pathImageSource(int n) const
 {
-    return pathBesideProject("-bkgnd" + itostr(n) + ".jpg");
+    const auto moved = movedPictures.find(n);
+    return moved != movedPictures.end() ? moved->second
+                                        : pathBesideProject("-bkgnd" + itostr(n) + ".jpg");
 }
 
 std::string OidProject::pathImageOutput(int n) const

@@ -111,6 +111,8 @@ public:
     std::map<std::string, OID> oids;  // by area name
     ttbasic compiler;                 // holds the script
     PrintFunction print;              // every message of the model goes through it
+    // Where the pictures of pages are that were moved but not saved (PictureOrder.h), by page.
+    std::map<int, std::string> movedPictures;
 
 private:
     std::string pathBesideProject(const std::string& nameAfterId) const;

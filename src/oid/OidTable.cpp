@@ -12,9 +12,13 @@ namespace {
 constexpr int kFirstAssignedOid = 1001;
 
 // Behind all numbers in use. Intended: gaps are never filled again.
-int behind(int next, int usedOid)
+int nextNumber(const std::map<std::string, OidProject::OID>& oids)
 {
-    return usedOid >= next ? numberAfter(usedOid) : next;
+    int next = kFirstAssignedOid;
+    for (const auto& entry : oids) {
+        next = entry.second.oid >= next ? numberAfter(entry.second.oid) : next;
+    }
+    return next;
 }
 
 void tellNumber(const OidProject& project, const std::string& name, int oid)
@@ -38,9 +42,8 @@ int numberAfter(int oid)
 // back when it is used again.
 void OidProject::updateUsedOIDs()
 {
-    int next = kFirstAssignedOid;
+    int next = nextNumber(oids);
     for (auto& entry : oids) {
-        next = behind(next, entry.second.oid);
         entry.second = tableEntry(entry.second.oid);
     }
     auto near = oids.end();  // names often follow each other: cow1, cow2, cow3
@@ -58,10 +61,7 @@ void OidProject::updateUsedOIDs()
 
 void giveNewNumber(OidProject& project, const std::string& name)
 {
-    int next = kFirstAssignedOid;
-    for (const auto& entry : project.oids) {
-        next = behind(next, entry.second.oid);
-    }
+    const int next = nextNumber(project.oids);
     project.oids[name] = tableEntry(next);
     tellNumber(project, name, next);
 }

@@ -4,6 +4,7 @@
 
 #include "base/FileSystem.h"
 #include "oid/OidTable.h"
+#include "oid/PictureOrder.h"
 #include "oid/ProjectReader.h"
 
 namespace Oid {
@@ -53,6 +54,7 @@ bool openProject(OidProject& project, const std::string& path, const DiagnosticS
 {
     const bool opened = openWith(project, path, SavedEmptyPages::kept, sink);
     numberAllAreas(project);
+    findMovedPictures(project, sink);
     return opened;
 }
 

@@ -75,6 +75,11 @@ std::string scriptInFile(const std::string& source)
     return text;
 }
 
+std::string textInFile(const OidProject& project)
+{
+    return "\xEF\xBB\xBF" + textBeforeScript(project) + scriptInFile(project.compiler.source);
+}
+
 bool OidProject::save(std::string path)
 {
     Platform::FileReplacement replacement(path);
@@ -87,8 +92,7 @@ bool OidProject::save(std::string path)
             oids[area.name];  // a name without entry gets OID 0
         }
     }
-    const std::string text =
-        "\xEF\xBB\xBF" + textBeforeScript(*this) + scriptInFile(compiler.source);
+    const std::string text = textInFile(*this);
     fwrite(text.data(), 1, text.size(), file);  // errors are seen when the file is committed
     if (!replacement.commit()) {
         return false;

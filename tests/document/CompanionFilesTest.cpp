@@ -265,3 +265,28 @@ TEST_F(Companions, AudioFilesMadeUnderAFreeNumberFollow)
     save("there/new.oidpro", 902);
     EXPECT_EQ(newFiles(), "here/901-audio/baa.ogg: baa!\nthere/902-audio/baa.ogg: baa!\n");
 }
+
+TEST_F(Companions, AfterANoItsOwnPictureFollowsItsPageWhenThatIsMoved)
+{
+    writeFile(folder.file("there/900-bkgnd1.jpg"), "another book");
+    save("there/book.oidpro", 900, false);
+    fs::rename(folder.file("there/900-bkgnd0.jpg"), folder.file("there/x"));
+    fs::rename(folder.file("there/900-bkgnd1.jpg"), folder.file("there/900-bkgnd0.jpg"));
+    fs::rename(folder.file("there/x"), folder.file("there/900-bkgnd1.jpg"));
+    companions.pagesArranged({1, 0});
+    EXPECT_EQ(save("there/book.oidpro", 900), "");
+    EXPECT_EQ(save("there/book.oidpro", 901), "");
+    EXPECT_EQ(readFile(folder.file("there/901-bkgnd0.jpg")), "meadow");
+    EXPECT_EQ(readFile(folder.file("there/901-bkgnd1.jpg")), "cover");
+}
+
+TEST_F(Companions, APictureThatWasPutBackIsFoundWhereItIsNow)
+{
+    writeFile(folder.file("there/900-bkgnd1.jpg"), "another book");
+    save("there/book.oidpro", 900, false);
+    fs::rename(folder.file("here/900-bkgnd1.jpg"), folder.file("here/900-bkgnd7.jpg"));
+    const std::string here = folder.path() + "\\here\\900-bkgnd";
+    companions.wereRenamed({{here + "1.jpg", here + "7.jpg"}});
+    save("there/book.oidpro", 901);
+    EXPECT_EQ(readFile(folder.file("there/901-bkgnd1.jpg")), "meadow");
+}

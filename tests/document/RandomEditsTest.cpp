@@ -20,6 +20,17 @@ public:
     int below(int n) { return std::uniform_int_distribution<int>(0, n - 1)(random); }
 
     void edit(Gesture gesture = Gesture::none) { document.apply(anyEdit(), gesture); }
+    void movePage()
+    {
+        const int page = below(pages());
+        if (below(2) == 0 && pages() > 1) {
+            document.apply(edit::RemovePage{page});
+        } else {
+            document.apply(edit::MovePage{page, below(pages())});
+        }
+    }
+    // As the window does it.
+    void save() { EXPECT_TRUE(document.save(document.project().projectPath)); }
 
     // Several edits as one.
     void gesture()
@@ -158,8 +169,16 @@ TEST(RandomEdits, AreUndoneAndRedoneExactly)
                 done.back() = all(document);
             }
             const int what = author.below(10);
+            if (author.below(12) == 0) {
+                author.save();
+                ASSERT_EQ(all(document), done.back()) << "after " << i;
+                continue;
+            }
             if (what < 7) {
-                what < 4 ? author.edit() : what < 6 ? author.gesture() : follow(document);
+                what < 3   ? author.edit()
+                : what < 4 ? author.movePage()
+                : what < 6 ? author.gesture()
+                           : follow(document);
                 document.endGesture();
                 if (const std::string now = all(document); now != done.back()) {
                     what < 6 ? done.push_back(now) : void(done.back() = now);

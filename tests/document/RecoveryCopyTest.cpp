@@ -111,3 +111,26 @@ TEST(RecoveryCopy, ItsHashIsThatOfTheSavedFile)
     EXPECT_EQ(hashOfSavedFile(saved), hashOfSaved(project));
     EXPECT_NE(hashOfSavedFile(saved + " "), hashOfSaved(project));
 }
+
+TEST(RecoveryCopy, SaysWhichPagesWereMoved)
+{
+    RecoveryHead head = headOf("/home/ann/zoo.oidpro");
+    EXPECT_TRUE(readRecoveryHead(recoveryCopy(zoo(), head))->moved.empty());
+    head.moved.saved = 1000;
+    for (int page = 999; page >= 0; --page) {
+        head.moved.pictures.push_back(page);
+    }
+    const auto read = readRecoveryHead(recoveryCopy(zoo(), head, "of the file"));
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->moved.saved, 1000);
+    EXPECT_EQ(read->moved.pictures, head.moved.pictures);
+    EXPECT_EQ(read->movedFrom, "of the file");
+}
+
+TEST(RecoveryCopy, PagesThatLookAlikeAndWereMovedAreUnsavedWork)
+{
+    RecoveryHead head = headOf("/home/ann/zoo.oidpro");
+    EXPECT_TRUE(recoveryCopy(zoo(), head, hashOfSaved(zoo())).isEmpty());
+    head.moved = {2, {1, 0}};
+    EXPECT_FALSE(recoveryCopy(zoo(), head, hashOfSaved(zoo())).isEmpty());
+}
