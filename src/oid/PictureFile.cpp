@@ -64,9 +64,26 @@ bool PictureFile::isUprightJpeg() const
            reader.transformation() == QImageIOHandler::TransformationNone;
 }
 
+QSize PictureFile::uprightSize() const
+{
+    const bool liesOnItsSide =
+        reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+    return liesOnItsSide ? reader.size().transposed() : reader.size();
+}
+
 QImage PictureFile::read()
 {
     return fitsMemory() ? reader.read() : QImage();
+}
+
+QImage PictureFile::readSmall(int longestSide)
+{
+    const QSize whole = reader.size();
+    if (std::max(whole.width(), whole.height()) > longestSide) {
+        reader.setScaledSize(
+            whole.scaled(longestSide, longestSide, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+    }
+    return read();
 }
 
 PictureCopy::PictureCopy(const QString& path)

@@ -18,9 +18,15 @@ public:
     // True for a JPEG whose pixels are upright as they are stored. Asked before read.
     bool isUprightJpeg() const;
 
+    // In pixels; empty when it is no picture. Asked before read.
+    QSize uprightSize() const;
+
     // The null image when it is no picture or does not fit. Decoders are lenient: damaged files may
     // give a picture, too.
     QImage read();
+    // The same with its longer side at most so many pixels, which is far faster where the decoder
+    // can leave out what is too fine.
+    QImage readSmall(int longestSide);
 
 private:
     QImageReader reader;

@@ -113,3 +113,21 @@ TEST_F(PictureCopies, WhatIsNoPictureHasNoImage)
     EXPECT_TRUE(PictureCopy("no/such.jpg").image().isNull());
     EXPECT_TRUE(PictureCopy("no/such.jpg").file().isEmpty());
 }
+
+TEST_F(PictureCopies, APictureIsReadSmallWithoutLosingItsUprightSize)
+{
+    for (const char orientation : {1, 6}) {
+        PictureFile picture(file(jpegWithOrientation(orientation)));
+        const bool isTurned = orientation == 6;
+        EXPECT_EQ(picture.uprightSize(), isTurned ? QSize(40, 80) : QSize(80, 40));
+        EXPECT_EQ(picture.readSmall(20).size(), isTurned ? QSize(10, 20) : QSize(20, 10));
+    }
+}
+
+TEST_F(PictureCopies, APictureThatIsSmallAlreadyStaysAsItIs)
+{
+    EXPECT_EQ(PictureFile(file(jpegWithOrientation(1))).readSmall(100).size(), QSize(80, 40));
+    PictureFile none(file("no picture"));
+    EXPECT_TRUE(none.uprightSize().isEmpty());
+    EXPECT_TRUE(none.readSmall(100).isNull());
+}
