@@ -2,6 +2,237 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Hints</name>
+    <message>
+        <source>The pen says only one of these texts, at random</source>
+        <translation>Der Stift sagt nur einen dieser Texte, durch Zufall</translation>
+    </message>
+    <message>
+        <source>Say one after the other</source>
+        <translation>Einen nach dem anderen sagen</translation>
+    </message>
+    <message>
+        <source>The saved project has one percent sign less here</source>
+        <translation>Im gespeicherten Projekt steht hier ein Prozentzeichen weniger</translation>
+    </message>
+    <message>
+        <source>Write one percent sign</source>
+        <translation>Ein Prozentzeichen schreiben</translation>
+    </message>
+    <message>
+        <source>This text shares its audio file with &quot;%1&quot; in line %2, and the pen says that one here, too</source>
+        <translation>Dieser Text teilt seine Audiodatei mit „%1“ in Zeile %2, und der Stift sagt auch hier jenen</translation>
+    </message>
+    <message>
+        <source>This text is too long: the name of its audio file has %1 characters, and 251 are the most</source>
+        <translation>Dieser Text ist zu lang: Der Name seiner Audiodatei hat %1 Zeichen, höchstens 251 sind möglich</translation>
+    </message>
+    <message>
+        <source>When this is neither 0 nor 1, the pen does neither what stands behind if nor what stands behind else</source>
+        <translation>Ist dies weder 0 noch 1, tut der Stift weder, was hinter if, noch, was hinter else steht</translation>
+    </message>
+    <message>
+        <source>Compare with 0</source>
+        <translation>Mit 0 vergleichen</translation>
+    </message>
+    <message>
+        <source>&amp; and | bind tighter than comparisons: each comparison needs parentheses of its own</source>
+        <translation>&amp; und | binden stärker als Vergleiche: Jeder Vergleich braucht eigene Klammern</translation>
+    </message>
+    <message>
+        <source>Put each comparison into parentheses</source>
+        <translation>Jeden Vergleich in Klammern setzen</translation>
+    </message>
+    <message>
+        <source>What falls below 0 here goes on down from 65535, so the comparison takes it for large</source>
+        <translation>Was hier unter 0 fällt, geht von 65535 an abwärts weiter; der Vergleich hält es für groß</translation>
+    </message>
+    <message>
+        <source>Add on the other side</source>
+        <translation>Auf der anderen Seite addieren</translation>
+    </message>
+    <message>
+        <source>%1 is above 65535 and becomes %2</source>
+        <translation>%1 liegt über 65535 und wird zu %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is set here, but &apos;%2&apos; is read: names are read in small letters, and these are two variables</source>
+        <translation>„%1“ wird hier gesetzt, aber „%2“ wird gelesen: Namen werden in Kleinbuchstaben gelesen, und dies sind zwei Variablen</translation>
+    </message>
+    <message>
+        <source>Write it in small letters</source>
+        <translation>In Kleinbuchstaben schreiben</translation>
+    </message>
+    <message>
+        <source>The variable &apos;%1&apos; is set but never read</source>
+        <translation>Die Variable „%1“ wird gesetzt, aber nie gelesen</translation>
+    </message>
+    <message>
+        <source>The variable &apos;%1&apos; is read but never set, so it is always 0</source>
+        <translation>Die Variable „%1“ wird gelesen, aber nie gesetzt, ist also immer 0</translation>
+    </message>
+    <message>
+        <source>No game can be built with a variable named &apos;%1&apos;: letters, digits and underscores are possible, but no digit first</source>
+        <translation>Mit einer Variablen namens „%1“ lässt sich kein Spiel bauen: Möglich sind Buchstaben, Ziffern und Unterstriche, aber keine Ziffer am Anfang</translation>
+    </message>
+    <message>
+        <source>The compiler uses the name &apos;%1&apos; itself; one of the two would be lost</source>
+        <translation>Den Namen „%1“ benutzt der Compiler selbst; eines von beiden ginge verloren</translation>
+    </message>
+    <message>
+        <source>No game can be built with a goto to &apos;%1&apos;: letters, digits and underscores are possible, but no digit first</source>
+        <translation>Mit einem goto zu „%1“ lässt sich kein Spiel bauen: Möglich sind Buchstaben, Ziffern und Unterstriche, aber keine Ziffer am Anfang</translation>
+    </message>
+    <message>
+        <source>This stands outside of every sub and is never carried out</source>
+        <translation>Dies steht außerhalb jedes sub und wird nie ausgeführt</translation>
+    </message>
+    <message>
+        <source>The sub &apos;%1&apos; has no end, so no game can be built</source>
+        <translation>Dem sub „%1“ fehlt das Ende, so lässt sich kein Spiel bauen</translation>
+    </message>
+    <message>
+        <source>End it behind its last line</source>
+        <translation>Hinter seiner letzten Zeile beenden</translation>
+    </message>
+    <message>
+        <source>The pen never comes to this: it stands behind a goto</source>
+        <translation>Hierher kommt der Stift nie: Es steht hinter einem goto</translation>
+    </message>
+    <message>
+        <source>This belongs to the select in line %1, which has ended, and not to the one in line %2</source>
+        <translation>Dies gehört zum select in Zeile %1, das schon beendet ist, und nicht zu dem in Zeile %2</translation>
+    </message>
+    <message>
+        <source>The pen goes round for ever and says nothing: %1</source>
+        <translation>Der Stift läuft endlos im Kreis und sagt nichts: %1</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: no game can be built with this name</source>
+        <translation>Bereich „%1“ auf Seite %2: Mit diesem Namen lässt sich kein Spiel bauen</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the game reads this name as &apos;%3&apos;</source>
+        <translation>Bereich „%1“ auf Seite %2: Das Spiel liest diesen Namen als „%3“</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: no game can be built with a sub whose name is a number</source>
+        <translation>Bereich „%1“ auf Seite %2: Mit einem sub, dessen Name eine Zahl ist, lässt sich kein Spiel bauen</translation>
+    </message>
+    <message>
+        <source>Give it a free number</source>
+        <translation>Eine freie Nummer geben</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: there is no dot pattern for the number %3, so nothing is printed</source>
+        <translation>Bereich „%1“ auf Seite %2: Für die Nummer %3 gibt es kein Punktmuster, also wird nichts gedruckt</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the number %3 is below 1000, where the pen looks for books and its own signs</source>
+        <translation>Bereich „%1“ auf Seite %2: Die Nummer %3 liegt unter 1000, wo der Stift nach Büchern und eigenen Zeichen sucht</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the number %3 is above 14999 and the pen does not know it</source>
+        <translation>Bereich „%1“ auf Seite %2: Die Nummer %3 liegt über 14999, und der Stift kennt sie nicht</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the area &apos;%4&apos; has the number %3, too; the pen takes both for one</source>
+        <translation>Bereich „%1“ auf Seite %2: Auch der Bereich „%4“ hat die Nummer %3; der Stift hält beide für einen</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: in the last build &apos;%4&apos; had the number %3; the next build gives it another one</source>
+        <translation>Bereich „%1“ auf Seite %2: Beim letzten Bau hatte „%4“ die Nummer %3; der nächste gibt ihm eine andere</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: %3 % of it are black in the picture, where the pen sees no dots; 30 % are the most</source>
+        <translation>Bereich „%1“ auf Seite %2: %3 % davon sind im Bild schwarz, wo der Stift keine Punkte sieht; 30 % sind das Höchste</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2 has fewer than three corners, so nothing is printed</source>
+        <translation>Bereich „%1“ auf Seite %2 hat weniger als drei Ecken, also wird nichts gedruckt</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: its edges cross, and what is enclosed twice is left out</source>
+        <translation>Bereich „%1“ auf Seite %2: Seine Kanten kreuzen sich, und was doppelt umschlossen ist, bleibt frei</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: %3 % of it lie outside of the picture</source>
+        <translation>Bereich „%1“ auf Seite %2: %3 % davon liegen außerhalb des Bildes</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2 lies wholly below areas that come before it, so the pen never finds it</source>
+        <translation>Bereich „%1“ auf Seite %2 liegt ganz unter Bereichen, die vor ihm kommen, also findet der Stift ihn nie</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2 is %3 mm wide on paper where it is widest; the pen needs 8 mm</source>
+        <translation>Bereich „%1“ auf Seite %2 ist an seiner breitesten Stelle auf dem Papier %3 mm breit; der Stift braucht 8 mm</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the picture is too dark there for black dots, its lightness is %3 %; 35 % are needed</source>
+        <translation>Bereich „%1“ auf Seite %2: Das Bild ist dort zu dunkel für schwarze Punkte, seine Helligkeit ist %3 %; nötig sind 35 %</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the script has no sub of this name, so a touch does nothing</source>
+        <translation>Bereich „%1“ auf Seite %2: Das Skript hat kein sub dieses Namens, also tut eine Berührung nichts</translation>
+    </message>
+    <message>
+        <source>No area and no goto leads to the sub &apos;%1&apos;, so it is never carried out</source>
+        <translation>Kein Bereich und kein goto führt zum sub „%1“, also wird es nie ausgeführt</translation>
+    </message>
+    <message>
+        <source>The script has %1 steps; %2 are the most that a game can have</source>
+        <translation>Das Skript hat %1 Schritte; %2 sind das Höchste, was ein Spiel haben kann</translation>
+    </message>
+    <message>
+        <source>The name of the product cannot have these characters: %1</source>
+        <translation>Der Name des Produkts kann diese Zeichen nicht haben: %1</translation>
+    </message>
+    <message>
+        <source>The name of the product has %1 characters; no game can be built with more than 49</source>
+        <translation>Der Name des Produkts hat %1 Zeichen; mit mehr als 49 lässt sich kein Spiel bauen</translation>
+    </message>
+    <message>
+        <source>The game file cannot hold these characters of the product&apos;s name: %1</source>
+        <translation>Die Spieldatei kann diese Zeichen aus dem Namen des Produkts nicht aufnehmen: %1</translation>
+    </message>
+    <message>
+        <source>Other books in this folder have the number %1, too, and the same picture files: %2</source>
+        <translation>Auch andere Bücher in diesem Ordner haben die Nummer %1 und dieselben Bilddateien: %2</translation>
+    </message>
+    <message>
+        <source>The number of the product is %1; books made at home have 900 to 950, others may be those of a bought book</source>
+        <translation>Die Nummer des Produkts ist %1; selbst gemachte Bücher haben 900 bis 950, andere kann ein gekauftes Buch haben</translation>
+    </message>
+    <message>
+        <source>No area has the product&apos;s number %1: nothing on the pages starts the book, so a page of symbols has to</source>
+        <translation>Kein Bereich hat die Nummer des Produkts, %1: Nichts auf den Seiten startet das Buch, ein Blatt mit Zeichen muss es tun</translation>
+    </message>
+    <message>
+        <source>The script has %1 steps of the %2 that a game can have</source>
+        <translation>Das Skript hat %1 der %2 Schritte, die ein Spiel haben kann</translation>
+    </message>
+    <message>
+        <source>Page %1 has no areas; other programs that save the project lose it</source>
+        <translation>Seite %1 hat keine Bereiche; andere Programme, die das Projekt speichern, verlieren sie</translation>
+    </message>
+    <message>
+        <source>Page %1: on its paper the picture has %2 dpi; below 150 its pixels can be seen</source>
+        <translation>Seite %1: Auf seinem Papier hat das Bild %2 dpi; unter 150 sieht man seine Bildpunkte</translation>
+    </message>
+    <message>
+        <source>Print it with 1200 dpi</source>
+        <translation>Mit 1200 dpi drucken</translation>
+    </message>
+    <message>
+        <source>Page %1: with %2 dpi the dots are not printed evenly; 600 dpi or twice, four times as much is right</source>
+        <translation>Seite %1: Mit %2 dpi werden die Punkte nicht gleichmäßig gedruckt; richtig sind 600 dpi oder das Doppelte, Vierfache</translation>
+    </message>
+    <message>
+        <source>Page %1: picture and paper have other proportions, so %2 mm of the paper stay blank</source>
+        <translation>Seite %1: Bild und Papier haben andere Seitenverhältnisse, also bleiben %2 mm des Papiers leer</translation>
+    </message>
+</context>
+<context>
     <name>KVQtFindDialog</name>
     <message>
         <source>&amp;Find</source>

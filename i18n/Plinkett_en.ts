@@ -2,6 +2,237 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>Hints</name>
+    <message>
+        <source>The pen says only one of these texts, at random</source>
+        <translation>The pen says only one of these texts, at random</translation>
+    </message>
+    <message>
+        <source>Say one after the other</source>
+        <translation>Say one after the other</translation>
+    </message>
+    <message>
+        <source>The saved project has one percent sign less here</source>
+        <translation>The saved project has one percent sign less here</translation>
+    </message>
+    <message>
+        <source>Write one percent sign</source>
+        <translation>Write one percent sign</translation>
+    </message>
+    <message>
+        <source>This text shares its audio file with &quot;%1&quot; in line %2, and the pen says that one here, too</source>
+        <translation>This text shares its audio file with &quot;%1&quot; in line %2, and the pen says that one here, too</translation>
+    </message>
+    <message>
+        <source>This text is too long: the name of its audio file has %1 characters, and 251 are the most</source>
+        <translation>This text is too long: the name of its audio file has %1 characters, and 251 are the most</translation>
+    </message>
+    <message>
+        <source>When this is neither 0 nor 1, the pen does neither what stands behind if nor what stands behind else</source>
+        <translation>When this is neither 0 nor 1, the pen does neither what stands behind if nor what stands behind else</translation>
+    </message>
+    <message>
+        <source>Compare with 0</source>
+        <translation>Compare with 0</translation>
+    </message>
+    <message>
+        <source>&amp; and | bind tighter than comparisons: each comparison needs parentheses of its own</source>
+        <translation>&amp; and | bind tighter than comparisons: each comparison needs parentheses of its own</translation>
+    </message>
+    <message>
+        <source>Put each comparison into parentheses</source>
+        <translation>Put each comparison into parentheses</translation>
+    </message>
+    <message>
+        <source>What falls below 0 here goes on down from 65535, so the comparison takes it for large</source>
+        <translation>What falls below 0 here goes on down from 65535, so the comparison takes it for large</translation>
+    </message>
+    <message>
+        <source>Add on the other side</source>
+        <translation>Add on the other side</translation>
+    </message>
+    <message>
+        <source>%1 is above 65535 and becomes %2</source>
+        <translation>%1 is above 65535 and becomes %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is set here, but &apos;%2&apos; is read: names are read in small letters, and these are two variables</source>
+        <translation>&apos;%1&apos; is set here, but &apos;%2&apos; is read: names are read in small letters, and these are two variables</translation>
+    </message>
+    <message>
+        <source>Write it in small letters</source>
+        <translation>Write it in small letters</translation>
+    </message>
+    <message>
+        <source>The variable &apos;%1&apos; is set but never read</source>
+        <translation>The variable &apos;%1&apos; is set but never read</translation>
+    </message>
+    <message>
+        <source>The variable &apos;%1&apos; is read but never set, so it is always 0</source>
+        <translation>The variable &apos;%1&apos; is read but never set, so it is always 0</translation>
+    </message>
+    <message>
+        <source>No game can be built with a variable named &apos;%1&apos;: letters, digits and underscores are possible, but no digit first</source>
+        <translation>No game can be built with a variable named &apos;%1&apos;: letters, digits and underscores are possible, but no digit first</translation>
+    </message>
+    <message>
+        <source>The compiler uses the name &apos;%1&apos; itself; one of the two would be lost</source>
+        <translation>The compiler uses the name &apos;%1&apos; itself; one of the two would be lost</translation>
+    </message>
+    <message>
+        <source>No game can be built with a goto to &apos;%1&apos;: letters, digits and underscores are possible, but no digit first</source>
+        <translation>No game can be built with a goto to &apos;%1&apos;: letters, digits and underscores are possible, but no digit first</translation>
+    </message>
+    <message>
+        <source>This stands outside of every sub and is never carried out</source>
+        <translation>This stands outside of every sub and is never carried out</translation>
+    </message>
+    <message>
+        <source>The sub &apos;%1&apos; has no end, so no game can be built</source>
+        <translation>The sub &apos;%1&apos; has no end, so no game can be built</translation>
+    </message>
+    <message>
+        <source>End it behind its last line</source>
+        <translation>End it behind its last line</translation>
+    </message>
+    <message>
+        <source>The pen never comes to this: it stands behind a goto</source>
+        <translation>The pen never comes to this: it stands behind a goto</translation>
+    </message>
+    <message>
+        <source>This belongs to the select in line %1, which has ended, and not to the one in line %2</source>
+        <translation>This belongs to the select in line %1, which has ended, and not to the one in line %2</translation>
+    </message>
+    <message>
+        <source>The pen goes round for ever and says nothing: %1</source>
+        <translation>The pen goes round for ever and says nothing: %1</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: no game can be built with this name</source>
+        <translation>Area &apos;%1&apos; on page %2: no game can be built with this name</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the game reads this name as &apos;%3&apos;</source>
+        <translation>Area &apos;%1&apos; on page %2: the game reads this name as &apos;%3&apos;</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: no game can be built with a sub whose name is a number</source>
+        <translation>Area &apos;%1&apos; on page %2: no game can be built with a sub whose name is a number</translation>
+    </message>
+    <message>
+        <source>Give it a free number</source>
+        <translation>Give it a free number</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: there is no dot pattern for the number %3, so nothing is printed</source>
+        <translation>Area &apos;%1&apos; on page %2: there is no dot pattern for the number %3, so nothing is printed</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the number %3 is below 1000, where the pen looks for books and its own signs</source>
+        <translation>Area &apos;%1&apos; on page %2: the number %3 is below 1000, where the pen looks for books and its own signs</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the number %3 is above 14999 and the pen does not know it</source>
+        <translation>Area &apos;%1&apos; on page %2: the number %3 is above 14999 and the pen does not know it</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the area &apos;%4&apos; has the number %3, too; the pen takes both for one</source>
+        <translation>Area &apos;%1&apos; on page %2: the area &apos;%4&apos; has the number %3, too; the pen takes both for one</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: in the last build &apos;%4&apos; had the number %3; the next build gives it another one</source>
+        <translation>Area &apos;%1&apos; on page %2: in the last build &apos;%4&apos; had the number %3; the next build gives it another one</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: %3 % of it are black in the picture, where the pen sees no dots; 30 % are the most</source>
+        <translation>Area &apos;%1&apos; on page %2: %3 % of it are black in the picture, where the pen sees no dots; 30 % are the most</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2 has fewer than three corners, so nothing is printed</source>
+        <translation>Area &apos;%1&apos; on page %2 has fewer than three corners, so nothing is printed</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: its edges cross, and what is enclosed twice is left out</source>
+        <translation>Area &apos;%1&apos; on page %2: its edges cross, and what is enclosed twice is left out</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: %3 % of it lie outside of the picture</source>
+        <translation>Area &apos;%1&apos; on page %2: %3 % of it lie outside of the picture</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2 lies wholly below areas that come before it, so the pen never finds it</source>
+        <translation>Area &apos;%1&apos; on page %2 lies wholly below areas that come before it, so the pen never finds it</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2 is %3 mm wide on paper where it is widest; the pen needs 8 mm</source>
+        <translation>Area &apos;%1&apos; on page %2 is %3 mm wide on paper where it is widest; the pen needs 8 mm</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the picture is too dark there for black dots, its lightness is %3 %; 35 % are needed</source>
+        <translation>Area &apos;%1&apos; on page %2: the picture is too dark there for black dots, its lightness is %3 %; 35 % are needed</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the script has no sub of this name, so a touch does nothing</source>
+        <translation>Area &apos;%1&apos; on page %2: the script has no sub of this name, so a touch does nothing</translation>
+    </message>
+    <message>
+        <source>No area and no goto leads to the sub &apos;%1&apos;, so it is never carried out</source>
+        <translation>No area and no goto leads to the sub &apos;%1&apos;, so it is never carried out</translation>
+    </message>
+    <message>
+        <source>The script has %1 steps; %2 are the most that a game can have</source>
+        <translation>The script has %1 steps; %2 are the most that a game can have</translation>
+    </message>
+    <message>
+        <source>The name of the product cannot have these characters: %1</source>
+        <translation>The name of the product cannot have these characters: %1</translation>
+    </message>
+    <message>
+        <source>The name of the product has %1 characters; no game can be built with more than 49</source>
+        <translation>The name of the product has %1 characters; no game can be built with more than 49</translation>
+    </message>
+    <message>
+        <source>The game file cannot hold these characters of the product&apos;s name: %1</source>
+        <translation>The game file cannot hold these characters of the product&apos;s name: %1</translation>
+    </message>
+    <message>
+        <source>Other books in this folder have the number %1, too, and the same picture files: %2</source>
+        <translation>Other books in this folder have the number %1, too, and the same picture files: %2</translation>
+    </message>
+    <message>
+        <source>The number of the product is %1; books made at home have 900 to 950, others may be those of a bought book</source>
+        <translation>The number of the product is %1; books made at home have 900 to 950, others may be those of a bought book</translation>
+    </message>
+    <message>
+        <source>No area has the product&apos;s number %1: nothing on the pages starts the book, so a page of symbols has to</source>
+        <translation>No area has the product&apos;s number %1: nothing on the pages starts the book, so a page of symbols has to</translation>
+    </message>
+    <message>
+        <source>The script has %1 steps of the %2 that a game can have</source>
+        <translation>The script has %1 steps of the %2 that a game can have</translation>
+    </message>
+    <message>
+        <source>Page %1 has no areas; other programs that save the project lose it</source>
+        <translation>Page %1 has no areas; other programs that save the project lose it</translation>
+    </message>
+    <message>
+        <source>Page %1: on its paper the picture has %2 dpi; below 150 its pixels can be seen</source>
+        <translation>Page %1: on its paper the picture has %2 dpi; below 150 its pixels can be seen</translation>
+    </message>
+    <message>
+        <source>Print it with 1200 dpi</source>
+        <translation>Print it with 1200 dpi</translation>
+    </message>
+    <message>
+        <source>Page %1: with %2 dpi the dots are not printed evenly; 600 dpi or twice, four times as much is right</source>
+        <translation>Page %1: with %2 dpi the dots are not printed evenly; 600 dpi or twice, four times as much is right</translation>
+    </message>
+    <message>
+        <source>Page %1: picture and paper have other proportions, so %2 mm of the paper stay blank</source>
+        <translation>Page %1: picture and paper have other proportions, so %2 mm of the paper stay blank</translation>
+    </message>
+</context>
+<context>
     <name>KVQtFindDialog</name>
     <message>
         <source>&amp;Find</source>

@@ -2,6 +2,237 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>Hints</name>
+    <message>
+        <source>The pen says only one of these texts, at random</source>
+        <translation>Le stylo ne dit qu&apos;un de ces textes, au hasard</translation>
+    </message>
+    <message>
+        <source>Say one after the other</source>
+        <translation>Les dire l&apos;un après l&apos;autre</translation>
+    </message>
+    <message>
+        <source>The saved project has one percent sign less here</source>
+        <translation>Le projet enregistré a ici un signe pour cent de moins</translation>
+    </message>
+    <message>
+        <source>Write one percent sign</source>
+        <translation>Écrire un seul signe pour cent</translation>
+    </message>
+    <message>
+        <source>This text shares its audio file with &quot;%1&quot; in line %2, and the pen says that one here, too</source>
+        <translation>Ce texte partage son fichier audio avec « %1 » de la ligne %2, et le stylo dit ici aussi celui-là</translation>
+    </message>
+    <message>
+        <source>This text is too long: the name of its audio file has %1 characters, and 251 are the most</source>
+        <translation>Ce texte est trop long : le nom de son fichier audio a %1 caractères, 251 au plus sont possibles</translation>
+    </message>
+    <message>
+        <source>When this is neither 0 nor 1, the pen does neither what stands behind if nor what stands behind else</source>
+        <translation>Si ce n&apos;est ni 0 ni 1, le stylo ne fait ni ce qui suit if ni ce qui suit else</translation>
+    </message>
+    <message>
+        <source>Compare with 0</source>
+        <translation>Comparer à 0</translation>
+    </message>
+    <message>
+        <source>&amp; and | bind tighter than comparisons: each comparison needs parentheses of its own</source>
+        <translation>&amp; et | lient plus fort que les comparaisons : chaque comparaison a besoin de ses parenthèses</translation>
+    </message>
+    <message>
+        <source>Put each comparison into parentheses</source>
+        <translation>Mettre chaque comparaison entre parenthèses</translation>
+    </message>
+    <message>
+        <source>What falls below 0 here goes on down from 65535, so the comparison takes it for large</source>
+        <translation>Ce qui tombe ici au-dessous de 0 continue à partir de 65535 ; la comparaison le croit grand</translation>
+    </message>
+    <message>
+        <source>Add on the other side</source>
+        <translation>Ajouter de l&apos;autre côté</translation>
+    </message>
+    <message>
+        <source>%1 is above 65535 and becomes %2</source>
+        <translation>%1 dépasse 65535 et devient %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is set here, but &apos;%2&apos; is read: names are read in small letters, and these are two variables</source>
+        <translation>« %1 » est affecté ici, mais « %2 » est lu : les noms sont lus en minuscules, et ce sont deux variables</translation>
+    </message>
+    <message>
+        <source>Write it in small letters</source>
+        <translation>L&apos;écrire en minuscules</translation>
+    </message>
+    <message>
+        <source>The variable &apos;%1&apos; is set but never read</source>
+        <translation>La variable « %1 » est affectée mais jamais lue</translation>
+    </message>
+    <message>
+        <source>The variable &apos;%1&apos; is read but never set, so it is always 0</source>
+        <translation>La variable « %1 » est lue mais jamais affectée, elle vaut donc toujours 0</translation>
+    </message>
+    <message>
+        <source>No game can be built with a variable named &apos;%1&apos;: letters, digits and underscores are possible, but no digit first</source>
+        <translation>Aucun jeu ne peut être construit avec une variable nommée « %1 » : lettres, chiffres et traits de soulignement sont possibles, mais pas de chiffre au début</translation>
+    </message>
+    <message>
+        <source>The compiler uses the name &apos;%1&apos; itself; one of the two would be lost</source>
+        <translation>Le compilateur utilise lui-même le nom « %1 » ; l&apos;un des deux serait perdu</translation>
+    </message>
+    <message>
+        <source>No game can be built with a goto to &apos;%1&apos;: letters, digits and underscores are possible, but no digit first</source>
+        <translation>Aucun jeu ne peut être construit avec un goto vers « %1 » : lettres, chiffres et traits de soulignement sont possibles, mais pas de chiffre au début</translation>
+    </message>
+    <message>
+        <source>This stands outside of every sub and is never carried out</source>
+        <translation>Ceci est en dehors de tout sub et n&apos;est jamais exécuté</translation>
+    </message>
+    <message>
+        <source>The sub &apos;%1&apos; has no end, so no game can be built</source>
+        <translation>Le sub « %1 » n&apos;a pas de fin, aucun jeu ne peut donc être construit</translation>
+    </message>
+    <message>
+        <source>End it behind its last line</source>
+        <translation>Le terminer après sa dernière ligne</translation>
+    </message>
+    <message>
+        <source>The pen never comes to this: it stands behind a goto</source>
+        <translation>Le stylo n&apos;arrive jamais ici : c&apos;est derrière un goto</translation>
+    </message>
+    <message>
+        <source>This belongs to the select in line %1, which has ended, and not to the one in line %2</source>
+        <translation>Ceci appartient au select de la ligne %1, déjà terminé, et non à celui de la ligne %2</translation>
+    </message>
+    <message>
+        <source>The pen goes round for ever and says nothing: %1</source>
+        <translation>Le stylo tourne en rond sans fin et ne dit rien : %1</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: no game can be built with this name</source>
+        <translation>Zone « %1 » de la page %2 : aucun jeu ne peut être construit avec ce nom</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the game reads this name as &apos;%3&apos;</source>
+        <translation>Zone « %1 » de la page %2 : le jeu lit ce nom comme « %3 »</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: no game can be built with a sub whose name is a number</source>
+        <translation>Zone « %1 » de la page %2 : aucun jeu ne peut être construit avec un sub dont le nom est un nombre</translation>
+    </message>
+    <message>
+        <source>Give it a free number</source>
+        <translation>Lui donner un numéro libre</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: there is no dot pattern for the number %3, so nothing is printed</source>
+        <translation>Zone « %1 » de la page %2 : il n&apos;y a pas de trame de points pour le numéro %3, rien n&apos;est donc imprimé</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the number %3 is below 1000, where the pen looks for books and its own signs</source>
+        <translation>Zone « %1 » de la page %2 : le numéro %3 est inférieur à 1000, où le stylo cherche des livres et ses propres signes</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the number %3 is above 14999 and the pen does not know it</source>
+        <translation>Zone « %1 » de la page %2 : le numéro %3 dépasse 14999 et le stylo ne le connaît pas</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the area &apos;%4&apos; has the number %3, too; the pen takes both for one</source>
+        <translation>Zone « %1 » de la page %2 : la zone « %4 » a aussi le numéro %3 ; le stylo les prend pour une seule</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: in the last build &apos;%4&apos; had the number %3; the next build gives it another one</source>
+        <translation>Zone « %1 » de la page %2 : à la dernière construction, « %4 » avait le numéro %3 ; la prochaine lui en donne un autre</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: %3 % of it are black in the picture, where the pen sees no dots; 30 % are the most</source>
+        <translation>Zone « %1 » de la page %2 : %3 % sont noirs dans l&apos;image, où le stylo ne voit pas de points ; 30 % sont le maximum</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2 has fewer than three corners, so nothing is printed</source>
+        <translation>Zone « %1 » de la page %2 a moins de trois sommets, rien n&apos;est donc imprimé</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: its edges cross, and what is enclosed twice is left out</source>
+        <translation>Zone « %1 » de la page %2 : ses bords se croisent, et ce qui est entouré deux fois reste vide</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: %3 % of it lie outside of the picture</source>
+        <translation>Zone « %1 » de la page %2 : %3 % se trouvent en dehors de l&apos;image</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2 lies wholly below areas that come before it, so the pen never finds it</source>
+        <translation>Zone « %1 » de la page %2 est entièrement sous des zones qui la précèdent, le stylo ne la trouve donc jamais</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2 is %3 mm wide on paper where it is widest; the pen needs 8 mm</source>
+        <translation>Zone « %1 » de la page %2 a %3 mm de large sur papier à son endroit le plus large ; le stylo a besoin de 8 mm</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the picture is too dark there for black dots, its lightness is %3 %; 35 % are needed</source>
+        <translation>Zone « %1 » de la page %2 : l&apos;image y est trop sombre pour des points noirs, sa clarté est de %3 % ; il en faut 35 %</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the script has no sub of this name, so a touch does nothing</source>
+        <translation>Zone « %1 » de la page %2 : le script n&apos;a pas de sub de ce nom, un toucher ne fait donc rien</translation>
+    </message>
+    <message>
+        <source>No area and no goto leads to the sub &apos;%1&apos;, so it is never carried out</source>
+        <translation>Aucune zone et aucun goto ne mène au sub « %1 », il n&apos;est donc jamais exécuté</translation>
+    </message>
+    <message>
+        <source>The script has %1 steps; %2 are the most that a game can have</source>
+        <translation>Le script a %1 pas ; un jeu peut en avoir %2 au plus</translation>
+    </message>
+    <message>
+        <source>The name of the product cannot have these characters: %1</source>
+        <translation>Le nom du produit ne peut pas avoir ces caractères : %1</translation>
+    </message>
+    <message>
+        <source>The name of the product has %1 characters; no game can be built with more than 49</source>
+        <translation>Le nom du produit a %1 caractères ; avec plus de 49, aucun jeu ne peut être construit</translation>
+    </message>
+    <message>
+        <source>The game file cannot hold these characters of the product&apos;s name: %1</source>
+        <translation>Le fichier de jeu ne peut pas contenir ces caractères du nom du produit : %1</translation>
+    </message>
+    <message>
+        <source>Other books in this folder have the number %1, too, and the same picture files: %2</source>
+        <translation>D&apos;autres livres de ce dossier ont aussi le numéro %1 et les mêmes fichiers d&apos;images : %2</translation>
+    </message>
+    <message>
+        <source>The number of the product is %1; books made at home have 900 to 950, others may be those of a bought book</source>
+        <translation>Le numéro du produit est %1 ; les livres faits maison ont 900 à 950, les autres peuvent être ceux d&apos;un livre acheté</translation>
+    </message>
+    <message>
+        <source>No area has the product&apos;s number %1: nothing on the pages starts the book, so a page of symbols has to</source>
+        <translation>Aucune zone n&apos;a le numéro du produit, %1 : rien sur les pages ne démarre le livre, une page de symboles doit le faire</translation>
+    </message>
+    <message>
+        <source>The script has %1 steps of the %2 that a game can have</source>
+        <translation>Le script a %1 des %2 pas qu&apos;un jeu peut avoir</translation>
+    </message>
+    <message>
+        <source>Page %1 has no areas; other programs that save the project lose it</source>
+        <translation>Page %1 n&apos;a pas de zones ; d&apos;autres programmes qui enregistrent le projet la perdent</translation>
+    </message>
+    <message>
+        <source>Page %1: on its paper the picture has %2 dpi; below 150 its pixels can be seen</source>
+        <translation>Page %1 : sur son papier, l&apos;image a %2 dpi ; au-dessous de 150, on voit ses pixels</translation>
+    </message>
+    <message>
+        <source>Print it with 1200 dpi</source>
+        <translation>L&apos;imprimer à 1200 dpi</translation>
+    </message>
+    <message>
+        <source>Page %1: with %2 dpi the dots are not printed evenly; 600 dpi or twice, four times as much is right</source>
+        <translation>Page %1 : à %2 dpi, les points ne sont pas imprimés régulièrement ; 600 dpi ou le double, le quadruple conviennent</translation>
+    </message>
+    <message>
+        <source>Page %1: picture and paper have other proportions, so %2 mm of the paper stay blank</source>
+        <translation>Page %1 : l&apos;image et le papier n&apos;ont pas les mêmes proportions, %2 mm du papier restent donc blancs</translation>
+    </message>
+</context>
+<context>
     <name>KVQtFindDialog</name>
     <message>
         <source>&amp;Find</source>

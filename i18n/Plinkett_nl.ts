@@ -2,6 +2,237 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
+    <name>Hints</name>
+    <message>
+        <source>The pen says only one of these texts, at random</source>
+        <translation>De pen zegt maar een van deze teksten, willekeurig</translation>
+    </message>
+    <message>
+        <source>Say one after the other</source>
+        <translation>De een na de ander zeggen</translation>
+    </message>
+    <message>
+        <source>The saved project has one percent sign less here</source>
+        <translation>In het opgeslagen project staat hier een procentteken minder</translation>
+    </message>
+    <message>
+        <source>Write one percent sign</source>
+        <translation>Eén procentteken schrijven</translation>
+    </message>
+    <message>
+        <source>This text shares its audio file with &quot;%1&quot; in line %2, and the pen says that one here, too</source>
+        <translation>Deze tekst deelt zijn audiobestand met “%1” in regel %2, en de pen zegt ook hier die tekst</translation>
+    </message>
+    <message>
+        <source>This text is too long: the name of its audio file has %1 characters, and 251 are the most</source>
+        <translation>Deze tekst is te lang: de naam van zijn audiobestand heeft %1 tekens, hoogstens 251 zijn mogelijk</translation>
+    </message>
+    <message>
+        <source>When this is neither 0 nor 1, the pen does neither what stands behind if nor what stands behind else</source>
+        <translation>Is dit noch 0 noch 1, dan doet de pen noch wat achter if noch wat achter else staat</translation>
+    </message>
+    <message>
+        <source>Compare with 0</source>
+        <translation>Met 0 vergelijken</translation>
+    </message>
+    <message>
+        <source>&amp; and | bind tighter than comparisons: each comparison needs parentheses of its own</source>
+        <translation>&amp; en | binden sterker dan vergelijkingen: elke vergelijking heeft eigen haakjes nodig</translation>
+    </message>
+    <message>
+        <source>Put each comparison into parentheses</source>
+        <translation>Elke vergelijking tussen haakjes zetten</translation>
+    </message>
+    <message>
+        <source>What falls below 0 here goes on down from 65535, so the comparison takes it for large</source>
+        <translation>Wat hier onder 0 komt, gaat vanaf 65535 omlaag verder; de vergelijking houdt het voor groot</translation>
+    </message>
+    <message>
+        <source>Add on the other side</source>
+        <translation>Aan de andere kant optellen</translation>
+    </message>
+    <message>
+        <source>%1 is above 65535 and becomes %2</source>
+        <translation>%1 is hoger dan 65535 en wordt %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is set here, but &apos;%2&apos; is read: names are read in small letters, and these are two variables</source>
+        <translation>‘%1’ wordt hier gezet, maar ‘%2’ wordt gelezen: namen worden in kleine letters gelezen, en dit zijn twee variabelen</translation>
+    </message>
+    <message>
+        <source>Write it in small letters</source>
+        <translation>In kleine letters schrijven</translation>
+    </message>
+    <message>
+        <source>The variable &apos;%1&apos; is set but never read</source>
+        <translation>De variabele ‘%1’ wordt gezet maar nooit gelezen</translation>
+    </message>
+    <message>
+        <source>The variable &apos;%1&apos; is read but never set, so it is always 0</source>
+        <translation>De variabele ‘%1’ wordt gelezen maar nooit gezet, dus is ze altijd 0</translation>
+    </message>
+    <message>
+        <source>No game can be built with a variable named &apos;%1&apos;: letters, digits and underscores are possible, but no digit first</source>
+        <translation>Met een variabele ‘%1’ kan geen spel gebouwd worden: letters, cijfers en onderstrepingstekens zijn mogelijk, maar geen cijfer vooraan</translation>
+    </message>
+    <message>
+        <source>The compiler uses the name &apos;%1&apos; itself; one of the two would be lost</source>
+        <translation>De compiler gebruikt de naam ‘%1’ zelf; een van beide zou verloren gaan</translation>
+    </message>
+    <message>
+        <source>No game can be built with a goto to &apos;%1&apos;: letters, digits and underscores are possible, but no digit first</source>
+        <translation>Met een goto naar ‘%1’ kan geen spel gebouwd worden: letters, cijfers en onderstrepingstekens zijn mogelijk, maar geen cijfer vooraan</translation>
+    </message>
+    <message>
+        <source>This stands outside of every sub and is never carried out</source>
+        <translation>Dit staat buiten elke sub en wordt nooit uitgevoerd</translation>
+    </message>
+    <message>
+        <source>The sub &apos;%1&apos; has no end, so no game can be built</source>
+        <translation>De sub ‘%1’ heeft geen einde, dus kan geen spel gebouwd worden</translation>
+    </message>
+    <message>
+        <source>End it behind its last line</source>
+        <translation>Achter de laatste regel beëindigen</translation>
+    </message>
+    <message>
+        <source>The pen never comes to this: it stands behind a goto</source>
+        <translation>Hier komt de pen nooit: het staat achter een goto</translation>
+    </message>
+    <message>
+        <source>This belongs to the select in line %1, which has ended, and not to the one in line %2</source>
+        <translation>Dit hoort bij de select in regel %1, die al beëindigd is, en niet bij die in regel %2</translation>
+    </message>
+    <message>
+        <source>The pen goes round for ever and says nothing: %1</source>
+        <translation>De pen loopt eindeloos in een kring en zegt niets: %1</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: no game can be built with this name</source>
+        <translation>Gebied ‘%1’ op pagina %2: met deze naam kan geen spel gebouwd worden</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the game reads this name as &apos;%3&apos;</source>
+        <translation>Gebied ‘%1’ op pagina %2: het spel leest deze naam als ‘%3’</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: no game can be built with a sub whose name is a number</source>
+        <translation>Gebied ‘%1’ op pagina %2: met een sub waarvan de naam een getal is, kan geen spel gebouwd worden</translation>
+    </message>
+    <message>
+        <source>Give it a free number</source>
+        <translation>Een vrij nummer geven</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: there is no dot pattern for the number %3, so nothing is printed</source>
+        <translation>Gebied ‘%1’ op pagina %2: voor het nummer %3 is er geen puntenpatroon, dus wordt er niets gedrukt</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the number %3 is below 1000, where the pen looks for books and its own signs</source>
+        <translation>Gebied ‘%1’ op pagina %2: het nummer %3 is lager dan 1000, waar de pen boeken en eigen tekens zoekt</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the number %3 is above 14999 and the pen does not know it</source>
+        <translation>Gebied ‘%1’ op pagina %2: het nummer %3 is hoger dan 14999 en de pen kent het niet</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the area &apos;%4&apos; has the number %3, too; the pen takes both for one</source>
+        <translation>Gebied ‘%1’ op pagina %2: ook het gebied ‘%4’ heeft nummer %3; de pen houdt beide voor één</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: in the last build &apos;%4&apos; had the number %3; the next build gives it another one</source>
+        <translation>Gebied ‘%1’ op pagina %2: bij de laatste bouw had ‘%4’ het nummer %3; de volgende geeft het een ander</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: %3 % of it are black in the picture, where the pen sees no dots; 30 % are the most</source>
+        <translation>Gebied ‘%1’ op pagina %2: %3 % ervan is zwart in de afbeelding, waar de pen geen punten ziet; 30 % is het hoogste</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2 has fewer than three corners, so nothing is printed</source>
+        <translation>Gebied ‘%1’ op pagina %2 heeft minder dan drie hoeken, dus wordt er niets gedrukt</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: its edges cross, and what is enclosed twice is left out</source>
+        <translation>Gebied ‘%1’ op pagina %2: de randen kruisen elkaar, en wat twee keer omsloten is, blijft leeg</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: %3 % of it lie outside of the picture</source>
+        <translation>Gebied ‘%1’ op pagina %2: %3 % ervan ligt buiten de afbeelding</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2 lies wholly below areas that come before it, so the pen never finds it</source>
+        <translation>Gebied ‘%1’ op pagina %2 ligt helemaal onder gebieden die ervoor komen, dus vindt de pen het nooit</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2 is %3 mm wide on paper where it is widest; the pen needs 8 mm</source>
+        <translation>Gebied ‘%1’ op pagina %2 is op de breedste plaats %3 mm breed op papier; de pen heeft 8 mm nodig</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the picture is too dark there for black dots, its lightness is %3 %; 35 % are needed</source>
+        <translation>Gebied ‘%1’ op pagina %2: de afbeelding is daar te donker voor zwarte punten, de lichtheid is %3 %; 35 % is nodig</translation>
+    </message>
+    <message>
+        <source>Area &apos;%1&apos; on page %2: the script has no sub of this name, so a touch does nothing</source>
+        <translation>Gebied ‘%1’ op pagina %2: het script heeft geen sub met deze naam, dus doet een aanraking niets</translation>
+    </message>
+    <message>
+        <source>No area and no goto leads to the sub &apos;%1&apos;, so it is never carried out</source>
+        <translation>Geen gebied en geen goto leidt naar de sub ‘%1’, dus wordt die nooit uitgevoerd</translation>
+    </message>
+    <message>
+        <source>The script has %1 steps; %2 are the most that a game can have</source>
+        <translation>Het script heeft %1 stappen; een spel kan er hoogstens %2 hebben</translation>
+    </message>
+    <message>
+        <source>The name of the product cannot have these characters: %1</source>
+        <translation>De naam van het product kan deze tekens niet hebben: %1</translation>
+    </message>
+    <message>
+        <source>The name of the product has %1 characters; no game can be built with more than 49</source>
+        <translation>De naam van het product heeft %1 tekens; met meer dan 49 kan geen spel gebouwd worden</translation>
+    </message>
+    <message>
+        <source>The game file cannot hold these characters of the product&apos;s name: %1</source>
+        <translation>Het spelbestand kan deze tekens uit de naam van het product niet bevatten: %1</translation>
+    </message>
+    <message>
+        <source>Other books in this folder have the number %1, too, and the same picture files: %2</source>
+        <translation>Ook andere boeken in deze map hebben het nummer %1 en dezelfde afbeeldingsbestanden: %2</translation>
+    </message>
+    <message>
+        <source>The number of the product is %1; books made at home have 900 to 950, others may be those of a bought book</source>
+        <translation>Het nummer van het product is %1; zelfgemaakte boeken hebben 900 tot 950, andere kunnen van een gekocht boek zijn</translation>
+    </message>
+    <message>
+        <source>No area has the product&apos;s number %1: nothing on the pages starts the book, so a page of symbols has to</source>
+        <translation>Geen gebied heeft het nummer van het product, %1: niets op de pagina&apos;s start het boek, een blad met tekens moet dat doen</translation>
+    </message>
+    <message>
+        <source>The script has %1 steps of the %2 that a game can have</source>
+        <translation>Het script heeft %1 van de %2 stappen die een spel kan hebben</translation>
+    </message>
+    <message>
+        <source>Page %1 has no areas; other programs that save the project lose it</source>
+        <translation>Pagina %1 heeft geen gebieden; andere programma&apos;s die het project opslaan, verliezen haar</translation>
+    </message>
+    <message>
+        <source>Page %1: on its paper the picture has %2 dpi; below 150 its pixels can be seen</source>
+        <translation>Pagina %1: op haar papier heeft de afbeelding %2 dpi; onder 150 zijn de beeldpunten te zien</translation>
+    </message>
+    <message>
+        <source>Print it with 1200 dpi</source>
+        <translation>Met 1200 dpi afdrukken</translation>
+    </message>
+    <message>
+        <source>Page %1: with %2 dpi the dots are not printed evenly; 600 dpi or twice, four times as much is right</source>
+        <translation>Pagina %1: met %2 dpi worden de punten niet gelijkmatig gedrukt; 600 dpi of het dubbele, viervoudige is goed</translation>
+    </message>
+    <message>
+        <source>Page %1: picture and paper have other proportions, so %2 mm of the paper stay blank</source>
+        <translation>Pagina %1: afbeelding en papier hebben andere verhoudingen, dus blijft %2 mm van het papier leeg</translation>
+    </message>
+</context>
+<context>
     <name>KVQtFindDialog</name>
     <message>
         <source>&amp;Find</source>

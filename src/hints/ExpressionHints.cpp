@@ -1,0 +1,267 @@
+// Conditions and values that are something else than they look like.
+#include <QtGlobal>
+
+#include "base/TextHelpers.h"
+#include "hints/HintLists.h"
+#include "hints/ScriptPlaces.h"
+#include "hints/Values.h"
+
+#include <algorithm>
+
+namespace hints {
+
+namespace {
+
+using Outline = ScriptOutline;
+using TokenKind = Outline::TokenKind;
+
+// Where the tokens stand, from the first to the last.
+Outline::Place placeOf(const Outline& script, int first, int last)
+{
+    return across(script.tokens[first].word.place, script.tokens[last].word.place);
+}
+
+TextEdit inserted(const Outline::Place& place, bool behind, const char* text)
+{
+    return {place.line, place.column + (behind ? place.length : 0), 0, text};
+}
+
+Fix comparedWithZero(const Outline::Expression& condition)
+{
+    const bool isOneWord = condition.tokenCount == 1;
+    TextEdits edits;
+    if (!isOneWord) {
+        edits.push_back(inserted(condition.place, false, "("));
+    }
+    edits.push_back(inserted(condition.place, true, isOneWord ? " != 0" : ") != 0"));
+    return {QT_TRANSLATE_NOOP("Hints", "Compare with 0"), edits};
+}
+
+void findOtherThan0And1(const Book& book, Report& report)
+{
+    const Outline& script = book.script;
+    const VariableValues variables(script);
+    for (const Outline::Expression& condition : script.expressions) {
+        if (script.statements[condition.statement].kind != StatementKind::ifBlock) {
+            continue;
+        }
+        const ExpressionTree tree(script, condition);
+        if (tree.isValid() && variables.ofNodes(tree)[tree.root()].canBeOtherThan0And1()) {
+            report.add(placeInScript(condition.place)).fix = comparedWithZero(condition);
+        }
+    }
+}
+
+// The tokens between two parentheses that belong together, or the whole expression, cut at each "&"
+// and "|": from the first to just before the end.
+struct Part
+{
+    int first;
+    int end;
+    bool hasComparison;
+};
+
+// Reads one level of parentheses from the token on and leaves it at the one that closes it.
+class LevelReader
+{
+public:
+    LevelReader(const Outline& outline, int endToken) : script(outline), end(endToken) {}
+
+    template <class Tell>
+    void read(int& token, Tell tell)
+    {
+        std::vector<Part> parts = {{token, token, false}};
+        for (; token < end; ++token) {
+            const Outline::Token& word = script.tokens[token];
+            if (word.kind == TokenKind::parenthesis && word.text == "(") {
+                read(++token, tell);
+            } else if (word.kind == TokenKind::parenthesis) {
+                break;
+            } else if (word.text == "&" || word.text == "|") {
+                parts.back().end = token;
+                parts.push_back({token + 1, token + 1, false});
+            } else if (isComparison(word.text)) {
+                parts.back().hasComparison = true;
+            }
+        }
+        parts.back().end = std::min(token, end);
+        tell(parts);
+    }
+
+private:
+    const Outline& script;
+    const int end;
+};
+
+void reportOrder(const Outline& script, const std::vector<Part>& parts, Report& report)
+{
+    TextEdits edits;
+    for (const Part& part : parts) {
+        if (part.hasComparison) {
+            const Outline::Place place = placeOf(script, part.first, part.end - 1);
+            edits.push_back(inserted(place, false, "("));
+            edits.push_back(inserted(place, true, ")"));
+        }
+    }
+    Finding& finding =
+        report.add(placeInScript(placeOf(script, parts.front().first, parts.back().end - 1)));
+    finding.fix = Fix{QT_TRANSLATE_NOOP("Hints", "Put each comparison into parentheses"), edits};
+}
+
+// Comparisons on both sides of "&" or "|", which binds tighter.
+void findOrder(const Book& book, Report& report)
+{
+    const Outline& script = book.script;
+    for (const Outline::Expression& expression : script.expressions) {
+        if (!ExpressionTree(script, expression).isValid()) {
+            continue;
+        }
+        int token = expression.firstToken;
+        LevelReader(script, token + expression.tokenCount)
+            .read(token, [&](const std::vector<Part>& parts) {
+                const auto comparisons = std::count_if(
+                    parts.begin(), parts.end(), [](const Part& p) { return p.hasComparison; });
+                if (comparisons > 1) {
+                    reportOrder(script, parts, report);
+                }
+            });
+    }
+}
+
+// Looks for differences below comparisons.
+class DifferenceSearch
+{
+public:
+    DifferenceSearch(const Book& wholeBook, Report& allFindings)
+        : script(wholeBook.script), report(allFindings), variables(wholeBook.script)
+    {}
+
+    void look(const Outline::Expression& expression)
+    {
+        const ExpressionTree tree(script, expression);
+        const std::vector<Values> values = variables.ofNodes(tree);
+        for (const ExpressionTree::Node& node : tree.nodes) {
+            if (node.isOperator() && isOrdering(script.tokens[node.token].text)) {
+                for (const int side : {node.left, node.right}) {
+                    if (canFallBelow0(tree, values, side)) {
+                        add(tree, node, tree.nodes[side]);
+                    }
+                }
+            }
+        }
+    }
+
+private:
+    bool canFallBelow0(const ExpressionTree& tree, const std::vector<Values>& values,
+                       int index) const
+    {
+        const ExpressionTree::Node& node = tree.nodes[index];
+        return node.isOperator() && script.tokens[node.token].text == "-" &&
+               values[node.left].smallest() < values[node.right].largest();
+    }
+
+    void add(const ExpressionTree& tree, const ExpressionTree::Node& comparison,
+             const ExpressionTree::Node& difference)
+    {
+        Finding& finding =
+            report.add(placeInScript(placeOf(script, difference.first, difference.last)));
+        if (areFiveWords(tree, comparison, difference)) {
+            finding.fix = Fix{QT_TRANSLATE_NOOP("Hints", "Add on the other side"),
+                              addedOnTheRight(comparison.first)};
+        }
+    }
+
+    // "x - 1 < 5" and its like.
+    bool areFiveWords(const ExpressionTree& tree, const ExpressionTree::Node& comparison,
+                      const ExpressionTree::Node& difference) const
+    {
+        return difference.token == comparison.first + 1 &&
+               comparison.token == comparison.first + 3 &&
+               comparison.last == comparison.first + 4 &&
+               &tree.nodes[comparison.left] == &difference;
+    }
+
+    // "x < 5 + 1"
+    TextEdits addedOnTheRight(int first) const
+    {
+        const Outline::Word& taken = script.tokens[first + 2].word;
+        const Outline::Place& left = script.tokens[first].word.place;
+        const int behindLeft = left.column + left.length;
+        const int behindTaken = taken.place.column + taken.place.length;
+        return {{left.line, behindLeft, behindTaken - behindLeft, ""},
+                inserted(script.tokens[first + 4].word.place, true,
+                         (" + " + std::string(taken.text)).c_str())};
+    }
+
+    const Outline& script;
+    Report& report;
+    const VariableValues variables;
+};
+
+void findBelow0(const Book& book, Report& report)
+{
+    DifferenceSearch search(book, report);
+    for (const Outline::Expression& expression : book.script.expressions) {
+        search.look(expression);
+    }
+}
+
+// What becomes of a number beyond the largest one; -1 for any other word.
+int remainderOf(std::string_view digits)
+{
+    constexpr int kEnd = ScriptLanguage::kLargestNumber + 1;
+    bool isLarge = false;
+    int value = 0;
+    for (const char digit : digits) {
+        if (digit < '0' || digit > '9') {
+            return -1;
+        }
+        value = value * 10 + (digit - '0');
+        isLarge = isLarge || value >= kEnd;
+        value %= kEnd;
+    }
+    return isLarge ? value : -1;
+}
+
+void tellIfLarge(const Outline::Word& number, Report& report)
+{
+    const int remainder = remainderOf(number.text);
+    if (remainder >= 0) {
+        report.add(placeInScript(number), {std::string(number.text), itostr(remainder)});
+    }
+}
+
+void findLargeNumbers(const Book& book, Report& report)
+{
+    for (const Outline::Token& token : book.script.tokens) {
+        tellIfLarge(token.word, report);
+    }
+    for (const Outline::Case& branch : book.script.cases) {
+        tellIfLarge(branch.number, report);
+    }
+}
+
+}  // namespace
+
+std::vector<Hint> expressionHints()
+{
+    return {
+        {"neither-0-nor-1",
+         QT_TRANSLATE_NOOP("Hints",
+                           "When this is neither 0 nor 1, the pen does neither what stands "
+                           "behind if nor what stands behind else"),
+         findOtherThan0And1},
+        {"comparison-order",
+         QT_TRANSLATE_NOOP("Hints", "& and | bind tighter than comparisons: each comparison needs "
+                                    "parentheses of its own"),
+         findOrder},
+        {"below-0",
+         QT_TRANSLATE_NOOP("Hints", "What falls below 0 here goes on down from 65535, so the "
+                                    "comparison takes it for large"),
+         findBelow0},
+        {"number-above-65535", QT_TRANSLATE_NOOP("Hints", "%1 is above 65535 and becomes %2"),
+         findLargeNumbers},
+    };
+}
+
+}  // namespace hints
