@@ -102,3 +102,145 @@ TEST(Check, TheSampleBookHasNoMistakes)
     EXPECT_EQ(resultOf(cli({"check", PLINKETT_SOURCE_DIR "/examples/farm/farm.oidpro"})),
               "status 0\n");
 }
+
+namespace {
+
+constexpr char kBookWithHints[] = "PRODUCT 900, \"Zoo\"\n"
+                                  "OID 900\nBOX start 70 70 10 10\n"
+                                  "OID 999\nBOX cow 1 1 50 50\n"
+                                  "SCRIPT\n"
+                                  "sub cow\n"
+                                  "say eve \"Moo\" \"Muh\"\n"
+                                  "end sub\n"
+                                  "sub cat\nend sub\n";
+
+constexpr char kWarnings[] = "!!! Warning: Used OID 'cat' in script, but not in the image\n"
+                             "!!! Warning: Used OID 'start' in image, but not in the script\n";
+
+constexpr char kHints[] =
+    "Hint: line 2: The pen says only one of these texts, at random [several-texts]\n"
+    "Hint: line 4: No area and no goto leads to the sub 'cat', so it is never carried out "
+    "[sub-without-area]\n"
+    "Hint: Area 'cow' on page 1: the number 999 is below 1000, where the pen looks for books and "
+    "its own signs [number-too-small]\n";
+
+}  // namespace
+
+TEST(Check, HintsAreNotTold)
+{
+    EXPECT_EQ(checked(kBookWithHints), std::string("status 0\n") + kWarnings);
+}
+
+TEST(Check, HintsFollowTheMessagesWhenTheyAreAskedFor)
+{
+    EXPECT_EQ(checked(kBookWithHints, {"--hints"}), std::string("status 0\n") + kWarnings + kHints);
+}
+
+TEST(Check, StrictlyHintsAreNotFine)
+{
+    EXPECT_EQ(checked(kBookWithHints, {"--strict"}),
+              std::string("status 1\n") + kWarnings + kHints);
+    EXPECT_EQ(
+        resultOf(cli({"check", "--strict", PLINKETT_SOURCE_DIR "/examples/farm/farm.oidpro"})),
+        "status 0\n");
+}
+
+TEST(Check, HintsAreThereForAScriptWithErrors)
+{
+    EXPECT_EQ(
+        checked("PRODUCT 900, \"Zoo\"\nSCRIPT\nsub cow\nfoo\nsay eve A B\n", {"--hints"}),
+        "status 1\n"
+        "!!! Error: Line 2 Failed to parse command: foo\n"
+        "!!! Error: Line 2 Syntax Error\n"
+        "Stopped build process.\n"
+        "Hint: line 1: The sub 'cow' has no end, so no game can be built [sub-without-end]\n"
+        "Hint: line 1: No area and no goto leads to the sub 'cow', so it is never carried out "
+        "[sub-without-area]\n"
+        "Hint: line 3: The pen says only one of these texts, at random [several-texts]\n");
+}
+
+TEST(Check, AsJsonMessagesAndHintsAreOneArray)
+{
+    EXPECT_EQ(checked("PRODUCT 900, \"Zoo\"\nDPI 300\nOID 900\nBOX start 1 1 50 50\n"
+                      "OID 0\nBOX cow 50 50 20 20\n"
+                      "SCRIPT\nsub cow\nfoo\nsay eve A B\nend sub\n",
+                      {"--json"}),
+              R"(status 1
+[
+    {
+        "area": 0,
+        "column": 1,
+        "file": "",
+        "fix": null,
+        "kind": "statement-unknown",
+        "length": 3,
+        "line": 2,
+        "page": 0,
+        "severity": "error",
+        "subject": "",
+        "text": "Failed to parse command: foo"
+    },
+    {
+        "area": 0,
+        "column": 1,
+        "file": "",
+        "fix": null,
+        "kind": "syntax",
+        "length": 3,
+        "line": 2,
+        "page": 0,
+        "severity": "error",
+        "subject": "",
+        "text": "Syntax Error"
+    },
+    {
+        "area": 0,
+        "column": 9,
+        "file": "",
+        "fix": {
+            "edits": [
+                {
+                    "column": 10,
+                    "length": 1,
+                    "line": 3,
+                    "text": "\nsay eve "
+                }
+            ],
+            "words": "Say one after the other"
+        },
+        "kind": "several-texts",
+        "length": 3,
+        "line": 3,
+        "page": 0,
+        "severity": "hint",
+        "subject": "",
+        "text": "The pen says only one of these texts, at random"
+    },
+    {
+        "area": 0,
+        "column": 0,
+        "file": "",
+        "fix": {
+            "dpi": 1200,
+            "page": 1,
+            "words": "Print it with 1200 dpi"
+        },
+        "kind": "print-resolution",
+        "length": 0,
+        "line": 0,
+        "page": 1,
+        "severity": "hint",
+        "subject": "",
+        "text": "Page 1: with 300 dpi the dots are not printed evenly; 600 dpi or twice, four times as much is right"
+    }
+]
+)");
+}
+
+TEST(Check, AsJsonThereIsAnArrayInAnyCase)
+{
+    EXPECT_EQ(checked("PRODUCT 900, \"Zoo\"\n", {"--json"}), "status 0\n[\n]\n");
+    const ProgramRun missing = cli({"check", "--json", "no/such.oidpro"});
+    EXPECT_EQ(missing.status, 1);
+    EXPECT_NE(missing.out.find("\"kind\": \"file-unreadable\""), std::string::npos);
+}

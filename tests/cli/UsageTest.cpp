@@ -21,9 +21,9 @@ TEST(Usage, HelpNamesEveryCommandOnStandardOutput)
     EXPECT_EQ(run.err, "");
     EXPECT_THAT(run.out, StartsWith("Usage: plinkett-cli COMMAND ARGUMENTS\n"));
     for (const char* usage :
-         {"\n  check PROJECT [--debug]\n", "\n  yaml PROJECT [--debug] [-o FILE]\n",
-          "\n  save PROJECT -o FILE\n", "\n  print PROJECT [--picture N]\n",
-          "\n  tile OID -o FILE [--size PIXELS]\n",
+         {"\n  check PROJECT [--debug] [--hints] [--json] [--strict]\n",
+          "\n  yaml PROJECT [--debug] [-o FILE]\n", "\n  save PROJECT -o FILE\n",
+          "\n  print PROJECT [--picture N]\n", "\n  tile OID -o FILE [--size PIXELS]\n",
           "\n  assemble FILE.yaml [OUT.gme] [-o OUT.gme] [--no-date] [--latin1]\n",
           "\n  build PROJECT [--debug]\n", "\n  copy PROJECT\n"}) {
         EXPECT_THAT(run.out, HasSubstr(usage));
