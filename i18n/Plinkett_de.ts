@@ -940,4 +940,35 @@
         <translation>Sie ist beschädigt. Bitte die Bilder ordnen und sie dann löschen.</translation>
     </message>
 </context>
+<context>
+    <name>ZoomActions</name>
+    <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Shows the page larger</source>
+        <translation>Zeigt die Seite größer</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Shows the page smaller</source>
+        <translation>Zeigt die Seite kleiner</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Shows the page&apos;s whole width</source>
+        <translation>Zeigt die Seite in ihrer ganzen Breite</translation>
+    </message>
+    <message>
+        <source>Zoom: %1 %</source>
+        <translation>Zoom: %1 %</translation>
+    </message>
+</context>
 </TS>

@@ -940,4 +940,35 @@
         <translation>It is damaged. Put the pictures in order, then remove it.</translation>
     </message>
 </context>
+<context>
+    <name>ZoomActions</name>
+    <message>
+        <source>Zoom in</source>
+        <translation>Zoom in</translation>
+    </message>
+    <message>
+        <source>Shows the page larger</source>
+        <translation>Shows the page larger</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Zoom out</translation>
+    </message>
+    <message>
+        <source>Shows the page smaller</source>
+        <translation>Shows the page smaller</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Fit</translation>
+    </message>
+    <message>
+        <source>Shows the page&apos;s whole width</source>
+        <translation>Shows the page&apos;s whole width</translation>
+    </message>
+    <message>
+        <source>Zoom: %1 %</source>
+        <translation>Zoom: %1 %</translation>
+    </message>
+</context>
 </TS>

@@ -940,4 +940,35 @@
         <translation>Il est endommagé. Remettez les images en ordre, puis supprimez-le.</translation>
     </message>
 </context>
+<context>
+    <name>ZoomActions</name>
+    <message>
+        <source>Zoom in</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Shows the page larger</source>
+        <translation>Montre la page plus grande</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Shows the page smaller</source>
+        <translation>Montre la page plus petite</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Ajuster</translation>
+    </message>
+    <message>
+        <source>Shows the page&apos;s whole width</source>
+        <translation>Montre la page sur toute sa largeur</translation>
+    </message>
+    <message>
+        <source>Zoom: %1 %</source>
+        <translation>Zoom : %1 %</translation>
+    </message>
+</context>
 </TS>

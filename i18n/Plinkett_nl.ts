@@ -940,4 +940,35 @@
         <translation>Het is beschadigd. Zet de afbeeldingen op volgorde en verwijder het dan.</translation>
     </message>
 </context>
+<context>
+    <name>ZoomActions</name>
+    <message>
+        <source>Zoom in</source>
+        <translation>Inzoomen</translation>
+    </message>
+    <message>
+        <source>Shows the page larger</source>
+        <translation>Toont de pagina groter</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Uitzoomen</translation>
+    </message>
+    <message>
+        <source>Shows the page smaller</source>
+        <translation>Toont de pagina kleiner</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Passend</translation>
+    </message>
+    <message>
+        <source>Shows the page&apos;s whole width</source>
+        <translation>Toont de pagina over haar hele breedte</translation>
+    </message>
+    <message>
+        <source>Zoom: %1 %</source>
+        <translation>Zoom: %1 %</translation>
+    </message>
+</context>
 </TS>

@@ -6,10 +6,14 @@
 #include "app/ProductNameNote.h"
 #include "app/Recovery.h"
 #include "app/StorableName.h"
+#include "app/ZoomActions.h"
 #include "base/FileSystem.h"
 #include "oid/OpenProject.h"
 #include "oid/PrintImage.h"
 #include "page/FocusFrame.h"
+#include "page/PagePanning.h"
+#include "page/PageScrollArea.h"
+#include "page/PageTouch.h"
 #include "qtsync/KVQtSync.h"
 #include "ttbasic/ttbasic.h"
 #include "ui_MainWindow.h"
@@ -76,21 +80,17 @@ void MainWindow::takeDrops()
     setAcceptDrops(true);
 }
 
-// A picture is as wide as the tab; one that is higher can be scrolled, so that every spot of it can
-// be touched on any screen.
+// A picture is as wide as the tab, or zoomed; every spot of it can be touched on any screen.
 void MainWindow::letPictureScroll()
 {
-    pictureScroll = new QScrollArea;
-    delete ui->verticalLayout_2->replaceWidget(ui->polyArea, pictureScroll);
+    pictureScroll = new PageScrollArea(ui->polyArea);
+    ui->verticalLayout_2->addWidget(pictureScroll, 1);
     pictureScroll->setObjectName("pictureScroll");
     pictureScroll->setFocusPolicy(Qt::NoFocus);  // the page has it, and lets it scroll
-    pictureScroll->setFrameShape(QFrame::NoFrame);
-    pictureScroll->setWidgetResizable(true);
-    pictureScroll->setWidget(ui->polyArea);
-    // The tab shows through; the scroll area has switched this on.
-    pictureScroll->viewport()->setAutoFillBackground(false);
     new FocusFrame(ui->polyArea, pictureScroll->viewport());
-    ui->polyArea->setAutoFillBackground(false);
+    new PagePanning(pictureScroll);
+    new PageTouch(pictureScroll);
+    new ZoomActions(pictureScroll, *ui->editBar, *ui->statusbar);
 }
 
 // What is told below "Create" may be long; on a small screen one scrolls to it.
@@ -275,6 +275,7 @@ void MainWindow::showProject(bool opened)
     ui->ribbonTab->setCurrentWidget(opened ? ui->tabProject : ui->tabBuild);
     // First the index: the form would show, and later write back, the sizes of another page.
     document.restart();
+    pictureScroll->fit();
     showTopOfPicture();
     selectPolygon(-1);
     ProjectDataWasChanged(false);

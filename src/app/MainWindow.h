@@ -20,6 +20,7 @@ class MainWindow;
 }
 class NoticeBar;
 class NumberBar;
+class PageScrollArea;
 class PictureCopy;
 class QLabel;
 class QScrollArea;
@@ -201,7 +202,7 @@ private:
     bool fillingFields = false;  // with what the project has, so that they change nothing
     bool typingPaper = false;    // the fields have what the project gets
     std::unique_ptr<Ui::MainWindow> ui;
-    QScrollArea* pictureScroll = nullptr;
+    PageScrollArea* pictureScroll = nullptr;
     QScrollArea* projectScroll = nullptr;
     NumberBar* numberBar = nullptr;
     std::unique_ptr<Recovery> recovery;  // ends first: it reads the form

@@ -5,10 +5,10 @@
 #include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
 #include "oid/PictureFile.h"
+#include "page/PageScrollArea.h"
 #include "ui_MainWindow.h"
 
 #include <QMessageBox>
-#include <QScrollArea>
 #include <QScrollBar>
 
 bool MainWindow::formWasEdited() const

@@ -19,11 +19,6 @@ std::string today()
     return {text, length};
 }
 
-DiagnosticSink printedBy(PrintFunction print)
-{
-    return printWith(print != nullptr ? print : defaultPrintf());
-}
-
 class Assembly
 {
 public:
@@ -121,7 +116,7 @@ bool Assembly::writeFiles()
 }  // namespace
 
 bool makeRoomForAreas(const std::string& yamlFile, const std::map<std::string, int>& areas,
-                      PrintFunction print)
+                      const DiagnosticSink& sink)
 {
     const std::string path = codesFileFor(yamlFile);
     CodesFile codesFile(path);
@@ -129,7 +124,7 @@ bool makeRoomForAreas(const std::string& yamlFile, const std::map<std::string, i
     if (!codesFile.read(unheard)) {
         return true;
     }
-    Messages messages(path, printedBy(print));
+    Messages messages(path, sink);
     return codesFile.makeRoomFor(areas, messages);
 }
 
@@ -140,7 +135,7 @@ bool assemble(const AssembleOptions& options, const DiagnosticSink& sink)
 
 bool assemble(const AssembleOptions& options, PrintFunction print)
 {
-    return assemble(options, printedBy(print));
+    return assemble(options, printWith(print != nullptr ? print : defaultPrintf()));
 }
 
 }  // namespace gme

@@ -28,7 +28,7 @@ bool assemble(const AssembleOptions& options, PrintFunction print);
 // line what it took out. False, with a message, when the codes file cannot be written; one that is
 // not there, or that assemble will refuse, stays as it is.
 bool makeRoomForAreas(const std::string& yamlFile, const std::map<std::string, int>& areas,
-                      PrintFunction print);
+                      const DiagnosticSink& sink);
 
 // The path that an empty gameFile stands for: "900-v1.2.yaml" gives "900-v1.2.gme".
 std::string gameFileFor(const std::string& yamlFile);

@@ -12,13 +12,9 @@ namespace {
 constexpr int kFirstAssignedOid = 1001;
 
 // Behind all numbers in use. Intended: gaps are never filled again.
-int nextNumber(const std::map<std::string, OidProject::OID>& oids)
+int behind(int next, int usedOid)
 {
-    int next = kFirstAssignedOid;
-    for (const auto& entry : oids) {
-        next = entry.second.oid >= next ? numberAfter(entry.second.oid) : next;
-    }
-    return next;
+    return usedOid >= next ? numberAfter(usedOid) : next;
 }
 
 void tellNumber(const OidProject& project, const std::string& name, int oid)
@@ -42,8 +38,9 @@ int numberAfter(int oid)
 // back when it is used again.
 void OidProject::updateUsedOIDs()
 {
-    int next = nextNumber(oids);
+    int next = kFirstAssignedOid;
     for (auto& entry : oids) {
+        next = behind(next, entry.second.oid);
         entry.second = tableEntry(entry.second.oid);
     }
     auto near = oids.end();  // names often follow each other: cow1, cow2, cow3
@@ -61,7 +58,10 @@ void OidProject::updateUsedOIDs()
 
 void giveNewNumber(OidProject& project, const std::string& name)
 {
-    const int next = nextNumber(project.oids);
+    int next = kFirstAssignedOid;
+    for (const auto& entry : project.oids) {
+        next = behind(next, entry.second.oid);
+    }
     project.oids[name] = tableEntry(next);
     tellNumber(project, name, next);
 }

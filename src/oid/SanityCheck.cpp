@@ -68,9 +68,48 @@ struct Area
     int index;  // both from 1
 };
 
+// The names that the script uses, in its order, and which of them an area bears.
+class ScriptNames
+{
+public:
+    explicit ScriptNames(const ttbasic& script) : names(script.usedOidNames()), drawn(names.size())
+    {
+        places.reserve(2 * names.size());  // short chains
+        for (size_t i = 0; i < names.size(); ++i) {
+            places.emplace(names[i], i);
+        }
+    }
+
+    // An area bears the name. False when it is none of the script's.
+    bool noteArea(const std::string& name)
+    {
+        const auto place = places.find(name);
+        if (place == places.end()) {
+            return false;
+        }
+        drawn[place->second] = true;
+        return true;
+    }
+
+    std::vector<std::string> notDrawn() const
+    {
+        std::vector<std::string> missing;
+        for (size_t i = 0; i < names.size(); ++i) {
+            if (!drawn[i]) {
+                missing.push_back(names[i]);
+            }
+        }
+        return missing;
+    }
+
+private:
+    std::vector<std::string> names;
+    std::vector<bool> drawn;
+    std::unordered_map<std::string_view, size_t> places;
+};
+
 // The areas whose name is none of the script's; of the others it is noted that they are drawn.
-std::vector<Area> areasWithoutSub(const std::vector<PICTURE>& pictures,
-                                  std::unordered_map<std::string_view, bool>& drawn)
+std::vector<Area> areasWithoutSub(const std::vector<PICTURE>& pictures, ScriptNames& script)
 {
     std::vector<Area> areas;
     int page = 0;
@@ -79,10 +118,7 @@ std::vector<Area> areasWithoutSub(const std::vector<PICTURE>& pictures,
         int index = 0;
         for (const POLY& area : picture.polys) {
             ++index;
-            const auto name = drawn.find(area.name);
-            if (name != drawn.end()) {
-                name->second = true;
-            } else {
+            if (!script.noteArea(area.name)) {
                 areas.push_back({&area.name, page, index});
             }
         }
@@ -112,23 +148,14 @@ bool OidProject::checkSanity() const
 // One look at each name: projects may have a hundred thousand areas and as many subs.
 bool OidProject::checkSanity(const DiagnosticSink& sink) const
 {
-    const std::vector<std::string> scriptNames = compiler.usedOidNames();
-    std::unordered_map<std::string_view, bool> drawn;  // script name, whether an area carries it
-    drawn.reserve(scriptNames.size());
-    for (const std::string& name : scriptNames) {
-        drawn.emplace(name, false);
-    }
-    const std::vector<Area> withoutSub = areasWithoutSub(pictures, drawn);
+    ScriptNames script(compiler);
+    const std::vector<Area> withoutSub = areasWithoutSub(pictures, script);
+    const std::vector<std::string> withoutArea = script.notDrawn();
 
     Warnings warn(sink);
-    Places places;
-    for (const std::string& name : scriptNames) {
-        if (!drawn[name]) {
-            if (places.empty()) {
-                places = placesOfSubs(compiler);
-            }
-            warn.ofMissingArea(name, places[name]);
-        }
+    Places places = withoutArea.empty() ? Places() : placesOfSubs(compiler);
+    for (const std::string& name : withoutArea) {
+        warn.ofMissingArea(name, places[name]);
     }
     for (const Area& area : withoutSub) {
         warn.ofMissingSub(*area.name, area.page, area.index);

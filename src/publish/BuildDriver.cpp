@@ -55,7 +55,7 @@ bool makeFiles(Oid::OidProject& project, ProcessRunner& runner, const BuildOptio
     if (speech == SpeechOutcome::cancelled) {
         return stopBuild(mi_printf);
     }
-    if (!gme::makeRoomForAreas(project.pathYaml(), drawnAreas(project), project.print)) {
+    if (!gme::makeRoomForAreas(project.pathYaml(), drawnAreas(project), printWith(project.print))) {
         return stopBuild(mi_printf);
     }
     return startAssembler(project, options.assembler, runner) && speech == SpeechOutcome::complete;

@@ -239,7 +239,8 @@ struct RoomMade
     {
         folder.add("900-case.codes.yaml", codes);
         CapturedMessages captured;
-        ok = gme::makeRoomForAreas(folder.file("900-case.yaml"), areas, CapturedMessages::print);
+        ok = gme::makeRoomForAreas(folder.file("900-case.yaml"), areas,
+                                   printWith(CapturedMessages::print));
         messages = captured.take();
     }
 
@@ -317,8 +318,8 @@ TEST(RoomForAreas, WithoutACodesFileThereIsNothingToDo)
 {
     const TemporaryFolder folder;
     CapturedMessages captured;
-    EXPECT_TRUE(
-        gme::makeRoomForAreas(folder.file("zoo.yaml"), {{"cow", 1001}}, CapturedMessages::print));
+    EXPECT_TRUE(gme::makeRoomForAreas(folder.file("zoo.yaml"), {{"cow", 1001}},
+                                      printWith(CapturedMessages::print)));
     EXPECT_EQ(captured.take(), "");
     EXPECT_EQ(folder.listing(), "");
 }
@@ -331,7 +332,7 @@ TEST(RoomForAreas, AFileThatCannotBeWrittenIsReportedAndStays)
     {
         const SmallDisk disk(10);
         EXPECT_FALSE(gme::makeRoomForAreas(folder.file("zoo.yaml"), {{"cow", 1001}},
-                                           CapturedMessages::print));
+                                           printWith(CapturedMessages::print)));
     }
     EXPECT_EQ(captured.take(), "Error: zoo.codes.yaml: the codes file cannot be written\n");
     EXPECT_EQ(readFile(folder.file("zoo.codes.yaml")), kBuiltOnce);
@@ -346,7 +347,8 @@ TEST(RoomForAreas, AfterItTheGameIsAssembled)
                                               "scriptcodes:\n"
                                               "  cow: 1018\n");
     EXPECT_FALSE(folder.assemble(drawn).ok);
-    gme::makeRoomForAreas(folder.file("900-case.yaml"), {{"cow", 1018}}, CapturedMessages::print);
+    gme::makeRoomForAreas(folder.file("900-case.yaml"), {{"cow", 1018}},
+                          printWith(CapturedMessages::print));
     EXPECT_TRUE(folder.assemble(drawn).ok);
 }
 
