@@ -842,6 +842,13 @@
     </message>
 </context>
 <context>
+    <name>PickTool</name>
+    <message>
+        <source>An area needs at least three corners.</source>
+        <translation>An area needs at least three corners.</translation>
+    </message>
+</context>
+<context>
     <name>ProductNameNote</name>
     <message>
         <source>Not possible in the name: %1</source>

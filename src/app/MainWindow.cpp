@@ -46,6 +46,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     new StorableName(ui->txPolyName);
     new ProductNameNote(ui->txProjectName, ui->lbProjectNameProblems);
     ui->polyArea->setDocument(&document);
+    pickTool.tell = [this](const QString& text) { tell(text); };
     ui->polyArea->setTool(&tool());
     prepareHistory();
     const auto typed = [this] {
@@ -88,6 +89,8 @@ void MainWindow::letPictureScroll()
     pictureScroll->setObjectName("pictureScroll");
     pictureScroll->setFocusPolicy(Qt::NoFocus);  // the page has it, and lets it scroll
     new FocusFrame(ui->polyArea, pictureScroll->viewport());
+    connect(ui->polyArea, &PolyEditorWidget::cameTo, pictureScroll,
+            [this](QPoint pixel) { pictureScroll->ensureVisible(pixel.x(), pixel.y()); });
     new PagePanning(pictureScroll);
     new PageTouch(pictureScroll);
     new ZoomActions(pictureScroll, *ui->editBar, *ui->statusbar);

@@ -6,6 +6,8 @@
 
 #include <QRect>
 
+#include <optional>
+
 class QKeyEvent;
 
 // What the mouse did on the page.
@@ -52,6 +54,8 @@ public:
 
     // True when the key is the tool's; any other goes on to the window.
     virtual bool key(const QKeyEvent& /*event*/, const PageView& /*view*/) { return false; }
+    // Where such a key has left the author: the page is scrolled there.
+    virtual std::optional<Oid::PNT> place() const { return std::nullopt; }
     // Gives up what has been begun, as Escape asks for. False when there is nothing to give up.
     virtual bool giveUp() { return false; }
     // Another tool comes, or the window is left: what has been done stays.

@@ -10,8 +10,9 @@
 // width for x and for y, and pixels of the widget.
 struct PageView
 {
-    int width = 1;  // of the whole picture in pixels, at least 1
-    QPoint origin;  // pixel of its top left corner
+    int width = 1;         // of the whole picture in pixels, at least 1
+    QPoint origin;         // pixel of its top left corner
+    int pictureWidth = 1;  // of the picture itself, in its own pixels, at least 1
 
     Oid::PNT toPercent(QPoint pixel) const
     {
@@ -22,6 +23,10 @@ struct PageView
     {
         return origin + QPoint(pixels(point.x), pixels(point.y));
     }
+
+    // In percent: so long is this on the screen, and one pixel of the picture.
+    double percentOf(double pixels) const { return pixels * 100 / width; }
+    double picturePixel() const { return 100.0 / pictureWidth; }
 
 private:
     // Truncates toward zero; areas far outside the picture stay within what a painter can take.

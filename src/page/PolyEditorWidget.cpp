@@ -75,7 +75,7 @@ int PolyEditorWidget::heightForWidth(int width) const
 
 PageView PolyEditorWidget::view() const
 {
-    return {std::max(1, width()), {0, 0}};
+    return {std::max(1, width()), {0, 0}, std::max(1, image.width())};
 }
 
 QRect PolyEditorWidget::seen() const
@@ -209,6 +209,8 @@ void PolyEditorWidget::keyPressEvent(QKeyEvent* event)
                                              tool->key(*event, view()));
     if (!isTools) {
         QWidget::keyPressEvent(event);
+    } else if (const auto place = tool->place()) {
+        emit cameTo(toPix(*place));
     }
     if (tool != nullptr) {
         showTool();

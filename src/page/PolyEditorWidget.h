@@ -63,6 +63,8 @@ public:
 signals:
     // The left button was released here.
     void clickedLB(Oid::PNT point);
+    // A key has led there, so it should be seen.
+    void cameTo(QPoint pixel);
     // The menu of what lies here is asked for: by the mouse at the pixel, by a key without one.
     void menuWanted(QPoint globalPos, std::optional<Oid::PNT> point);
 
