@@ -77,7 +77,7 @@ private slots:
     {
         WindowFixture w;
         const QList<QAction*> actions = w.get<QToolBar>("editBar")->actions();
-        QCOMPARE(actions.size(), 2);
+        QVERIFY(actions.size() >= 2);
         QCOMPARE(actions[0]->objectName(), "actionUndo");
         QCOMPARE(actions[1]->objectName(), "actionRedo");
         QCOMPARE(actions[0]->shortcuts(), QList<QKeySequence>{QKeySequence("Ctrl+Z")});
