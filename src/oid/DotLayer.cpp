@@ -25,26 +25,41 @@ DotLayer::DotLayer(const std::vector<Oid::POLY>& areas, const oidPixels& fill,
 
 void DotLayer::Printer::print(QRgb* rows, int firstRow, int rowCount)
 {
+    constexpr QRgb kBlack = 0xff000000;
     band.enter(firstRow, firstRow + rowCount);
     for (int y = firstRow; y < firstRow + rowCount; ++y, rows += layer.pageWidth) {
-        const int tileRow = layer.patterns.tileRowAt(y);
-        if (!layer.patterns.hasDots(tileRow)) {
-            continue;
-        }
-        if (layer.patterns.allAgree(tileRow)) {
-            layer.patterns.print(rows, tileRow, layer.fillPattern, 0, layer.pageWidth);
-        } else {
-            printAreas(rows, y, tileRow);
-        }
+        printRow([rows](int x) { rows[x] = kBlack; }, y);
     }
 }
 
-void DotLayer::Printer::printAreas(QRgb* row, int y, int tileRow)
+void DotLayer::Printer::printBits(unsigned char* rows, int bytesPerRow, int firstRow, int rowCount)
 {
+    band.enter(firstRow, firstRow + rowCount);
+    for (int y = firstRow; y < firstRow + rowCount; ++y, rows += bytesPerRow) {
+        printRow(
+            [rows](int x) {
+                rows[x >> 3] = static_cast<unsigned char>(rows[x >> 3] | 0x80 >> (x & 7));
+            },
+            y);
+    }
+}
+
+template <typename Mark>
+void DotLayer::Printer::printRow(const Mark& mark, int y)
+{
+    const DotPatterns& patterns = layer.patterns;
+    const int tileRow = patterns.tileRowAt(y);
+    if (!patterns.hasDots(tileRow)) {
+        return;
+    }
+    if (patterns.allAgree(tileRow)) {
+        patterns.print(mark, tileRow, layer.fillPattern, 0, layer.pageWidth);
+        return;
+    }
     for (const AreaSpan& span : band.spansOf(y)) {
         const std::size_t pattern = span.area == AreaSpan::kNoArea
                                         ? layer.fillPattern
                                         : static_cast<std::size_t>(span.area);
-        layer.patterns.print(row, tileRow, pattern, span.from, span.to);
+        patterns.print(mark, tileRow, pattern, span.from, span.to);
     }
 }

@@ -32,11 +32,14 @@ class DotLayer::Printer
 public:
     explicit Printer(const DotLayer& dotLayer) : layer(dotLayer), band(dotLayer.areaRows) {}
 
-    // Whole rows of the page, from firstRow on.
+    // Makes the dots black on whole rows of the page, from firstRow on.
     void print(QRgb* rows, int firstRow, int rowCount);
+    // The same on rows of one bit a pixel, the highest of a byte first: sets the bits of the dots.
+    void printBits(unsigned char* rows, int bytesPerRow, int firstRow, int rowCount);
 
 private:
-    void printAreas(QRgb* row, int y, int tileRow);
+    template <typename Mark>
+    void printRow(const Mark& mark, int y);
 
     const DotLayer& layer;
     AreaRows::Band band;

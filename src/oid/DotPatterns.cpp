@@ -5,8 +5,6 @@
 
 namespace {
 
-constexpr QRgb kBlack = 0xff000000;
-
 const std::uint8_t* rowOf(const oidPixels& tile, std::size_t y)
 {
     return tile.pixels.data() + y * static_cast<std::size_t>(tile.width);
@@ -47,27 +45,4 @@ const std::size_t* DotPatterns::firstDotOf(int tileRow, std::size_t tile) const
 bool DotPatterns::hasDots(int tileRow) const
 {
     return size != 0 && *firstDotOf(tileRow, 0) != *firstDotOf(tileRow, tileCount);
-}
-
-void DotPatterns::print(QRgb* row, int tileRow, std::size_t tile, int from, int to) const
-{
-    const std::size_t* const place = firstDotOf(tileRow, tile);
-    const int* const first = dots.data() + place[0];
-    const int* const end = dots.data() + place[1];
-    if (first == end) {
-        return;
-    }
-    int left = from - from % size;
-    const int* dot = first;
-    while (dot != end && left + *dot < from) {  // the stretch begins within a tile
-        ++dot;
-    }
-    for (; left + size <= to; left += size, dot = first) {
-        for (; dot != end; ++dot) {
-            row[left + *dot] = kBlack;
-        }
-    }
-    for (; dot != end && left + *dot < to; ++dot) {  // and ends within one
-        row[left + *dot] = kBlack;
-    }
 }

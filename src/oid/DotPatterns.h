@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QRgb>
-
 #include <cstddef>
 #include <vector>
 
@@ -22,10 +20,10 @@ public:
     bool hasDots(int tileRow) const;
     // True when all tiles have the same dots on the row, as where there are only frame dots.
     bool allAgree(int tileRow) const { return agreement[static_cast<std::size_t>(tileRow)]; }
-    // Makes the dots of one tile's row black on a row of the page, from x = from to just before
-    // x = to. The tile repeats without end and starts at the page's first pixel, to which row
-    // points.
-    void print(QRgb* row, int tileRow, std::size_t tile, int from, int to) const;
+    // Marks the dots of one tile's row on a row of the page, from x = from to just before x = to:
+    // mark(x) for each. The tile repeats without end and starts at the page's first pixel.
+    template <typename Mark>
+    void print(const Mark& mark, int tileRow, std::size_t tile, int from, int to) const;
 
 private:
     const std::size_t* firstDotOf(int tileRow, std::size_t tile) const;
@@ -36,3 +34,27 @@ private:
     std::vector<int> dots;               // x in the tile
     std::vector<bool> agreement;         // by row of the tile
 };
+
+template <typename Mark>
+void DotPatterns::print(const Mark& mark, int tileRow, std::size_t tile, int from, int to) const
+{
+    const std::size_t* const place = firstDotOf(tileRow, tile);
+    const int* const first = dots.data() + place[0];
+    const int* const end = dots.data() + place[1];
+    if (first == end) {
+        return;
+    }
+    int left = from - from % size;
+    const int* dot = first;
+    while (dot != end && left + *dot < from) {  // the stretch begins within a tile
+        ++dot;
+    }
+    for (; left + size <= to; left += size, dot = first) {
+        for (; dot != end; ++dot) {
+            mark(left + *dot);
+        }
+    }
+    for (; dot != end && left + *dot < to; ++dot) {  // and ends within one
+        mark(left + *dot);
+    }
+}

@@ -7,8 +7,10 @@ constexpr int kCellUnits = 4;   // and has 4 x 4 cells of 4 units
 constexpr int kCells = 4;
 constexpr int kChecksumDigit = 8;
 
+}  // namespace
+
 // Rounded up to a multiple of 4; 0 for sizes below 1.
-int tileEdge(int size)
+int oidPixels::edgeOf(int size)
 {
     constexpr int kLargest = 0x7ffffffc;  // the largest multiple of 4 that an int holds
     if (size < 1) {
@@ -17,15 +19,23 @@ int tileEdge(int size)
     return size > kLargest ? kLargest : (size + 3) / 4 * 4;
 }
 
-}  // namespace
+int oidPixels::standardDot(int size)
+{
+    return edgeOf(size) / kGridUnits;
+}
 
 void oidPixels::create(std::uint32_t code, int size, bool plainChecksum)
 {
-    const int edge = tileEdge(size);
+    create(code, size, plainChecksum, standardDot(size));
+}
+
+void oidPixels::create(std::uint32_t code, int size, bool plainChecksum, int edgeOfDot)
+{
+    const int edge = edgeOf(size);
     width = height = edge;
     checksumPlain = plainChecksum;
     spareSize = width >= 32 ? width / kGridUnits : 1;
-    dotSize = width / kGridUnits;
+    dotSize = edgeOfDot;
     // Intended: resizing clears only the pixels that are new.
     pixels.resize(static_cast<std::size_t>(edge) * static_cast<std::size_t>(edge));
 

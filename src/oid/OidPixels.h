@@ -13,6 +13,12 @@ public:
     // of 4; a size below 1 gives a tile without pixels.
     // Intended: dots of an earlier pattern stay. Callers that want a clean tile use a fresh object.
     void create(std::uint32_t code, int size, bool plainChecksum);
+    // The same with dots of another edge, in pixels.
+    void create(std::uint32_t code, int size, bool plainChecksum, int edgeOfDot);
+    // What size becomes, and the edge of the dots that a tile of that size has unless told
+    // otherwise; a larger one may touch its neighbours.
+    static int edgeOf(int size);
+    static int standardDot(int size);
 
     // True when the pixel at (x mod width, y mod height) is a dot; always false without pixels.
     bool at(int x, int y) const

@@ -1,5 +1,7 @@
 #include "oid/PreparedPage.h"
 
+#include <numeric>
+
 #include "oid/OidTable.h"
 #include "oid/PageBackground.h"
 #include "oid/PageRenderer.h"
@@ -100,6 +102,49 @@ TEST(PreparedPage, BeginsWithEmptyTilesUnlessTheOldDotsAreToStay)
     const oidPixels& both = overdrawn.areas[0].tile;
     for (std::size_t i = 0; i < cow.pixels.size(); ++i) {
         EXPECT_EQ(both.pixels[i] != 0, cow.pixels[i] != 0 || before.areas[0].tile.pixels[i] != 0);
+    }
+}
+
+TEST(PreparedPage, DotsMayBeSmallerAndMissingOutsideOfAreas)
+{
+    PrintedBook book(20, 10, 1200, twoAreas());
+    book.project.oids["cow"] = Oid::tableEntry(1001);
+    const PageGeometry page = measured(book.project);
+    const PreparedPage standard(book.project, 0, page);
+    const PreparedPage fine(book.project, 0, page, PreparedPage::Dots{2, false});
+
+    EXPECT_EQ(std::accumulate(fine.fill.pixels.begin(), fine.fill.pixels.end(), 0), 0);
+    EXPECT_EQ(fine.fill.width, standard.fill.width);
+    const oidPixels& large = standard.areas[0].tile;
+    const oidPixels& small = fine.areas[0].tile;
+    EXPECT_EQ(std::accumulate(large.pixels.begin(), large.pixels.end(), 0), 16 * 9);
+    EXPECT_EQ(std::accumulate(small.pixels.begin(), small.pixels.end(), 0), 16 * 4);
+    for (std::size_t i = 0; i < small.pixels.size(); ++i) {
+        EXPECT_LE(small.pixels[i], large.pixels[i]) << "the dots lie where the standard ones do";
+    }
+}
+
+TEST(DotLayer, TheBitsAreTheDotsOfThePixels)
+{
+    PrintedBook book(21, 10, 600, twoAreas());
+    book.project.oids["cow"] = Oid::tableEntry(1001);
+    const PageGeometry page = measured(book.project);
+    const PreparedPage prepared(book.project, 0, page);
+    const DotLayer dots(prepared.areas, prepared.fill, page, 100.0 / page.width);
+    constexpr int kFirstRow = 7;
+    const int rows = page.height - kFirstRow;
+    const int bytesPerRow = (page.width + 7) / 8;
+    std::vector<QRgb> pixels(static_cast<std::size_t>(page.width * rows), 0xffffffff);
+    std::vector<unsigned char> bits(static_cast<std::size_t>(bytesPerRow * rows));
+    DotLayer::Printer(dots).print(pixels.data(), kFirstRow, rows);
+    DotLayer::Printer(dots).printBits(bits.data(), bytesPerRow, kFirstRow, rows);
+    for (int y = 0; y < rows; ++y) {
+        for (int x = 0; x < page.width; ++x) {
+            const bool black =
+                pixels[static_cast<std::size_t>(y * page.width + x)] == qRgb(0, 0, 0);
+            const int byte = bits[static_cast<std::size_t>(y * bytesPerRow + x / 8)];
+            ASSERT_EQ((byte >> (7 - x % 8) & 1) != 0, black) << x << "," << y;
+        }
     }
 }
 

@@ -42,12 +42,9 @@ oidPixels tileWith(std::initializer_list<std::pair<int, int>> dots)
 
 std::string printed(const DotPatterns& patterns, int y, std::size_t tile, int from, int to)
 {
-    std::vector<QRgb> row(12, qRgb(255, 255, 255));
-    patterns.print(row.data(), patterns.tileRowAt(y), tile, from, to);
-    std::string text;
-    for (const QRgb pixel : row) {
-        text += pixel == qRgb(0, 0, 0) ? '#' : '.';
-    }
+    std::string text(12, '.');
+    patterns.print([&](int x) { text.at(static_cast<std::size_t>(x)) = '#'; },
+                   patterns.tileRowAt(y), tile, from, to);
     return text;
 }
 
