@@ -3,7 +3,8 @@
 
 build_packages=(
     cmake ninja-build g++
-    qtbase5-dev qttools5-dev qttools5-dev-tools libyaml-dev pkg-config libtiff-dev libisal-dev
+    qtbase5-dev qttools5-dev qttools5-dev-tools
+    libyaml-dev pkg-config libtiff-dev libisal-dev libqpdf-dev
 )
 run_packages=(espeak-ng ffmpeg libqt5svg5 qttranslations5-l10n
     fonts-dejavu-core fonts-noto-color-emoji)
@@ -12,6 +13,7 @@ bench_packages=(libbenchmark-dev)
 test_packages=(
     libgtest-dev libgmock-dev locales
     imagemagick libtiff-tools qt5-image-formats-plugins
+    qpdf poppler-utils mupdf-tools
     xvfb xauth openbox xdotool
 )
 

@@ -97,6 +97,16 @@ bool readBackground(const std::string& path, QImage& image)
     return true;
 }
 
+QRect pictureOnPage(const QSize& picture, const PageGeometry& page, double& percentPerPixel)
+{
+    const double factor = std::min(static_cast<double>(page.height) / picture.height(),
+                                   static_cast<double>(page.width) / picture.width());
+    const double width = picture.width() * factor;
+    const double height = picture.height() * factor;
+    percentPerPixel = 100 / width;
+    return {0, 0, static_cast<int>(width), static_cast<int>(height)};
+}
+
 bool PageBackground::load(const std::string& path)
 {
     return readBackground(path, picture);
@@ -106,12 +116,7 @@ void PageBackground::fitInto(const PageGeometry& page)
 {
     pageWidth = page.width;
     pageHeight = page.height;
-    const double factor = std::min(static_cast<double>(page.height) / picture.height(),
-                                   static_cast<double>(page.width) / picture.width());
-    const double width = picture.width() * factor;
-    const double height = picture.height() * factor;
-    target = QRect(0, 0, static_cast<int>(width), static_cast<int>(height));
-    percent = 100 / width;
+    target = pictureOnPage(picture.size(), page, percent);
 }
 
 void PageBackground::drawRows(QRgb* rows, int firstRow, int rowCount) const

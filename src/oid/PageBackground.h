@@ -13,6 +13,10 @@
 // memory allows.
 bool readBackground(const std::string& path, QImage& image);
 
+// Where a picture of that size lies on the page: in its upper left corner, as large as it fits.
+// Also what one pixel of the page is in percent of the drawn width; from the unrounded width.
+QRect pictureOnPage(const QSize& picture, const PageGeometry& page, double& percentPerPixel);
+
 // The author's picture, scaled into the upper left corner of the page as large as it fits; the rest
 // of the page is white.
 class PageBackground

@@ -21,23 +21,6 @@ QByteArray allBytes(const QString& path)
     return file.error() == QFileDevice::NoError ? bytes : QByteArray();
 }
 
-// What shines through a picture is the paper. JPEG knows no transparency and would make it black.
-QImage onWhitePaper(const QImage& image)
-{
-    if (!image.hasAlphaChannel()) {
-        return image;
-    }
-    QImage paper = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < paper.height(); ++y) {
-        QRgb* const row = reinterpret_cast<QRgb*>(paper.scanLine(y));
-        std::transform(row, row + paper.width(), row, [](QRgb pixel) {
-            const int white = 255 - qAlpha(pixel);
-            return qRgb(qRed(pixel) + white, qGreen(pixel) + white, qBlue(pixel) + white);
-        });
-    }
-    return paper;
-}
-
 }  // namespace
 
 PictureFile::PictureFile(const QString& path) : reader(path)
@@ -58,10 +41,21 @@ bool PictureFile::fitsMemory() const
     return pixels * sizeof(QRgb) <= Platform::availableMemory() / 2;
 }
 
+bool PictureFile::isJpeg() const
+{
+    return reader.format() == "jpeg";
+}
+
 bool PictureFile::isUprightJpeg() const
 {
-    return reader.format() == "jpeg" &&
-           reader.transformation() == QImageIOHandler::TransformationNone;
+    return isJpeg() && reader.transformation() == QImageIOHandler::TransformationNone;
+}
+
+QSize PictureFile::size() const
+{
+    const QSize stored = reader.size();
+    const bool turned = (toUpright() & QImageIOHandler::TransformationRotate90) != 0;
+    return turned ? stored.transposed() : stored;
 }
 
 QSize PictureFile::uprightSize() const
@@ -104,8 +98,25 @@ QByteArray PictureCopy::file() const
     if (!asItCame.isEmpty()) {
         return asItCame;
     }
+    // JPEG knows no transparency and would make it black.
     QByteArray compressed;
     QBuffer buffer(&compressed);
     buffer.open(QIODevice::WriteOnly);
     return QImageWriter(&buffer, "jpg").write(onWhitePaper(picture)) ? compressed : QByteArray();
+}
+
+QImage onWhitePaper(const QImage& image)
+{
+    if (!image.hasAlphaChannel()) {
+        return image;
+    }
+    QImage paper = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < paper.height(); ++y) {
+        QRgb* const row = reinterpret_cast<QRgb*>(paper.scanLine(y));
+        std::transform(row, row + paper.width(), row, [](QRgb pixel) {
+            const int white = 255 - qAlpha(pixel);
+            return qRgb(qRed(pixel) + white, qGreen(pixel) + white, qBlue(pixel) + white);
+        });
+    }
+    return paper;
 }

@@ -15,8 +15,13 @@ public:
     // False when decoding it would drive the machine out of memory.
     bool fitsMemory() const;
 
-    // True for a JPEG whose pixels are upright as they are stored. Asked before read.
+    // True for a JPEG, and for one whose pixels are upright as they are stored. Asked before read.
+    bool isJpeg() const;
     bool isUprightJpeg() const;
+    // What makes the stored pixels upright.
+    QImageIOHandler::Transformations toUpright() const { return reader.transformation(); }
+    // Of the upright picture, in pixels, as the file's header tells; not valid when it does not.
+    QSize size() const;
 
     // In pixels; empty when it is no picture. Asked before read.
     QSize uprightSize() const;
@@ -31,6 +36,9 @@ public:
 private:
     QImageReader reader;
 };
+
+// What shines through a picture is the paper. Without transparency the picture itself.
+QImage onWhitePaper(const QImage& image);
 
 // A picture that comes into a project, which keeps a copy of it as JPEG.
 class PictureCopy

@@ -26,6 +26,7 @@ Command checkCommand();
 Command yamlCommand();
 Command saveCommand();
 Command printCommand();
+Command pdfCommand();
 Command tileCommand();
 Command assembleCommand();
 Command buildCommand();

@@ -19,7 +19,7 @@ constexpr char kFootline[] =
 
 std::vector<Command> commands()
 {
-    return {checkCommand(), yamlCommand(),     saveCommand(),  printCommand(),
+    return {checkCommand(), yamlCommand(),     saveCommand(),  printCommand(), pdfCommand(),
             tileCommand(),  assembleCommand(), buildCommand(), copyCommand()};
 }
 

@@ -1,0 +1,122 @@
+#include "pdf/BookPdf.h"
+
+#include <algorithm>
+#include <memory>
+#include <new>
+
+#include "base/FileSystem.h"
+#include "base/PlatformFiles.h"
+#include "base/PlatformMachine.h"
+#include "oid/PreparedPage.h"
+#include "oid/PrintImage.h"
+#include "pdf/BookPage.h"
+
+namespace {
+
+constexpr int kPercentOfSheet = 100;
+
+// The pages that are wanted; false, with a message, when there is no such page.
+bool choosePages(const Oid::OidProject& project, const PdfOptions& options,
+                 std::vector<int>& chosen)
+{
+    const auto count = static_cast<int>(project.pictures.size());
+    chosen = options.pages;
+    for (int n = 0; n < count && options.pages.empty(); ++n) {
+        chosen.push_back(n);
+    }
+    for (const int n : chosen) {
+        if (n < 0 || n >= count) {
+            mi_printf("Error: There is no picture %d\n", n);
+            return false;
+        }
+    }
+    return true;
+}
+
+// Adds up the sheets, and stops the file when the author cancels.
+class Progress
+{
+public:
+    explicit Progress(const PrintJobProgress& report) : tell(report) {}
+
+    int addSheet() { return sheets++; }
+    void reach(int sheet, int percent) const
+    {
+        const int total = kPercentOfSheet * sheets;
+        if (tell && !tell(std::min(kPercentOfSheet * sheet + percent, total), total)) {
+            throw PdfFailure();
+        }
+    }
+
+private:
+    PrintJobProgress tell;
+    int sheets = 0;
+};
+
+class BookPdf
+{
+public:
+    BookPdf(const Oid::OidProject& book, const PdfOptions& wanted, const PrintJobProgress& report)
+        : project(book), options(wanted), progress(report)
+    {}
+
+    bool make(const std::string& path)
+    {
+        std::vector<int> chosen;
+        if (!choosePages(project, options, chosen)) {
+            return false;
+        }
+        if (options.symbols != PdfOptions::Symbols::alone) {
+            for (const int n : chosen) {
+                if (!addPage(n)) {
+                    return false;
+                }
+            }
+        }
+        return file.write(path);
+    }
+
+private:
+    bool addPage(int n)
+    {
+        auto page = std::make_unique<BookPage>(project, n, options);
+        if (!page->prepare(file)) {
+            return false;
+        }
+        for (const Sheet& sheet : page->sheets()) {
+            const int number = progress.addSheet();
+            file.addPage(page->draw(
+                file, sheet, [this, number](int percent) { progress.reach(number, percent); }));
+        }
+        pages.push_back(std::move(page));
+        return true;
+    }
+
+    const Oid::OidProject& project;
+    const PdfOptions& options;
+    Progress progress;
+    std::vector<std::unique_ptr<BookPage>> pages;  // the file asks them for their dots
+    PdfWriter file;
+};
+
+}  // namespace
+
+std::string pathPdf(const Oid::OidProject& project)
+{
+    const std::string game = project.pathGme();
+    return game.substr(0, game.rfind('.')) + ".pdf";
+}
+
+bool makePdf(const Oid::OidProject& project, const std::string& path, const PdfOptions& options,
+             const PrintJobProgress& progress)
+{
+    mi_printf("Creating PDF...\n");
+    bool written = false;
+    try {
+        written = BookPdf(project, options, progress).make(path);
+    } catch (const std::bad_alloc&) {
+        mi_printf("Error: Not enough memory to print the page\n");
+    }
+    Platform::releaseFreeMemory();
+    return written;
+}
