@@ -1,6 +1,7 @@
 #include "document/Document.h"
 
 #include <algorithm>
+#include <deque>
 #include <functional>
 #include <set>
 #include <utility>
@@ -84,6 +85,60 @@ void Document::takeBack(Gesture gesture)
         }
         tell();
     }
+}
+
+namespace {
+
+bool makes(const Step& step, AreaId area)
+{
+    return std::any_of(step.orders.begin(), step.orders.end(), [&](const AreaOrderChange& order) {
+        return order.areas.before.empty() && order.areas.after == std::vector<AreaId>{area};
+    });
+}
+
+// Whether the step does nothing but make the area, change its corners, name it, or change the
+// number of one of its names. These are those of its later steps; the step may bring more.
+bool concernsOnly(const Step& step, AreaId area, std::set<std::string>& areaNames)
+{
+    const bool isMaking = makes(step, area);
+    for (const auto& change : step.names) {
+        areaNames.insert({change.before, change.after});
+    }
+    return step.pages.empty() && step.papers.empty() && step.files.empty() &&
+           step.orders.size() == (isMaking ? 1 : 0) &&
+           std::all_of(step.corners.begin(), step.corners.end(),
+                       [&](const CornersChange& change) { return change.area == area; }) &&
+           std::all_of(step.names.begin(), step.names.end(),
+                       [&](const auto& change) { return change.key == area; }) &&
+           std::all_of(step.numbers.begin(), step.numbers.end(), [&](const auto& change) {
+               return isMaking || areaNames.count(change.key) > 0;
+           });
+}
+
+}  // namespace
+
+bool Document::unmake(AreaId area)
+{
+    endGesture();
+    const Oid::POLY* const now = living(area);
+    if (now == nullptr) {
+        return false;
+    }
+    const std::deque<Step>& done = history.doneSteps();
+    std::set<std::string> areaNames = {now->name};
+    const auto last = std::find_if(done.rbegin(), done.rend(), [&](const Step& step) {
+        return makes(step, area) || !concernsOnly(step, area, areaNames);
+    });
+    if (last == done.rend() || !concernsOnly(*last, area, areaNames)) {
+        return false;
+    }
+    for (auto count = last - done.rbegin() + 1; count > 0; --count) {
+        carryOver(*history.toUndo(), false);  // cannot fail: there are no files in it
+        history.moveToUndone();
+    }
+    history.forgetUndone();
+    tell();
+    return true;
 }
 
 bool Document::follow(const Edit& edit)

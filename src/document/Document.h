@@ -53,6 +53,10 @@ public:
     }
     // Takes back all that the gesture did, as if it had never been.
     void takeBack(Gesture gesture);
+    // Takes back the last steps, as far as to the one that made the area, as if they had never
+    // been. False, and nothing is changed, when they did anything else than to make, change, name
+    // and number it, or are not in the history any more.
+    bool unmake(AreaId area);
 
     // The step that is being made of this gesture has a companion in another history.
     void linkStep(Gesture gesture, StepLink link);

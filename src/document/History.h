@@ -30,6 +30,7 @@ public:
     bool canRedo() const { return !undone.empty(); }
     // Null where there is none. Silent steps follow the one that they belong to.
     const Step* lastDone() const { return done.empty() ? nullptr : &done.back(); }
+    const std::deque<Step>& doneSteps() const { return done; }  // the oldest first
     Step* toUndo() { return done.empty() ? nullptr : &done.back(); }
     Step* toRedo() { return undone.empty() ? nullptr : &undone.back(); }
     // Of the author's steps; none where there is no such step.

@@ -69,6 +69,49 @@ protected:
 
 }  // namespace
 
+TEST_F(DocumentTest, AnAreaIsUnmadeAsIfItHadNeverBeen)
+{
+    const std::string before = snapshot(document);
+    const AreaId made = add("gate");
+    document.apply(edit::SetCorners{made, {{1, 1}, {2, 2}}});
+    document.apply(edit::RenameArea{made, "door"});
+    document.apply(edit::SetNumber{made, 77});
+    document.undo();
+    EXPECT_TRUE(document.unmake(made));
+    EXPECT_EQ(snapshot(document), before);
+    EXPECT_FALSE(document.canUndo());
+    EXPECT_FALSE(document.canRedo());
+    EXPECT_TRUE(document.isClean());
+    EXPECT_FALSE(document.unmake(made));
+}
+
+TEST_F(DocumentTest, StepsBeforeAnUnmadeAreaStay)
+{
+    add("cow");
+    const AreaId made = add("gate");
+    EXPECT_TRUE(document.unmake(made));
+    EXPECT_EQ(names(), "cow");
+    EXPECT_TRUE(document.undo());
+    EXPECT_EQ(names(), "");
+    EXPECT_FALSE(document.canUndo());
+}
+
+// Whatever it is: another area, the paper, the number of another name.
+TEST_F(DocumentTest, AnAreaIsNotUnmadeWhenSomethingElseWasDoneSince)
+{
+    const AreaId cow = add("cow");
+    const std::vector<Edit> others = {edit::MoveAreas{{cow}, {1, 1}},
+                                      edit::SetPaper{0, 10, 10, 600}, edit::SetNumber{cow, 99},
+                                      edit::RenameArea{cow, "hen"}, edit::AddArea{0, area("pig")}};
+    for (const Edit& other : others) {
+        const AreaId made = add("gate");
+        document.apply(other);
+        const std::string before = snapshot(document);
+        EXPECT_FALSE(document.unmake(made));
+        EXPECT_EQ(snapshot(document), before);
+    }
+}
+
 TEST_F(DocumentTest, ANewAreaGetsANumberAndLosesItWhenUndone)
 {
     add("cow");
