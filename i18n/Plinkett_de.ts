@@ -948,6 +948,49 @@
     </message>
 </context>
 <context>
+    <name>AreaTools</name>
+    <message>
+        <source>Add rectangle</source>
+        <translation>Rechteck hinzufügen</translation>
+    </message>
+    <message>
+        <source>A new area: drag a rectangle, with Shift a square</source>
+        <translation>Ein neuer Bereich: ein Rechteck aufziehen, mit Umschalt ein Quadrat</translation>
+    </message>
+    <message>
+        <source>Add ellipse</source>
+        <translation>Ellipse hinzufügen</translation>
+    </message>
+    <message>
+        <source>A new area: drag an ellipse, with Shift a circle</source>
+        <translation>Ein neuer Bereich: eine Ellipse aufziehen, mit Umschalt einen Kreis</translation>
+    </message>
+    <message>
+        <source>Area of one colour</source>
+        <translation>Bereich einer Farbe</translation>
+    </message>
+    <message>
+        <source>A new area: click what has about the same colour</source>
+        <translation>Ein neuer Bereich: anklicken, was etwa die gleiche Farbe hat</translation>
+    </message>
+    <message>
+        <source>The area &quot;%1&quot; has fewer than three corners. The pen will not find it.</source>
+        <translation>Der Bereich &quot;%1&quot; hat weniger als drei Ecken. Der Stift findet ihn nicht.</translation>
+    </message>
+    <message>
+        <source>The area &quot;%1&quot; needs three corners.</source>
+        <translation>Der Bereich &quot;%1&quot; braucht drei Ecken.</translation>
+    </message>
+    <message>
+        <source>Enter takes the area, the wheel changes the tolerance: %1</source>
+        <translation>Die Eingabetaste übernimmt den Bereich, das Rad ändert die Toleranz: %1</translation>
+    </message>
+    <message>
+        <source>There is no picture here.</source>
+        <translation>Hier ist kein Bild.</translation>
+    </message>
+</context>
+<context>
     <name>ZoomActions</name>
     <message>
         <source>Zoom in</source>

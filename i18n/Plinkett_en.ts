@@ -948,6 +948,49 @@
     </message>
 </context>
 <context>
+    <name>AreaTools</name>
+    <message>
+        <source>Add rectangle</source>
+        <translation>Add rectangle</translation>
+    </message>
+    <message>
+        <source>A new area: drag a rectangle, with Shift a square</source>
+        <translation>A new area: drag a rectangle, with Shift a square</translation>
+    </message>
+    <message>
+        <source>Add ellipse</source>
+        <translation>Add ellipse</translation>
+    </message>
+    <message>
+        <source>A new area: drag an ellipse, with Shift a circle</source>
+        <translation>A new area: drag an ellipse, with Shift a circle</translation>
+    </message>
+    <message>
+        <source>Area of one colour</source>
+        <translation>Area of one colour</translation>
+    </message>
+    <message>
+        <source>A new area: click what has about the same colour</source>
+        <translation>A new area: click what has about the same colour</translation>
+    </message>
+    <message>
+        <source>The area &quot;%1&quot; has fewer than three corners. The pen will not find it.</source>
+        <translation>The area &quot;%1&quot; has fewer than three corners. The pen will not find it.</translation>
+    </message>
+    <message>
+        <source>The area &quot;%1&quot; needs three corners.</source>
+        <translation>The area &quot;%1&quot; needs three corners.</translation>
+    </message>
+    <message>
+        <source>Enter takes the area, the wheel changes the tolerance: %1</source>
+        <translation>Enter takes the area, the wheel changes the tolerance: %1</translation>
+    </message>
+    <message>
+        <source>There is no picture here.</source>
+        <translation>There is no picture here.</translation>
+    </message>
+</context>
+<context>
     <name>ZoomActions</name>
     <message>
         <source>Zoom in</source>

@@ -948,6 +948,49 @@
     </message>
 </context>
 <context>
+    <name>AreaTools</name>
+    <message>
+        <source>Add rectangle</source>
+        <translation>Ajouter un rectangle</translation>
+    </message>
+    <message>
+        <source>A new area: drag a rectangle, with Shift a square</source>
+        <translation>Une nouvelle zone : tracer un rectangle, avec Maj un carré</translation>
+    </message>
+    <message>
+        <source>Add ellipse</source>
+        <translation>Ajouter une ellipse</translation>
+    </message>
+    <message>
+        <source>A new area: drag an ellipse, with Shift a circle</source>
+        <translation>Une nouvelle zone : tracer une ellipse, avec Maj un cercle</translation>
+    </message>
+    <message>
+        <source>Area of one colour</source>
+        <translation>Zone d&apos;une couleur</translation>
+    </message>
+    <message>
+        <source>A new area: click what has about the same colour</source>
+        <translation>Une nouvelle zone : cliquer sur ce qui a à peu près la même couleur</translation>
+    </message>
+    <message>
+        <source>The area &quot;%1&quot; has fewer than three corners. The pen will not find it.</source>
+        <translation>La zone « %1 » a moins de trois coins. Le stylo ne la trouvera pas.</translation>
+    </message>
+    <message>
+        <source>The area &quot;%1&quot; needs three corners.</source>
+        <translation>Il faut trois coins à la zone « %1 ».</translation>
+    </message>
+    <message>
+        <source>Enter takes the area, the wheel changes the tolerance: %1</source>
+        <translation>Entrée prend la zone, la molette change la tolérance : %1</translation>
+    </message>
+    <message>
+        <source>There is no picture here.</source>
+        <translation>Il n&apos;y a pas d&apos;image ici.</translation>
+    </message>
+</context>
+<context>
     <name>ZoomActions</name>
     <message>
         <source>Zoom in</source>

@@ -948,6 +948,49 @@
     </message>
 </context>
 <context>
+    <name>AreaTools</name>
+    <message>
+        <source>Add rectangle</source>
+        <translation>Rechthoek toevoegen</translation>
+    </message>
+    <message>
+        <source>A new area: drag a rectangle, with Shift a square</source>
+        <translation>Een nieuw gebied: sleep een rechthoek, met Shift een vierkant</translation>
+    </message>
+    <message>
+        <source>Add ellipse</source>
+        <translation>Ellips toevoegen</translation>
+    </message>
+    <message>
+        <source>A new area: drag an ellipse, with Shift a circle</source>
+        <translation>Een nieuw gebied: sleep een ellips, met Shift een cirkel</translation>
+    </message>
+    <message>
+        <source>Area of one colour</source>
+        <translation>Gebied van één kleur</translation>
+    </message>
+    <message>
+        <source>A new area: click what has about the same colour</source>
+        <translation>Een nieuw gebied: klik op wat ongeveer dezelfde kleur heeft</translation>
+    </message>
+    <message>
+        <source>The area &quot;%1&quot; has fewer than three corners. The pen will not find it.</source>
+        <translation>Het gebied &quot;%1&quot; heeft minder dan drie hoeken. De pen vindt het niet.</translation>
+    </message>
+    <message>
+        <source>The area &quot;%1&quot; needs three corners.</source>
+        <translation>Het gebied &quot;%1&quot; heeft drie hoeken nodig.</translation>
+    </message>
+    <message>
+        <source>Enter takes the area, the wheel changes the tolerance: %1</source>
+        <translation>Enter neemt het gebied over, het wiel verandert de tolerantie: %1</translation>
+    </message>
+    <message>
+        <source>There is no picture here.</source>
+        <translation>Hier is geen afbeelding.</translation>
+    </message>
+</context>
+<context>
     <name>ZoomActions</name>
     <message>
         <source>Zoom in</source>

@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/AreaTools.h"
 #include "app/DecimalComma.h"
 #include "app/FileDialogs.h"
 #include "app/NumberBar.h"
@@ -46,8 +47,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     new StorableName(ui->txPolyName);
     new ProductNameNote(ui->txProjectName, ui->lbProjectNameProblems);
     ui->polyArea->setDocument(&document);
-    pickTool.tell = [this](const QString& text) { tell(text); };
-    ui->polyArea->setTool(&tool());
+    prepareTools();
     prepareHistory();
     const auto typed = [this] {
         document.typeProduct(ui->txProjectName->text().toStdString(), ui->txProjectId->value());
@@ -93,6 +93,14 @@ void MainWindow::letPictureScroll()
             [this](QPoint pixel) { pictureScroll->ensureVisible(pixel.x(), pixel.y()); });
     new PagePanning(pictureScroll);
     new PageTouch(pictureScroll);
+}
+
+void MainWindow::prepareTools()
+{
+    pickTool.tell = [this](const QString& text) { tell(text); };
+    areaTools = std::make_unique<AreaTools>(document, pickTool, *ui->polyArea, *ui->txPolyName,
+                                            *ui->editBar);
+    connect(areaTools.get(), &AreaTools::told, this, qOverload<const QString&>(&MainWindow::tell));
     new ZoomActions(pictureScroll, *ui->editBar, *ui->statusbar);
 }
 

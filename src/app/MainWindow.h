@@ -2,7 +2,6 @@
 
 #include "document/CompanionFiles.h"
 #include "document/Document.h"
-#include "page/DrawTool.h"
 #include "page/PickTool.h"
 #include "publish/SoundFiles.h"
 
@@ -18,6 +17,7 @@
 namespace Ui {
 class MainWindow;
 }
+class AreaTools;
 class NoticeBar;
 class NumberBar;
 class PageScrollArea;
@@ -95,8 +95,6 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    enum Mode { pick = 0, addPolygon = 1 };
-
     // The one place that moves data between the form and the project: into the project (a fresh
     // compiler object included), or into the form. Called before and after changes alike.
     void ProjectDataWasChanged(bool toProject);
@@ -104,6 +102,7 @@ private:
     void prepareTextEditor();
     void takeDrops();
     void letPictureScroll();
+    void prepareTools();
     void letProjectScroll();
     void takeDecimalCommas();
     void prepareNotices();
@@ -150,8 +149,6 @@ private:
     const Oid::POLY* selectedArea() const;
     // Fills the fields of the selected area; without one they keep what they show.
     void showSelectedArea();
-    void setMode(Mode newMode);
-    PageTool& tool();  // of the mode
 
     // True when the form holds a name, id or script that the project does not have yet.
     bool formWasEdited() const;
@@ -192,9 +189,7 @@ private:
     Document document;
     Oid::OidProject& project = document.projectRecord();
     CompanionFiles companions;
-    int mode = pick;
     PickTool pickTool{document};
-    DrawTool drawTool{document};
     // What is typed into a field without a pause is one step of the history.
     const Gesture typedName = document.newGesture();
     const Gesture typedNumber = document.newGesture();
@@ -202,6 +197,7 @@ private:
     bool fillingFields = false;  // with what the project has, so that they change nothing
     bool typingPaper = false;    // the fields have what the project gets
     std::unique_ptr<Ui::MainWindow> ui;
+    std::unique_ptr<AreaTools> areaTools;
     PageScrollArea* pictureScroll = nullptr;
     QScrollArea* projectScroll = nullptr;
     NumberBar* numberBar = nullptr;

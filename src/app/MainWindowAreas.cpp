@@ -1,6 +1,7 @@
 // The areas of the current picture: drawing, picking, naming, numbering, and the way to their code.
 #include "app/MainWindow.h"
 
+#include "app/AreaTools.h"
 #include "app/StorableName.h"
 #include "ui_MainWindow.h"
 
@@ -39,21 +40,10 @@ void MainWindow::showSelectedArea()
     ui->txOidOfArea->setValue(document.numberOf(document.selectedArea()));
 }
 
-void MainWindow::setMode(Mode newMode)
-{
-    mode = newMode;
-    ui->polyArea->setTool(&tool());
-}
-
-PageTool& MainWindow::tool()
-{
-    return mode == addPolygon ? static_cast<PageTool&>(drawTool) : pickTool;
-}
-
 void MainWindow::onPolyAreaClickedLB(Oid::PNT pt)
 {
     if (ui->polyArea->isClick()) {
-        tool().click(pt);
+        areaTools->current().click(pt);
     }
     showSelectedArea();
     ui->polyArea->paintChanges();
@@ -61,15 +51,14 @@ void MainWindow::onPolyAreaClickedLB(Oid::PNT pt)
 
 void MainWindow::on_btPickPoly_clicked()
 {
-    setMode(pick);
+    areaTools->pick();
     selectPolygon(-1);
 }
 
 void MainWindow::on_btAddPoly_clicked()
 {
-    const int added = drawTool.begin();
+    const int added = areaTools->draw();
     if (added >= 0) {
-        setMode(addPolygon);
         selectPolygon(added);
     }
 }
@@ -79,7 +68,7 @@ void MainWindow::on_btDelPoly_clicked()
     if (!document.apply(edit::RemoveArea{document.selectedArea()})) {
         return;
     }
-    setMode(pick);
+    areaTools->pick();
     selectPolygon(document.selectedIndex() - 1);
 }
 

@@ -1,6 +1,7 @@
 // Undo and redo, and what the window shows of a change.
 #include "app/MainWindow.h"
 
+#include "app/AreaTools.h"
 #include "qtsync/KVQtSync.h"
 #include "ui_MainWindow.h"
 
@@ -65,9 +66,7 @@ void MainWindow::undo()
     } else if (document.canUndo() && !document.undo()) {
         warnOfPictures();
     }
-    if (mode == addPolygon && !drawTool.hasArea()) {
-        setMode(pick);  // the area that was being drawn is gone
-    }
+    areaTools->undone();
 }
 
 void MainWindow::redo()

@@ -1,19 +1,146 @@
 #include "page/DrawTool.h"
 
-#include "base/TextHelpers.h"
-
+#include <algorithm>
+#include <cstdlib>
 #include <utility>
+
+const std::vector<Oid::PNT>* DrawTool::corners() const
+{
+    return page() != nullptr && !page()->polys.empty() ? &page()->polys.back().points : nullptr;
+}
+
+bool DrawTool::isLastOnPage() const
+{
+    return hasArea() && document.placeOf(area).page == document.currentPage() &&
+           document.placeOf(area).index == static_cast<int>(page()->polys.size()) - 1;
+}
+
+AreaId DrawTool::unfinished() const
+{
+    const Contents::Place place = document.placeOf(area);
+    if (place.page < 0) {
+        return AreaId::none;
+    }
+    const Oid::PICTURE& there = document.project().pictures[static_cast<std::size_t>(place.page)];
+    return there.polys[static_cast<std::size_t>(place.index)].points.size() < kLeastCorners
+               ? area
+               : AreaId::none;
+}
+
+// Where a click ends the area: on its first corner.
+bool DrawTool::closes(const Oid::PNT& at, const PageView& view) const
+{
+    constexpr int kReach = 6;  // pixels
+    if (!isLastOnPage() || corners()->size() < kLeastCorners) {
+        return false;
+    }
+    const QPoint way = view.toPixel(at) - view.toPixel(corners()->front());
+    return std::max(std::abs(way.x()), std::abs(way.y())) <= kReach;
+}
+
+static QPolygon lineBetween(QPoint from, QPoint to)
+{
+    QPolygon line;
+    line << from << to;
+    return line;
+}
+
+PageMarks DrawTool::marks(const PageView& view, const QRect& seen) const
+{
+    PageMarks shown = AreaMaker::marks(view, seen);
+    if (corners() == nullptr || corners()->empty() || !pointer) {
+        return shown;
+    }
+    const QPoint first = view.toPixel(corners()->front());
+    const bool closing = closes(*pointer, view);
+    const QPoint at = closing ? first : view.toPixel(*pointer);
+    shown.add(PageMark::line, lineBetween(view.toPixel(corners()->back()), at));
+    if (corners()->size() > 1 && !closing) {
+        shown.add(PageMark::faintLine, lineBetween(at, first));
+    }
+    if (isLastOnPage()) {
+        shown.add(closing ? PageMark::hotHandle : PageMark::handle,
+                  QPolygon(QVector<QPoint>{first}));
+    }
+    return shown;
+}
+
+void DrawTool::press(const PageMouse& mouse)
+{
+    pressedOn = mouse.view;
+}
 
 void DrawTool::click(const Oid::PNT& at)
 {
-    if (page() == nullptr || page()->polys.empty()) {
+    const std::optional<PageView> view = std::exchange(pressedOn, std::nullopt);
+    if (view && closes(at, *view)) {
+        finish();
         return;
     }
-    std::vector<Oid::PNT> corners = page()->polys.back().points;
-    corners.push_back(at);
+    if (corners() == nullptr) {
+        return;
+    }
+    std::vector<Oid::PNT> more = *corners();
+    more.push_back(at);
     const int last = static_cast<int>(page()->polys.size()) - 1;
     document.apply(
-        edit::SetCorners{document.areaAt(document.currentPage(), last), std::move(corners)});
+        edit::SetCorners{document.areaAt(document.currentPage(), last), std::move(more)});
+}
+
+void DrawTool::put(const Oid::PNT& at, const PageView& view)
+{
+    pressedOn = view;
+    click(at);
+}
+
+// The first of the two clicks has set the corner.
+bool DrawTool::doubleClick(const PageMouse& /*mouse*/)
+{
+    if (!isLastOnPage()) {
+        return false;
+    }
+    finish();
+    return true;
+}
+
+bool DrawTool::rightClick(const PageMouse& /*mouse*/)
+{
+    takeBack();
+    return true;
+}
+
+// Only from the area that was begun: what else is on the page was there before.
+void DrawTool::takeBack()
+{
+    if (isLastOnPage() && !corners()->empty()) {
+        std::vector<Oid::PNT> fewer = *corners();
+        fewer.pop_back();
+        document.apply(edit::SetCorners{area, std::move(fewer)});
+    }
+}
+
+void DrawTool::finish()
+{
+    if (!hasArea()) {
+        listener.makingGivenUp();
+    } else if (unfinished() != AreaId::none) {
+        listener.tooFewCorners(area);
+    } else {
+        listener.areaMade(area);
+    }
+}
+
+bool DrawTool::giveUp()
+{
+    if (hasArea() && !document.unmake(area)) {
+        const int onPage = document.placeOf(area).page;
+        document.apply(edit::RemoveArea{area});
+        if (onPage == document.currentPage()) {
+            document.select(onPage, -1);
+        }
+    }
+    listener.makingGivenUp();
+    return true;
 }
 
 int DrawTool::begin()
@@ -22,9 +149,7 @@ int DrawTool::begin()
         return -1;
     }
     const int count = static_cast<int>(page()->polys.size());
-    Oid::POLY added;
-    added.name = "polygon" + itostr(count + 1);
-    document.apply(edit::AddArea{document.currentPage(), std::move(added)});
+    document.apply(edit::AddArea{document.currentPage(), newArea()});
     area = document.areaAt(document.currentPage(), count);
     return count;
 }

@@ -24,10 +24,10 @@ QRect placeOf(const PageMark& mark)
 // A line needs no more than its own pixels anew, however far apart its ends are.
 QRegion regionOf(const PageMark& mark, QRect bounds)
 {
-    if (mark.kind == PageMark::line || mark.kind == PageMark::frame) {
+    if (mark.kind >= PageMark::line && mark.kind <= PageMark::frame) {
         QRegion region;
         const QPolygon& points = mark.points;
-        const int lines = points.size() - (mark.kind == PageMark::line ? 1 : 0);
+        const int lines = points.size() - (mark.kind == PageMark::frame ? 0 : 1);
         for (int i = 0; i < lines; ++i) {
             const QPoint end = points[(i + 1) % points.size()];
             region += regionBetween(QPolygon({points[i]}), QPolygon({end}), bounds);
@@ -60,8 +60,9 @@ void drawLine(QPainter& painter, const PageMark& mark)
             painter.drawPolyline(mark.points);
         }
     };
-    draw(QPen(QColor(255, 255, 255)));
-    draw(QPen(QColor(160, 0, 0), 1, Qt::DashLine));
+    const int alpha = mark.kind == PageMark::faintLine ? 96 : 255;
+    draw(QPen(QColor(255, 255, 255, alpha)));
+    draw(QPen(QColor(160, 0, 0, alpha), 1, Qt::DashLine));
 }
 
 void drawArea(QPainter& painter, const PageMark& mark)

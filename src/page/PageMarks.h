@@ -14,6 +14,7 @@ struct PageMark
         chosenHandle,  // one that a key will move
         hotHandle,     // one that lies under the mouse
         line,          // from point to point
+        faintLine,     // what would join them
         frame,         // a closed line
         area           // like a selected area
     };

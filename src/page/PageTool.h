@@ -52,6 +52,8 @@ public:
     // The mouse is over the page no more.
     virtual void leave() {}
 
+    // The wheel was turned by so many steps, away from the author. True when that is the tool's.
+    virtual bool wheel(int /*steps*/) { return false; }
     // True when the key is the tool's; any other goes on to the window.
     virtual bool key(const QKeyEvent& /*event*/, const PageView& /*view*/) { return false; }
     // Where such a key has left the author: the page is scrolled there.

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <utility>
@@ -107,6 +108,7 @@ void PolyEditorWidget::readImage(const QString& path)
         clearImage();
     } else {
         image = loaded;
+        isPlaceholder = false;
     }
 }
 
@@ -119,6 +121,7 @@ void PolyEditorWidget::clearImage()
     painter.drawLine(0, 0, 150, 100);
     painter.end();
     image = placeholder;
+    isPlaceholder = true;
 }
 
 // A click between pixels is at the nearest one.
@@ -143,6 +146,7 @@ void PolyEditorWidget::mousePressEvent(QMouseEvent* event)
         return;
     }
     const PageMouse mouse = mouseOn(view(), *event);
+    pressedTool = tool;
     if (event->button() == Qt::RightButton) {
         rightClickIsTaken = tool->rightClick(mouse);
     }
@@ -152,10 +156,12 @@ void PolyEditorWidget::mousePressEvent(QMouseEvent* event)
     showTool();
 }
 
+// Where the first of the two clicks has brought another tool, the second one is nobody's.
 void PolyEditorWidget::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    const bool isNobodys = pressedTool != nullptr && tool != pressedTool;
     if (event->button() == Qt::LeftButton && tool != nullptr &&
-        tool->doubleClick(mouseOn(view(), *event))) {
+        (isNobodys || tool->doubleClick(mouseOn(view(), *event)))) {
         releaseIsTaken = true;
         showTool();
         return;
@@ -201,6 +207,23 @@ void PolyEditorWidget::leaveEvent(QEvent* event)
         showTool();
     }
     QWidget::leaveEvent(event);
+}
+
+void PolyEditorWidget::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
+    if (tool == nullptr || event->modifiers() != Qt::NoModifier) {
+        return;
+    }
+    wheelRest += event->angleDelta().y();
+    const int steps = wheelRest / QWheelEvent::DefaultDeltasPerStep;
+    if (tool->wheel(steps)) {
+        wheelRest -= steps * QWheelEvent::DefaultDeltasPerStep;
+        event->accept();
+        showTool();
+    } else {
+        wheelRest = 0;
+    }
 }
 
 void PolyEditorWidget::keyPressEvent(QKeyEvent* event)

@@ -54,6 +54,8 @@ public:
     // Shows the picture file, or a placeholder when it cannot be read.
     void loadImage(const QString& path);
     void clearImage();
+    // The decoded picture; null while the placeholder is shown.
+    QImage loadedImage() const { return isPlaceholder ? QImage() : image; }
 
     // Paints what has changed in the document at once, not only when nothing else is to be done.
     void paintChanges();
@@ -75,6 +77,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -93,8 +96,11 @@ private:
     Document* document = nullptr;
     PageTool* tool = nullptr;
     QImage image;
+    bool isPlaceholder = true;
     PageTiles tiles;
-    PageMarks marks;  // as they are shown
+    PageMarks marks;                        // as they are shown
+    const PageTool* pressedTool = nullptr;  // that got the last press; only to be compared
+    int wheelRest = 0;                      // of a step that the wheel has begun
     bool releaseIsTaken = false;
     bool rightClickIsTaken = false;
     QRegion unpainted;    // has changed since it was painted

@@ -1,0 +1,128 @@
+#include "app/AreaTools.h"
+
+#include "page/PolyEditorWidget.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QToolBar>
+
+AreaTools::AreaTools(Document& edited, PickTool& pickTool, PolyEditorWidget& page, QLineEdit& name,
+                     QToolBar& bar)
+    : document(edited),
+      picker(pickTool),
+      shownPage(page),
+      nameField(name),
+      drawer(edited, *this),
+      box(edited, *this),
+      ellipse(edited, *this),
+      magic(edited, *this, [&page] { return page.loadedImage(); }),
+      chosen(&pickTool)
+{
+    bar.addSeparator();
+    addButton(bar, "actionAddBox", "add-box", tr("Add rectangle"),
+              tr("A new area: drag a rectangle, with Shift a square"), box);
+    addButton(bar, "actionAddEllipse", "add-ellipse", tr("Add ellipse"),
+              tr("A new area: drag an ellipse, with Shift a circle"), ellipse);
+    addButton(bar, "actionMagicArea", "magic-area", tr("Area of one colour"),
+              tr("A new area: click what has about the same colour"), magic);
+    connect(&name, &QLineEdit::returnPressed, this, [this] {
+        if (chosen == &drawer) {
+            drawer.finish();
+        }
+    });
+    page.setTool(chosen);
+}
+
+void AreaTools::addButton(QToolBar& bar, const char* name, const QString& icon, const QString& text,
+                          const QString& toolTip, PageTool& tool)
+{
+    QAction* const action = new QAction(QIcon(":/icons/" + icon + ".svg"), text, &bar);
+    action->setObjectName(name);
+    action->setToolTip(toolTip);
+    action->setCheckable(true);
+    action->setPriority(QAction::LowPriority);  // its icon says it
+    bar.addAction(action);
+    buttons[&tool] = action;
+    connect(action, &QAction::triggered, this, [this, &tool](bool on) {
+        tellUnfinished();
+        choose(on && document.pageAt(document.currentPage()) != PageId::none ? tool : picker);
+    });
+}
+
+void AreaTools::choose(PageTool& tool)
+{
+    chosen = &tool;
+    for (const auto& [other, button] : buttons) {
+        button->setChecked(other == chosen);
+    }
+    shownPage.setTool(chosen);
+    if (chosen != &picker) {
+        shownPage.setFocus();  // its keys are the tool's
+    }
+}
+
+void AreaTools::pick()
+{
+    tellUnfinished();
+    choose(picker);
+}
+
+int AreaTools::draw()
+{
+    tellUnfinished();
+    const int added = drawer.begin();
+    if (added >= 0) {
+        choose(drawer);
+    }
+    return added;
+}
+
+void AreaTools::undone()
+{
+    if (chosen == &drawer && !drawer.hasArea()) {
+        choose(picker);
+    }
+}
+
+// It stays: it may be wanted for its name, and can be given corners.
+void AreaTools::tellUnfinished()
+{
+    if (chosen == &drawer && drawer.unfinished() != AreaId::none) {
+        emit told(tr("The area \"%1\" has fewer than three corners. The pen will not find it.")
+                      .arg(nameOf(drawer.unfinished())));
+    }
+}
+
+QString AreaTools::nameOf(AreaId area) const
+{
+    const Contents::Place place = document.placeOf(area);
+    const Oid::PICTURE& page = document.project().pictures[static_cast<std::size_t>(place.page)];
+    return QString::fromStdString(page.polys[static_cast<std::size_t>(place.index)].name);
+}
+
+void AreaTools::areaMade(AreaId area)
+{
+    if (chosen != &magic) {  // with which one goes on to the next colour
+        choose(picker);
+    }
+    const Contents::Place place = document.placeOf(area);
+    document.select(place.page, place.index);
+    nameField.setFocus();
+    nameField.selectAll();
+}
+
+void AreaTools::makingGivenUp()
+{
+    choose(picker);
+}
+
+void AreaTools::tooFewCorners(AreaId area)
+{
+    emit told(tr("The area \"%1\" needs three corners.").arg(nameOf(area)));
+}
+
+void AreaTools::areaProposed(bool found, int tolerance)
+{
+    emit told(found ? tr("Enter takes the area, the wheel changes the tolerance: %1").arg(tolerance)
+                    : tr("There is no picture here."));
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "page/DrawTool.h"
+#include "page/MagicTool.h"
+#include "page/PickTool.h"
+#include "page/ShapeTool.h"
+
+#include <QObject>
+
+#include <map>
+
+class PolyEditorWidget;
+class QAction;
+class QLineEdit;
+class QToolBar;
+
+// Which tool the page has, and the buttons of those that make areas. A made area is selected, and
+// its name is ready to be typed over.
+class AreaTools : public QObject, private MakingListener
+{
+    Q_OBJECT
+
+public:
+    // Everything outlives the tools. Their buttons come to the end of the bar.
+    AreaTools(Document& edited, PickTool& pickTool, PolyEditorWidget& page, QLineEdit& name,
+              QToolBar& bar);
+
+    PageTool& current() const { return *chosen; }
+    void pick();
+    // Begins an area that is drawn corner by corner. Its index on the page; -1 without a page.
+    int draw();
+    // Something was undone: what is being drawn may be gone.
+    void undone();
+
+signals:
+    // For the author.
+    void told(const QString& text);
+
+private:
+    void areaMade(AreaId area) override;
+    void makingGivenUp() override;
+    void tooFewCorners(AreaId area) override;
+    void areaProposed(bool found, int tolerance) override;
+
+    void addButton(QToolBar& bar, const char* name, const QString& icon, const QString& text,
+                   const QString& toolTip, PageTool& tool);
+    void choose(PageTool& tool);
+    void tellUnfinished();
+    QString nameOf(AreaId area) const;
+
+    Document& document;
+    PickTool& picker;
+    PolyEditorWidget& shownPage;
+    QLineEdit& nameField;
+    DrawTool drawer;
+    BoxTool box;
+    EllipseTool ellipse;
+    MagicTool magic;
+    PageTool* chosen;
+    std::map<PageTool*, QAction*> buttons;
+};
