@@ -259,7 +259,7 @@ bool measureDrags(Book& book)
 }
 
 // Hears nothing of what a tool makes.
-class Nobody : public MakingListener
+class Nobody final : public MakingListener
 {
     void areaMade(AreaId /*area*/) override {}
     void makingGivenUp() override {}
