@@ -860,6 +860,99 @@
     </message>
 </context>
 <context>
+    <name>SubNameNote</name>
+    <message>
+        <source>An area needs a name. Type one.</source>
+        <translation>Ein Bereich braucht einen Namen. Gib einen ein.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot stand in a name. Leave it out.</source>
+        <translation>„%1“ kann nicht in einem Namen stehen. Lass es weg.</translation>
+    </message>
+    <message>
+        <source>A name cannot begin with &quot;%1&quot;. Begin with a letter.</source>
+        <translation>Ein Name kann nicht mit „%1“ beginnen. Beginne mit einem Buchstaben.</translation>
+    </message>
+    <message>
+        <source>The name would be taken for a number of dots. Begin with a letter.</source>
+        <translation>Der Name würde für eine Punktnummer gehalten. Beginne mit einem Buchstaben.</translation>
+    </message>
+    <message>
+        <source>&quot;asm&quot; with a number belongs to the compiler. Choose another name.</source>
+        <translation>„asm“ mit einer Zahl gehört dem Compiler. Wähle einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>No &quot;goto&quot; can lead to a name that begins with a digit. Begin with a letter.</source>
+        <translation>Kein „goto“ kann zu einem Namen führen, der mit einer Ziffer beginnt. Beginne mit einem Buchstaben.</translation>
+    </message>
+    <message>
+        <source>No &quot;goto&quot; can lead to a name with &quot;%1&quot;. Take letters, digits and &quot;_&quot;.</source>
+        <translation>Kein „goto“ kann zu einem Namen mit „%1“ führen. Nimm Buchstaben, Ziffern und „_“.</translation>
+    </message>
+</context>
+<context>
+    <name>RenameDialog</name>
+    <message>
+        <source>Rename everywhere</source>
+        <translation>Überall umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;New name of &quot;%1&quot;:</source>
+        <translation>&amp;Neuer Name von „%1“:</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Neuer Name</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+</context>
+<context>
+    <name>RenameEverywhere</name>
+    <message>
+        <source>Rename &amp;everywhere...</source>
+        <translation>Überall &amp;umbenennen ...</translation>
+    </message>
+    <message>
+        <source>Changes the name on all pages and in the script</source>
+        <translation>Ändert den Namen auf allen Seiten und im Skript</translation>
+    </message>
+    <message>
+        <source>The script keeps the name &quot;%1&quot;: both names stand there now.</source>
+        <translation>Das Skript behält den Namen „%1“: dort stehen jetzt beide Namen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot; everywhere now.</source>
+        <translation>„%1“ heißt jetzt überall „%2“.</translation>
+    </message>
+    <message>
+        <source>Places in the script: %1</source>
+        <translation>Stellen im Skript: %1</translation>
+    </message>
+    <message>
+        <source>Areas: %1, on the pages %2</source>
+        <translation>Bereiche: %1, auf den Seiten %2</translation>
+    </message>
+    <message>
+        <source>The script has a sub of this name already, and can have only one. Choose another name.</source>
+        <translation>Das Skript hat schon ein sub dieses Namens und kann nur eines haben. Wähle einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>This name is taken already.</source>
+        <translation>Dieser Name ist schon vergeben.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is taken already. The areas would share one number and one sub. Rename?</source>
+        <translation>Der Name „%1“ ist schon vergeben. Die Bereiche hätten dann eine Nummer und ein sub gemeinsam. Umbenennen?</translation>
+    </message>
+    <message>
+        <source>Rename everywhere</source>
+        <translation>Überall umbenennen</translation>
+    </message>
+</context>
+<context>
     <name>NumberBar</name>
     <message>
         <source>This book gets another number</source>

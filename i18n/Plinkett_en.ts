@@ -860,6 +860,99 @@
     </message>
 </context>
 <context>
+    <name>SubNameNote</name>
+    <message>
+        <source>An area needs a name. Type one.</source>
+        <translation>An area needs a name. Type one.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot stand in a name. Leave it out.</source>
+        <translation>&quot;%1&quot; cannot stand in a name. Leave it out.</translation>
+    </message>
+    <message>
+        <source>A name cannot begin with &quot;%1&quot;. Begin with a letter.</source>
+        <translation>A name cannot begin with &quot;%1&quot;. Begin with a letter.</translation>
+    </message>
+    <message>
+        <source>The name would be taken for a number of dots. Begin with a letter.</source>
+        <translation>The name would be taken for a number of dots. Begin with a letter.</translation>
+    </message>
+    <message>
+        <source>&quot;asm&quot; with a number belongs to the compiler. Choose another name.</source>
+        <translation>&quot;asm&quot; with a number belongs to the compiler. Choose another name.</translation>
+    </message>
+    <message>
+        <source>No &quot;goto&quot; can lead to a name that begins with a digit. Begin with a letter.</source>
+        <translation>No &quot;goto&quot; can lead to a name that begins with a digit. Begin with a letter.</translation>
+    </message>
+    <message>
+        <source>No &quot;goto&quot; can lead to a name with &quot;%1&quot;. Take letters, digits and &quot;_&quot;.</source>
+        <translation>No &quot;goto&quot; can lead to a name with &quot;%1&quot;. Take letters, digits and &quot;_&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>RenameDialog</name>
+    <message>
+        <source>Rename everywhere</source>
+        <translation>Rename everywhere</translation>
+    </message>
+    <message>
+        <source>&amp;New name of &quot;%1&quot;:</source>
+        <translation>&amp;New name of &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>New name</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rename</translation>
+    </message>
+</context>
+<context>
+    <name>RenameEverywhere</name>
+    <message>
+        <source>Rename &amp;everywhere...</source>
+        <translation>Rename &amp;everywhere...</translation>
+    </message>
+    <message>
+        <source>Changes the name on all pages and in the script</source>
+        <translation>Changes the name on all pages and in the script</translation>
+    </message>
+    <message>
+        <source>The script keeps the name &quot;%1&quot;: both names stand there now.</source>
+        <translation>The script keeps the name &quot;%1&quot;: both names stand there now.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot; everywhere now.</source>
+        <translation>&quot;%1&quot; is &quot;%2&quot; everywhere now.</translation>
+    </message>
+    <message>
+        <source>Places in the script: %1</source>
+        <translation>Places in the script: %1</translation>
+    </message>
+    <message>
+        <source>Areas: %1, on the pages %2</source>
+        <translation>Areas: %1, on the pages %2</translation>
+    </message>
+    <message>
+        <source>The script has a sub of this name already, and can have only one. Choose another name.</source>
+        <translation>The script has a sub of this name already, and can have only one. Choose another name.</translation>
+    </message>
+    <message>
+        <source>This name is taken already.</source>
+        <translation>This name is taken already.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is taken already. The areas would share one number and one sub. Rename?</source>
+        <translation>The name &quot;%1&quot; is taken already. The areas would share one number and one sub. Rename?</translation>
+    </message>
+    <message>
+        <source>Rename everywhere</source>
+        <translation>Rename everywhere</translation>
+    </message>
+</context>
+<context>
     <name>NumberBar</name>
     <message>
         <source>This book gets another number</source>

@@ -860,6 +860,99 @@
     </message>
 </context>
 <context>
+    <name>SubNameNote</name>
+    <message>
+        <source>An area needs a name. Type one.</source>
+        <translation>Une zone a besoin d’un nom. Saisissez-en un.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot stand in a name. Leave it out.</source>
+        <translation>« %1 » ne peut pas figurer dans un nom. Supprimez-le.</translation>
+    </message>
+    <message>
+        <source>A name cannot begin with &quot;%1&quot;. Begin with a letter.</source>
+        <translation>Un nom ne peut pas commencer par « %1 ». Commencez par une lettre.</translation>
+    </message>
+    <message>
+        <source>The name would be taken for a number of dots. Begin with a letter.</source>
+        <translation>Le nom serait pris pour un numéro de points. Commencez par une lettre.</translation>
+    </message>
+    <message>
+        <source>&quot;asm&quot; with a number belongs to the compiler. Choose another name.</source>
+        <translation>« asm » suivi d’un nombre appartient au compilateur. Choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>No &quot;goto&quot; can lead to a name that begins with a digit. Begin with a letter.</source>
+        <translation>Aucun « goto » ne peut mener à un nom qui commence par un chiffre. Commencez par une lettre.</translation>
+    </message>
+    <message>
+        <source>No &quot;goto&quot; can lead to a name with &quot;%1&quot;. Take letters, digits and &quot;_&quot;.</source>
+        <translation>Aucun « goto » ne peut mener à un nom qui contient « %1 ». Prenez des lettres, des chiffres et « _ ».</translation>
+    </message>
+</context>
+<context>
+    <name>RenameDialog</name>
+    <message>
+        <source>Rename everywhere</source>
+        <translation>Renommer partout</translation>
+    </message>
+    <message>
+        <source>&amp;New name of &quot;%1&quot;:</source>
+        <translation>&amp;Nouveau nom de « %1 » :</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nouveau nom</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+</context>
+<context>
+    <name>RenameEverywhere</name>
+    <message>
+        <source>Rename &amp;everywhere...</source>
+        <translation>Renommer &amp;partout…</translation>
+    </message>
+    <message>
+        <source>Changes the name on all pages and in the script</source>
+        <translation>Change le nom sur toutes les pages et dans le script</translation>
+    </message>
+    <message>
+        <source>The script keeps the name &quot;%1&quot;: both names stand there now.</source>
+        <translation>Le script garde le nom « %1 » : les deux noms y figurent maintenant.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot; everywhere now.</source>
+        <translation>« %1 » s’appelle maintenant « %2 » partout.</translation>
+    </message>
+    <message>
+        <source>Places in the script: %1</source>
+        <translation>Endroits dans le script : %1</translation>
+    </message>
+    <message>
+        <source>Areas: %1, on the pages %2</source>
+        <translation>Zones : %1, sur les pages %2</translation>
+    </message>
+    <message>
+        <source>The script has a sub of this name already, and can have only one. Choose another name.</source>
+        <translation>Le script a déjà un sub de ce nom et ne peut en avoir qu’un. Choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>This name is taken already.</source>
+        <translation>Ce nom est déjà pris.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is taken already. The areas would share one number and one sub. Rename?</source>
+        <translation>Le nom « %1 » est déjà pris. Les zones partageraient un numéro et un sub. Renommer ?</translation>
+    </message>
+    <message>
+        <source>Rename everywhere</source>
+        <translation>Renommer partout</translation>
+    </message>
+</context>
+<context>
     <name>NumberBar</name>
     <message>
         <source>This book gets another number</source>

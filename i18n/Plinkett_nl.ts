@@ -860,6 +860,99 @@
     </message>
 </context>
 <context>
+    <name>SubNameNote</name>
+    <message>
+        <source>An area needs a name. Type one.</source>
+        <translation>Een gebied heeft een naam nodig. Typ er een.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot stand in a name. Leave it out.</source>
+        <translation>&quot;%1&quot; kan niet in een naam staan. Laat het weg.</translation>
+    </message>
+    <message>
+        <source>A name cannot begin with &quot;%1&quot;. Begin with a letter.</source>
+        <translation>Een naam kan niet met &quot;%1&quot; beginnen. Begin met een letter.</translation>
+    </message>
+    <message>
+        <source>The name would be taken for a number of dots. Begin with a letter.</source>
+        <translation>De naam zou voor een stippennummer worden gehouden. Begin met een letter.</translation>
+    </message>
+    <message>
+        <source>&quot;asm&quot; with a number belongs to the compiler. Choose another name.</source>
+        <translation>&quot;asm&quot; met een getal is van de compiler. Kies een andere naam.</translation>
+    </message>
+    <message>
+        <source>No &quot;goto&quot; can lead to a name that begins with a digit. Begin with a letter.</source>
+        <translation>Geen &quot;goto&quot; kan naar een naam leiden die met een cijfer begint. Begin met een letter.</translation>
+    </message>
+    <message>
+        <source>No &quot;goto&quot; can lead to a name with &quot;%1&quot;. Take letters, digits and &quot;_&quot;.</source>
+        <translation>Geen &quot;goto&quot; kan naar een naam met &quot;%1&quot; leiden. Neem letters, cijfers en &quot;_&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>RenameDialog</name>
+    <message>
+        <source>Rename everywhere</source>
+        <translation>Overal hernoemen</translation>
+    </message>
+    <message>
+        <source>&amp;New name of &quot;%1&quot;:</source>
+        <translation>&amp;Nieuwe naam van &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nieuwe naam</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Hernoemen</translation>
+    </message>
+</context>
+<context>
+    <name>RenameEverywhere</name>
+    <message>
+        <source>Rename &amp;everywhere...</source>
+        <translation>&amp;Overal hernoemen...</translation>
+    </message>
+    <message>
+        <source>Changes the name on all pages and in the script</source>
+        <translation>Verandert de naam op alle pagina&apos;s en in het script</translation>
+    </message>
+    <message>
+        <source>The script keeps the name &quot;%1&quot;: both names stand there now.</source>
+        <translation>Het script houdt de naam &quot;%1&quot;: daar staan nu beide namen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot; everywhere now.</source>
+        <translation>&quot;%1&quot; heet nu overal &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>Places in the script: %1</source>
+        <translation>Plaatsen in het script: %1</translation>
+    </message>
+    <message>
+        <source>Areas: %1, on the pages %2</source>
+        <translation>Gebieden: %1, op de pagina&apos;s %2</translation>
+    </message>
+    <message>
+        <source>The script has a sub of this name already, and can have only one. Choose another name.</source>
+        <translation>Het script heeft al een sub met deze naam en kan er maar één hebben. Kies een andere naam.</translation>
+    </message>
+    <message>
+        <source>This name is taken already.</source>
+        <translation>Deze naam is al bezet.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is taken already. The areas would share one number and one sub. Rename?</source>
+        <translation>De naam &quot;%1&quot; is al bezet. De gebieden zouden één nummer en één sub delen. Hernoemen?</translation>
+    </message>
+    <message>
+        <source>Rename everywhere</source>
+        <translation>Overal hernoemen</translation>
+    </message>
+</context>
+<context>
     <name>NumberBar</name>
     <message>
         <source>This book gets another number</source>

@@ -4,9 +4,12 @@
 #include "app/DecimalComma.h"
 #include "app/FileDialogs.h"
 #include "app/NumberBar.h"
+#include "app/PageMenu.h"
 #include "app/ProductNameNote.h"
 #include "app/Recovery.h"
+#include "app/RenameEverywhere.h"
 #include "app/StorableName.h"
+#include "app/SubNameNote.h"
 #include "app/ZoomActions.h"
 #include "base/FileSystem.h"
 #include "oid/OpenProject.h"
@@ -45,10 +48,14 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     takeDecimalCommas();
     prepareNotices();
     new StorableName(ui->txPolyName);
+    new SubNameNote(ui->txPolyName, document, ui->verticalLayout_2, 1);
     new ProductNameNote(ui->txProjectName, ui->lbProjectNameProblems);
     ui->polyArea->setDocument(&document);
     prepareTools();
     prepareHistory();
+    new PageMenu(ui->polyArea);
+    auto* const rename = new RenameEverywhere(document, ui->codeEditor->surface(), ui->polyArea);
+    connect(rename, &RenameEverywhere::told, this, [this](const QString& text) { tell(text); });
     const auto typed = [this] {
         document.typeProduct(ui->txProjectName->text().toStdString(), ui->txProjectId->value());
     };

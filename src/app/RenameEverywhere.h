@@ -1,0 +1,37 @@
+#pragma once
+
+#include "app/RenameDialog.h"
+#include "app/SharedRenames.h"
+
+class QAction;
+
+// "Rename everywhere": the selected area's name changes on all pages and in the script. The action
+// stands in the page's context menu and under F2 there.
+class RenameEverywhere : public QObject
+{
+    Q_OBJECT
+
+public:
+    // All outlive it; the page owns it.
+    RenameEverywhere(Document& document, KVQtHighlightEditCtrlInlay& script, QWidget* page);
+
+    // For other widgets that show the selected area, such as a list of areas.
+    QAction* action() { return renameAction; }
+
+signals:
+    // What came of it, in one sentence.
+    void told(const QString& text);
+
+private:
+    void ask();
+    QString selectedName() const;
+    QString placesOf(const std::string& name) const;
+    RenameDialog::Verdict judge(const std::string& from, const QString& name) const;
+    bool isTaken(const std::string& name) const;
+    bool mayJoin(const QString& name);
+
+    Document& document;
+    QWidget* page;
+    SharedRenames renames;
+    QAction* renameAction;
+};
