@@ -2,6 +2,93 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AreaCommands</name>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Aus&amp;schneiden</translation>
+    </message>
+    <message>
+        <source>Takes the selected areas to the clipboard</source>
+        <translation>Nimmt die ausgewählten Bereiche in die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copies the selected areas to the clipboard</source>
+        <translation>Kopiert die ausgewählten Bereiche in die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Brings the areas on the clipboard onto this page: under their names, which are counted up on the page that they come from</source>
+        <translation>Bringt die Bereiche aus der Zwischenablage auf diese Seite: unter ihren Namen, die auf der Seite, von der sie kommen, weitergezählt werden</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate</source>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>Copies the selected areas beside themselves</source>
+        <translation>Kopiert die ausgewählten Bereiche neben sich</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Deletes the selected areas</source>
+        <translation>Löscht die ausgewählten Bereiche</translation>
+    </message>
+    <message>
+        <source>Where areas overlap, the one that comes first speaks</source>
+        <translation>Wo Bereiche sich überdecken, spricht der erste</translation>
+    </message>
+    <message>
+        <source>Bring &amp;forward</source>
+        <translation>Nach &amp;vorn</translation>
+    </message>
+    <message>
+        <source>Send &amp;backward</source>
+        <translation>Nach &amp;hinten</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>&amp;Alle auswählen</translation>
+    </message>
+    <message>
+        <source>Selects all areas of the page</source>
+        <translation>Wählt alle Bereiche der Seite aus</translation>
+    </message>
+    <message>
+        <source>Areas copied: %1</source>
+        <translation>Bereiche kopiert: %1</translation>
+    </message>
+    <message>
+        <source>Areas cut: %1</source>
+        <translation>Bereiche ausgeschnitten: %1</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no areas.</source>
+        <translation>In der Zwischenablage sind keine Bereiche.</translation>
+    </message>
+    <message>
+        <source>The areas on the clipboard cannot be read: line %1 is not as it should be.</source>
+        <translation>Die Bereiche in der Zwischenablage sind nicht lesbar: Zeile %1 ist nicht, wie sie sein sollte.</translation>
+    </message>
+    <message>
+        <source>Areas pasted: %1</source>
+        <translation>Bereiche eingefügt: %1</translation>
+    </message>
+    <message>
+        <source>%1 is area %2 of %3. Where areas overlap, the one that comes first speaks.</source>
+        <translation>%1 ist Bereich %2 von %3. Wo Bereiche sich überdecken, spricht der erste.</translation>
+    </message>
+</context>
+<context>
     <name>Hints</name>
     <message>
         <source>The pen says only one of these texts, at random</source>
@@ -842,10 +929,28 @@
     </message>
 </context>
 <context>
+    <name>PageMenu</name>
+    <message>
+        <source>Areas here</source>
+        <translation>Bereiche hier</translation>
+    </message>
+    <message>
+        <source>%1 (speaks here)</source>
+        <translation>%1 (spricht hier)</translation>
+    </message>
+</context>
+<context>
     <name>PickTool</name>
     <message>
         <source>An area needs at least three corners.</source>
         <translation>Ein Bereich braucht mindestens drei Ecken.</translation>
+    </message>
+</context>
+<context>
+    <name>PolyEditorWidget</name>
+    <message>
+        <source>Here speaks %1; behind it lies %2.</source>
+        <translation>Hier spricht %1; dahinter liegt %2.</translation>
     </message>
 </context>
 <context>

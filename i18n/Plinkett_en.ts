@@ -2,6 +2,93 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>AreaCommands</name>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message>
+        <source>Takes the selected areas to the clipboard</source>
+        <translation>Takes the selected areas to the clipboard</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>Copies the selected areas to the clipboard</source>
+        <translation>Copies the selected areas to the clipboard</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>Brings the areas on the clipboard onto this page: under their names, which are counted up on the page that they come from</source>
+        <translation>Brings the areas on the clipboard onto this page: under their names, which are counted up on the page that they come from</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate</source>
+        <translation>D&amp;uplicate</translation>
+    </message>
+    <message>
+        <source>Copies the selected areas beside themselves</source>
+        <translation>Copies the selected areas beside themselves</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>Deletes the selected areas</source>
+        <translation>Deletes the selected areas</translation>
+    </message>
+    <message>
+        <source>Where areas overlap, the one that comes first speaks</source>
+        <translation>Where areas overlap, the one that comes first speaks</translation>
+    </message>
+    <message>
+        <source>Bring &amp;forward</source>
+        <translation>Bring &amp;forward</translation>
+    </message>
+    <message>
+        <source>Send &amp;backward</source>
+        <translation>Send &amp;backward</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>Select &amp;all</translation>
+    </message>
+    <message>
+        <source>Selects all areas of the page</source>
+        <translation>Selects all areas of the page</translation>
+    </message>
+    <message>
+        <source>Areas copied: %1</source>
+        <translation>Areas copied: %1</translation>
+    </message>
+    <message>
+        <source>Areas cut: %1</source>
+        <translation>Areas cut: %1</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no areas.</source>
+        <translation>The clipboard holds no areas.</translation>
+    </message>
+    <message>
+        <source>The areas on the clipboard cannot be read: line %1 is not as it should be.</source>
+        <translation>The areas on the clipboard cannot be read: line %1 is not as it should be.</translation>
+    </message>
+    <message>
+        <source>Areas pasted: %1</source>
+        <translation>Areas pasted: %1</translation>
+    </message>
+    <message>
+        <source>%1 is area %2 of %3. Where areas overlap, the one that comes first speaks.</source>
+        <translation>%1 is area %2 of %3. Where areas overlap, the one that comes first speaks.</translation>
+    </message>
+</context>
+<context>
     <name>Hints</name>
     <message>
         <source>The pen says only one of these texts, at random</source>
@@ -842,10 +929,28 @@
     </message>
 </context>
 <context>
+    <name>PageMenu</name>
+    <message>
+        <source>Areas here</source>
+        <translation>Areas here</translation>
+    </message>
+    <message>
+        <source>%1 (speaks here)</source>
+        <translation>%1 (speaks here)</translation>
+    </message>
+</context>
+<context>
     <name>PickTool</name>
     <message>
         <source>An area needs at least three corners.</source>
         <translation>An area needs at least three corners.</translation>
+    </message>
+</context>
+<context>
+    <name>PolyEditorWidget</name>
+    <message>
+        <source>Here speaks %1; behind it lies %2.</source>
+        <translation>Here speaks %1; behind it lies %2.</translation>
     </message>
 </context>
 <context>

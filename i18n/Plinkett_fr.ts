@@ -2,6 +2,93 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>AreaCommands</name>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cou&amp;per</translation>
+    </message>
+    <message>
+        <source>Takes the selected areas to the clipboard</source>
+        <translation>Met les zones choisies dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Copies the selected areas to the clipboard</source>
+        <translation>Copie les zones choisies dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>Brings the areas on the clipboard onto this page: under their names, which are counted up on the page that they come from</source>
+        <translation>Met les zones du presse-papiers sur cette page : sous leurs noms, qui reçoivent un autre numéro sur la page d’où elles viennent</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate</source>
+        <translation>D&amp;upliquer</translation>
+    </message>
+    <message>
+        <source>Copies the selected areas beside themselves</source>
+        <translation>Copie les zones choisies à côté d’elles-mêmes</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Deletes the selected areas</source>
+        <translation>Supprime les zones choisies</translation>
+    </message>
+    <message>
+        <source>Where areas overlap, the one that comes first speaks</source>
+        <translation>Là où des zones se recouvrent, la première parle</translation>
+    </message>
+    <message>
+        <source>Bring &amp;forward</source>
+        <translation>Vers l’&amp;avant</translation>
+    </message>
+    <message>
+        <source>Send &amp;backward</source>
+        <translation>Vers l’a&amp;rrière</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>&amp;Tout choisir</translation>
+    </message>
+    <message>
+        <source>Selects all areas of the page</source>
+        <translation>Choisit toutes les zones de la page</translation>
+    </message>
+    <message>
+        <source>Areas copied: %1</source>
+        <translation>Zones copiées : %1</translation>
+    </message>
+    <message>
+        <source>Areas cut: %1</source>
+        <translation>Zones coupées : %1</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no areas.</source>
+        <translation>Le presse-papiers ne contient pas de zones.</translation>
+    </message>
+    <message>
+        <source>The areas on the clipboard cannot be read: line %1 is not as it should be.</source>
+        <translation>Les zones du presse-papiers sont illisibles : la ligne %1 n’est pas comme elle devrait être.</translation>
+    </message>
+    <message>
+        <source>Areas pasted: %1</source>
+        <translation>Zones collées : %1</translation>
+    </message>
+    <message>
+        <source>%1 is area %2 of %3. Where areas overlap, the one that comes first speaks.</source>
+        <translation>%1 est la zone %2 sur %3. Là où des zones se recouvrent, la première parle.</translation>
+    </message>
+</context>
+<context>
     <name>Hints</name>
     <message>
         <source>The pen says only one of these texts, at random</source>
@@ -842,10 +929,28 @@
     </message>
 </context>
 <context>
+    <name>PageMenu</name>
+    <message>
+        <source>Areas here</source>
+        <translation>Zones ici</translation>
+    </message>
+    <message>
+        <source>%1 (speaks here)</source>
+        <translation>%1 (parle ici)</translation>
+    </message>
+</context>
+<context>
     <name>PickTool</name>
     <message>
         <source>An area needs at least three corners.</source>
         <translation>Une zone a besoin d’au moins trois coins.</translation>
+    </message>
+</context>
+<context>
+    <name>PolyEditorWidget</name>
+    <message>
+        <source>Here speaks %1; behind it lies %2.</source>
+        <translation>Ici parle %1 ; derrière se trouve %2.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,93 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
+    <name>AreaCommands</name>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>K&amp;nippen</translation>
+    </message>
+    <message>
+        <source>Takes the selected areas to the clipboard</source>
+        <translation>Neemt de gekozen gebieden naar het klembord</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiëren</translation>
+    </message>
+    <message>
+        <source>Copies the selected areas to the clipboard</source>
+        <translation>Kopieert de gekozen gebieden naar het klembord</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Plakken</translation>
+    </message>
+    <message>
+        <source>Brings the areas on the clipboard onto this page: under their names, which are counted up on the page that they come from</source>
+        <translation>Brengt de gebieden van het klembord op deze pagina: onder hun namen, die op de pagina waar ze vandaan komen worden doorgeteld</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate</source>
+        <translation>D&amp;upliceren</translation>
+    </message>
+    <message>
+        <source>Copies the selected areas beside themselves</source>
+        <translation>Kopieert de gekozen gebieden naast zichzelf</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Verwijderen</translation>
+    </message>
+    <message>
+        <source>Deletes the selected areas</source>
+        <translation>Verwijdert de gekozen gebieden</translation>
+    </message>
+    <message>
+        <source>Where areas overlap, the one that comes first speaks</source>
+        <translation>Waar gebieden overlappen, spreekt het eerste</translation>
+    </message>
+    <message>
+        <source>Bring &amp;forward</source>
+        <translation>Naar v&amp;oren</translation>
+    </message>
+    <message>
+        <source>Send &amp;backward</source>
+        <translation>Naar &amp;achteren</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>A&amp;lles kiezen</translation>
+    </message>
+    <message>
+        <source>Selects all areas of the page</source>
+        <translation>Kiest alle gebieden van de pagina</translation>
+    </message>
+    <message>
+        <source>Areas copied: %1</source>
+        <translation>Gebieden gekopieerd: %1</translation>
+    </message>
+    <message>
+        <source>Areas cut: %1</source>
+        <translation>Gebieden geknipt: %1</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no areas.</source>
+        <translation>Op het klembord staan geen gebieden.</translation>
+    </message>
+    <message>
+        <source>The areas on the clipboard cannot be read: line %1 is not as it should be.</source>
+        <translation>De gebieden op het klembord kunnen niet worden gelezen: regel %1 is niet zoals het hoort.</translation>
+    </message>
+    <message>
+        <source>Areas pasted: %1</source>
+        <translation>Gebieden geplakt: %1</translation>
+    </message>
+    <message>
+        <source>%1 is area %2 of %3. Where areas overlap, the one that comes first speaks.</source>
+        <translation>%1 is gebied %2 van %3. Waar gebieden overlappen, spreekt het eerste.</translation>
+    </message>
+</context>
+<context>
     <name>Hints</name>
     <message>
         <source>The pen says only one of these texts, at random</source>
@@ -842,10 +929,28 @@
     </message>
 </context>
 <context>
+    <name>PageMenu</name>
+    <message>
+        <source>Areas here</source>
+        <translation>Gebieden hier</translation>
+    </message>
+    <message>
+        <source>%1 (speaks here)</source>
+        <translation>%1 (spreekt hier)</translation>
+    </message>
+</context>
+<context>
     <name>PickTool</name>
     <message>
         <source>An area needs at least three corners.</source>
         <translation>Een gebied heeft minstens drie hoeken nodig.</translation>
+    </message>
+</context>
+<context>
+    <name>PolyEditorWidget</name>
+    <message>
+        <source>Here speaks %1; behind it lies %2.</source>
+        <translation>Hier spreekt %1; daarachter ligt %2.</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/AreaCommands.h"
 #include "app/AreaTools.h"
 #include "app/DecimalComma.h"
 #include "app/FileDialogs.h"
@@ -53,7 +54,9 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     ui->polyArea->setDocument(&document);
     prepareTools();
     prepareHistory();
-    new PageMenu(ui->polyArea);
+    new PageMenu(document, ui->polyArea);
+    new AreaCommands(
+        document, *ui->polyArea, [this](const QString& text) { tell(text); }, this);
     auto* const rename = new RenameEverywhere(document, ui->codeEditor->surface(), ui->polyArea);
     connect(rename, &RenameEverywhere::told, this, [this](const QString& text) { tell(text); });
     const auto typed = [this] {

@@ -3,6 +3,7 @@
 
 #include "app/AreaTools.h"
 #include "app/StorableName.h"
+#include "document/SelectedAreas.h"
 #include "ui_MainWindow.h"
 
 #include <QScopedValueRollback>
@@ -65,6 +66,11 @@ void MainWindow::on_btAddPoly_clicked()
 
 void MainWindow::on_btDelPoly_clicked()
 {
+    if (document.selectedAreas().size() > 1) {
+        removeSelectedAreas(document);
+        areaTools->pick();
+        return;
+    }
     if (!document.apply(edit::RemoveArea{document.selectedArea()})) {
         return;
     }

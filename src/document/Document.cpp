@@ -58,6 +58,22 @@ bool Document::apply(const Edit& edit, Gesture gesture)
     return done;
 }
 
+bool Document::applyTogether(const std::vector<Edit>& edits)
+{
+    endGesture();
+    asked = newGesture();
+    const bool done = std::all_of(edits.begin(), edits.end(), [this](const Edit& edit) {
+        return std::visit([this](const auto& one) { return carryOut(one); }, edit);
+    });
+    if (done) {
+        endGesture();
+    } else {
+        takeBack(asked);
+    }
+    tell();
+    return done;
+}
+
 Gesture Document::newGesture()
 {
     return Gesture(++gestures);

@@ -42,6 +42,9 @@ public:
     // be saved because of it, and why. No file when the last edit, undo, redo or save had no such
     // problem.
     const FileProblem& problem() const { return pictures.problem(); }
+    // Several edits as one step, told once. False when one of them could not be carried out; then
+    // none is.
+    bool applyTogether(const std::vector<Edit>& edits);
     // One that no edit had yet.
     Gesture newGesture();
     // Nothing more belongs to the gesture.

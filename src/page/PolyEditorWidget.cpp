@@ -5,9 +5,11 @@
 #include "page/PageTool.h"
 
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -62,6 +64,22 @@ const Oid::PICTURE* PolyEditorWidget::picture() const
         return nullptr;
     }
     return &document->project().pictures[static_cast<size_t>(document->currentPage())];
+}
+
+std::vector<int> PolyEditorWidget::areasAt(const Oid::PNT& point) const
+{
+    std::vector<int> indices;
+    for (std::size_t i = 0; picture() != nullptr && i < picture()->polys.size(); ++i) {
+        if (picture()->polys[i].isPntInPoly(point)) {
+            indices.push_back(static_cast<int>(i));
+        }
+    }
+    return indices;
+}
+
+QString PolyEditorWidget::areaName(int index) const
+{
+    return QString::fromStdString(picture()->polys[static_cast<std::size_t>(index)].name);
 }
 
 int PolyEditorWidget::heightForWidth(int width) const
@@ -138,6 +156,37 @@ static PageMouse mouseOn(const PageView& view, const QMouseEvent& event)
             event.buttons(),
             event.modifiers(),
             pixelOf(event)};
+}
+
+bool PolyEditorWidget::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        showTip(*static_cast<QHelpEvent*>(event));
+        return true;
+    }
+    // What Delete removes depends on where the mouse is: that is for the tool.
+    if (event->type() == QEvent::ShortcutOverride &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void PolyEditorWidget::showTip(const QHelpEvent& event)
+{
+    const std::vector<int> here = areasAt(toProz(event.pos()));
+    if (here.size() < 2) {
+        QToolTip::hideText();
+        return;
+    }
+    QStringList behind;
+    for (std::size_t i = 1; i < here.size(); ++i) {
+        behind << areaName(here[i]);
+    }
+    const QString tip = tr("Here speaks %1; behind it lies %2.");
+    QToolTip::showText(event.globalPos(),
+                       tip.arg(areaName(here.front()), behind.join(", ")).toHtmlEscaped(), this);
 }
 
 void PolyEditorWidget::mousePressEvent(QMouseEvent* event)

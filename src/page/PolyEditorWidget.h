@@ -10,8 +10,10 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 class PageTool;
+class QHelpEvent;
 
 // Shows the document's current page at the widget's full width, with its areas, hands mouse and
 // keys to the tool that the author has chosen, and says where it was clicked. Points are in percent
@@ -40,6 +42,10 @@ public:
     int selectedPoly() const;
     // The current picture; null without a document and for an index that it does not have.
     const Oid::PICTURE* picture() const;
+
+    // The areas of the current picture that hold the point, in their order: the first one speaks.
+    std::vector<int> areasAt(const Oid::PNT& point) const;
+    QString areaName(int index) const;
 
     // So high is the whole picture when it is this wide; 0 without a picture.
     int heightForWidth(int width) const override;
@@ -71,6 +77,7 @@ signals:
     void menuWanted(QPoint globalPos, std::optional<Oid::PNT> point);
 
 protected:
+    bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -82,6 +89,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void showTip(const QHelpEvent& event);
     void readImage(const QString& path);
     void readCurrentImage();
     void askForHeight();

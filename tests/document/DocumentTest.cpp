@@ -657,6 +657,20 @@ TEST_F(DocumentTest, UndoAndRedoLeadToAllAreasThatWereSelectedThen)
     EXPECT_EQ(document.selectedAreas(), std::vector<AreaId>{});
 }
 
+TEST_F(DocumentTest, EditsThatAreAppliedTogetherAreOneStepOrNone)
+{
+    const AreaId cow = add("cow");
+    const AreaId pig = add("pig");
+    const std::string before = snapshot(document);
+    EXPECT_TRUE(document.applyTogether({edit::RemoveArea{cow}, edit::RemoveArea{pig}}));
+    EXPECT_EQ(names(), "");
+    document.undo();
+    EXPECT_EQ(snapshot(document), before);
+    EXPECT_FALSE(document.applyTogether({edit::RemoveArea{cow}, edit::RemoveArea{cow}}));
+    EXPECT_EQ(snapshot(document), before);
+    EXPECT_TRUE(document.canRedo());
+}
+
 TEST_F(DocumentTest, AGestureGoesOnUntilSomethingElseIsDone)
 {
     const AreaId cow = add("cow");
