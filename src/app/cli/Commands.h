@@ -27,6 +27,7 @@ Command yamlCommand();
 Command saveCommand();
 Command printCommand();
 Command pdfCommand();
+Command readCommand();
 Command tileCommand();
 Command assembleCommand();
 Command buildCommand();
