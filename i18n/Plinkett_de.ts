@@ -912,6 +912,14 @@
         <translation>Die Bilder konnten nicht zu ihren Seiten gebracht werden.</translation>
     </message>
     <message>
+        <source>Shows or hides the list of the pages</source>
+        <translation>Zeigt oder verbirgt die Liste der Seiten</translation>
+    </message>
+    <message>
+        <source>Shows or hides the list of the areas</source>
+        <translation>Zeigt oder verbirgt die Liste der Bereiche</translation>
+    </message>
+    <message>
         <source>The pictures are in the order of the pages again. Pages had been moved, but not saved.</source>
         <translation>Die Bilder sind wieder in der Reihenfolge der Seiten. Seiten waren verschoben, aber nicht gespeichert worden.</translation>
     </message>
@@ -1217,6 +1225,118 @@
     <message>
         <source>Zoom: %1 %</source>
         <translation>Zoom: %1 %</translation>
+    </message>
+</context>
+<context>
+    <name>AreaTableModel</name>
+    <message>
+        <source>Fewer than three corners</source>
+        <translation>Weniger als drei Ecken</translation>
+    </message>
+    <message>
+        <source>Not in the script</source>
+        <translation>Nicht im Skript</translation>
+    </message>
+    <message>
+        <source>Number above 15000: not known to the pen</source>
+        <translation>Nummer über 15000: kennt der Stift nicht</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Warnungen</translation>
+    </message>
+</context>
+<context>
+    <name>AreasDock</name>
+    <message>
+        <source>Areas</source>
+        <translation>Bereiche</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Filter of the areas</source>
+        <translation>Filter der Bereiche</translation>
+    </message>
+    <message>
+        <source>Shows only areas whose name has this text</source>
+        <translation>Zeigt nur Bereiche, deren Name diesen Text enthält</translation>
+    </message>
+    <message>
+        <source>Areas of all pages</source>
+        <translation>Bereiche aller Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>PageListModel</name>
+    <message>
+        <source>Page %1</source>
+        <translation>Seite %1</translation>
+    </message>
+</context>
+<context>
+    <name>PagesDock</name>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Pages of the book</source>
+        <translation>Seiten des Buchs</translation>
+    </message>
+    <message>
+        <source>Move page up</source>
+        <translation>Seite nach oben</translation>
+    </message>
+    <message>
+        <source>Move page down</source>
+        <translation>Seite nach unten</translation>
+    </message>
+    <message>
+        <source>Remove page</source>
+        <translation>Seite entfernen</translation>
+    </message>
+    <message>
+        <source>Page %1 is page %2 now.</source>
+        <translation>Seite %1 ist jetzt Seite %2.</translation>
+    </message>
+    <message>
+        <source>Page %1 is removed with its areas. Undo brings it back.</source>
+        <translation>Seite %1 ist mit ihren Bereichen entfernt. Rückgängig bringt sie zurück.</translation>
+    </message>
+    <message>
+        <source>No page</source>
+        <translation>Keine Seite</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
     </message>
 </context>
 </TS>

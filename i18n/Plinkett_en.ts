@@ -912,6 +912,14 @@
         <translation>The pictures could not be brought to their pages.</translation>
     </message>
     <message>
+        <source>Shows or hides the list of the pages</source>
+        <translation>Shows or hides the list of the pages</translation>
+    </message>
+    <message>
+        <source>Shows or hides the list of the areas</source>
+        <translation>Shows or hides the list of the areas</translation>
+    </message>
+    <message>
         <source>The pictures are in the order of the pages again. Pages had been moved, but not saved.</source>
         <translation>The pictures are in the order of the pages again. Pages had been moved, but not saved.</translation>
     </message>
@@ -1217,6 +1225,118 @@
     <message>
         <source>Zoom: %1 %</source>
         <translation>Zoom: %1 %</translation>
+    </message>
+</context>
+<context>
+    <name>AreaTableModel</name>
+    <message>
+        <source>Fewer than three corners</source>
+        <translation>Fewer than three corners</translation>
+    </message>
+    <message>
+        <source>Not in the script</source>
+        <translation>Not in the script</translation>
+    </message>
+    <message>
+        <source>Number above 15000: not known to the pen</source>
+        <translation>Number above 15000: not known to the pen</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>yes</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Warnings</translation>
+    </message>
+</context>
+<context>
+    <name>AreasDock</name>
+    <message>
+        <source>Areas</source>
+        <translation>Areas</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Filter of the areas</source>
+        <translation>Filter of the areas</translation>
+    </message>
+    <message>
+        <source>Shows only areas whose name has this text</source>
+        <translation>Shows only areas whose name has this text</translation>
+    </message>
+    <message>
+        <source>Areas of all pages</source>
+        <translation>Areas of all pages</translation>
+    </message>
+</context>
+<context>
+    <name>PageListModel</name>
+    <message>
+        <source>Page %1</source>
+        <translation>Page %1</translation>
+    </message>
+</context>
+<context>
+    <name>PagesDock</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Pages of the book</source>
+        <translation>Pages of the book</translation>
+    </message>
+    <message>
+        <source>Move page up</source>
+        <translation>Move page up</translation>
+    </message>
+    <message>
+        <source>Move page down</source>
+        <translation>Move page down</translation>
+    </message>
+    <message>
+        <source>Remove page</source>
+        <translation>Remove page</translation>
+    </message>
+    <message>
+        <source>Page %1 is page %2 now.</source>
+        <translation>Page %1 is page %2 now.</translation>
+    </message>
+    <message>
+        <source>Page %1 is removed with its areas. Undo brings it back.</source>
+        <translation>Page %1 is removed with its areas. Undo brings it back.</translation>
+    </message>
+    <message>
+        <source>No page</source>
+        <translation>No page</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 of %2</translation>
     </message>
 </context>
 </TS>

@@ -912,6 +912,14 @@
         <translation>Les images n&apos;ont pas pu être placées avec leurs pages.</translation>
     </message>
     <message>
+        <source>Shows or hides the list of the pages</source>
+        <translation>Affiche ou masque la liste des pages</translation>
+    </message>
+    <message>
+        <source>Shows or hides the list of the areas</source>
+        <translation>Affiche ou masque la liste des zones</translation>
+    </message>
+    <message>
         <source>The pictures are in the order of the pages again. Pages had been moved, but not saved.</source>
         <translation>Les images sont de nouveau dans l&apos;ordre des pages. Des pages avaient été déplacées, mais pas enregistrées.</translation>
     </message>
@@ -1217,6 +1225,118 @@
     <message>
         <source>Zoom: %1 %</source>
         <translation>Zoom : %1 %</translation>
+    </message>
+</context>
+<context>
+    <name>AreaTableModel</name>
+    <message>
+        <source>Fewer than three corners</source>
+        <translation>Moins de trois sommets</translation>
+    </message>
+    <message>
+        <source>Not in the script</source>
+        <translation>Absente du script</translation>
+    </message>
+    <message>
+        <source>Number above 15000: not known to the pen</source>
+        <translation>Numéro supérieur à 15000 : inconnu du stylo</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numéro</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Avertissements</translation>
+    </message>
+</context>
+<context>
+    <name>AreasDock</name>
+    <message>
+        <source>Areas</source>
+        <translation>Zones</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtre</translation>
+    </message>
+    <message>
+        <source>Filter of the areas</source>
+        <translation>Filtre des zones</translation>
+    </message>
+    <message>
+        <source>Shows only areas whose name has this text</source>
+        <translation>N&apos;affiche que les zones dont le nom contient ce texte</translation>
+    </message>
+    <message>
+        <source>Areas of all pages</source>
+        <translation>Zones de toutes les pages</translation>
+    </message>
+</context>
+<context>
+    <name>PageListModel</name>
+    <message>
+        <source>Page %1</source>
+        <translation>Page %1</translation>
+    </message>
+</context>
+<context>
+    <name>PagesDock</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Pages of the book</source>
+        <translation>Pages du livre</translation>
+    </message>
+    <message>
+        <source>Move page up</source>
+        <translation>Monter la page</translation>
+    </message>
+    <message>
+        <source>Move page down</source>
+        <translation>Descendre la page</translation>
+    </message>
+    <message>
+        <source>Remove page</source>
+        <translation>Supprimer la page</translation>
+    </message>
+    <message>
+        <source>Page %1 is page %2 now.</source>
+        <translation>La page %1 est maintenant la page %2.</translation>
+    </message>
+    <message>
+        <source>Page %1 is removed with its areas. Undo brings it back.</source>
+        <translation>La page %1 est supprimée avec ses zones. Annuler la rétablit.</translation>
+    </message>
+    <message>
+        <source>No page</source>
+        <translation>Aucune page</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
     </message>
 </context>
 </TS>

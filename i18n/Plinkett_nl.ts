@@ -912,6 +912,14 @@
         <translation>De afbeeldingen konden niet bij hun pagina&apos;s worden gezet.</translation>
     </message>
     <message>
+        <source>Shows or hides the list of the pages</source>
+        <translation>Toont of verbergt de lijst van de pagina&apos;s</translation>
+    </message>
+    <message>
+        <source>Shows or hides the list of the areas</source>
+        <translation>Toont of verbergt de lijst van de gebieden</translation>
+    </message>
+    <message>
         <source>The pictures are in the order of the pages again. Pages had been moved, but not saved.</source>
         <translation>De afbeeldingen staan weer in de volgorde van de pagina&apos;s. Er waren pagina&apos;s verplaatst, maar niet opgeslagen.</translation>
     </message>
@@ -1217,6 +1225,118 @@
     <message>
         <source>Zoom: %1 %</source>
         <translation>Zoom: %1 %</translation>
+    </message>
+</context>
+<context>
+    <name>AreaTableModel</name>
+    <message>
+        <source>Fewer than three corners</source>
+        <translation>Minder dan drie hoeken</translation>
+    </message>
+    <message>
+        <source>Not in the script</source>
+        <translation>Niet in het script</translation>
+    </message>
+    <message>
+        <source>Number above 15000: not known to the pen</source>
+        <translation>Nummer boven 15000: kent de pen niet</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nee</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Pagina</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Waarschuwingen</translation>
+    </message>
+</context>
+<context>
+    <name>AreasDock</name>
+    <message>
+        <source>Areas</source>
+        <translation>Gebieden</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Filter of the areas</source>
+        <translation>Filter van de gebieden</translation>
+    </message>
+    <message>
+        <source>Shows only areas whose name has this text</source>
+        <translation>Toont alleen gebieden met deze tekst in hun naam</translation>
+    </message>
+    <message>
+        <source>Areas of all pages</source>
+        <translation>Gebieden van alle pagina&apos;s</translation>
+    </message>
+</context>
+<context>
+    <name>PageListModel</name>
+    <message>
+        <source>Page %1</source>
+        <translation>Pagina %1</translation>
+    </message>
+</context>
+<context>
+    <name>PagesDock</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pagina&apos;s</translation>
+    </message>
+    <message>
+        <source>Pages of the book</source>
+        <translation>Pagina&apos;s van het boek</translation>
+    </message>
+    <message>
+        <source>Move page up</source>
+        <translation>Pagina omhoog</translation>
+    </message>
+    <message>
+        <source>Move page down</source>
+        <translation>Pagina omlaag</translation>
+    </message>
+    <message>
+        <source>Remove page</source>
+        <translation>Pagina verwijderen</translation>
+    </message>
+    <message>
+        <source>Page %1 is page %2 now.</source>
+        <translation>Pagina %1 is nu pagina %2.</translation>
+    </message>
+    <message>
+        <source>Page %1 is removed with its areas. Undo brings it back.</source>
+        <translation>Pagina %1 is met haar gebieden verwijderd. Ongedaan maken brengt haar terug.</translation>
+    </message>
+    <message>
+        <source>No page</source>
+        <translation>Geen pagina</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Pagina %1 van %2</translation>
     </message>
 </context>
 </TS>

@@ -2,13 +2,16 @@
 
 #include "app/AreaCommands.h"
 #include "app/AreaTools.h"
+#include "app/AreasDock.h"
 #include "app/DecimalComma.h"
 #include "app/FileDialogs.h"
 #include "app/NumberBar.h"
 #include "app/PageMenu.h"
+#include "app/PagesDock.h"
 #include "app/ProductNameNote.h"
 #include "app/Recovery.h"
 #include "app/RenameEverywhere.h"
+#include "app/SideDocks.h"
 #include "app/StorableName.h"
 #include "app/SubNameNote.h"
 #include "app/ZoomActions.h"
@@ -72,10 +75,12 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     mi_printf = KVQtStdoutWidget::redirectPrintf;
     prepareTextEditor();
     prepareRecovery();
+    prepareDocks();
 }
 
 MainWindow::~MainWindow()
 {
+    docks->save();
     // The console dies with the form; what is said later goes where it went without a window.
     setDefaultPrintf(nullptr);
     project.redirectPrintf(defaultPrintf());
@@ -184,8 +189,37 @@ void MainWindow::prepareTextEditor()
                                    ttbasic::voiceOptions());
 }
 
+// The lists of pages and areas, beside the tab "Areas".
+void MainWindow::prepareDocks()
+{
+    docks = new SideDocks(this);
+    auto* const pages = new PagesDock(document, this);
+    docks->add(pages, Qt::LeftDockWidgetArea, *ui->editBar, "actionDockPages", "dock-pages",
+               tr("Shows or hides the list of the pages"));
+    connect(pages, &PagesDock::pageAsked, this, &MainWindow::showPicture);
+    connect(pages, &PagesDock::failed, this, &MainWindow::warnOfPictures);
+    connect(pages, &PagesDock::told, this, [this](const QString& text) { tell(text); });
+    const int behindNext = ui->horizontalLayout->indexOf(ui->btNextPicture) + 1;
+    ui->horizontalLayout->insertWidget(behindNext, pages->makeLabel());
+
+    const auto script = [this] { return ui->codeEditor->text().toStdString(); };
+    auto* const check = new ScriptCheck(script, this);
+    auto* const areas = new AreasDock(document, *check, this);
+    docks->add(areas, Qt::RightDockWidgetArea, *ui->editBar, "actionDockAreas", "dock-areas",
+               tr("Shows or hides the list of the areas"));
+    connect(areas, &AreasDock::codeAsked, this, &MainWindow::on_btEditPolyCode_clicked);
+    connect(&document, &Document::changed, check, &ScriptCheck::lookSoon);
+    const auto showDocks = [this, check] {
+        docks->setShown(ui->ribbonTab->currentWidget() == ui->tabAreas);
+        check->lookSoon();
+    };
+    connect(ui->ribbonTab, &QTabWidget::currentChanged, docks, showDocks);
+    showDocks();
+}
+
 void MainWindow::keepSettingsIn(QSettings& settings)
 {
+    docks->keepSettingsIn(settings);
     constexpr char kLetterSize[] = "script/letterSize";  // points
     KVQtHighlightEditCtrlInlay& script = ui->codeEditor->surface();
     bool isNumber = false;

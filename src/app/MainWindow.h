@@ -26,6 +26,7 @@ class QLabel;
 class QScrollArea;
 class QSettings;
 class Recovery;
+class SideDocks;
 struct RecoveryHead;
 
 // The one window. It owns the one document, which all its controls edit; form and project are kept
@@ -100,6 +101,7 @@ private:
     void ProjectDataWasChanged(bool toProject);
     void showScript();
     void prepareTextEditor();
+    void prepareDocks();
     void takeDrops();
     void letPictureScroll();
     void prepareTools();
@@ -201,5 +203,6 @@ private:
     PageScrollArea* pictureScroll = nullptr;
     QScrollArea* projectScroll = nullptr;
     NumberBar* numberBar = nullptr;
+    SideDocks* docks = nullptr;
     std::unique_ptr<Recovery> recovery;  // ends first: it reads the form
 };

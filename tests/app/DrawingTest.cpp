@@ -566,7 +566,7 @@ private slots:
         }
         QCOMPARE(names.join(' '),
                  "actionUndo actionRedo | actionAddBox actionAddEllipse actionMagicArea | "
-                 "actionZoomIn actionZoomOut actionZoomFit");
+                 "actionZoomIn actionZoomOut actionZoomFit | actionDockPages actionDockAreas");
     }
 };
 

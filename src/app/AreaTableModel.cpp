@@ -1,0 +1,193 @@
+#include "app/AreaTableModel.h"
+
+#include "document/Splice.h"
+
+#include <QIcon>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kLargestReadableOid = 15000;
+constexpr std::size_t kFewestCorners = 3;
+
+}  // namespace
+
+AreaTableModel::AreaTableModel(Document& shown, const ScriptCheck& scriptCheck, QObject* parent)
+    : QAbstractTableModel(parent), document(shown), check(scriptCheck)
+{
+    connect(&document, &Document::changed, this, &AreaTableModel::showChange);
+    connect(&check, &ScriptCheck::found, this, [this] { tellAll(code, warnings); });
+    showRows();
+}
+
+std::vector<AreaTableModel::Row> AreaTableModel::rowsNow() const
+{
+    std::vector<Row> now;
+    const auto& pictures = document.project().pictures;
+    for (int onPage = 0; onPage < static_cast<int>(pictures.size()); ++onPage) {
+        const auto count =
+            static_cast<int>(pictures[static_cast<std::size_t>(onPage)].polys.size());
+        for (int index = 0; index < count; ++index) {
+            now.push_back({document.areaAt(onPage, index), onPage});
+        }
+    }
+    return now;
+}
+
+AreaId AreaTableModel::areaOf(int row) const
+{
+    const bool exists = row >= 0 && row < static_cast<int>(rows.size());
+    return exists ? rows[static_cast<std::size_t>(row)].area : AreaId::none;
+}
+
+int AreaTableModel::rowOf(AreaId area) const
+{
+    const auto found = places.find(area);
+    return found != places.end() ? found->second : -1;
+}
+
+int AreaTableModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(rows.size());
+}
+
+int AreaTableModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : columns;
+}
+
+const Oid::POLY* AreaTableModel::areaAt(int row) const
+{
+    const Contents::Place place = document.placeOf(areaOf(row));
+    return place.page < 0 ? nullptr
+                          : &document.project()
+                                 .pictures[static_cast<std::size_t>(place.page)]
+                                 .polys[static_cast<std::size_t>(place.index)];
+}
+
+int AreaTableModel::numberOf(const Oid::POLY& area) const
+{
+    const auto entry = document.project().oids.find(area.name);
+    return entry != document.project().oids.end() ? entry->second.oid : 0;
+}
+
+QStringList AreaTableModel::warningsOf(const Oid::POLY& area) const
+{
+    QStringList all;
+    if (area.points.size() < kFewestCorners) {
+        all << tr("Fewer than three corners");
+    }
+    if (check.names().count(area.name) == 0) {
+        all << tr("Not in the script");
+    }
+    if (numberOf(area) > kLargestReadableOid) {
+        all << tr("Number above 15000: not known to the pen");
+    }
+    return all;
+}
+
+QVariant AreaTableModel::data(const QModelIndex& index, int role) const
+{
+    const Oid::POLY* const area = index.isValid() ? areaAt(index.row()) : nullptr;
+    if (area == nullptr) {
+        return {};
+    }
+    if (role == Qt::DecorationRole && index.column() == warnings) {
+        static const QIcon icon(":/icons/warning.svg");
+        return warningsOf(*area).isEmpty() ? QVariant() : icon;
+    }
+    const bool wanted = role == Qt::DisplayRole || role == Qt::EditRole || role == kSortRole ||
+                        role == Qt::ToolTipRole;
+    return wanted ? shown(index.row(), index.column(), role) : QVariant();
+}
+
+QVariant AreaTableModel::shown(int row, int column, int role) const
+{
+    const Oid::POLY& area = *areaAt(row);
+    switch (column) {
+    case name:
+        return QString::fromStdString(area.name);
+    case number:
+        return numberOf(area);
+    case page:
+        return rows[static_cast<std::size_t>(row)].page + 1;
+    case code:
+        return check.names().count(area.name) > 0 ? tr("yes") : tr("no");
+    default:
+        return warningsOf(area).join(role == Qt::ToolTipRole ? "\n" : ", ");
+    }
+}
+
+QVariant AreaTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+        return {};
+    }
+    const QString titles[] = {tr("Name"), tr("Number"), tr("Page"), tr("Code"), tr("Warnings")};
+    return titles[section];
+}
+
+Qt::ItemFlags AreaTableModel::flags(const QModelIndex& index) const
+{
+    const Qt::ItemFlags usual = QAbstractTableModel::flags(index);
+    return index.column() == name ? usual | Qt::ItemIsEditable : usual;
+}
+
+bool AreaTableModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    const std::string wanted = value.toString().toStdString();
+    return role == Qt::EditRole && index.column() == name && !wanted.empty() &&
+           document.apply(edit::RenameArea{areaOf(index.row()), wanted});
+}
+
+void AreaTableModel::showChange(const Change& change)
+{
+    if (change.has(Change::pages) || change.has(Change::areas)) {
+        showRows();
+    }
+    if (change.has(Change::numbers)) {
+        tellAll(name, warnings);  // a number is that of all areas of its name
+        return;
+    }
+    if (change.has(Change::names) || change.has(Change::corners)) {
+        for (const AreaId area : change.changed) {
+            if (const int row = rowOf(area); row >= 0) {
+                emit dataChanged(index(row, name), index(row, warnings));
+            }
+        }
+    }
+}
+
+// What came or went is told as a stretch of rows, so that a list stays where it is.
+void AreaTableModel::showRows()
+{
+    const auto same = [](const Row& a, const Row& b) {
+        return a.area == b.area && a.page == b.page;
+    };
+    const std::vector<Row> now = rowsNow();
+    const Splice<Row> change = spliceBetween(rows, now, same);
+    const auto first = static_cast<int>(change.first);
+    if (!change.before.empty()) {
+        beginRemoveRows({}, first, first + static_cast<int>(change.before.size()) - 1);
+        rows.erase(rows.begin() + first,
+                   rows.begin() + first + static_cast<std::ptrdiff_t>(change.before.size()));
+        endRemoveRows();
+    }
+    if (!change.after.empty()) {
+        beginInsertRows({}, first, first + static_cast<int>(change.after.size()) - 1);
+        rows = now;
+        endInsertRows();
+    }
+    places.clear();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        places[rows[i].area] = static_cast<int>(i);
+    }
+}
+
+void AreaTableModel::tellAll(int first, int last)
+{
+    if (!rows.empty()) {
+        emit dataChanged(index(0, first), index(rowCount() - 1, last));
+    }
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "app/ScriptCheck.h"
+#include "document/Document.h"
+
+#include <QAbstractTableModel>
+
+#include <vector>
+
+// All areas of all pages of a document, a row each. Only what a change names is told anew.
+class AreaTableModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { name, number, page, code, warnings, columns };
+    // What rows are sorted by.
+    static constexpr int kSortRole = Qt::UserRole;
+
+    // Both outlive the model.
+    AreaTableModel(Document& document, const ScriptCheck& check, QObject* parent);
+
+    AreaId areaOf(int row) const;
+    // -1 for an area that is on no page.
+    int rowOf(AreaId area) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    // Renames the area: one step of the history.
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+private:
+    struct Row
+    {
+        AreaId area;
+        int page;
+    };
+
+    std::vector<Row> rowsNow() const;
+    void showChange(const Change& change);
+    void showRows();
+    void tellAll(int first, int last);
+    const Oid::POLY* areaAt(int row) const;
+    int numberOf(const Oid::POLY& area) const;
+    QStringList warningsOf(const Oid::POLY& area) const;
+    QVariant shown(int row, int column, int role) const;
+
+    Document& document;
+    const ScriptCheck& check;
+    std::vector<Row> rows;
+    std::unordered_map<AreaId, int> places;
+};

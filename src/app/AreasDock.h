@@ -1,0 +1,40 @@
+#pragma once
+
+#include "app/AreaTableModel.h"
+
+#include <QDockWidget>
+#include <QSortFilterProxyModel>
+
+class QLineEdit;
+class QTableView;
+
+// The list of all areas beside the page: sorted by any column, filtered by a text. What is selected
+// in the list is selected on the page, and the other way round.
+class AreasDock : public QDockWidget
+{
+    Q_OBJECT
+
+public:
+    // Both outlive the dock.
+    AreasDock(Document& document, const ScriptCheck& check, QWidget* parent);
+
+signals:
+    // The area is selected, and the author wants to see its code.
+    void codeAsked();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void prepareTable();
+    void selectInDocument();
+    void selectInTable();
+    void removeSelected();
+
+    Document& document;
+    AreaTableModel* model;
+    QSortFilterProxyModel* sorted;
+    QLineEdit* filter;
+    QTableView* table;
+    bool selecting = false;  // one side follows the other
+};

@@ -1,0 +1,106 @@
+#include "app/SideDocks.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QScreen>
+#include <QSettings>
+#include <QToolBar>
+
+static const char kPlaces[] = "docks/places";
+
+static QString openKey(const QDockWidget& dock)
+{
+    return "docks/" + dock.objectName();
+}
+
+// Beside the docks a page still has to be wide enough.
+static bool hasRoom(const QMainWindow& window)
+{
+    constexpr int kWideEnough = 1000;  // pixels
+    return window.screen()->availableSize().width() >= kWideEnough;
+}
+
+SideDocks::SideDocks(QMainWindow* mainWindow) : QObject(mainWindow), window(mainWindow)
+{
+    window->installEventFilter(this);
+}
+
+void SideDocks::add(QDockWidget* dock, Qt::DockWidgetArea area, QToolBar& bar,
+                    const char* actionName, const QString& icon, const QString& toolTip)
+{
+    if (docks.empty()) {
+        bar.addSeparator();
+    }
+    auto* const action = new QAction(QIcon(":/icons/" + icon + ".svg"), dock->windowTitle(), this);
+    action->setObjectName(actionName);
+    action->setToolTip(toolTip);
+    action->setCheckable(true);
+    action->setChecked(hasRoom(*window));
+    action->setPriority(QAction::LowPriority);  // its icon says it
+    bar.addAction(action);
+    window->addDockWidget(area, dock);
+    dock->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
+    for (auto* const button :
+         dock->findChildren<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+        button->setToolTip(toolTip);
+    }
+    dock->installEventFilter(this);
+    docks.push_back({dock, action});
+    connect(action, &QAction::toggled, this, &SideDocks::update);
+    update();
+}
+
+void SideDocks::setShown(bool nowShown)
+{
+    shown = nowShown;
+    update();
+}
+
+void SideDocks::update()
+{
+    for (const Entry& entry : docks) {
+        entry.dock->setVisible(shown && entry.action->isChecked());
+        entry.action->setEnabled(shown);
+    }
+}
+
+bool SideDocks::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Close) {
+        return false;
+    }
+    for (const Entry& entry : docks) {
+        if (entry.dock == watched) {
+            entry.action->setChecked(false);
+        }
+    }
+    if (watched == window) {
+        save();
+    }
+    return false;
+}
+
+void SideDocks::keepSettingsIn(QSettings& kept)
+{
+    settings = &kept;
+    window->restoreState(kept.value(kPlaces).toByteArray());
+    for (const Entry& entry : docks) {
+        entry.action->setChecked(
+            kept.value(openKey(*entry.dock), entry.action->isChecked()).toBool());
+    }
+    update();
+}
+
+void SideDocks::save()
+{
+    if (settings == nullptr) {
+        return;
+    }
+    settings->setValue(kPlaces, window->saveState());
+    for (const Entry& entry : docks) {
+        settings->setValue(openKey(*entry.dock), entry.action->isChecked());
+    }
+}
