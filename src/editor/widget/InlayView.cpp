@@ -64,6 +64,8 @@ void KVQtHighlightEditCtrlInlay::UpdateAllViews()
     }
     brackets_known = false;
     note_width();
+    const bool textChanged = editor.is_dirty() || buffer.line_count() != told_lines;
+    told_lines = buffer.line_count();
     if (editor.is_dirty()) {
         editor.colorize(KVTextEditor::write_cell_color, 0, -1);
     }
@@ -73,6 +75,7 @@ void KVQtHighlightEditCtrlInlay::UpdateAllViews()
     updateMicroFocus();
     offer_selection();
     EditorAccessible::announce(this);
+    emit ViewUpdated(textChanged);
 }
 
 // A selection of the last line as a whole ends below the text. When only its caret is left, typing

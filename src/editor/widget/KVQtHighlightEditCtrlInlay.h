@@ -95,13 +95,30 @@ public:
     };
     // The part's first cell and the one behind it. A line outside the text gives empty places.
     SELECTION CellsOf(const Part& part) const;
-    // Replaces the parts, which are in ascending order and do not overlap, as one step of undo; the
-    // replacement is one line. Caret and bookmarks stay where they are in the text. The link, when
-    // it is not 0, names the step to LinkedStepMoved; what is typed next does not join it.
-    void ReplaceParts(const std::vector<Part>& parts, const QString& replacement, quint64 link = 0);
+    // A part and the text of one line that takes its place.
+    struct Replacement
+    {
+        Part part;
+        QString text;
+    };
+    // The place of a caret in these terms; its length is 0.
+    Part PartAt(CARET caret) const;
+    // Carries the replacements out, which are in ascending order and do not overlap, as one step of
+    // undo. Caret and bookmarks stay where they are in the text; a caret where something is
+    // inserted comes to stand behind it. The link, when it is not 0, names the step to
+    // LinkedStepMoved; what is typed next does not join it.
+    void Replace(const std::vector<Replacement>& replacements, quint64 link = 0);
+    // The same as a part of the last step.
+    void ReplaceInLastStep(const std::vector<Replacement>& replacements);
+    void ReplaceParts(const std::vector<Part>& parts, const QString& text, quint64 link = 0);
+    // The text of a line, its tabs single characters; empty outside the text.
+    QString LineText(int line) const;  // counted from 0
+    bool is_overwrite_mode() const;
 
 signals:
     void LetterSizeChanged(int points);
+    // A command has ended.
+    void ViewUpdated(bool textChanged);
     // Undo (or, with forward, redo) has carried out a step that ReplaceParts gave a link.
     void LinkedStepMoved(quint64 link, bool forward);
 
@@ -162,7 +179,6 @@ private:
     void goto_line(int number);
     bool type_text(const QString& text);
     bool OnChar(char16_t ch, bool further = false);
-    bool is_overwrite_mode() const;
     void change_case(KVTextEditor::CHARACTER_FUNCTION fn);
 
     // --- editing (InlayEditing.cpp) ---
@@ -258,6 +274,7 @@ private:
     QRegion drawn_caret;
     int cell_width = 1;
     int cell_height = 1;
+    int told_lines = 1;  // of the text that ViewUpdated last told of
     int text_width = 0;  // cells of the widest line
     int widest_line = 0;
     int wheel_turned = 0;  // with Control, in eighths of a degree, less than a step
