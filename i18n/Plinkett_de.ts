@@ -937,17 +937,6 @@
     </message>
 </context>
 <context>
-    <name>PageAccessible</name>
-    <message>
-        <source>number %1, area %2 of %3</source>
-        <translation>Nummer %1, Bereich %2 von %3</translation>
-    </message>
-    <message>
-        <source>%1 % from the left, %2 % from the top</source>
-        <translation>%1 % von links, %2 % von oben</translation>
-    </message>
-</context>
-<context>
     <name>PageMenu</name>
     <message>
         <source>Areas here</source>
@@ -964,20 +953,12 @@
         <source>An area needs at least three corners.</source>
         <translation>Ein Bereich braucht mindestens drei Ecken.</translation>
     </message>
-    <message>
-        <source>Corner %1 of %2: %3 % from the left, %4 % from the top</source>
-        <translation>Ecke %1 von %2: %3 % von links, %4 % von oben</translation>
-    </message>
 </context>
 <context>
     <name>PolyEditorWidget</name>
     <message>
         <source>Here speaks %1; behind it lies %2.</source>
         <translation>Hier spricht %1; dahinter liegt %2.</translation>
-    </message>
-    <message>
-        <source>Ctrl+Down and Ctrl+Up go through the areas, Ctrl+Right and Ctrl+Left through the corners of the selected one; the arrow keys move them.</source>
-        <translation>Strg+Ab und Strg+Auf gehen durch die Bereiche, Strg+Rechts und Strg+Links durch die Ecken des ausgewählten; die Pfeiltasten verschieben sie.</translation>
     </message>
 </context>
 <context>
@@ -1082,6 +1063,152 @@
     <message>
         <source>Rename everywhere</source>
         <translation>Überall umbenennen</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptHelp</name>
+    <message>
+        <source>There is no name of a sub, variable or voice here.</source>
+        <translation>Hier steht kein Name eines sub, einer Variablen oder einer Stimme.</translation>
+    </message>
+    <message>
+        <source>No area has the name &quot;%1&quot;.</source>
+        <translation>Kein Bereich hat den Namen „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no sub and no area &quot;%1&quot;.</source>
+        <translation>Es gibt kein sub und keinen Bereich „%1“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is never set.</source>
+        <translation>„%1“ wird nie gesetzt.</translation>
+    </message>
+    <message>
+        <source>The voice &quot;%1&quot; is built in.</source>
+        <translation>Die Stimme „%1“ ist eingebaut.</translation>
+    </message>
+    <message>
+        <source>Uses of &quot;%1&quot;</source>
+        <translation>Verwendungen von „%1“</translation>
+    </message>
+    <message>
+        <source>Subs</source>
+        <translation>Subs</translation>
+    </message>
+    <message>
+        <source>Places in the script: %1</source>
+        <translation>Stellen im Skript: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot; everywhere now.</source>
+        <translation>„%1“ heißt jetzt überall „%2“.</translation>
+    </message>
+    <message>
+        <source>Variable %1, never set: always 0</source>
+        <translation>Variable %1, nie gesetzt: immer 0</translation>
+    </message>
+    <message>
+        <source>Variable %1, set in lines %2</source>
+        <translation>Variable %1, gesetzt in den Zeilen %2</translation>
+    </message>
+    <message>
+        <source>Voice %1, line %2</source>
+        <translation>Stimme %1, Zeile %2</translation>
+    </message>
+    <message>
+        <source>Voice %1, built in</source>
+        <translation>Stimme %1, eingebaut</translation>
+    </message>
+</context>
+<context>
+    <name>JumpList</name>
+    <message>
+        <source>Type a part of it</source>
+        <translation>Einen Teil davon eingeben</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+</context>
+<context>
+    <name>CompletionList</name>
+    <message>
+        <source>Suggestions</source>
+        <translation>Vorschläge</translation>
+    </message>
+</context>
+<context>
+    <name>VariableNames</name>
+    <message>
+        <source>Take letters, digits and &quot;_&quot;, and begin with a letter.</source>
+        <translation>Nimm Buchstaben, Ziffern und „_“ und beginne mit einem Buchstaben.</translation>
+    </message>
+    <message>
+        <source>Take small letters: a name with capitals is not found when it is read.</source>
+        <translation>Nimm Kleinbuchstaben: ein Name mit Großbuchstaben wird beim Lesen nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Names that begin with &quot;_&quot; belong to the compiler.</source>
+        <translation>Namen, die mit „_“ beginnen, gehören dem Compiler.</translation>
+    </message>
+    <message>
+        <source>This is a word of the language. Choose another name.</source>
+        <translation>Das ist ein Wort der Sprache. Wähle einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>This name is taken already. Choose another name.</source>
+        <translation>Dieser Name ist schon vergeben. Wähle einen anderen Namen.</translation>
+    </message>
+</context>
+<context>
+    <name>CaretStatus</name>
+    <message>
+        <source>Help while writing</source>
+        <translation>Hilfe beim Schreiben</translation>
+    </message>
+    <message>
+        <source>What comes by itself while you write the script</source>
+        <translation>Was beim Schreiben des Skripts von selbst kommt</translation>
+    </message>
+    <message>
+        <source>&amp;Suggest names while typing</source>
+        <translation>Namen beim Tippen &amp;vorschlagen</translation>
+    </message>
+    <message>
+        <source>&amp;Indent new lines</source>
+        <translation>Neue Zeilen &amp;einrücken</translation>
+    </message>
+    <message>
+        <source>&amp;Explain names under the mouse</source>
+        <translation>Namen unter der Maus &amp;erklären</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2</source>
+        <translation>Zeile %1, Spalte %2</translation>
+    </message>
+    <message>
+        <source>OVR</source>
+        <translation>ÜB</translation>
+    </message>
+    <message>
+        <source>INS</source>
+        <translation>EINF</translation>
+    </message>
+    <message>
+        <source>Typing replaces what stands there (Insert)</source>
+        <translation>Tippen ersetzt, was dort steht (Einfg)</translation>
+    </message>
+    <message>
+        <source>Typing inserts (Insert)</source>
+        <translation>Tippen fügt ein (Einfg)</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptAreas</name>
+    <message>
+        <source>Area %1, number %2, page %3</source>
+        <translation>Bereich %1, Nummer %2, Seite %3</translation>
     </message>
 </context>
 <context>

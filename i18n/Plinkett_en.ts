@@ -937,17 +937,6 @@
     </message>
 </context>
 <context>
-    <name>PageAccessible</name>
-    <message>
-        <source>number %1, area %2 of %3</source>
-        <translation>number %1, area %2 of %3</translation>
-    </message>
-    <message>
-        <source>%1 % from the left, %2 % from the top</source>
-        <translation>%1 % from the left, %2 % from the top</translation>
-    </message>
-</context>
-<context>
     <name>PageMenu</name>
     <message>
         <source>Areas here</source>
@@ -964,20 +953,12 @@
         <source>An area needs at least three corners.</source>
         <translation>An area needs at least three corners.</translation>
     </message>
-    <message>
-        <source>Corner %1 of %2: %3 % from the left, %4 % from the top</source>
-        <translation>Corner %1 of %2: %3 % from the left, %4 % from the top</translation>
-    </message>
 </context>
 <context>
     <name>PolyEditorWidget</name>
     <message>
         <source>Here speaks %1; behind it lies %2.</source>
         <translation>Here speaks %1; behind it lies %2.</translation>
-    </message>
-    <message>
-        <source>Ctrl+Down and Ctrl+Up go through the areas, Ctrl+Right and Ctrl+Left through the corners of the selected one; the arrow keys move them.</source>
-        <translation>Ctrl+Down and Ctrl+Up go through the areas, Ctrl+Right and Ctrl+Left through the corners of the selected one; the arrow keys move them.</translation>
     </message>
 </context>
 <context>
@@ -1082,6 +1063,152 @@
     <message>
         <source>Rename everywhere</source>
         <translation>Rename everywhere</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptHelp</name>
+    <message>
+        <source>There is no name of a sub, variable or voice here.</source>
+        <translation>There is no name of a sub, variable or voice here.</translation>
+    </message>
+    <message>
+        <source>No area has the name &quot;%1&quot;.</source>
+        <translation>No area has the name &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no sub and no area &quot;%1&quot;.</source>
+        <translation>There is no sub and no area &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is never set.</source>
+        <translation>&quot;%1&quot; is never set.</translation>
+    </message>
+    <message>
+        <source>The voice &quot;%1&quot; is built in.</source>
+        <translation>The voice &quot;%1&quot; is built in.</translation>
+    </message>
+    <message>
+        <source>Uses of &quot;%1&quot;</source>
+        <translation>Uses of &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Subs</source>
+        <translation>Subs</translation>
+    </message>
+    <message>
+        <source>Places in the script: %1</source>
+        <translation>Places in the script: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot; everywhere now.</source>
+        <translation>&quot;%1&quot; is &quot;%2&quot; everywhere now.</translation>
+    </message>
+    <message>
+        <source>Variable %1, never set: always 0</source>
+        <translation>Variable %1, never set: always 0</translation>
+    </message>
+    <message>
+        <source>Variable %1, set in lines %2</source>
+        <translation>Variable %1, set in lines %2</translation>
+    </message>
+    <message>
+        <source>Voice %1, line %2</source>
+        <translation>Voice %1, line %2</translation>
+    </message>
+    <message>
+        <source>Voice %1, built in</source>
+        <translation>Voice %1, built in</translation>
+    </message>
+</context>
+<context>
+    <name>JumpList</name>
+    <message>
+        <source>Type a part of it</source>
+        <translation>Type a part of it</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+</context>
+<context>
+    <name>CompletionList</name>
+    <message>
+        <source>Suggestions</source>
+        <translation>Suggestions</translation>
+    </message>
+</context>
+<context>
+    <name>VariableNames</name>
+    <message>
+        <source>Take letters, digits and &quot;_&quot;, and begin with a letter.</source>
+        <translation>Take letters, digits and &quot;_&quot;, and begin with a letter.</translation>
+    </message>
+    <message>
+        <source>Take small letters: a name with capitals is not found when it is read.</source>
+        <translation>Take small letters: a name with capitals is not found when it is read.</translation>
+    </message>
+    <message>
+        <source>Names that begin with &quot;_&quot; belong to the compiler.</source>
+        <translation>Names that begin with &quot;_&quot; belong to the compiler.</translation>
+    </message>
+    <message>
+        <source>This is a word of the language. Choose another name.</source>
+        <translation>This is a word of the language. Choose another name.</translation>
+    </message>
+    <message>
+        <source>This name is taken already. Choose another name.</source>
+        <translation>This name is taken already. Choose another name.</translation>
+    </message>
+</context>
+<context>
+    <name>CaretStatus</name>
+    <message>
+        <source>Help while writing</source>
+        <translation>Help while writing</translation>
+    </message>
+    <message>
+        <source>What comes by itself while you write the script</source>
+        <translation>What comes by itself while you write the script</translation>
+    </message>
+    <message>
+        <source>&amp;Suggest names while typing</source>
+        <translation>&amp;Suggest names while typing</translation>
+    </message>
+    <message>
+        <source>&amp;Indent new lines</source>
+        <translation>&amp;Indent new lines</translation>
+    </message>
+    <message>
+        <source>&amp;Explain names under the mouse</source>
+        <translation>&amp;Explain names under the mouse</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2</source>
+        <translation>Line %1, column %2</translation>
+    </message>
+    <message>
+        <source>OVR</source>
+        <translation>OVR</translation>
+    </message>
+    <message>
+        <source>INS</source>
+        <translation>INS</translation>
+    </message>
+    <message>
+        <source>Typing replaces what stands there (Insert)</source>
+        <translation>Typing replaces what stands there (Insert)</translation>
+    </message>
+    <message>
+        <source>Typing inserts (Insert)</source>
+        <translation>Typing inserts (Insert)</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptAreas</name>
+    <message>
+        <source>Area %1, number %2, page %3</source>
+        <translation>Area %1, number %2, page %3</translation>
     </message>
 </context>
 <context>

@@ -937,17 +937,6 @@
     </message>
 </context>
 <context>
-    <name>PageAccessible</name>
-    <message>
-        <source>number %1, area %2 of %3</source>
-        <translation>numéro %1, zone %2 sur %3</translation>
-    </message>
-    <message>
-        <source>%1 % from the left, %2 % from the top</source>
-        <translation>%1 % depuis la gauche, %2 % depuis le haut</translation>
-    </message>
-</context>
-<context>
     <name>PageMenu</name>
     <message>
         <source>Areas here</source>
@@ -964,20 +953,12 @@
         <source>An area needs at least three corners.</source>
         <translation>Une zone a besoin d’au moins trois coins.</translation>
     </message>
-    <message>
-        <source>Corner %1 of %2: %3 % from the left, %4 % from the top</source>
-        <translation>Coin %1 sur %2 : %3 % depuis la gauche, %4 % depuis le haut</translation>
-    </message>
 </context>
 <context>
     <name>PolyEditorWidget</name>
     <message>
         <source>Here speaks %1; behind it lies %2.</source>
         <translation>Ici parle %1 ; derrière se trouve %2.</translation>
-    </message>
-    <message>
-        <source>Ctrl+Down and Ctrl+Up go through the areas, Ctrl+Right and Ctrl+Left through the corners of the selected one; the arrow keys move them.</source>
-        <translation>Ctrl+Bas et Ctrl+Haut parcourent les zones, Ctrl+Droite et Ctrl+Gauche les coins de la zone choisie ; les flèches les déplacent.</translation>
     </message>
 </context>
 <context>
@@ -1082,6 +1063,152 @@
     <message>
         <source>Rename everywhere</source>
         <translation>Renommer partout</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptHelp</name>
+    <message>
+        <source>There is no name of a sub, variable or voice here.</source>
+        <translation>Il n’y a ici aucun nom de sub, de variable ou de voix.</translation>
+    </message>
+    <message>
+        <source>No area has the name &quot;%1&quot;.</source>
+        <translation>Aucune zone ne porte le nom « %1 ».</translation>
+    </message>
+    <message>
+        <source>There is no sub and no area &quot;%1&quot;.</source>
+        <translation>Il n’y a ni sub ni zone « %1 ».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is never set.</source>
+        <translation>« %1 » ne reçoit jamais de valeur.</translation>
+    </message>
+    <message>
+        <source>The voice &quot;%1&quot; is built in.</source>
+        <translation>La voix « %1 » est intégrée.</translation>
+    </message>
+    <message>
+        <source>Uses of &quot;%1&quot;</source>
+        <translation>Utilisations de « %1 »</translation>
+    </message>
+    <message>
+        <source>Subs</source>
+        <translation>Subs</translation>
+    </message>
+    <message>
+        <source>Places in the script: %1</source>
+        <translation>Endroits dans le script : %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot; everywhere now.</source>
+        <translation>« %1 » s’appelle maintenant « %2 » partout.</translation>
+    </message>
+    <message>
+        <source>Variable %1, never set: always 0</source>
+        <translation>Variable %1, jamais définie : toujours 0</translation>
+    </message>
+    <message>
+        <source>Variable %1, set in lines %2</source>
+        <translation>Variable %1, définie aux lignes %2</translation>
+    </message>
+    <message>
+        <source>Voice %1, line %2</source>
+        <translation>Voix %1, ligne %2</translation>
+    </message>
+    <message>
+        <source>Voice %1, built in</source>
+        <translation>Voix %1, intégrée</translation>
+    </message>
+</context>
+<context>
+    <name>JumpList</name>
+    <message>
+        <source>Type a part of it</source>
+        <translation>Saisissez-en une partie</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtre</translation>
+    </message>
+</context>
+<context>
+    <name>CompletionList</name>
+    <message>
+        <source>Suggestions</source>
+        <translation>Suggestions</translation>
+    </message>
+</context>
+<context>
+    <name>VariableNames</name>
+    <message>
+        <source>Take letters, digits and &quot;_&quot;, and begin with a letter.</source>
+        <translation>Prenez des lettres, des chiffres et « _ », et commencez par une lettre.</translation>
+    </message>
+    <message>
+        <source>Take small letters: a name with capitals is not found when it is read.</source>
+        <translation>Prenez des minuscules : un nom avec des majuscules n’est pas retrouvé à la lecture.</translation>
+    </message>
+    <message>
+        <source>Names that begin with &quot;_&quot; belong to the compiler.</source>
+        <translation>Les noms qui commencent par « _ » appartiennent au compilateur.</translation>
+    </message>
+    <message>
+        <source>This is a word of the language. Choose another name.</source>
+        <translation>C’est un mot du langage. Choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>This name is taken already. Choose another name.</source>
+        <translation>Ce nom est déjà pris. Choisissez un autre nom.</translation>
+    </message>
+</context>
+<context>
+    <name>CaretStatus</name>
+    <message>
+        <source>Help while writing</source>
+        <translation>Aide à l’écriture</translation>
+    </message>
+    <message>
+        <source>What comes by itself while you write the script</source>
+        <translation>Ce qui vient de lui-même pendant l’écriture du script</translation>
+    </message>
+    <message>
+        <source>&amp;Suggest names while typing</source>
+        <translation>&amp;Suggérer des noms pendant la saisie</translation>
+    </message>
+    <message>
+        <source>&amp;Indent new lines</source>
+        <translation>&amp;Indenter les nouvelles lignes</translation>
+    </message>
+    <message>
+        <source>&amp;Explain names under the mouse</source>
+        <translation>&amp;Expliquer les noms sous la souris</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2</source>
+        <translation>Ligne %1, colonne %2</translation>
+    </message>
+    <message>
+        <source>OVR</source>
+        <translation>RFP</translation>
+    </message>
+    <message>
+        <source>INS</source>
+        <translation>INS</translation>
+    </message>
+    <message>
+        <source>Typing replaces what stands there (Insert)</source>
+        <translation>La saisie remplace ce qui s’y trouve (Inser)</translation>
+    </message>
+    <message>
+        <source>Typing inserts (Insert)</source>
+        <translation>La saisie insère (Inser)</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptAreas</name>
+    <message>
+        <source>Area %1, number %2, page %3</source>
+        <translation>Zone %1, numéro %2, page %3</translation>
     </message>
 </context>
 <context>

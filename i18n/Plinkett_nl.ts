@@ -937,17 +937,6 @@
     </message>
 </context>
 <context>
-    <name>PageAccessible</name>
-    <message>
-        <source>number %1, area %2 of %3</source>
-        <translation>nummer %1, gebied %2 van %3</translation>
-    </message>
-    <message>
-        <source>%1 % from the left, %2 % from the top</source>
-        <translation>%1 % van links, %2 % van boven</translation>
-    </message>
-</context>
-<context>
     <name>PageMenu</name>
     <message>
         <source>Areas here</source>
@@ -964,20 +953,12 @@
         <source>An area needs at least three corners.</source>
         <translation>Een gebied heeft minstens drie hoeken nodig.</translation>
     </message>
-    <message>
-        <source>Corner %1 of %2: %3 % from the left, %4 % from the top</source>
-        <translation>Hoek %1 van %2: %3 % van links, %4 % van boven</translation>
-    </message>
 </context>
 <context>
     <name>PolyEditorWidget</name>
     <message>
         <source>Here speaks %1; behind it lies %2.</source>
         <translation>Hier spreekt %1; daarachter ligt %2.</translation>
-    </message>
-    <message>
-        <source>Ctrl+Down and Ctrl+Up go through the areas, Ctrl+Right and Ctrl+Left through the corners of the selected one; the arrow keys move them.</source>
-        <translation>Ctrl+Omlaag en Ctrl+Omhoog gaan door de gebieden, Ctrl+Rechts en Ctrl+Links door de hoeken van het gekozen gebied; de pijltoetsen verplaatsen ze.</translation>
     </message>
 </context>
 <context>
@@ -1082,6 +1063,152 @@
     <message>
         <source>Rename everywhere</source>
         <translation>Overal hernoemen</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptHelp</name>
+    <message>
+        <source>There is no name of a sub, variable or voice here.</source>
+        <translation>Hier staat geen naam van een sub, variabele of stem.</translation>
+    </message>
+    <message>
+        <source>No area has the name &quot;%1&quot;.</source>
+        <translation>Geen gebied heeft de naam &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no sub and no area &quot;%1&quot;.</source>
+        <translation>Er is geen sub en geen gebied &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is never set.</source>
+        <translation>&quot;%1&quot; krijgt nooit een waarde.</translation>
+    </message>
+    <message>
+        <source>The voice &quot;%1&quot; is built in.</source>
+        <translation>De stem &quot;%1&quot; is ingebouwd.</translation>
+    </message>
+    <message>
+        <source>Uses of &quot;%1&quot;</source>
+        <translation>Gebruik van &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Subs</source>
+        <translation>Subs</translation>
+    </message>
+    <message>
+        <source>Places in the script: %1</source>
+        <translation>Plaatsen in het script: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot; everywhere now.</source>
+        <translation>&quot;%1&quot; heet nu overal &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>Variable %1, never set: always 0</source>
+        <translation>Variabele %1, nooit gezet: altijd 0</translation>
+    </message>
+    <message>
+        <source>Variable %1, set in lines %2</source>
+        <translation>Variabele %1, gezet in de regels %2</translation>
+    </message>
+    <message>
+        <source>Voice %1, line %2</source>
+        <translation>Stem %1, regel %2</translation>
+    </message>
+    <message>
+        <source>Voice %1, built in</source>
+        <translation>Stem %1, ingebouwd</translation>
+    </message>
+</context>
+<context>
+    <name>JumpList</name>
+    <message>
+        <source>Type a part of it</source>
+        <translation>Typ een deel ervan</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+</context>
+<context>
+    <name>CompletionList</name>
+    <message>
+        <source>Suggestions</source>
+        <translation>Suggesties</translation>
+    </message>
+</context>
+<context>
+    <name>VariableNames</name>
+    <message>
+        <source>Take letters, digits and &quot;_&quot;, and begin with a letter.</source>
+        <translation>Neem letters, cijfers en &quot;_&quot;, en begin met een letter.</translation>
+    </message>
+    <message>
+        <source>Take small letters: a name with capitals is not found when it is read.</source>
+        <translation>Neem kleine letters: een naam met hoofdletters wordt bij het lezen niet gevonden.</translation>
+    </message>
+    <message>
+        <source>Names that begin with &quot;_&quot; belong to the compiler.</source>
+        <translation>Namen die met &quot;_&quot; beginnen, zijn van de compiler.</translation>
+    </message>
+    <message>
+        <source>This is a word of the language. Choose another name.</source>
+        <translation>Dit is een woord van de taal. Kies een andere naam.</translation>
+    </message>
+    <message>
+        <source>This name is taken already. Choose another name.</source>
+        <translation>Deze naam is al bezet. Kies een andere naam.</translation>
+    </message>
+</context>
+<context>
+    <name>CaretStatus</name>
+    <message>
+        <source>Help while writing</source>
+        <translation>Hulp bij het schrijven</translation>
+    </message>
+    <message>
+        <source>What comes by itself while you write the script</source>
+        <translation>Wat vanzelf komt terwijl je het script schrijft</translation>
+    </message>
+    <message>
+        <source>&amp;Suggest names while typing</source>
+        <translation>Namen &amp;voorstellen tijdens het typen</translation>
+    </message>
+    <message>
+        <source>&amp;Indent new lines</source>
+        <translation>Nieuwe regels &amp;inspringen</translation>
+    </message>
+    <message>
+        <source>&amp;Explain names under the mouse</source>
+        <translation>Namen onder de muis &amp;uitleggen</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2</source>
+        <translation>Regel %1, kolom %2</translation>
+    </message>
+    <message>
+        <source>OVR</source>
+        <translation>OVR</translation>
+    </message>
+    <message>
+        <source>INS</source>
+        <translation>INV</translation>
+    </message>
+    <message>
+        <source>Typing replaces what stands there (Insert)</source>
+        <translation>Typen vervangt wat er staat (Insert)</translation>
+    </message>
+    <message>
+        <source>Typing inserts (Insert)</source>
+        <translation>Typen voegt in (Insert)</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptAreas</name>
+    <message>
+        <source>Area %1, number %2, page %3</source>
+        <translation>Gebied %1, nummer %2, pagina %3</translation>
     </message>
 </context>
 <context>

@@ -11,11 +11,13 @@
 #include "app/ProductNameNote.h"
 #include "app/Recovery.h"
 #include "app/RenameEverywhere.h"
+#include "app/ScriptAreas.h"
 #include "app/SideDocks.h"
 #include "app/StorableName.h"
 #include "app/SubNameNote.h"
 #include "app/ZoomActions.h"
 #include "base/FileSystem.h"
+#include "editor/assist/CaretStatus.h"
 #include "oid/OpenProject.h"
 #include "oid/PrintImage.h"
 #include "page/FocusFrame.h"
@@ -74,6 +76,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     printIntoConsole();
     mi_printf = KVQtStdoutWidget::redirectPrintf;
     prepareTextEditor();
+    helpWithScript(*rename);
     prepareRecovery();
     prepareDocks();
 }
@@ -217,8 +220,21 @@ void MainWindow::prepareDocks()
     showDocks();
 }
 
+void MainWindow::helpWithScript(RenameEverywhere& rename)
+{
+    const auto showPage = [this] {
+        ui->ribbonTab->setCurrentWidget(ui->tabAreas);
+        ui->polyArea->setFocus();
+    };
+    KVQtHighlightEditCtrlInlay& script = ui->codeEditor->surface();
+    auto* const help = new ScriptHelp(script, areasForScript(document, rename, showPage));
+    connect(help, &ScriptHelp::told, this, [this](const QString& text) { tell(text); });
+    statusBar()->addPermanentWidget(new CaretStatus(script, *help));
+}
+
 void MainWindow::keepSettingsIn(QSettings& settings)
 {
+    findChild<CaretStatus*>()->keepSettingsIn(settings);
     docks->keepSettingsIn(settings);
     constexpr char kLetterSize[] = "script/letterSize";  // points
     KVQtHighlightEditCtrlInlay& script = ui->codeEditor->surface();

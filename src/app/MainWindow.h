@@ -26,6 +26,7 @@ class QLabel;
 class QScrollArea;
 class QSettings;
 class Recovery;
+class RenameEverywhere;
 class SideDocks;
 struct RecoveryHead;
 
@@ -101,6 +102,7 @@ private:
     void ProjectDataWasChanged(bool toProject);
     void showScript();
     void prepareTextEditor();
+    void helpWithScript(RenameEverywhere& rename);
     void prepareDocks();
     void takeDrops();
     void letPictureScroll();

@@ -42,11 +42,14 @@ QString RenameEverywhere::selectedName() const
 
 void RenameEverywhere::ask()
 {
-    if (document.selectedArea() == AreaId::none) {
-        return;
+    if (document.selectedArea() != AreaId::none) {
+        askFor(selectedName());
     }
+}
+
+void RenameEverywhere::askFor(const QString& before)
+{
     document.endGesture();
-    const QString before = selectedName();
     const std::string from = before.toStdString();
     RenameDialog dialog(page->window(), before, placesOf(from),
                         [&](const QString& name) { return judge(from, name); });

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/RenameDialog.h"
 #include "app/SharedRenames.h"
+#include "editor/assist/RenameDialog.h"
 
 class QAction;
 
@@ -17,6 +17,8 @@ public:
 
     // For other widgets that show the selected area, such as a list of areas.
     QAction* action() { return renameAction; }
+    // Asks for the new name of the areas and the sub of that name.
+    void askFor(const QString& before);
 
 signals:
     // What came of it, in one sentence.

@@ -58,9 +58,7 @@ bool Document::carryOut(const edit::AddArea& add)
     const AreaId selected = selectedArea();
     const AreaId area = contents.addArea(add.page, index, add.area);
     keepSelected(selected);
-    if (!together) {
-        numberNewAreas();
-    }
+    numberNewAreas();
     note(Change::areas | Change::numbers, add.page, area);
     return true;
 }

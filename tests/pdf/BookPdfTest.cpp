@@ -323,9 +323,7 @@ TEST_F(BookPdf, AFullDiskIsReported)
 {
     CapturedMessages captured;
     mi_printf = CapturedMessages::print;
-    PdfOptions options;
-    options.symbols = PdfOptions::Symbols::never;
-    EXPECT_FALSE(::makePdf(book.project, "/dev/full", options));
+    EXPECT_FALSE(::makePdf(book.project, "/dev/full", {}));
     EXPECT_EQ(captured.take(), "Creating PDF...\nError: Can't write file '/dev/full'\n");
 }
 
@@ -333,9 +331,7 @@ TEST_F(BookPdf, AFolderThatIsNotThereIsReported)
 {
     CapturedMessages captured;
     mi_printf = CapturedMessages::print;
-    PdfOptions options;
-    options.symbols = PdfOptions::Symbols::never;
-    EXPECT_FALSE(::makePdf(book.project, "/no/such/book.pdf", options));
+    EXPECT_FALSE(::makePdf(book.project, "/no/such/book.pdf", {}));
     EXPECT_EQ(captured.take(), "Creating PDF...\nError: Can't open file '/no/such/book.pdf'\n");
 }
 

@@ -28,7 +28,6 @@ Command saveCommand();
 Command printCommand();
 Command pdfCommand();
 Command readCommand();
-Command symbolsCommand();
 Command tileCommand();
 Command assembleCommand();
 Command buildCommand();

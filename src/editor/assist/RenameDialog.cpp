@@ -1,4 +1,4 @@
-#include "app/RenameDialog.h"
+#include "editor/assist/RenameDialog.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
