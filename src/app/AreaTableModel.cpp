@@ -136,9 +136,13 @@ Qt::ItemFlags AreaTableModel::flags(const QModelIndex& index) const
 
 bool AreaTableModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    const std::string wanted = value.toString().toStdString();
-    return role == Qt::EditRole && index.column() == name && !wanted.empty() &&
-           document.apply(edit::RenameArea{areaOf(index.row()), wanted});
+    const Oid::POLY* const area = areaAt(index.row());
+    const bool isName = role == Qt::EditRole && index.column() == name;
+    if (!isName || area == nullptr || value.toString().isEmpty()) {
+        return false;
+    }
+    emit renameAsked(QString::fromStdString(area->name), value.toString());
+    return true;
 }
 
 void AreaTableModel::showChange(const Change& change)

@@ -29,8 +29,12 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
-    // Renames the area: one step of the history.
+    // Asks for the new name.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+signals:
+    // A name was typed over.
+    void renameAsked(const QString& before, const QString& name);
 
 private:
     struct Row

@@ -64,6 +64,7 @@ AreasDock::AreasDock(Document& shown, const ScriptCheck& check, QWidget* parent)
     connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &AreasDock::selectInDocument);
     connect(table, &QTableView::clicked, this, &AreasDock::selectInDocument);
+    connect(model, &AreaTableModel::renameAsked, this, &AreasDock::renameAsked);
     connect(table, &QTableView::doubleClicked, this, &AreasDock::codeAsked);
     connect(&document, &Document::changed, this, &AreasDock::selectInTable);
 }

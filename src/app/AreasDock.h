@@ -21,6 +21,8 @@ public:
 signals:
     // The area is selected, and the author wants to see its code.
     void codeAsked();
+    // A name was typed over.
+    void renameAsked(const QString& before, const QString& name);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

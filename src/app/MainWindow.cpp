@@ -210,6 +210,9 @@ void MainWindow::prepareDocks()
     auto* const areas = new AreasDock(document, *check, this);
     docks->add(areas, Qt::RightDockWidgetArea, *ui->editBar, "actionDockAreas", "dock-areas",
                tr("Shows or hides the list of the areas"));
+    // Behind the field of the list, since this may ask.
+    connect(areas, &AreasDock::renameAsked, findChild<RenameEverywhere*>(), &RenameEverywhere::give,
+            Qt::QueuedConnection);
     connect(areas, &AreasDock::codeAsked, this, &MainWindow::on_btEditPolyCode_clicked);
     connect(&document, &Document::changed, check, &ScriptCheck::lookSoon);
     const auto showDocks = [this, check] {

@@ -57,8 +57,18 @@ void RenameEverywhere::askFor(const QString& before)
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }
-    const QString name = dialog.name();
-    if (!isTaken(name.toStdString()) || mayJoin(name)) {
+    give(before, dialog.name());
+}
+
+void RenameEverywhere::give(const QString& before, const QString& name)
+{
+    const std::string from = before.toStdString();
+    const RenameDialog::Verdict verdict = judge(from, name);
+    if (!verdict.isPossible) {
+        emit told(verdict.note);
+    } else if (name == before) {
+        return;
+    } else if (!isTaken(name.toStdString()) || mayJoin(name)) {
         renames.rename(from, name.toStdString());
         emit told(tr("\"%1\" is \"%2\" everywhere now.").arg(before, name));
     }

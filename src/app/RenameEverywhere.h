@@ -19,6 +19,9 @@ public:
     QAction* action() { return renameAction; }
     // Asks for the new name of the areas and the sub of that name.
     void askFor(const QString& before);
+    // Gives the areas and the sub of a name the new one, unless something speaks against it, which
+    // is told then. Asks where the name is taken.
+    void give(const QString& before, const QString& name);
 
 signals:
     // What came of it, in one sentence.

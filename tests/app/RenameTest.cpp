@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QTableView>
 
 #include <random>
 
@@ -394,6 +395,33 @@ private slots:
         QVERIFY(isPossible);
         QCOMPARE(w.notesOn("bull", &isPossible), "");
         QVERIFY(isPossible);
+    }
+
+    void aNameThatIsTypedOverInTheListChangesEverywhere()
+    {
+        Book w;
+        auto* const table = w.get<QTableView>("areaTable");
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          table->visualRect(table->model()->index(0, 0)).center());
+        const auto typeOver = [&](const QString& name) {
+            QTest::keyClick(table, Qt::Key_F2);
+            auto* const field = table->viewport()->findChild<QLineEdit*>();
+            QVERIFY(field != nullptr);
+            field->selectAll();
+            QTest::keyClicks(field, name);
+            QTest::keyClick(field, Qt::Key_Return);
+        };
+        typeOver("pig");
+        QTRY_COMPARE(w.status(),
+                     "The script has a sub of this name already, and can have only one. "
+                     "Choose another name.");
+        QCOMPARE(w.saved(), w.before);
+        typeOver("bull");
+        QTRY_COMPARE(w.field("txPolyName"), "bull");
+        QCOMPARE(w.areas(), "bull pig|bull");
+        QCOMPARE(w.text(), renamedScript("bull"));
+        w.undo();
+        QCOMPARE(w.saved(), w.before);
     }
 
     void theMenuOfThePageOffersIt()
