@@ -937,6 +937,17 @@
     </message>
 </context>
 <context>
+    <name>PageAccessible</name>
+    <message>
+        <source>number %1, area %2 of %3</source>
+        <translation>Nummer %1, Bereich %2 von %3</translation>
+    </message>
+    <message>
+        <source>%1 % from the left, %2 % from the top</source>
+        <translation>%1 % von links, %2 % von oben</translation>
+    </message>
+</context>
+<context>
     <name>PageMenu</name>
     <message>
         <source>Areas here</source>
@@ -953,12 +964,20 @@
         <source>An area needs at least three corners.</source>
         <translation>Ein Bereich braucht mindestens drei Ecken.</translation>
     </message>
+    <message>
+        <source>Corner %1 of %2: %3 % from the left, %4 % from the top</source>
+        <translation>Ecke %1 von %2: %3 % von links, %4 % von oben</translation>
+    </message>
 </context>
 <context>
     <name>PolyEditorWidget</name>
     <message>
         <source>Here speaks %1; behind it lies %2.</source>
         <translation>Hier spricht %1; dahinter liegt %2.</translation>
+    </message>
+    <message>
+        <source>Ctrl+Down and Ctrl+Up go through the areas, Ctrl+Right and Ctrl+Left through the corners of the selected one; the arrow keys move them.</source>
+        <translation>Strg+Ab und Strg+Auf gehen durch die Bereiche, Strg+Rechts und Strg+Links durch die Ecken des ausgewählten; die Pfeiltasten verschieben sie.</translation>
     </message>
 </context>
 <context>

@@ -937,6 +937,17 @@
     </message>
 </context>
 <context>
+    <name>PageAccessible</name>
+    <message>
+        <source>number %1, area %2 of %3</source>
+        <translation>number %1, area %2 of %3</translation>
+    </message>
+    <message>
+        <source>%1 % from the left, %2 % from the top</source>
+        <translation>%1 % from the left, %2 % from the top</translation>
+    </message>
+</context>
+<context>
     <name>PageMenu</name>
     <message>
         <source>Areas here</source>
@@ -953,12 +964,20 @@
         <source>An area needs at least three corners.</source>
         <translation>An area needs at least three corners.</translation>
     </message>
+    <message>
+        <source>Corner %1 of %2: %3 % from the left, %4 % from the top</source>
+        <translation>Corner %1 of %2: %3 % from the left, %4 % from the top</translation>
+    </message>
 </context>
 <context>
     <name>PolyEditorWidget</name>
     <message>
         <source>Here speaks %1; behind it lies %2.</source>
         <translation>Here speaks %1; behind it lies %2.</translation>
+    </message>
+    <message>
+        <source>Ctrl+Down and Ctrl+Up go through the areas, Ctrl+Right and Ctrl+Left through the corners of the selected one; the arrow keys move them.</source>
+        <translation>Ctrl+Down and Ctrl+Up go through the areas, Ctrl+Right and Ctrl+Left through the corners of the selected one; the arrow keys move them.</translation>
     </message>
 </context>
 <context>

@@ -937,6 +937,17 @@
     </message>
 </context>
 <context>
+    <name>PageAccessible</name>
+    <message>
+        <source>number %1, area %2 of %3</source>
+        <translation>numéro %1, zone %2 sur %3</translation>
+    </message>
+    <message>
+        <source>%1 % from the left, %2 % from the top</source>
+        <translation>%1 % depuis la gauche, %2 % depuis le haut</translation>
+    </message>
+</context>
+<context>
     <name>PageMenu</name>
     <message>
         <source>Areas here</source>
@@ -953,12 +964,20 @@
         <source>An area needs at least three corners.</source>
         <translation>Une zone a besoin d’au moins trois coins.</translation>
     </message>
+    <message>
+        <source>Corner %1 of %2: %3 % from the left, %4 % from the top</source>
+        <translation>Coin %1 sur %2 : %3 % depuis la gauche, %4 % depuis le haut</translation>
+    </message>
 </context>
 <context>
     <name>PolyEditorWidget</name>
     <message>
         <source>Here speaks %1; behind it lies %2.</source>
         <translation>Ici parle %1 ; derrière se trouve %2.</translation>
+    </message>
+    <message>
+        <source>Ctrl+Down and Ctrl+Up go through the areas, Ctrl+Right and Ctrl+Left through the corners of the selected one; the arrow keys move them.</source>
+        <translation>Ctrl+Bas et Ctrl+Haut parcourent les zones, Ctrl+Droite et Ctrl+Gauche les coins de la zone choisie ; les flèches les déplacent.</translation>
     </message>
 </context>
 <context>

@@ -30,6 +30,13 @@ public:
     }
 };
 
+// Wide enough for the beginning of a warning.
+class WideTable : public QTableView
+{
+public:
+    QSize sizeHint() const override { return {fontMetrics().averageCharWidth() * 36, 200}; }
+};
+
 }  // namespace
 
 AreasDock::AreasDock(Document& shown, const ScriptCheck& check, QWidget* parent)
@@ -38,7 +45,7 @@ AreasDock::AreasDock(Document& shown, const ScriptCheck& check, QWidget* parent)
       model(new AreaTableModel(shown, check, this)),
       sorted(new QSortFilterProxyModel(this)),
       filter(new QLineEdit),
-      table(new QTableView)
+      table(new WideTable)
 {
     setObjectName("dockAreas");
     filter->setObjectName("areaFilter");
@@ -95,8 +102,10 @@ void AreasDock::prepareTable()
     table->verticalHeader()->hide();
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
     table->horizontalHeader()->setStretchLastSection(true);
-    table->horizontalHeader()->setDefaultSectionSize(table->fontMetrics().averageCharWidth() * 9);
-    table->setColumnWidth(AreaTableModel::name, table->fontMetrics().averageCharWidth() * 16);
+    table->horizontalHeader()->setDefaultSectionSize(table->fontMetrics().averageCharWidth() * 8);
+    table->setColumnWidth(AreaTableModel::name, table->fontMetrics().averageCharWidth() * 13);
+    table->setColumnWidth(AreaTableModel::page, table->fontMetrics().averageCharWidth() * 7);
+    table->setColumnWidth(AreaTableModel::code, table->fontMetrics().averageCharWidth() * 6);
     table->setSortingEnabled(true);
     table->sortByColumn(AreaTableModel::page, Qt::AscendingOrder);
     table->installEventFilter(this);

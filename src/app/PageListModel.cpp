@@ -92,14 +92,15 @@ bool PageListModel::dropMimeData(const QMimeData* data, Qt::DropAction /*action*
 
 void PageListModel::showChange(const Change& change)
 {
-    if (change.has(Change::pictureFile) || change.has(Change::product)) {
+    const bool otherPictures = change.has(Change::pictureFile) || change.has(Change::product);
+    if (otherPictures) {
         thumbnails->clear();
     }
     if (change.has(Change::pages)) {
         beginResetModel();
         count = static_cast<int>(document.project().pictures.size());
         endResetModel();
-    } else if (change.has(Change::pictureFile) && count > 0) {
+    } else if (otherPictures && count > 0) {
         emit dataChanged(index(0), index(count - 1), {Qt::DecorationRole});
     }
 }

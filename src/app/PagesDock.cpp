@@ -3,13 +3,57 @@
 #include <QAction>
 #include <QLabel>
 #include <QListView>
+#include <QPainter>
 #include <QScopedValueRollback>
+#include <QStyle>
+
+namespace {
+
+// As wide as a picture and its number.
+class NarrowList : public QListView
+{
+public:
+    QSize sizeHint() const override
+    {
+        return {Thumbnails::kSide + fontMetrics().averageCharWidth() * 7, Thumbnails::kSide};
+    }
+};
+
+// Where there is no room for "Page 2 of 3", it shows "2/3".
+class PageLabel : public QLabel
+{
+public:
+    void showPage(const QString& text, const QString& shortText)
+    {
+        setText(text);
+        setToolTip(text);
+        brief = shortText;
+        setMinimumWidth(qMax(1, fontMetrics().horizontalAdvance(brief)));
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        if (width() >= QLabel::sizeHint().width()) {
+            QLabel::paintEvent(event);
+            return;
+        }
+        QPainter painter(this);
+        style()->drawItemText(&painter, rect(), Qt::AlignCenter, palette(), isEnabled(), brief,
+                              foregroundRole());
+    }
+
+private:
+    QString brief;
+};
+
+}  // namespace
 
 PagesDock::PagesDock(Document& shown, QWidget* parent)
     : QDockWidget(tr("Pages"), parent),
       document(shown),
       model(new PageListModel(shown, this)),
-      list(new QListView)
+      list(new NarrowList)
 {
     setObjectName("dockPages");
     list->setObjectName("pageList");
@@ -92,18 +136,24 @@ void PagesDock::showCurrent()
 
 QLabel* PagesDock::makeLabel()
 {
-    label = new QLabel;
+    label = new PageLabel;
     label->setObjectName("lbPageOfPages");
-    label->setMinimumWidth(1);  // the buttons come first on a small screen
     showLabel();
     return label;
 }
 
 void PagesDock::showLabel()
 {
-    if (label != nullptr) {
-        const int count = model->rowCount();
-        label->setText(count == 0 ? tr("No page")
-                                  : tr("Page %1 of %2").arg(document.currentPage() + 1).arg(count));
+    if (label == nullptr) {
+        return;
+    }
+    auto* const shown = static_cast<PageLabel*>(label);
+    const int page = document.currentPage() + 1;
+    const int count = model->rowCount();
+    if (count == 0) {
+        shown->showPage(tr("No page"), {});
+    } else {
+        shown->showPage(tr("Page %1 of %2").arg(page).arg(count),
+                        QString("%1/%2").arg(page).arg(count));
     }
 }

@@ -62,9 +62,17 @@ bool Document::applyTogether(const std::vector<Edit>& edits)
 {
     endGesture();
     asked = newGesture();
+    together = true;
     const bool done = std::all_of(edits.begin(), edits.end(), [this](const Edit& edit) {
         return std::visit([this](const auto& one) { return carryOut(one); }, edit);
     });
+    together = false;
+    const bool anyNew = std::any_of(edits.begin(), edits.end(), [](const Edit& edit) {
+        return std::holds_alternative<edit::AddArea>(edit);
+    });
+    if (done && anyNew) {
+        numberNewAreas();  // at once: it looks at all areas
+    }
     if (done) {
         endGesture();
     } else {

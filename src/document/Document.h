@@ -203,6 +203,7 @@ private:
     std::optional<Recording> open;  // the step that is being made
     Gesture openGesture = Gesture::none;
     Gesture asked = Gesture::none;  // of the edit that is being carried out
+    bool together = false;          // with others, which are told and numbered at once
     bool following = false;         // it is no step of the author's
     std::uint64_t gestures = 0;
     std::uint64_t states = 0;  // that the project has been in

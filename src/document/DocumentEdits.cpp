@@ -58,7 +58,9 @@ bool Document::carryOut(const edit::AddArea& add)
     const AreaId selected = selectedArea();
     const AreaId area = contents.addArea(add.page, index, add.area);
     keepSelected(selected);
-    numberNewAreas();
+    if (!together) {
+        numberNewAreas();
+    }
     note(Change::areas | Change::numbers, add.page, area);
     return true;
 }

@@ -552,5 +552,11 @@ bool PickTool::goToCorner(int step, bool more)
     indices.insert(static_cast<std::size_t>(next));
     choose(std::move(indices));
     wentTo = (*corners())[static_cast<std::size_t>(next)];
+    tell(QCoreApplication::translate("PickTool",
+                                     "Corner %1 of %2: %3 % from the left, %4 % from the top")
+             .arg(next + 1)
+             .arg(corners()->size())
+             .arg(wentTo->x, 0, 'f', 1)
+             .arg(wentTo->y, 0, 'f', 1));
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include "base/PlatformFiles.h"
 #include "oid/PictureFile.h"
+#include "page/PageAccessible.h"
 #include "page/PageTool.h"
 
 #include <QContextMenuEvent>
@@ -22,6 +23,10 @@ PolyEditorWidget::PolyEditorWidget(QWidget* parent) : QWidget(parent)
     setSizePolicy(policy);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
+    PageAccessible::install();
+    setAccessibleDescription(
+        tr("Ctrl+Down and Ctrl+Up go through the areas, Ctrl+Right and Ctrl+Left through the "
+           "corners of the selected one; the arrow keys move them."));
     clearImage();
 }
 
@@ -291,6 +296,7 @@ void PolyEditorWidget::keyPressEvent(QKeyEvent* event)
 
 void PolyEditorWidget::showChange(const Change& change)
 {
+    PageAccessible::announce(*this, change);
     if (change.has(Change::pictureFile)) {
         loadedPath.clear();
     }

@@ -27,6 +27,7 @@ public:
 
     // Not owned, outlives the widget.
     void setDocument(Document* shown);
+    Document* shownDocument() const { return document; }
     // Not owned, stays until another one is set. Its cursor is the widget's, its marks lie over the
     // page.
     void setTool(PageTool* chosen);

@@ -19,15 +19,6 @@ constexpr double kOutlineWidth = 0.2;   // mm
 constexpr double kNameHeight = 2.5;     // mm
 constexpr Ink kOutlineInk{0, 1, 0, 0};  // which the pen does not see
 
-// The area of a mask whose pixels are those of the printer, a fiftieth of a pixel smaller on each
-// side. So programs that round its edges outwards, and count in numbers of few digits, take the
-// very pixels and not one more, which they would stretch the mask over.
-QRectF onPrinterPixels(const QRectF& area, int dpi)
-{
-    const double inset = kMillimetresPerInch / dpi / 50;
-    return area.adjusted(inset, inset, -inset, -inset);
-}
-
 // The page's own picture record without its areas, at the resolution of the print.
 Oid::PICTURE paperOf(const Oid::PICTURE& picture, int dpi)
 {
@@ -105,8 +96,7 @@ PdfPage BookPage::draw(PdfWriter& file, const Sheet& sheet,
             progress(static_cast<int>(100LL * done / rows));
         };
         drawing.fillWith(kBlackInk);
-        drawing.image(file.addImage(mask.image()),
-                      onPrinterPixels(onSheet(sheet.part, sheet), dpi));
+        drawing.mask(file.addImage(mask.image()), sheet.place, sheet.part.size(), dpi);
     }
     if (options.outlines) {
         drawOutlines(drawing, sheet);

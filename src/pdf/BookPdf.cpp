@@ -10,6 +10,7 @@
 #include "oid/PreparedPage.h"
 #include "oid/PrintImage.h"
 #include "pdf/BookPage.h"
+#include "pdf/SymbolsPage.h"
 
 namespace {
 
@@ -73,7 +74,7 @@ public:
                 }
             }
         }
-        return file.write(path);
+        return addSymbols(chosen) && file.write(path);
     }
 
 private:
@@ -92,10 +93,36 @@ private:
         return true;
     }
 
+    // At the end of the book.
+    bool addSymbols(const std::vector<int>& chosen)
+    {
+        const auto wanted = options.symbols;
+        if (wanted == PdfOptions::Symbols::never ||
+            (wanted == PdfOptions::Symbols::whenNeeded && !SymbolsPages::areNeeded(project))) {
+            return true;
+        }
+        symbols = std::make_unique<SymbolsPages>(project, options);
+        for (const int n : chosen) {
+            if (!symbols->addPicture(n)) {
+                return false;
+            }
+        }
+        if (!symbols->prepare()) {
+            return false;
+        }
+        for (int i = 0; i < symbols->count(); ++i) {
+            const int number = progress.addSheet();
+            file.addPage(symbols->draw(
+                file, i, [this, number](int percent) { progress.reach(number, percent); }));
+        }
+        return true;
+    }
+
     const Oid::OidProject& project;
     const PdfOptions& options;
     Progress progress;
     std::vector<std::unique_ptr<BookPage>> pages;  // the file asks them for their dots
+    std::unique_ptr<SymbolsPages> symbols;         // them, too
     PdfWriter file;
 };
 
@@ -105,6 +132,12 @@ std::string pathPdf(const Oid::OidProject& project)
 {
     const std::string game = project.pathGme();
     return game.substr(0, game.rfind('.')) + ".pdf";
+}
+
+std::string pathSymbols(const Oid::OidProject& project)
+{
+    const std::string game = project.pathGme();
+    return game.substr(0, game.rfind('.')) + "-symbols.pdf";
 }
 
 bool makePdf(const Oid::OidProject& project, const std::string& path, const PdfOptions& options,

@@ -15,6 +15,8 @@ class OidProject;
 
 // The file that a book's PDF gets unless it is named: "900-my project.pdf" beside the project.
 std::string pathPdf(const Oid::OidProject& project);
+// And that of its symbols alone: "900-my project-symbols.pdf".
+std::string pathSymbols(const Oid::OidProject& project);
 
 // Writes it. Messages go through mi_printf, progress tells of 100 percent for each sheet. False
 // when nothing was written: with a message, or cancelled. The project stays as it is.

@@ -1,5 +1,6 @@
 #include "pdf/BookPicture.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QImage>
 
@@ -164,6 +165,32 @@ PdfImage BookPicture::asPixels(const PictureInk& ink) const
             throw PdfFailure();
         }
         sendPixels(onWhitePaper(picture).convertToFormat(QImage::Format_RGB32), asCmy, bytes);
+    };
+    return image;
+}
+
+PdfImage imageOf(const QImage& picture, const PictureInk& ink)
+{
+    PdfImage image;
+    image.width = picture.width();
+    image.height = picture.height();
+    image.colours = ink.noBlack ? PdfImage::Colours::cmyk : PdfImage::Colours::rgb;
+    if (ink.lighten != 0) {
+        image.decode = decodeOf(ink.noBlack ? kCmyk : kRgb, ink.noBlack, ink.lighten);
+    }
+    const QImage pixels = picture.convertToFormat(QImage::Format_RGB32);
+    if (ink.noBlack) {
+        image.produce = [pixels](const PdfBytes& bytes) { sendPixels(pixels, true, bytes); };
+        return image;
+    }
+    constexpr int kQuality = 90;
+    QByteArray jpeg;
+    QBuffer buffer(&jpeg);
+    pixels.save(&buffer, "JPEG", kQuality);
+    image.coding = PdfImage::Coding::jpeg;
+    image.produce = [jpeg](const PdfBytes& bytes) {
+        bytes(reinterpret_cast<const unsigned char*>(jpeg.constData()),
+              static_cast<std::size_t>(jpeg.size()));
     };
     return image;
 }

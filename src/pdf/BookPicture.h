@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QImageIOHandler>
 #include <QSize>
 
@@ -44,3 +45,6 @@ private:
     int components = 0;  // of a JPEG that a PDF can carry; else 0
     bool plainRgb = false;
 };
+
+// A picture in memory as an image of a PDF: as a JPEG, unless its black has to go.
+PdfImage imageOf(const QImage& picture, const PictureInk& ink);

@@ -100,6 +100,12 @@ void PageDrawing::line(const QPointF& from, const QPointF& to)
     write({x(to.x()), y(to.y())}, "l S");
 }
 
+void PageDrawing::fillRing(const std::vector<QPointF>& points)
+{
+    ring(points);
+    write({}, "f");
+}
+
 void PageDrawing::strokeRing(const std::vector<QPointF>& points)
 {
     ring(points);
@@ -145,6 +151,17 @@ void PageDrawing::image(int number, const QRectF& area, QImageIOHandler::Transfo
     if (std::find(images.begin(), images.end(), number) == images.end()) {
         images.push_back(number);
     }
+}
+
+// The mask is a fiftieth of a pixel smaller on each side. So programs that round its edges
+// outwards, and count in numbers of few digits, take the very pixels and not one more, which they
+// would stretch the mask over.
+void PageDrawing::mask(int number, const QPoint& place, const QSize& pixels, int dpi)
+{
+    const double pixel = 25.4 / dpi;
+    const double inset = pixel / 50;
+    const QRectF area(QPointF(place) * pixel, QSizeF(pixels) * pixel);
+    image(number, area.adjusted(inset, inset, -inset, -inset));
 }
 
 void PageDrawing::text(const QPointF& start, const std::string& utf8, double height, Weight weight)

@@ -40,11 +40,15 @@ public:
     void fill(const QRectF& area);
     void stroke(const QRectF& area);
     void line(const QPointF& from, const QPointF& to);
+    void fillRing(const std::vector<QPointF>& points);
     void strokeRing(const std::vector<QPointF>& points);
 
     // An image of the file, stretched over the area when it has been made upright.
     void image(int number, const QRectF& area,
                QImageIOHandler::Transformations toUpright = QImageIOHandler::TransformationNone);
+
+    // A mask of so many pixels of the printer, from a pixel of its grid on.
+    void mask(int number, const QPoint& place, const QSize& pixels, int dpi);
 
     enum class Weight { normal, bold };
     // The line stands on the point. Letters that Western Europe does not write become "?".

@@ -459,6 +459,7 @@ private slots:
         QCOMPARE(w.page.selectedPoly(), 1);
         w.key(Qt::Key_Right, Qt::ControlModifier);
         w.key(Qt::Key_Right, Qt::ControlModifier);
+        QCOMPARE(w.status(), "Corner 2 of 4: 60.0 % from the left, 10.0 % from the top");
         w.key(Qt::Key_Right);
         w.compare(projectFile({area("area0", 1001, square(10, 10, 20)) +
                                area("area1", 1002, {{40, 10}, {60.5, 10}, {60, 30}, {40, 30}})}));

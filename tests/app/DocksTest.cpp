@@ -175,6 +175,26 @@ private slots:
         QCOMPARE(w.pages().currentIndex().row(), 0);
     }
 
+    void theListShowsThePicturesOfThePages()
+    {
+        Lists w;
+        const auto colour = [&w](int row) {
+            const QImage shown =
+                w.pages().model()->index(row, 0).data(Qt::DecorationRole).value<QImage>();
+            return shown.pixelColor(shown.rect().center());
+        };
+        QImage red(400, 300, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        QVERIFY(red.save(w.path("900-bkgnd0.jpg")));
+        w.window.openProject(w.path("book.oidpro"));
+        QTRY_VERIFY(colour(0).red() > 240 && colour(0).green() < 20);
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        w.pages().setFocus();
+        QTest::keyClick(&w.pages(), Qt::Key_Down, Qt::AltModifier);
+        QTRY_VERIFY(colour(1).red() > 240 && colour(1).green() < 20);
+        QTRY_VERIFY(colour(0).green() > 20 || colour(0).red() < 240);
+    }
+
     void keysMoveAPageWithItsPictureAndUndoBringsAllBack()
     {
         Lists w;

@@ -12,8 +12,10 @@ class Pdf : public testing::Test
 protected:
     Pdf()
     {
-        writeFile(project, "PRODUCT 17 Zoo\nPAPER 20 10\nDPI 600\nBOX a 1 1 20 20\nIMAGE\n"
-                           "BOX b 1 1 20 20\nIMAGE\nBOX c 1 1 20 20\n");
+        writeFile(project,
+                  "PRODUCT 17 Zoo\nPAPER 20 10\nDPI 600\nOID 17\nBOX start 1 1 20 20\nIMAGE\n"
+                  "OID 1001\n"
+                  "BOX b 1 1 20 20\nIMAGE\nBOX c 1 1 20 20\n");
         QImage white(200, 100, QImage::Format_RGB32);
         white.fill(Qt::white);
         for (const char* name : {"17-bkgnd0.jpg", "17-bkgnd1.jpg", "17-bkgnd2.jpg"}) {
@@ -64,6 +66,22 @@ TEST_F(Pdf, EveryOptionIsUnderstood)
              "--lighten-areas", "--outlines", "--margin", "5", "--crop-marks", "--poster", "A3"}),
         "status 0\nCreating PDF...\n");
     EXPECT_EQ(pagesOf("17-Zoo.pdf"), 3);
+}
+
+TEST_F(Pdf, SymbolsComeWhenTheyAreAskedFor)
+{
+    const std::string note = "Note: REPLAY and STOP get their codes with the first build\n";
+    EXPECT_EQ(pdf({"--symbols"}), "status 0\nCreating PDF...\n" + note);
+    EXPECT_EQ(pagesOf("17-Zoo.pdf"), 4);
+    EXPECT_EQ(pdf({"--legend"}), "status 0\nCreating PDF...\n" + note);
+    EXPECT_EQ(pagesOf("17-Zoo.pdf"), 1);
+    EXPECT_EQ(pdf({"--no-symbols"}), "status 0\nCreating PDF...\n");
+    EXPECT_EQ(pagesOf("17-Zoo.pdf"), 3);
+    EXPECT_EQ(resultOf(cli({"symbols", project, "--dpi", "600"})),
+              "status 0\nCreating PDF...\n" + note);
+    EXPECT_EQ(pagesOf("17-Zoo-symbols.pdf"), 1);
+    EXPECT_EQ(pdf({"--symbols", "--legend"}),
+              usageError("only one of --symbols, --no-symbols and --legend can be"));
 }
 
 TEST_F(Pdf, AMissingPictureFailsWithItsName)

@@ -108,6 +108,21 @@ TEST_F(SelectedAreasTest, AreTakenTogetherWithOneSignal)
     EXPECT_EQ(told, 1);
 }
 
+TEST_F(SelectedAreasTest, ThousandsAreDuplicatedWithNumbersInTheirOrder)
+{
+    Oid::PICTURE page;
+    for (int i = 0; i < 2000; ++i) {
+        page.polys.push_back(area("area" + std::to_string(i)));
+    }
+    document.projectRecord().pictures[0] = page;
+    document.restart();
+    document.numberAllAreas();
+    selectAllAreas(document);
+    duplicateSelectedAreas(document);
+    EXPECT_EQ(areas().size(), 4000U);
+    EXPECT_EQ(document.project().oids.at(areas()[3999].name).oid, 5000);
+}
+
 TEST_F(SelectedAreasTest, AreDuplicatedBesideThemselvesInTheirOrder)
 {
     add({"cow", "pig2", "hen"});

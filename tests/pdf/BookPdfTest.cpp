@@ -323,7 +323,9 @@ TEST_F(BookPdf, AFullDiskIsReported)
 {
     CapturedMessages captured;
     mi_printf = CapturedMessages::print;
-    EXPECT_FALSE(::makePdf(book.project, "/dev/full", {}));
+    PdfOptions options;
+    options.symbols = PdfOptions::Symbols::never;
+    EXPECT_FALSE(::makePdf(book.project, "/dev/full", options));
     EXPECT_EQ(captured.take(), "Creating PDF...\nError: Can't write file '/dev/full'\n");
 }
 
@@ -331,7 +333,9 @@ TEST_F(BookPdf, AFolderThatIsNotThereIsReported)
 {
     CapturedMessages captured;
     mi_printf = CapturedMessages::print;
-    EXPECT_FALSE(::makePdf(book.project, "/no/such/book.pdf", {}));
+    PdfOptions options;
+    options.symbols = PdfOptions::Symbols::never;
+    EXPECT_FALSE(::makePdf(book.project, "/no/such/book.pdf", options));
     EXPECT_EQ(captured.take(), "Creating PDF...\nError: Can't open file '/no/such/book.pdf'\n");
 }
 

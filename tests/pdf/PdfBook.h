@@ -20,8 +20,16 @@ class PdfBook : public PrintedBook
 public:
     using PrintedBook::PrintedBook;
 
-    // Also takes the number of each area that has none from 1001 on, in the order of the areas.
-    bool makePdf(const PdfOptions& options = {}, const PrintJobProgress& progress = {})
+    // Symbols come only when they are asked for.
+    bool makePdf(PdfOptions options = {}, const PrintJobProgress& progress = {})
+    {
+        if (options.symbols == PdfOptions::Symbols::whenNeeded) {
+            options.symbols = PdfOptions::Symbols::never;
+        }
+        return makePdfWithSymbols(options, progress);
+    }
+
+    bool makePdfWithSymbols(const PdfOptions& options = {}, const PrintJobProgress& progress = {})
     {
         CapturedMessages captured;
         mi_printf = CapturedMessages::print;

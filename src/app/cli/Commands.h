@@ -28,6 +28,7 @@ Command saveCommand();
 Command printCommand();
 Command pdfCommand();
 Command readCommand();
+Command symbolsCommand();
 Command tileCommand();
 Command assembleCommand();
 Command buildCommand();

@@ -19,8 +19,9 @@ constexpr char kFootline[] =
 
 std::vector<Command> commands()
 {
-    return {checkCommand(), yamlCommand(), saveCommand(),     printCommand(), pdfCommand(),
-            readCommand(),  tileCommand(), assembleCommand(), buildCommand(), copyCommand()};
+    return {checkCommand(),    yamlCommand(),    saveCommand(), printCommand(),
+            pdfCommand(),      symbolsCommand(), readCommand(), tileCommand(),
+            assembleCommand(), buildCommand(),   copyCommand()};
 }
 
 // "  check PROJECT [--debug]", its summary, and a line for each option.

@@ -1,0 +1,278 @@
+#include "pdf/SymbolsPage.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "oid/DotLayer.h"
+#include "oid/OidRawCodes.h"
+#include "oid/PageBackground.h"
+#include "oid/PictureFile.h"
+#include "oid/PreparedPage.h"
+#include "oid/PrintImage.h"
+#include "pdf/BookPicture.h"
+#include "pdf/DotMask.h"
+
+namespace {
+
+// On upright A4, in mm.
+constexpr double kMargin = 15;
+constexpr double kBox = 20;
+constexpr double kAcross = 32;  // from a box to the next
+constexpr double kDown = 32;
+constexpr double kTitleHeight = 5;
+constexpr double kFirstRow = 30;
+constexpr double kNameHeight = 2.8;
+constexpr int kColumns = 6;
+constexpr int kRows = 8;
+constexpr int kUsualDpi = 1200;
+constexpr double kMillimetresPerInch = 25.4;
+constexpr int kPieceEdge = 236;  // pixels of a piece: 300 dots per inch
+
+// The pen does not see these.
+constexpr Ink kFrameInk{0.4, 0.3, 0.3, 0};
+constexpr Ink kStartInk{0.5, 0, 0.6, 0};
+constexpr Ink kReplayInk{0.5, 0.2, 0, 0};
+constexpr Ink kStopInk{0, 0.5, 0.5, 0};
+
+// What an area's bounds hold of the picture, small.
+QImage pieceOf(const QImage& picture, Oid::POLY area)
+{
+    prepareBounds(area);
+    const double pixels = picture.width() / 100.0;
+    const QRect bounds =
+        QRectF(QPointF(area.minX, area.minY) * pixels, QPointF(area.maxX, area.maxY) * pixels)
+            .toAlignedRect()
+            .intersected(picture.rect());
+    if (bounds.isEmpty()) {
+        return {};
+    }
+    const QImage piece = picture.copy(bounds);
+    return std::max(piece.width(), piece.height()) <= kPieceEdge
+               ? piece
+               : piece.scaled(kPieceEdge, kPieceEdge, Qt::KeepAspectRatio,
+                              Qt::SmoothTransformation);
+}
+
+QRectF inMiddle(const QSize& size, const QRectF& box)
+{
+    const QSizeF fitting = QSizeF(size).scaled(box.size(), Qt::KeepAspectRatio);
+    return {box.center() - QPointF(fitting.width(), fitting.height()) / 2, fitting};
+}
+
+std::vector<QPointF> circle(const QPointF& middle, double radius, double from, double to)
+{
+    constexpr int kSteps = 32;
+    constexpr double kTurn = 6.283185307179586;
+    std::vector<QPointF> points;
+    for (int i = 0; i <= kSteps; ++i) {
+        const double angle = (from + (to - from) * i / kSteps) * kTurn;
+        points.push_back(middle + QPointF(std::cos(angle), std::sin(angle)) * radius);
+    }
+    return points;
+}
+
+void drawStart(PageDrawing& drawing, const QPointF& middle)
+{
+    drawing.fillWith(kStartInk);
+    drawing.fillRing({middle + QPointF(-5, -7), middle + QPointF(7, 0), middle + QPointF(-5, 7)});
+}
+
+// A ring with an arrow's head where it ends.
+void drawReplay(PageDrawing& drawing, const QPointF& middle)
+{
+    drawing.fillWith(kReplayInk);
+    std::vector<QPointF> ring = circle(middle, 7, 0.1, 0.85);
+    const std::vector<QPointF> inner = circle(middle, 4.8, 0.85, 0.1);
+    ring.insert(ring.end(), inner.begin(), inner.end());
+    drawing.fillRing(ring);
+    drawing.fillRing(
+        {middle + QPointF(2, -9), middle + QPointF(7.5, -3.5), middle + QPointF(0.5, -2)});
+}
+
+void drawStop(PageDrawing& drawing, const QPointF& middle)
+{
+    drawing.fillWith(kStopInk);
+    drawing.fill(QRectF(middle - QPointF(6, 6), QSizeF(12, 12)));
+}
+
+}  // namespace
+
+SymbolsPages::SymbolsPages(const Oid::OidProject& book, const PdfOptions& wanted)
+    : project(book),
+      options(wanted),
+      dpi(wanted.printer.dpi > 0 ? wanted.printer.dpi : kUsualDpi),
+      penCodes(penCodesOf(book))
+{
+    addSymbol("START", project.productId, Sign::start);
+    if (penCodes.replay > 0) {
+        addSymbol("REPLAY", penCodes.replay, Sign::replay);
+    }
+    if (penCodes.stop > 0) {
+        addSymbol("STOP", penCodes.stop, Sign::stop);
+    }
+    signs = symbols.size();
+}
+
+bool SymbolsPages::areNeeded(const Oid::OidProject& project)
+{
+    for (const Oid::PICTURE& picture : project.pictures) {
+        for (const Oid::POLY& area : picture.polys) {
+            const auto entry = project.oids.find(area.name);
+            if (entry != project.oids.end() && entry->second.oid == project.productId) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+void SymbolsPages::addSymbol(const char* name, int oid, Sign sign)
+{
+    Symbol symbol;
+    symbol.name = name;
+    symbol.oid = oid;
+    symbol.sign = sign;
+    symbols.push_back(symbol);
+}
+
+bool SymbolsPages::addPicture(int n)
+{
+    const Oid::PICTURE& page = project.pictures[static_cast<std::size_t>(n)];
+    BookPicture file;
+    QImage picture;
+    if (!file.load(project.pathImageSource(n), n) ||
+        !readBackground(project.pathImageSource(n), picture)) {
+        return false;
+    }
+    for (const Oid::POLY& area : page.polys) {
+        const auto entry = project.oids.find(area.name);
+        const bool isKnown = std::any_of(symbols.begin(), symbols.end(), [&](const Symbol& symbol) {
+            return symbol.sign == Sign::none && symbol.name == area.name;
+        });
+        if (isKnown || entry == project.oids.end() || area.points.empty()) {
+            continue;
+        }
+        Symbol symbol;
+        symbol.name = area.name;
+        symbol.oid = entry->second.oid;
+        symbol.piece = onWhitePaper(pieceOf(picture, area));
+        symbols.push_back(symbol);
+    }
+    return true;
+}
+
+bool SymbolsPages::prepare()
+{
+    Oid::PICTURE paper;
+    paper.paperWidth = kA4.width;
+    paper.paperHeight = kA4.height;
+    paper.dpi = dpi;
+    if (!geometry.measure(paper)) {
+        return false;
+    }
+    if (penCodes.replay <= 0 || penCodes.stop <= 0) {
+        mi_printf("Note: REPLAY and STOP get their codes with the first build\n");
+    }
+    return true;
+}
+
+int SymbolsPages::count() const
+{
+    return pageOf(static_cast<int>(symbols.size()) - 1) + 1;
+}
+
+// The signs fill the first row of the first page, whose title takes the place of another row.
+QPointF SymbolsPages::placeOf(int i) const
+{
+    const int own = static_cast<int>(signs);
+    const int place = i < own ? i : (i - own + kColumns) % (kColumns * kRows);
+    return {kMargin + place % kColumns * kAcross - 3, kFirstRow + place / kColumns * kDown};
+}
+
+int SymbolsPages::pageOf(int i) const
+{
+    const int own = static_cast<int>(signs);
+    return i < own ? 0 : (i - own + kColumns) / (kColumns * kRows);
+}
+
+PdfPage SymbolsPages::draw(PdfWriter& file, int page,
+                           const std::function<void(int)>& progress) const
+{
+    PageDrawing drawing(kA4.width, kA4.height);
+    drawing.fillWith(kBlackInk);
+    drawing.text({kMargin - 3, kMargin + kTitleHeight},
+                 project.productName + "  " + std::to_string(project.productId), kTitleHeight,
+                 PageDrawing::Weight::bold);
+    for (int i = 0; i < static_cast<int>(symbols.size()); ++i) {
+        if (pageOf(i) == page) {
+            drawSymbol(file, drawing, i);
+        }
+    }
+    if (options.dots != PdfOptions::Dots::none) {
+        DotMask mask;
+        mask.page = geometry;
+        mask.part = QRect(0, 0, geometry.width, geometry.height);
+        mask.makeDots = [this, page] { return makeDots(page); };
+        mask.progress = [progress, rows = geometry.height](int done) {
+            progress(static_cast<int>(100LL * done / rows));
+        };
+        drawing.fillWith(kBlackInk);
+        drawing.mask(file.addImage(mask.image()), {0, 0}, mask.part.size(), dpi);
+    }
+    return drawing.page();
+}
+
+std::unique_ptr<DotLayer> SymbolsPages::makeDots(int page) const
+{
+    const double percentPerPixel = 100.0 / geometry.width;
+    const double percent = dpi / kMillimetresPerInch * percentPerPixel;  // of a mm
+    std::vector<Oid::POLY> boxes;
+    for (int i = 0; i < static_cast<int>(symbols.size()); ++i) {
+        if (pageOf(i) != page) {
+            continue;
+        }
+        const QPointF corner = placeOf(i) * percent;
+        const double edge = kBox * percent;
+        Oid::POLY box;
+        box.points = {{corner.x(), corner.y()},
+                      {corner.x() + edge, corner.y()},
+                      {corner.x() + edge, corner.y() + edge},
+                      {corner.x(), corner.y() + edge}};
+        const int rawCode = static_cast<int>(
+            oid_raw_codes::rawCodeOrZero(symbols[static_cast<std::size_t>(i)].oid));
+        box.tile = tileOf(rawCode, geometry, options.printer.dotSize);
+        boxes.push_back(std::move(box));
+    }
+    return std::make_unique<DotLayer>(boxes, emptyTile(geometry), geometry, percentPerPixel);
+}
+
+void SymbolsPages::drawSymbol(PdfWriter& file, PageDrawing& drawing, int i) const
+{
+    const Symbol& symbol = symbols[static_cast<std::size_t>(i)];
+    const QRectF box(placeOf(i), QSizeF(kBox, kBox));
+    if (!symbol.piece.isNull()) {
+        const PictureInk ink{options.printer.noBlack, options.printer.lighten};
+        drawing.image(file.addImage(imageOf(symbol.piece, ink)),
+                      inMiddle(symbol.piece.size(), box));
+    }
+    switch (symbol.sign) {
+    case Sign::start:
+        drawStart(drawing, box.center());
+        break;
+    case Sign::replay:
+        drawReplay(drawing, box.center());
+        break;
+    case Sign::stop:
+        drawStop(drawing, box.center());
+        break;
+    case Sign::none:
+        break;
+    }
+    drawing.strokeWith(kFrameInk, 0.2);
+    drawing.stroke(box);
+    drawing.fillWith(kBlackInk);
+    const QPointF below(box.center().x(), box.bottom() + 1.4 * kNameHeight);
+    drawing.centred(below, symbol.name, kNameHeight, kAcross - 2, PageDrawing::Weight::bold);
+    drawing.centred(below + QPointF(0, 1.3 * kNameHeight), std::to_string(symbol.oid), kNameHeight,
+                    kAcross - 2);
+}
