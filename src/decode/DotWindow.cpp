@@ -15,6 +15,9 @@ DotWindow::DotWindow(const ScanImage& scan, int zoom, int left, int top, int wid
       means(grey.size())
 {
     takePixels(scan, zoom, left, top);
+    if (scan.reduced > 1) {
+        soften();
+    }
     takeMeans();
 }
 
@@ -43,6 +46,25 @@ void DotWindow::takePixels(const ScanImage& scan, int zoom, int left, int top)
             *pixel++ = (1 - fy) * upper + fy * lower;
         }
     }
+}
+
+// A fine dot that fell into one pixel when the scan was made smaller is much darker than one that
+// fell between four. Softened, they are more alike.
+void DotWindow::soften()
+{
+    const auto pass = [this](int dx, int dy) {
+        std::vector<float> soft(grey.size());
+        for (int y = 0; y < rows; ++y) {
+            for (int x = 0; x < columns; ++x) {
+                const float before = at(std::max(x - dx, 0), std::max(y - dy, 0));
+                const float behind = at(std::min(x + dx, columns - 1), std::min(y + dy, rows - 1));
+                soft[index(x, y)] = (before + 2 * at(x, y) + behind) / 4;
+            }
+        }
+        grey.swap(soft);
+    };
+    pass(1, 0);
+    pass(0, 1);
 }
 
 // Sums of columns, moved down row by row, and a sum of those, moved right.

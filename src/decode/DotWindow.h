@@ -25,6 +25,7 @@ private:
                static_cast<std::size_t>(x);
     }
     void takePixels(const ScanImage& scan, int zoom, int left, int top);
+    void soften();
     void takeMeans();
 
     int columns;

@@ -3,14 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "oid/DotLayer.h"
-#include "oid/OidRawCodes.h"
 #include "oid/PageBackground.h"
 #include "oid/PictureFile.h"
-#include "oid/PreparedPage.h"
 #include "oid/PrintImage.h"
 #include "pdf/BookPicture.h"
-#include "pdf/DotMask.h"
 
 namespace {
 
@@ -25,7 +21,6 @@ constexpr double kNameHeight = 2.8;
 constexpr int kColumns = 6;
 constexpr int kRows = 8;
 constexpr int kUsualDpi = 1200;
-constexpr double kMillimetresPerInch = 25.4;
 constexpr int kPieceEdge = 236;  // pixels of a piece: 300 dots per inch
 
 // The pen does not see these.
@@ -209,41 +204,21 @@ PdfPage SymbolsPages::draw(PdfWriter& file, int page,
         }
     }
     if (options.dots != PdfOptions::Dots::none) {
-        DotMask mask;
-        mask.page = geometry;
-        mask.part = QRect(0, 0, geometry.width, geometry.height);
-        mask.makeDots = [this, page] { return makeDots(page); };
-        mask.progress = [progress, rows = geometry.height](int done) {
-            progress(static_cast<int>(100LL * done / rows));
-        };
-        drawing.fillWith(kBlackInk);
-        drawing.mask(file.addImage(mask.image()), {0, 0}, mask.part.size(), dpi);
+        drawDots(file, drawing, dpi, boxesOn(page), progress);
     }
     return drawing.page();
 }
 
-std::unique_ptr<DotLayer> SymbolsPages::makeDots(int page) const
+std::vector<DottedBox> SymbolsPages::boxesOn(int page) const
 {
-    const double percentPerPixel = 100.0 / geometry.width;
-    const double percent = dpi / kMillimetresPerInch * percentPerPixel;  // of a mm
-    std::vector<Oid::POLY> boxes;
+    std::vector<DottedBox> boxes;
     for (int i = 0; i < static_cast<int>(symbols.size()); ++i) {
-        if (pageOf(i) != page) {
-            continue;
+        if (pageOf(i) == page) {
+            boxes.push_back({QRectF(placeOf(i), QSizeF(kBox, kBox)),
+                             symbols[static_cast<std::size_t>(i)].oid, options.printer.dotSize});
         }
-        const QPointF corner = placeOf(i) * percent;
-        const double edge = kBox * percent;
-        Oid::POLY box;
-        box.points = {{corner.x(), corner.y()},
-                      {corner.x() + edge, corner.y()},
-                      {corner.x() + edge, corner.y() + edge},
-                      {corner.x(), corner.y() + edge}};
-        const int rawCode = static_cast<int>(
-            oid_raw_codes::rawCodeOrZero(symbols[static_cast<std::size_t>(i)].oid));
-        box.tile = tileOf(rawCode, geometry, options.printer.dotSize);
-        boxes.push_back(std::move(box));
     }
-    return std::make_unique<DotLayer>(boxes, emptyTile(geometry), geometry, percentPerPixel);
+    return boxes;
 }
 
 void SymbolsPages::drawSymbol(PdfWriter& file, PageDrawing& drawing, int i) const

@@ -3,17 +3,15 @@
 #include <QImage>
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "oid/OidProject.h"
 #include "oid/PageGeometry.h"
+#include "pdf/BoxDots.h"
 #include "pdf/PageDrawing.h"
 #include "pdf/PdfOptions.h"
 #include "pdf/PenCodes.h"
-
-class DotLayer;
 
 // The pages of symbols at the end of a book: what the pen knows beside the areas (START, REPLAY,
 // STOP), and a legend of all areas, each in a clear box that can be cut out and stuck anywhere.
@@ -47,7 +45,7 @@ private:
     void addSymbol(const char* name, int oid, Sign sign);
     QPointF placeOf(int i) const;  // of a symbol on its page
     int pageOf(int i) const;
-    std::unique_ptr<DotLayer> makeDots(int page) const;
+    std::vector<DottedBox> boxesOn(int page) const;
     void drawSymbol(PdfWriter& file, PageDrawing& drawing, int i) const;
 
     const Oid::OidProject& project;

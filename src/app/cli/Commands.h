@@ -14,7 +14,7 @@ enum ExitStatus {
 struct Command
 {
     const char* name;
-    const char* operand;  // every command has one: "PROJECT"
+    const char* operand;  // such as "PROJECT"; empty for a command that has none
     const char* summary;
     std::vector<Option> options;
     int (*run)(const Arguments& arguments);  // returns the exit status
@@ -29,6 +29,7 @@ Command printCommand();
 Command pdfCommand();
 Command readCommand();
 Command symbolsCommand();
+Command testPageCommand();
 Command tileCommand();
 Command assembleCommand();
 Command buildCommand();

@@ -1,6 +1,10 @@
 #include "app/cli/PdfArguments.h"
 
+#include <QSettings>
+
 #include <sstream>
+
+#include "pdf/PrinterProfiles.h"
 
 namespace {
 
@@ -53,7 +57,7 @@ PdfOptions PdfArguments::read()
 
 PrinterSettings PdfArguments::readPrinter()
 {
-    PrinterSettings printer;
+    PrinterSettings printer = profile();
     if (arguments.has("--dpi")) {
         printer.dpi = number("--dpi", "DPI", kFewestPrinterDpi, kMostPrinterDpi);
     }
@@ -63,8 +67,27 @@ PrinterSettings PdfArguments::readPrinter()
     if (arguments.has("--lighten")) {
         printer.lighten = number("--lighten", "PERCENT", 1, 100);
     }
-    printer.noBlack = arguments.has("--no-black");
+    printer.noBlack = printer.noBlack || arguments.has("--no-black");
     return printer;
+}
+
+PrinterSettings PdfArguments::profile()
+{
+    if (!arguments.has("--profile")) {
+        return {};
+    }
+    QSettings settings("Plinkett", "Plinkett");
+    const PrinterProfiles profiles(settings);
+    const std::string& name = arguments.value("--profile");
+    const auto found = profiles.find(name);
+    if (!found) {
+        std::string others;
+        for (const std::string& other : profiles.names()) {
+            others += (others.empty() ? "; there are: " : ", ") + other;
+        }
+        reject("there is no profile '" + name + "' of a printer" + others);
+    }
+    return found.value_or(PrinterSettings());
 }
 
 void PdfArguments::reject(const std::string& what)
@@ -145,7 +168,8 @@ PdfOptions::Symbols PdfArguments::symbols()
 
 std::vector<Option> printerOptions()
 {
-    return {{"--dpi", "DPI", "the printer's resolution instead of that of each picture"},
+    return {{"--profile", "PRINTER", "what test-page found out about the printer"},
+            {"--dpi", "DPI", "the printer's resolution instead of that of each picture"},
             {"--dot-size", "PIXELS", "the edge of a dot, when the standard dots print too fat"},
             {"--no-black", nullptr, "the picture's black is mixed of colours: unseen by the pen"},
             {"--lighten", "PERCENT", "lightens the picture below the dots"}};

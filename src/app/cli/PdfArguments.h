@@ -19,6 +19,7 @@ public:
     const std::string& mistake() const { return message; }
 
 private:
+    PrinterSettings profile();
     void reject(const std::string& what);
     int number(const std::string& option, const std::string& name, int smallest, int largest);
     std::vector<int> pages();

@@ -19,15 +19,18 @@ constexpr char kFootline[] =
 
 std::vector<Command> commands()
 {
-    return {checkCommand(),    yamlCommand(),    saveCommand(), printCommand(),
-            pdfCommand(),      symbolsCommand(), readCommand(), tileCommand(),
-            assembleCommand(), buildCommand(),   copyCommand()};
+    return {checkCommand(), yamlCommand(),     saveCommand(),     printCommand(),
+            pdfCommand(),   symbolsCommand(),  testPageCommand(), readCommand(),
+            tileCommand(),  assembleCommand(), buildCommand(),    copyCommand()};
 }
 
 // "  check PROJECT [--debug]", its summary, and a line for each option.
 std::string helpOf(const Command& command)
 {
-    std::string usage = std::string("  ") + command.name + " " + command.operand;
+    std::string usage = std::string("  ") + command.name;
+    if (*command.operand != '\0') {
+        usage += std::string(" ") + command.operand;
+    }
     std::string details = std::string("      ") + command.summary + "\n";
     for (const Option& option : command.options) {
         std::string form = option.name;
@@ -64,7 +67,7 @@ std::string mistakeIn(const Arguments& arguments, const Command& command)
     if (!arguments.error.empty()) {
         return arguments.error;
     }
-    if (arguments.operands.empty()) {
+    if (arguments.operands.empty() && *command.operand != '\0') {
         return std::string(command.name) + " needs " + command.operand;
     }
     if (arguments.operands.size() > command.mostOperands) {
