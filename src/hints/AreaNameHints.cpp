@@ -38,39 +38,37 @@ std::vector<std::string> namesOf(const Book& book)
 }
 
 // Tells of each name what a game description makes of it: nothing where it is refused. Names that
-// come through are left out; mostly all do, so they are read together first.
+// come through are left out. Mostly all do, so many are read together.
 template <class Tell>
-void tellLostNames(const Book& book, const Report& report, Tell tell)
+void tellLostNames(const std::vector<std::string>& names, Tell tell)
 {
-    const std::vector<std::string> names = namesOf(book);
-    if (names.empty() || namesRead(names) == names) {
+    const auto read = namesRead(names);
+    if (names.empty() || read == names) {
         return;
     }
-    for (const std::string& name : names) {
-        if (report.isCancelled()) {
-            return;
-        }
-        const auto read = namesRead({name});
-        if (read != std::vector<std::string>{name}) {
-            tell(book.areas.at(name), read && read->size() == 1 ? &read->front() : nullptr);
-        }
+    if (names.size() == 1) {
+        tell(names[0], read && read->size() == 1 ? &read->front() : nullptr);
+        return;
     }
+    const auto half = names.begin() + static_cast<std::ptrdiff_t>(names.size() / 2);
+    tellLostNames({names.begin(), half}, tell);
+    tellLostNames({half, names.end()}, tell);
 }
 
 void findRefused(const Book& book, Report& report)
 {
-    tellLostNames(book, report, [&](const Diagnostic& area, const std::string* read) {
+    tellLostNames(namesOf(book), [&](const std::string& name, const std::string* read) {
         if (read == nullptr) {
-            report.add(area);
+            report.add(book.areas.at(name));
         }
     });
 }
 
 void findChanged(const Book& book, Report& report)
 {
-    tellLostNames(book, report, [&](const Diagnostic& area, const std::string* read) {
+    tellLostNames(namesOf(book), [&](const std::string& name, const std::string* read) {
         if (read != nullptr) {
-            report.add(area, {*read});
+            report.add(book.areas.at(name), {*read});
         }
     });
 }
@@ -93,14 +91,14 @@ std::vector<Hint> areaNameHints()
     return {
         {"area-name-refused",
          QT_TRANSLATE_NOOP("Hints", "Area '%1' on page %2: no game can be built with this name"),
-         findRefused},
+         Subject::book, findRefused},
         {"area-name-changed",
          QT_TRANSLATE_NOOP("Hints", "Area '%1' on page %2: the game reads this name as '%3'"),
-         findChanged},
+         Subject::book, findChanged},
         {"area-name-number",
          QT_TRANSLATE_NOOP("Hints", "Area '%1' on page %2: no game can be built with a sub whose "
                                     "name is a number"),
-         findNumbers},
+         Subject::book, findNumbers},
     };
 }
 

@@ -46,23 +46,37 @@ int freeNumber(const Book& book)
     return number;
 }
 
-void offerFreeNumber(const Book& book, Finding& finding)
+// Offers a free number, which is looked for once.
+class FreeNumber
 {
-    const int number = freeNumber(book);
-    if (number <= kLargest) {
-        finding.fix = Fix{QT_TRANSLATE_NOOP("Hints", "Give it a free number"),
-                          AreaNumber{finding.diagnostic.subject, number}};
+public:
+    explicit FreeNumber(const Book& wholeBook) : book(wholeBook) {}
+
+    void offer(Finding& finding)
+    {
+        if (!number) {
+            number = freeNumber(book);
+        }
+        if (*number <= kLargest) {
+            finding.fix = Fix{QT_TRANSLATE_NOOP("Hints", "Give it a free number"),
+                              AreaNumber{finding.diagnostic.subject, *number}};
+        }
     }
-}
+
+private:
+    const Book& book;
+    std::optional<int> number;
+};
 
 // Every name with a number of its own that the condition holds of.
 template <class Condition>
 void findNumbers(const Book& book, Report& report, Condition condition)
 {
+    FreeNumber free(book);
     for (const auto& [name, area] : book.areas) {
         const std::optional<int> oid = book.numberOf(name);
         if (oid && !isProductNumber(book, *oid) && condition(*oid)) {
-            offerFreeNumber(book, report.add(area, {std::to_string(*oid)}));
+            free.offer(report.add(area, {std::to_string(*oid)}));
         }
     }
 }
@@ -90,6 +104,7 @@ void findTooLarge(const Book& book, Report& report)
 // Of names with one number all but the first are told.
 void findTwice(const Book& book, Report& report)
 {
+    FreeNumber free(book);
     std::map<int, std::string> first;
     for (const auto& [name, area] : book.areas) {
         const std::optional<int> oid = book.numberOf(name);
@@ -98,7 +113,7 @@ void findTwice(const Book& book, Report& report)
         }
         const auto [entry, isNew] = first.emplace(*oid, name);
         if (!isNew) {
-            offerFreeNumber(book, report.add(area, {std::to_string(*oid), entry->second}));
+            free.offer(report.add(area, {std::to_string(*oid), entry->second}));
         }
     }
 }
@@ -106,6 +121,7 @@ void findTwice(const Book& book, Report& report)
 // The codes file keeps the numbers that the last build gave to subs without an area, and to steps.
 void findLabels(const Book& book, Report& report)
 {
+    FreeNumber free(book);
     std::map<int, std::string> labels;
     for (const auto& [name, code] : book.codesFile.names) {
         labels.emplace(code.code, name);
@@ -120,7 +136,7 @@ void findLabels(const Book& book, Report& report)
     for (const auto& [name, area] : book.areas) {
         const auto label = labels.find(book.numberOf(name).value_or(0));
         if (label != labels.end() && label->second != name) {
-            offerFreeNumber(book, report.add(area, {std::to_string(label->first), label->second}));
+            free.offer(report.add(area, {std::to_string(label->first), label->second}));
         }
     }
 }
@@ -133,24 +149,24 @@ std::vector<Hint> areaNumberHints()
         {"number-without-pattern",
          QT_TRANSLATE_NOOP("Hints", "Area '%1' on page %2: there is no dot pattern for the number "
                                     "%3, so nothing is printed"),
-         findWithoutPattern},
+         Subject::book, findWithoutPattern},
         {"number-too-small",
          QT_TRANSLATE_NOOP("Hints", "Area '%1' on page %2: the number %3 is below 1000, where the "
                                     "pen looks for books and its own signs"),
-         findTooSmall},
+         Subject::book, findTooSmall},
         {"number-too-large",
          QT_TRANSLATE_NOOP("Hints",
                            "Area '%1' on page %2: the number %3 is above 14999 and the pen "
                            "does not know it"),
-         findTooLarge},
+         Subject::book, findTooLarge},
         {"number-twice",
          QT_TRANSLATE_NOOP("Hints", "Area '%1' on page %2: the area '%4' has the number %3, too; "
                                     "the pen takes both for one"),
-         findTwice},
+         Subject::book, findTwice},
         {"number-of-a-step",
          QT_TRANSLATE_NOOP("Hints", "Area '%1' on page %2: in the last build '%4' had the number "
                                     "%3; the next build gives it another one"),
-         findLabels},
+         Subject::book, findLabels},
     };
 }
 

@@ -192,26 +192,26 @@ std::vector<Hint> areaShapeHints()
         {"too-few-corners",
          QT_TRANSLATE_NOOP("Hints", "Area '%1' on page %2 has fewer than three corners, so nothing "
                                     "is printed"),
-         findTooFewCorners},
+         Subject::pages, findTooFewCorners},
         {"crossing-edges",
          QT_TRANSLATE_NOOP("Hints", "Area '%1' on page %2: its edges cross, and what is enclosed "
                                     "twice is left out"),
-         findCrossingEdges},
+         Subject::pages, findCrossingEdges},
         {"outside-picture",
          QT_TRANSLATE_NOOP("Hints", "Area '%1' on page %2: %3 % of it lie outside of the picture"),
-         findOutside},
+         Subject::pages, findOutside},
         {"hidden-area",
          QT_TRANSLATE_NOOP("Hints", "Area '%1' on page %2 lies wholly below areas that come before "
                                     "it, so the pen never finds it"),
-         findHidden},
+         Subject::pages, findHidden},
         {"too-narrow",
          QT_TRANSLATE_NOOP("Hints", "Area '%1' on page %2 is %3 mm wide on paper where it is "
                                     "widest; the pen needs 8 mm"),
-         findNarrow},
+         Subject::pages, findNarrow},
         {"dark-picture",
          QT_TRANSLATE_NOOP("Hints", "Area '%1' on page %2: the picture is too dark there for black "
                                     "dots, its lightness is %3 %; 35 % are needed"),
-         findDark},
+         Subject::pages, findDark},
     };
 }
 

@@ -44,11 +44,11 @@ std::vector<Hint> areaSubHints()
          QT_TRANSLATE_NOOP("Hints",
                            "Area '%1' on page %2: the script has no sub of this name, so a "
                            "touch does nothing"),
-         findAreasWithoutSub},
+         Subject::book, findAreasWithoutSub},
         {"sub-without-area",
          QT_TRANSLATE_NOOP("Hints", "No area and no goto leads to the sub '%1', so it is never "
                                     "carried out"),
-         findSubsWithoutArea},
+         Subject::book, findSubsWithoutArea},
     };
 }
 

@@ -250,17 +250,17 @@ std::vector<Hint> expressionHints()
          QT_TRANSLATE_NOOP("Hints",
                            "When this is neither 0 nor 1, the pen does neither what stands "
                            "behind if nor what stands behind else"),
-         findOtherThan0And1},
+         Subject::book, findOtherThan0And1},
         {"comparison-order",
          QT_TRANSLATE_NOOP("Hints", "& and | bind tighter than comparisons: each comparison needs "
                                     "parentheses of its own"),
-         findOrder},
+         Subject::book, findOrder},
         {"below-0",
          QT_TRANSLATE_NOOP("Hints", "What falls below 0 here goes on down from 65535, so the "
                                     "comparison takes it for large"),
-         findBelow0},
+         Subject::book, findBelow0},
         {"number-above-65535", QT_TRANSLATE_NOOP("Hints", "%1 is above 65535 and becomes %2"),
-         findLargeNumbers},
+         Subject::book, findLargeNumbers},
     };
 }
 

@@ -42,10 +42,8 @@ void dropQuieted(const Book& book, std::vector<Finding>& findings)
     findings.erase(std::remove_if(findings.begin(), findings.end(), isQuieted), findings.end());
 }
 
-}  // namespace
-
-std::vector<Finding> findHints(const Oid::OidProject& project, PagePictures& pictures,
-                               const Cancelled& isCancelled)
+std::vector<Finding> find(std::optional<Subject> subject, const Oid::OidProject& project,
+                          PagePictures& pictures, const Cancelled& isCancelled)
 {
     std::vector<Finding> findings;
     Report report(findings, isCancelled);
@@ -54,12 +52,28 @@ std::vector<Finding> findHints(const Oid::OidProject& project, PagePictures& pic
         if (report.isCancelled()) {
             break;
         }
-        report.begin(hint);
-        hint.find(book, report);
+        if (hint.subject == subject.value_or(hint.subject)) {
+            report.begin(hint);
+            hint.find(book, report);
+        }
     }
     dropQuieted(book, findings);
     std::stable_sort(findings.begin(), findings.end(), comesFirst);
     return findings;
+}
+
+}  // namespace
+
+std::vector<Finding> findHints(const Oid::OidProject& project, PagePictures& pictures,
+                               const Cancelled& isCancelled)
+{
+    return find(std::nullopt, project, pictures, isCancelled);
+}
+
+std::vector<Finding> findHints(Subject subject, const Oid::OidProject& project,
+                               PagePictures& pictures, const Cancelled& isCancelled)
+{
+    return find(subject, project, pictures, isCancelled);
 }
 
 }  // namespace hints

@@ -15,5 +15,8 @@ namespace hints {
 // Only reads. It can be done on any thread as long as nobody changes the project.
 std::vector<Finding> findHints(const Oid::OidProject& project, PagePictures& pictures,
                                const Cancelled& isCancelled = {});
+// Those of one subject.
+std::vector<Finding> findHints(Subject subject, const Oid::OidProject& project,
+                               PagePictures& pictures, const Cancelled& isCancelled = {});
 
 }  // namespace hints

@@ -159,20 +159,20 @@ std::vector<Hint> flowHints()
     return {
         {"outside-sub",
          QT_TRANSLATE_NOOP("Hints", "This stands outside of every sub and is never carried out"),
-         findOutsideSubs},
+         Subject::book, findOutsideSubs},
         {"sub-without-end",
          QT_TRANSLATE_NOOP("Hints", "The sub '%1' has no end, so no game can be built"),
-         findOpenSubs},
+         Subject::book, findOpenSubs},
         {"behind-goto",
          QT_TRANSLATE_NOOP("Hints", "The pen never comes to this: it stands behind a goto"),
-         findBehindGoto},
+         Subject::book, findBehindGoto},
         {"foreign-case",
          QT_TRANSLATE_NOOP("Hints", "This belongs to the select in line %1, which has ended, and "
                                     "not to the one in line %2"),
-         findForeignCases},
+         Subject::book, findForeignCases},
         {"endless-loop",
          QT_TRANSLATE_NOOP("Hints", "The pen goes round for ever and says nothing: %1"),
-         findEndlessLoops},
+         Subject::book, findEndlessLoops},
     };
 }
 

@@ -56,6 +56,10 @@ private:
     const Hint* hint = nullptr;
 };
 
+// What a hint looks at. Those about pages say the same until pages, areas or their pictures change,
+// whatever is done to the script or the product.
+enum class Subject { book, pages };
+
 // A kind of advice.
 struct Hint
 {
@@ -64,6 +68,7 @@ struct Hint
     const char* name;
     // What is said to the author, marked with QT_TRANSLATE_NOOP("Hints", ...).
     const char* words;
+    Subject subject;
     // Looks through the book. Writes nothing but its report, may run on any thread.
     void (*find)(const Book& book, Report& report);
 };

@@ -155,24 +155,24 @@ std::vector<Hint> nameHints()
         {"capitals",
          QT_TRANSLATE_NOOP("Hints", "'%1' is set here, but '%2' is read: names are read in small "
                                     "letters, and these are two variables"),
-         findCapitals},
+         Subject::book, findCapitals},
         {"never-read", QT_TRANSLATE_NOOP("Hints", "The variable '%1' is set but never read"),
-         findNeverRead},
+         Subject::book, findNeverRead},
         {"never-set",
          QT_TRANSLATE_NOOP("Hints", "The variable '%1' is read but never set, so it is always 0"),
-         findNeverSet},
+         Subject::book, findNeverSet},
         {"variable-name",
          QT_TRANSLATE_NOOP("Hints", "No game can be built with a variable named '%1': letters, "
                                     "digits and underscores are possible, but no digit first"),
-         findVariableNames},
+         Subject::book, findVariableNames},
         {"step-name",
          QT_TRANSLATE_NOOP("Hints", "The compiler uses the name '%1' itself; one of the two would "
                                     "be lost"),
-         findStepNames},
+         Subject::book, findStepNames},
         {"goto-refused",
          QT_TRANSLATE_NOOP("Hints", "No game can be built with a goto to '%1': letters, digits and "
                                     "underscores are possible, but no digit first"),
-         findRefusedTargets},
+         Subject::book, findRefusedTargets},
     };
 }
 

@@ -87,19 +87,19 @@ std::vector<Hint> pageHints()
         {"page-without-areas",
          QT_TRANSLATE_NOOP("Hints", "Page %1 has no areas; other programs that save the project "
                                     "lose it"),
-         findEmptyPages},
+         Subject::pages, findEmptyPages},
         {"coarse-picture",
          QT_TRANSLATE_NOOP("Hints", "Page %1: on its paper the picture has %2 dpi; below 150 its "
                                     "pixels can be seen"),
-         findCoarsePictures},
+         Subject::pages, findCoarsePictures},
         {"print-resolution",
          QT_TRANSLATE_NOOP("Hints", "Page %1: with %2 dpi the dots are not printed evenly; 600 "
                                     "dpi or twice, four times as much is right"),
-         findResolutions},
+         Subject::pages, findResolutions},
         {"blank-paper",
          QT_TRANSLATE_NOOP("Hints", "Page %1: picture and paper have other proportions, so %2 mm "
                                     "of the paper stay blank"),
-         findBlankPaper},
+         Subject::pages, findBlankPaper},
     };
 }
 

@@ -140,30 +140,30 @@ std::vector<Hint> productHints()
     return {
         {"product-name-characters",
          QT_TRANSLATE_NOOP("Hints", "The name of the product cannot have these characters: %1"),
-         findForbiddenCharacters},
+         Subject::book, findForbiddenCharacters},
         {"product-name-too-long",
          QT_TRANSLATE_NOOP("Hints", "The name of the product has %1 characters; no game can be "
                                     "built with more than 49"),
-         findLongName},
+         Subject::book, findLongName},
         {"product-name-garbled",
          QT_TRANSLATE_NOOP("Hints", "The game file cannot hold these characters of the product's "
                                     "name: %1"),
-         findGarbledCharacters},
+         Subject::book, findGarbledCharacters},
         {"product-number-taken",
          QT_TRANSLATE_NOOP("Hints", "Other books in this folder have the number %1, too, and "
                                     "the same picture files: %2"),
-         findTakenNumber},
+         Subject::book, findTakenNumber},
         {"product-number-foreign",
          QT_TRANSLATE_NOOP("Hints", "The number of the product is %1; books made at home have 900 "
                                     "to 950, others may be those of a bought book"),
-         findForeignNumber},
+         Subject::book, findForeignNumber},
         {"no-start-area",
          QT_TRANSLATE_NOOP("Hints", "No area has the product's number %1: nothing on the pages "
                                     "starts the book, so a page of symbols has to"),
-         findMissingStart},
+         Subject::book, findMissingStart},
         {"many-steps",
          QT_TRANSLATE_NOOP("Hints", "The script has %1 steps of the %2 that a game can have"),
-         findManySteps},
+         Subject::book, findManySteps},
     };
 }
 

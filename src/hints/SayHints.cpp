@@ -104,18 +104,18 @@ std::vector<Hint> sayHints()
     return {
         {"several-texts",
          QT_TRANSLATE_NOOP("Hints", "The pen says only one of these texts, at random"),
-         findSeveralTexts},
+         Subject::book, findSeveralTexts},
         {"percent-signs",
          QT_TRANSLATE_NOOP("Hints", "The saved project has one percent sign less here"),
-         findPercentSigns},
+         Subject::book, findPercentSigns},
         {"shared-audio-file",
          QT_TRANSLATE_NOOP("Hints", "This text shares its audio file with \"%1\" in line %2, and "
                                     "the pen says that one here, too"),
-         findSharedAudio},
+         Subject::book, findSharedAudio},
         {"long-text",
          QT_TRANSLATE_NOOP("Hints", "This text is too long: the name of its audio file has %1 "
                                     "characters, and 251 are the most"),
-         findLongAudioNames},
+         Subject::book, findLongAudioNames},
     };
 }
 
