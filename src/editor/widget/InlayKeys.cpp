@@ -288,6 +288,16 @@ bool KVQtHighlightEditCtrlInlay::process_function_key(int key)
         }
         DoFindNext(true);
         return true;
+    case Qt::Key_F8:
+        GotoMark(!shift_held);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (alt_held && !control_held) {
+            emit FixAsked();
+            return true;
+        }
+        return false;
     default:
         return false;
     }

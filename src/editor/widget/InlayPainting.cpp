@@ -125,6 +125,7 @@ TextView KVQtHighlightEditCtrlInlay::prepare_view()
     }
     find_brackets();
     view.brackets = brackets;
+    view.marks = &line_marks;
     return view;
 }
 

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 void KVQtHighlightEditCtrlInlay::SetFont(const QString& family, int pointSize)
 {
@@ -76,6 +77,9 @@ void KVQtHighlightEditCtrlInlay::UpdateAllViews()
     offer_selection();
     EditorAccessible::announce(this);
     emit ViewUpdated(textChanged);
+    if (std::exchange(editor.dirty, false)) {
+        emit TextChanged();
+    }
 }
 
 // A selection of the last line as a whole ends below the text. When only its caret is left, typing

@@ -55,6 +55,7 @@ void KVQtHighlightEditCtrlInlay::setText(const QString& text)
     editor.selection.set(0, 0);
     buffer.set_text(text.toStdU16String());
     buffer.tabs_insert(editor.tab_width);
+    editor.dirty = true;
     UpdateAllViews();
 }
 

@@ -3,6 +3,7 @@
 #include "editor/core/EditorBackend.h"
 #include "editor/widget/EditorOptions.h"
 #include "editor/widget/GlyphCache.h"
+#include "editor/widget/LineMarks.h"
 
 #include <QElapsedTimer>
 #include <QRegion>
@@ -114,8 +115,24 @@ public:
     // The text of a line, its tabs single characters; empty outside the text.
     QString LineText(int line) const;  // counted from 0
     bool is_overwrite_mode() const;
+    // Gives each part a text that may have several lines, as one step of undo. The parts are in
+    // ascending order and do not overlap. The caret is behind the first one then.
+    void EditParts(const std::vector<Replacement>& edits);
+    // Selects the part and shows it.
+    void Select(const Part& part);
+
+    // --- marks of others (InlayMarks.cpp) ---
+    void SetMarks(std::vector<TextMark> marks);
+    // To the next mark behind what is selected (or the one before it), around the end of the text.
+    void GotoMark(bool forward);
 
 signals:
+    // A command has changed the text.
+    void TextChanged();
+    // GotoMark has selected the mark's part.
+    void MarkReached(const TextMark& mark);
+    // The author wants what is wrong at the caret to be put right (Alt+Enter).
+    void FixAsked();
     void LetterSizeChanged(int points);
     // A command has ended.
     void ViewUpdated(bool textChanged);
@@ -144,6 +161,7 @@ protected:
     virtual void FindPrepareSearchString(QString& text);
     virtual void FindPrepareReplaceString(QString& text);
 
+    bool event(QEvent* event) override;  // tool tips
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -238,6 +256,8 @@ private:
     std::optional<std::u16string> replace_all_in(std::u16string text);
 
     void goto_bookmark(int step);
+    SELECTION cells_of(const TextMark& mark) const;
+    QString words_at(QPoint point) const;  // of the marks there
     void undo_or_redo(void (BACKEND::*step)(), quint64 link, bool forward);
     static QString text_of(const BUFFER& lines);  // joined with CR LF
 
@@ -277,6 +297,7 @@ private:
     int told_lines = 1;  // of the text that ViewUpdated last told of
     int text_width = 0;  // cells of the widest line
     int widest_line = 0;
+    LineMarks line_marks;
     int wheel_turned = 0;  // with Control, in eighths of a degree, less than a step
 
     bool caret_visible = true;

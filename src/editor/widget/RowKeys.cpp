@@ -62,6 +62,12 @@ quint64 RowKeys::of_row(int row) const
             mixer.add(bracket);
         }
     }
+    if (view.marks != nullptr) {
+        for (auto [mark, end] = view.marks->of(number); mark != end; ++mark) {
+            mixer.add(quint64(mark->kind) + 1);
+            mixer.add(CARET{mark->column, mark->length});
+        }
+    }
     // Beside the cells in view, a neighbour may be the other half of a character.
     const int end = std::min(view.first_column + view.columns + 1, line.length());
     for (int column = std::max(0, view.first_column - 1); column < end; ++column) {

@@ -1,5 +1,7 @@
 #include "editor/widget/TextPainter.h"
 
+#include "editor/core/Utf8Columns.h"
+
 #include <algorithm>
 #include <limits>
 #include <string>
@@ -11,6 +13,7 @@ namespace {
 constexpr char16_t kTabMark = 0x2192;    // an arrow to the right
 constexpr char16_t kSpaceMark = 0x00B7;  // a middle dot
 constexpr QRgb kBracketGround = qRgb(255, 224, 130);
+constexpr std::array<QRgb, 3> kMarkColors = {qRgb(216, 0, 0), qRgb(196, 112, 0), qRgb(0, 104, 208)};
 
 }  // namespace
 
@@ -65,6 +68,7 @@ void TextPainter::draw_row(int row)
     if (view.first_line + row < editor.buffer->line_count()) {
         draw_line(row);
         draw_gutter(row);
+        draw_marks(row);
     }
 }
 
@@ -171,6 +175,53 @@ void TextPainter::draw_bookmark(const QRect& place)
     const int margin = std::max(1, place.height() / 6);
     const QSize bar(std::max(2, place.width() / 2), place.height() - 2 * margin);
     fill({place.topLeft() + QPoint(place.width() / 4, margin), bar}, color_of(kKeywordRole, plain));
+}
+
+void TextPainter::draw_marks(int row)
+{
+    const int line = view.first_line + row;
+    const auto worst = view.marks != nullptr ? view.marks->worst_of(line) : std::nullopt;
+    if (!worst) {
+        return;
+    }
+    draw_mark_in_gutter(row, *worst);
+    const KVTextEditor::TextBuffer& text = *editor.buffer;
+    const LINE& cells = text.line(line);
+    for (auto [mark, end] = view.marks->of(line); mark != end; ++mark) {
+        if (mark->column > 0) {
+            const int from = column_of_byte(cells, mark->column - 1);
+            const int behind = column_of_byte(cells, mark->column - 1 + mark->length);
+            draw_wave(row, from, std::max(behind, from + 1), kMarkColors[mark->kind]);
+        }
+    }
+}
+
+// A bar beside the text: as high as the row for an error, lower for what is less.
+void TextPainter::draw_mark_in_gutter(int row, TextMark::Kind kind)
+{
+    constexpr int kWidth = 3;  // pixels
+    constexpr std::array<int, 3> kQuarters = {4, 3, 2};
+    const int height = view.cell.height() * kQuarters[kind] / 4;
+    const int left = device(view.text_left - kWidth - 1);
+    const int top = device((row + 1) * view.cell.height() - height);
+    const int bottom = device((row + 1) * view.cell.height());
+    fill({left, top, device(view.text_left - 1) - left, bottom - top}, kMarkColors[kind]);
+}
+
+// Below the cells from one column to just before the other, as far as they are in view.
+void TextPainter::draw_wave(int row, int from, int end, QRgb color)
+{
+    const int first = std::clamp(from - view.first_column, 0, view.columns);
+    const int behind = std::clamp(end - view.first_column, 0, view.columns);
+    const int bottom = device((row + 1) * view.cell.height());
+    const int thick = std::max(1, device(1));
+    const int step = 2 * thick;  // from the wave's top to its bottom
+    for (int x = lefts[static_cast<std::size_t>(first)];
+         x < lefts[static_cast<std::size_t>(behind)]; ++x) {
+        const int phase = x % (2 * step);
+        const int height = phase < step ? phase : 2 * step - phase;
+        fill({x, bottom - thick - height, 1, thick}, color);
+    }
 }
 
 void TextPainter::fill(const QRect& place, QRgb color)

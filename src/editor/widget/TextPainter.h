@@ -3,6 +3,7 @@
 #include "editor/core/EditorBackend.h"
 #include "editor/widget/EditorOptions.h"
 #include "editor/widget/GlyphCache.h"
+#include "editor/widget/LineMarks.h"
 
 #include <QImage>
 
@@ -22,6 +23,7 @@ struct TextView
     qreal ratio = 1;        // device pixels per pixel
     // The bracket at the caret and its partner.
     std::array<KVTextEditor::CARET, 2> brackets = {{{-1, -1}, {-1, -1}}};
+    const LineMarks* marks = nullptr;  // not owned; null is none
 };
 
 // Draws rows of the text into a 32-bit canvas, cell by cell and without a painter: a frame has
@@ -48,6 +50,9 @@ private:
     void draw_line(int row);
     void draw_gutter(int row);
     void draw_bookmark(const QRect& place);
+    void draw_marks(int row);
+    void draw_mark_in_gutter(int row, TextMark::Kind kind);
+    void draw_wave(int row, int from, int end, QRgb color);
     void find_selected_columns(int line);
     Ground ground_at(CARET caret) const;
     void draw_cell(const QRect& place, const LINE& cells, int column, Ground ground);
