@@ -981,6 +981,91 @@
     </message>
 </context>
 <context>
+    <name>ProblemList</name>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>Seite %1</translation>
+    </message>
+    <message>
+        <source>page %1: %2</source>
+        <translation>Seite %1: %2</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Quick fix</source>
+        <translation>Abhilfe</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemsDock</name>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>Enter goes to the place, Alt+Enter puts right what can be put right</source>
+        <translation>Eingabe führt zur Stelle, Alt+Eingabe behebt, was sich beheben lässt</translation>
+    </message>
+    <message>
+        <source>Shows or folds the list of problems. F8 goes to the next one in the script, Shift+F8 to the one before.</source>
+        <translation>Zeigt die Liste der Probleme oder klappt sie ein. F8 geht zum nächsten im Skript, Umschalt+F8 zum vorigen.</translation>
+    </message>
+    <message>
+        <source>No problems</source>
+        <translation>Keine Probleme</translation>
+    </message>
+    <message>
+        <source>1 problem</source>
+        <translation>1 Problem</translation>
+    </message>
+    <message>
+        <source>%1 problems</source>
+        <translation>%1 Probleme</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemsGuide</name>
+    <message>
+        <source>Alt+Enter: %1</source>
+        <translation>Alt+Eingabe: %1</translation>
+    </message>
+    <message>
+        <source>There is no quick fix here</source>
+        <translation>Hier gibt es keine Abhilfe</translation>
+    </message>
+    <message>
+        <source>The book has changed meanwhile. Try again.</source>
+        <translation>Das Buch hat sich inzwischen geändert. Versuchen Sie es noch einmal.</translation>
+    </message>
+</context>
+<context>
     <name>ProductNameNote</name>
     <message>
         <source>Not possible in the name: %1</source>

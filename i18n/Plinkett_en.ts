@@ -981,6 +981,91 @@
     </message>
 </context>
 <context>
+    <name>ProblemList</name>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Hint</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>page %1</translation>
+    </message>
+    <message>
+        <source>page %1: %2</source>
+        <translation>page %1: %2</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Kind</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Area</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Quick fix</source>
+        <translation>Quick fix</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemsDock</name>
+    <message>
+        <source>Problems</source>
+        <translation>Problems</translation>
+    </message>
+    <message>
+        <source>Enter goes to the place, Alt+Enter puts right what can be put right</source>
+        <translation>Enter goes to the place, Alt+Enter puts right what can be put right</translation>
+    </message>
+    <message>
+        <source>Shows or folds the list of problems. F8 goes to the next one in the script, Shift+F8 to the one before.</source>
+        <translation>Shows or folds the list of problems. F8 goes to the next one in the script, Shift+F8 to the one before.</translation>
+    </message>
+    <message>
+        <source>No problems</source>
+        <translation>No problems</translation>
+    </message>
+    <message>
+        <source>1 problem</source>
+        <translation>1 problem</translation>
+    </message>
+    <message>
+        <source>%1 problems</source>
+        <translation>%1 problems</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemsGuide</name>
+    <message>
+        <source>Alt+Enter: %1</source>
+        <translation>Alt+Enter: %1</translation>
+    </message>
+    <message>
+        <source>There is no quick fix here</source>
+        <translation>There is no quick fix here</translation>
+    </message>
+    <message>
+        <source>The book has changed meanwhile. Try again.</source>
+        <translation>The book has changed meanwhile. Try again.</translation>
+    </message>
+</context>
+<context>
     <name>ProductNameNote</name>
     <message>
         <source>Not possible in the name: %1</source>

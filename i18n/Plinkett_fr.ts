@@ -981,6 +981,91 @@
     </message>
 </context>
 <context>
+    <name>ProblemList</name>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Conseil</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>page %1</translation>
+    </message>
+    <message>
+        <source>page %1: %2</source>
+        <translation>page %1 : %2</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Zone</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problème</translation>
+    </message>
+    <message>
+        <source>Quick fix</source>
+        <translation>Correction</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemsDock</name>
+    <message>
+        <source>Problems</source>
+        <translation>Problèmes</translation>
+    </message>
+    <message>
+        <source>Enter goes to the place, Alt+Enter puts right what can be put right</source>
+        <translation>Entrée mène à l&apos;endroit, Alt+Entrée corrige ce qui peut l&apos;être</translation>
+    </message>
+    <message>
+        <source>Shows or folds the list of problems. F8 goes to the next one in the script, Shift+F8 to the one before.</source>
+        <translation>Affiche ou replie la liste des problèmes. F8 va au suivant dans le script, Maj+F8 au précédent.</translation>
+    </message>
+    <message>
+        <source>No problems</source>
+        <translation>Aucun problème</translation>
+    </message>
+    <message>
+        <source>1 problem</source>
+        <translation>1 problème</translation>
+    </message>
+    <message>
+        <source>%1 problems</source>
+        <translation>%1 problèmes</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemsGuide</name>
+    <message>
+        <source>Alt+Enter: %1</source>
+        <translation>Alt+Entrée : %1</translation>
+    </message>
+    <message>
+        <source>There is no quick fix here</source>
+        <translation>Il n&apos;y a pas de correction ici</translation>
+    </message>
+    <message>
+        <source>The book has changed meanwhile. Try again.</source>
+        <translation>Le livre a changé entre-temps. Essayez encore une fois.</translation>
+    </message>
+</context>
+<context>
     <name>ProductNameNote</name>
     <message>
         <source>Not possible in the name: %1</source>

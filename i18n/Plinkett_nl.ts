@@ -981,6 +981,91 @@
     </message>
 </context>
 <context>
+    <name>ProblemList</name>
+    <message>
+        <source>Error</source>
+        <translation>Fout</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Waarschuwing</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Tip</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>pagina %1</translation>
+    </message>
+    <message>
+        <source>page %1: %2</source>
+        <translation>pagina %1: %2</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Soort</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Gebied</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Probleem</translation>
+    </message>
+    <message>
+        <source>Quick fix</source>
+        <translation>Oplossing</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemsDock</name>
+    <message>
+        <source>Problems</source>
+        <translation>Problemen</translation>
+    </message>
+    <message>
+        <source>Enter goes to the place, Alt+Enter puts right what can be put right</source>
+        <translation>Enter gaat naar de plaats, Alt+Enter verhelpt wat te verhelpen is</translation>
+    </message>
+    <message>
+        <source>Shows or folds the list of problems. F8 goes to the next one in the script, Shift+F8 to the one before.</source>
+        <translation>Toont de lijst van problemen of klapt haar in. F8 gaat naar het volgende in het script, Shift+F8 naar het vorige.</translation>
+    </message>
+    <message>
+        <source>No problems</source>
+        <translation>Geen problemen</translation>
+    </message>
+    <message>
+        <source>1 problem</source>
+        <translation>1 probleem</translation>
+    </message>
+    <message>
+        <source>%1 problems</source>
+        <translation>%1 problemen</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemsGuide</name>
+    <message>
+        <source>Alt+Enter: %1</source>
+        <translation>Alt+Enter: %1</translation>
+    </message>
+    <message>
+        <source>There is no quick fix here</source>
+        <translation>Hier is geen oplossing</translation>
+    </message>
+    <message>
+        <source>The book has changed meanwhile. Try again.</source>
+        <translation>Het boek is intussen veranderd. Probeer het nog eens.</translation>
+    </message>
+</context>
+<context>
     <name>ProductNameNote</name>
     <message>
         <source>Not possible in the name: %1</source>

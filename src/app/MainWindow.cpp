@@ -8,6 +8,7 @@
 #include "app/NumberBar.h"
 #include "app/PageMenu.h"
 #include "app/PagesDock.h"
+#include "app/ProblemsGuide.h"
 #include "app/ProductNameNote.h"
 #include "app/Recovery.h"
 #include "app/RenameEverywhere.h"
@@ -79,6 +80,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     helpWithScript(*rename);
     prepareRecovery();
     prepareDocks();
+    new ProblemsGuide(*this, *ui, document);
 }
 
 MainWindow::~MainWindow()

@@ -1,0 +1,116 @@
+#include "app/ProblemList.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QIcon>
+#include <QStyle>
+
+namespace {
+
+QIcon iconOf(Severity severity)
+{
+    switch (severity) {
+    case Severity::error:
+        return QApplication::style()->standardIcon(QStyle::SP_MessageBoxCritical);
+    case Severity::warning:
+        return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    default:
+        return QApplication::style()->standardIcon(QStyle::SP_MessageBoxInformation);
+    }
+}
+
+}  // namespace
+
+void ProblemList::set(const Problems& newProblems)
+{
+    beginResetModel();
+    problems = newProblems;
+    endResetModel();
+}
+
+QString ProblemList::nameOf(Severity severity)
+{
+    switch (severity) {
+    case Severity::error:
+        return tr("Error");
+    case Severity::warning:
+        return tr("Warning");
+    default:
+        return tr("Hint");
+    }
+}
+
+int ProblemList::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(problems.size());
+}
+
+int ProblemList::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : columnCountOfAll;
+}
+
+QString ProblemList::textOf(const Problem& problem, int column)
+{
+    const Diagnostic& diagnostic = problem.diagnostic;
+    switch (column) {
+    case kind:
+        return nameOf(diagnostic.severity);
+    case line:
+        return diagnostic.line > 0 ? QString::number(diagnostic.line) : QString();
+    case area:
+        if (diagnostic.page == 0) {
+            return {};
+        }
+        return diagnostic.area == 0 ? tr("page %1").arg(diagnostic.page)
+                                    : tr("page %1: %2")
+                                          .arg(QString::number(diagnostic.page),
+                                               QString::fromStdString(diagnostic.subject));
+    case words:
+        return problem.words;
+    default:
+        return problem.fixWords;
+    }
+}
+
+QVariant ProblemList::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid()) {
+        return {};
+    }
+    const Problem& problem = problems[static_cast<std::size_t>(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+        return textOf(problem, index.column()).simplified();
+    case Qt::ToolTipRole:
+        return textOf(problem, index.column());
+    case Qt::DecorationRole:
+        return index.column() == kind ? iconOf(problem.diagnostic.severity) : QVariant();
+    case Qt::FontRole: {
+        QFont font = QApplication::font();
+        font.setUnderline(index.column() == fix);  // it can be clicked
+        return font;
+    }
+    default:
+        return {};
+    }
+}
+
+QVariant ProblemList::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+        return {};
+    }
+    switch (section) {
+    case kind:
+        return tr("Kind");
+    case line:
+        return tr("Line");
+    case area:
+        return tr("Area");
+    case words:
+        return tr("Problem");
+    default:
+        return tr("Quick fix");
+    }
+}

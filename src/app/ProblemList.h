@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include "app/Problem.h"
+
+// The problems as rows of a view.
+class ProblemList : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { kind, line, area, words, fix, columnCountOfAll };
+
+    explicit ProblemList(QObject* parent = nullptr) : QAbstractTableModel(parent) {}
+
+    void set(const Problems& newProblems);
+    const Problems& all() const { return problems; }
+    // "Error", "Warning", "Hint", in the language of the window.
+    static QString nameOf(Severity severity);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    static QString textOf(const Problem& problem, int column);
+
+    Problems problems;
+};

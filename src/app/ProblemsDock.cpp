@@ -1,0 +1,164 @@
+#include "app/ProblemsDock.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QToolButton>
+#include <QTreeView>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kPatience = 1500;  // ms
+constexpr int kRowsShown = 5;
+
+}  // namespace
+
+ProblemsDock::ProblemsDock(QWidget* parent)
+    : QDockWidget(parent), view(new QTreeView), title(new QToolButton)
+{
+    setObjectName("dockProblems");
+    setWindowTitle(tr("Problems"));
+    setFeatures(QDockWidget::NoDockWidgetFeatures);
+    setAllowedAreas(Qt::BottomDockWidgetArea);
+    prepareView();
+    prepareTitle();
+    empty.setSingleShot(true);
+    empty.setInterval(kPatience);
+    connect(&empty, &QTimer::timeout, this, &ProblemsDock::foldAsNeeded);
+    show({});
+    fold(true);
+}
+
+void ProblemsDock::prepareView()
+{
+    view->setObjectName("problemsView");
+    view->setAccessibleName(tr("Problems"));
+    view->setAccessibleDescription(
+        tr("Enter goes to the place, Alt+Enter puts right what can be put right"));
+    view->setModel(&list);
+    view->setRootIsDecorated(false);
+    view->setUniformRowHeights(true);
+    view->setAllColumnsShowFocus(true);
+    view->setTextElideMode(Qt::ElideRight);
+    view->setMinimumHeight(2 * view->fontMetrics().height());
+    QHeaderView* const header = view->header();
+    header->setStretchLastSection(false);
+    header->setResizeContentsPrecision(0);  // what is in view, be the list as long as it may
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(ProblemList::words, QHeaderView::Stretch);
+    view->installEventFilter(this);
+    connect(view, &QTreeView::clicked, this, [this](const QModelIndex& index) {
+        index.column() == ProblemList::fix ? askForFix(index) : choose(index);
+    });
+    setWidget(view);
+}
+
+// One line that tells how many there are, and folds and unfolds the list.
+void ProblemsDock::prepareTitle()
+{
+    title->setObjectName("problemsTitle");
+    title->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    title->setAutoRaise(true);
+    title->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    title->setToolTip(tr("Shows or folds the list of problems. F8 goes to the next one in the "
+                         "script, Shift+F8 to the one before."));
+    connect(title, &QToolButton::clicked, this, [this] {
+        foldedByAuthor = !isFolded();
+        fold(foldedByAuthor || list.all().empty());
+    });
+    setTitleBarWidget(title);
+}
+
+QString ProblemsDock::summaryOf(const Problems& problems)
+{
+    switch (problems.size()) {
+    case 0:
+        return tr("No problems");
+    case 1:
+        return tr("1 problem");
+    default:
+        return tr("%1 problems").arg(problems.size());
+    }
+}
+
+// The row that the author is at stays, as far as there is one.
+void ProblemsDock::show(const Problems& problems)
+{
+    const int row = view->currentIndex().row();
+    const bool wasEmpty = list.all().empty();
+    list.set(problems);
+    title->setText(summaryOf(problems));
+    title->setEnabled(!problems.empty());
+    if (row >= 0 && row < list.rowCount()) {
+        view->setCurrentIndex(list.index(row, 0));
+    }
+    if (problems.empty()) {
+        empty.start();
+    } else {
+        empty.stop();
+        if (wasEmpty) {
+            foldAsNeeded();
+        }
+    }
+}
+
+bool ProblemsDock::isFolded() const
+{
+    return view->isHidden();
+}
+
+void ProblemsDock::foldAsNeeded()
+{
+    fold(foldedByAuthor || list.all().empty());
+}
+
+void ProblemsDock::fold(bool folded)
+{
+    view->setHidden(folded);
+    title->setArrowType(folded ? Qt::RightArrow : Qt::DownArrow);
+    const int titleHeight = title->sizeHint().height();
+    setMaximumHeight(folded ? titleHeight : QWIDGETSIZE_MAX);
+    auto* const window = qobject_cast<QMainWindow*>(parentWidget());
+    if (!folded && window != nullptr) {
+        const int rows = std::min(list.rowCount(), kRowsShown) + 1;  // and the header
+        const int rowHeight = view->fontMetrics().lineSpacing() * 3 / 2;
+        window->resizeDocks({this}, {titleHeight + rows * rowHeight}, Qt::Vertical);
+    }
+    emit wasFolded();
+}
+
+bool ProblemsDock::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != view || event->type() != QEvent::KeyPress) {
+        return QDockWidget::eventFilter(watched, event);
+    }
+    const auto* const key = static_cast<QKeyEvent*>(event);
+    if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter) {
+        return false;
+    }
+    const bool wantsFix = key->modifiers().testFlag(Qt::AltModifier);
+    wantsFix ? askForFix(view->currentIndex()) : choose(view->currentIndex());
+    return true;
+}
+
+// Going there may change the list.
+void ProblemsDock::choose(const QModelIndex& index)
+{
+    if (index.isValid()) {
+        const Problem problem = list.all()[static_cast<std::size_t>(index.row())];
+        emit chosen(problem);
+    }
+}
+
+void ProblemsDock::askForFix(const QModelIndex& index)
+{
+    if (!index.isValid()) {
+        return;
+    }
+    const Problem problem = list.all()[static_cast<std::size_t>(index.row())];
+    if (problem.fix) {
+        emit fixAsked(problem);
+    }
+}

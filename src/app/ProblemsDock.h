@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QDockWidget>
+#include <QTimer>
+
+#include "app/ProblemList.h"
+
+class QToolButton;
+class QTreeView;
+
+// The list of problems below all tabs. It is folded to one line while there is none, and whenever
+// the author folds it.
+class ProblemsDock : public QDockWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ProblemsDock(QWidget* parent = nullptr);
+
+    void show(const Problems& problems);
+    const Problems& problems() const { return list.all(); }
+    bool isFolded() const;
+    // "3 problems"
+    static QString summaryOf(const Problems& problems);
+
+signals:
+    // The author wants to see the place, or have the quick fix, of the problem.
+    void chosen(const Problem& problem);
+    void fixAsked(const Problem& problem);
+    // Folded or unfolded, so that there is another room above.
+    void wasFolded();
+
+protected:
+    bool eventFilter(QObject* view, QEvent* event) override;
+
+private:
+    void prepareView();
+    void prepareTitle();
+    void fold(bool folded);
+    void foldAsNeeded();
+    void choose(const QModelIndex& index);
+    void askForFix(const QModelIndex& index);
+
+    ProblemList list;
+    QTreeView* view;
+    QToolButton* title;
+    QTimer empty;  // an error that comes and goes while a word is typed leaves the list in peace
+    bool foldedByAuthor = false;
+};

@@ -1,0 +1,355 @@
+// What the window says about problems of the book, and where that leads.
+#include "app/ProblemFinder.h"
+#include "app/ProblemsDock.h"
+#include "tests/app/WindowFixture.h"
+#include "tests/helpers/TemporaryFolder.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QToolButton>
+#include <QTreeView>
+
+// The other thread gets its turn late on a busy machine.
+#define TRY_COMPARE(actual, expected) QTRY_COMPARE_WITH_TIMEOUT(actual, expected, 30000)
+#define TRY_VERIFY(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, 30000)
+
+namespace {
+
+// A book without any problem: a sign that starts it, and a cow.
+std::string book(const std::string& script,
+                 const std::string& cow = "OID 1001\nBOX cow 40 10 30 20\n", int dpi = 1200)
+{
+    return "PRODUCT 900, \"Zoo\"\nIMAGE\nPAPER 200.0 100.0\nDPI " + std::to_string(dpi) +
+           "\nOID 900\nBOX start 1 1 20 20\n" + cow + "SCRIPT\nsub start\nend sub\n" + script;
+}
+
+const std::string kCow = "sub cow\n  say \"Moo\"\nend sub\n";
+
+class ProblemsWindow : public WindowFixture
+{
+public:
+    explicit ProblemsWindow(const std::string& project)
+    {
+        open(project);
+        window.resize(1000, 800);
+    }
+
+    // A line for each row, its columns parted by "|".
+    QString rows()
+    {
+        const QAbstractItemModel& model = *view().model();
+        QStringList lines;
+        for (int row = 0; row < model.rowCount(); ++row) {
+            QStringList columns;
+            for (int column = 0; column < model.columnCount(); ++column) {
+                columns << model.index(row, column).data().toString();
+            }
+            lines << columns.join('|');
+        }
+        return lines.join('\n');
+    }
+
+    void click(int row, int column = ProblemList::words)
+    {
+        const QModelIndex index = view().model()->index(row, column);
+        QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier,
+                          view().visualRect(index).center());
+    }
+
+    QTreeView& view() { return *get<QTreeView>("problemsView"); }
+    KVQtHighlightEditCtrlInlay& editor()
+    {
+        return get<KVQtHighlightEditCtrl>("codeEditor")->surface();
+    }
+    void showScript()
+    {
+        get<QTabWidget>("ribbonTab")->setCurrentIndex(2);
+        editor().setFocus();
+    }
+    // "line:column-column" of what is selected, from 1.
+    QString selection()
+    {
+        const auto selected = editor().editor.selection;
+        return QString("%1:%2-%3")
+            .arg(selected.start.line + 1)
+            .arg(selected.start.column + 1)
+            .arg(selected.end.column + 1);
+    }
+};
+
+Problems problemsOf(const std::string& text)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("book.oidpro"), text);
+    Oid::OidProject project;
+    project.open(folder.file("book.oidpro"));
+    const std::string script = project.compiler.source;
+    ProblemSearch search;
+    search.setProject(std::move(project));
+    return search.find(script);
+}
+
+QString linesOf(const Problems& problems)
+{
+    QStringList lines;
+    for (const Problem& problem : problems) {
+        lines << QString("%1 %2: %3")
+                     .arg(ProblemList::nameOf(problem.diagnostic.severity))
+                     .arg(problem.diagnostic.line)
+                     .arg(problem.words);
+    }
+    return lines.join('\n');
+}
+
+}  // namespace
+
+class ProblemsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void messagesComeInTheirWordsAndHintsAfterThem()
+    {
+        QCOMPARE(linesOf(problemsOf(book("sub cow\nfoo\nsay eve A B\nx = (1\nend sub\n"))),
+                 QString("Error 4: Failed to parse command: foo\n"
+                         "Error 6: Syntax error - parse math\n"
+                         "Error 6: Failed to parse expression\n"
+                         "Hint 5: The pen says only one of these texts, at random\n"
+                         "Hint 6: The variable 'x' is set but never read"));
+    }
+
+    void aNameIsNotToldOnceMoreByAHint()
+    {
+        QCOMPARE(linesOf(problemsOf(book("sub dog\nend sub\n"))),
+                 QString("Warning 3: Used OID 'dog' in script, but not in the image\n"
+                         "Warning 0: Used OID 'cow' in image, but not in the script"));
+    }
+
+    void aBookWithoutProblemsLeavesTheListFolded()
+    {
+        ProblemsWindow w(book(kCow));
+        QTest::qWait(500);
+        QCOMPARE(w.rows(), QString());
+        QVERIFY(w.view().isHidden());
+        QCOMPARE(w.get<QToolButton>("problemsTitle")->text(), QString("No problems"));
+        QVERIFY(w.get<QLabel>("problemsNumber")->isHidden());
+        QVERIFY(w.get<QDockWidget>("dockProblems")->height() < 50);
+    }
+
+    void problemsUnfoldTheListAndStandAtTheTab()
+    {
+        ProblemsWindow w(book("sub cow\nfoo\nsay eve A B\nend sub\n"));
+        TRY_COMPARE(w.rows(), QString("Error|4||Failed to parse command: foo|\n"
+                                      "Hint|5||The pen says only one of these texts, at random|"
+                                      "Say one after the other"));
+        QVERIFY(!w.view().isHidden());
+        QCOMPARE(w.get<QToolButton>("problemsTitle")->text(), QString("2 problems"));
+        QCOMPARE(w.get<QLabel>("problemsNumber")->text(), QString("2"));
+        QCOMPARE(w.get<QLabel>("problemsNumber")->accessibleName(), QString("2 problems"));
+        QVERIFY(w.get<QLabel>("problemsNumber")->isVisible());
+        QCOMPARE(w.get<QTabWidget>("ribbonTab")->tabText(2), QString("Script"));
+    }
+
+    void theyComeAndGoWhileTheAuthorTypes()
+    {
+        ProblemsWindow w(book(kCow));
+        w.showScript();
+        QTest::keyClicks(&w.editor(), "foo");
+        TRY_COMPARE(w.rows().section('\n', 0, 0),
+                    QString("Error|1||Failed to parse command: foosub|"));
+        w.editor().OnEditUndo();
+        TRY_COMPARE(w.rows(), QString());
+        TRY_VERIFY(w.view().isHidden());
+    }
+
+    void theyComeWithEditsOfAreasAndProduct()
+    {
+        ProblemsWindow w(book(kCow));
+        w.get<QSpinBox>("txProjectId")->setValue(899);
+        TRY_VERIFY(w.rows().contains("The number of the product is 899"));
+        w.get<QSpinBox>("txProjectId")->setValue(900);
+        TRY_COMPARE(w.rows(), QString());
+        w.type("txProjDPI", "500");
+        TRY_COMPARE(w.rows(),
+                    QString("Hint||page 1|Page 1: with 500 dpi the dots are not printed evenly; "
+                            "600 dpi or twice, four times as much is right|"
+                            "Print it with 1200 dpi"));
+    }
+
+    void theTitleFoldsAndUnfoldsTheList()
+    {
+        ProblemsWindow w(book("sub cow\nfoo\nend sub\n"));
+        TRY_VERIFY(!w.view().isHidden());
+        auto* const title = w.get<QToolButton>("problemsTitle");
+        QTest::mouseClick(title, Qt::LeftButton);
+        QVERIFY(w.view().isHidden());
+        w.showScript();
+        QTest::keyClicks(&w.editor(), "x");
+        TRY_VERIFY(w.rows().contains("xsub"));
+        QVERIFY(w.view().isHidden());  // the author has said so
+        QTest::keyClick(title, Qt::Key_Space);
+        QVERIFY(!w.view().isHidden());
+    }
+
+    void aClickLeadsToTheLineAndSelectsTheWord()
+    {
+        ProblemsWindow w(book("sub cow\n  foo\nend sub\n"));
+        TRY_COMPARE(w.view().model()->rowCount(), 1);
+        w.click(0);
+        QCOMPARE(w.tab(), QString("Script"));
+        QCOMPARE(w.selection(), QString("4:3-6"));
+        QCOMPARE(w.window.focusWidget(), static_cast<QWidget*>(&w.editor()));
+        QCOMPARE(w.status(), QString("Failed to parse command: foo"));
+    }
+
+    void enterDoesAsAClick()
+    {
+        ProblemsWindow w(book("sub cow\n  foo\nend sub\n"));
+        TRY_COMPARE(w.view().model()->rowCount(), 1);
+        w.view().setCurrentIndex(w.view().model()->index(0, 0));
+        QTest::keyClick(&w.view(), Qt::Key_Return);
+        QCOMPARE(w.selection(), QString("4:3-6"));
+    }
+
+    void aClickLeadsToPageAndArea()
+    {
+        const std::string second = "IMAGE\nOID 1002\nBOX hen 10 10 30 20\n"
+                                   "OID 1003\nBOX cat 50 10 2 2\n";
+        ProblemsWindow w(book(kCow + "sub hen\nend sub\nsub cat\nend sub\n",
+                              "OID 1001\nBOX cow 40 10 30 20\n" + second));
+        TRY_COMPARE(w.rows(), QString("Hint||page 2: cat|Area 'cat' on page 2 is 4.0 mm wide on "
+                                      "paper where it is widest; the pen needs 8 mm|"));
+        w.click(0);
+        QCOMPARE(w.tab(), QString("Areas"));
+        QCOMPARE(w.field("txPolyName"), QString("cat"));
+        QCOMPARE(w.get<PolyEditorWidget>("polyArea")->currentPicture(), 1);
+    }
+
+    void aProblemOfTheProductLeadsToIt()
+    {
+        ProblemsWindow w(book(kCow));
+        w.type("txProjectName", "Zoo / Farm");
+        TRY_COMPARE(w.view().model()->rowCount(), 1);
+        w.showScript();
+        w.click(0);
+        QCOMPARE(w.tab(), QString("Project"));
+        QCOMPARE(w.window.focusWidget(), w.get<QWidget>("txProjectName"));
+    }
+
+    void f8GoesToTheNextProblemAndSaysIt()
+    {
+        ProblemsWindow w(book("sub cow\nsay eve A B\nfoo\nend sub\n"));
+        TRY_COMPARE(w.view().model()->rowCount(), 2);
+        w.showScript();
+        QTest::keyClick(&w.editor(), Qt::Key_F8);
+        QCOMPARE(w.selection(), QString("4:9-12"));
+        QCOMPARE(w.status(), QString("The pen says only one of these texts, at random"));
+        QTest::keyClick(&w.editor(), Qt::Key_F8);
+        QCOMPARE(w.selection(), QString("5:1-4"));
+        QTest::keyClick(&w.editor(), Qt::Key_F8, Qt::ShiftModifier);
+        QCOMPARE(w.selection(), QString("4:9-12"));
+    }
+
+    void altEnterPutsRightWhatIsAtTheCaretAsOneStep()
+    {
+        ProblemsWindow w(book("sub cow\n  say eve A B\nend sub\n"));
+        TRY_COMPARE(w.view().model()->rowCount(), 1);
+        w.showScript();
+        const QString before = w.script();
+        QTest::keyClick(&w.editor(), Qt::Key_F8);
+        QTest::keyClick(&w.editor(), Qt::Key_Return, Qt::AltModifier);
+        QVERIFY(w.script().contains("  say eve A\r\n  say eve B\r\n"));
+        QCOMPARE(w.status(), QString("Say one after the other"));
+        TRY_COMPARE(w.rows(), QString());
+        w.trigger("actionUndo");
+        QCOMPARE(w.script(), before);
+    }
+
+    void altEnterWhereNothingCanBePutRightSaysSo()
+    {
+        ProblemsWindow w(book(kCow));
+        w.showScript();
+        const QString before = w.script();
+        QTest::keyClick(&w.editor(), Qt::Key_Return, Qt::AltModifier);
+        QCOMPARE(w.script(), before);
+        QCOMPARE(w.status(), QString("There is no quick fix here"));
+    }
+
+    void aClickOnAQuickFixOfAnAreaIsOneStep()
+    {
+        ProblemsWindow w(book(kCow, "OID 999\nBOX cow 40 10 30 20\n"));
+        TRY_COMPARE(w.view().model()->rowCount(), 1);
+        w.click(0, ProblemList::fix);
+        TRY_COMPARE(w.rows(), QString());
+        QVERIFY(w.saved().find("OID 1001\r\nPOLY cow") != std::string::npos);
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        w.trigger("actionUndo");
+        QVERIFY(w.saved().find("OID 999\r\nPOLY cow") != std::string::npos);
+    }
+
+    void aQuickFixOfAPageIsOneStep()
+    {
+        ProblemsWindow w(book(kCow, "OID 1001\nBOX cow 40 10 30 20\n", 500));
+        TRY_COMPARE(w.view().model()->rowCount(), 1);
+        w.view().setCurrentIndex(w.view().model()->index(0, 0));
+        QTest::keyClick(&w.view(), Qt::Key_Return, Qt::AltModifier);
+        QCOMPARE(w.field("txProjDPI"), QString("1200"));
+        TRY_COMPARE(w.rows(), QString());
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        w.trigger("actionUndo");
+        QCOMPARE(w.field("txProjDPI"), QString("500"));
+    }
+
+    void aFixForAnotherStateOfTheScriptIsNotCarriedOut()
+    {
+        ProblemsWindow w(book("sub cow\nsay eve A B\nend sub\n"));
+        TRY_COMPARE(w.view().model()->rowCount(), 1);
+        w.showScript();
+        QTest::keyClick(&w.editor(), Qt::Key_Return);  // all lines below have moved
+        const QString before = w.script();
+        w.click(0, ProblemList::fix);
+        QCOMPARE(w.script(), before);
+        QCOMPARE(w.status(), QString("The book has changed meanwhile. Try again."));
+        TRY_VERIFY(w.rows().startsWith("Hint|5|"));
+        w.click(0, ProblemList::fix);
+        QVERIFY(w.script().contains("say eve A\r\nsay eve B"));
+    }
+
+    void buildingLeavesTheSameListAndTheConsoleItsWords()
+    {
+        ProblemsWindow w(book("sub cow\nfoo\nend sub\n"));
+        TRY_COMPARE(w.view().model()->rowCount(), 1);
+        const QString before = w.rows();
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(3);
+        static_cast<WindowFixture&>(w).click("btBuild");
+        QCOMPARE(w.console(), QString("!!! Error: Line 4 Failed to parse command: foo\n"
+                                      "!!! Error: Line 4 Syntax Error\n"
+                                      "Stopped build process."));
+        QTest::qWait(300);
+        QCOMPARE(w.rows(), before);
+        QVERIFY(w.view().isVisible());
+    }
+
+    void aWindowCanCloseWhileProblemsAreLookedFor()
+    {
+        std::string script;
+        for (int i = 0; i < 3000; ++i) {
+            script += "sub s" + std::to_string(i) + "\nsay eve A B\nend sub\n";
+        }
+        const ProblemsWindow w(book(script));
+        QTest::qWait(120);  // it has begun
+    }
+
+    void whatCanBePressedHasANameForScreenReaders()
+    {
+        ProblemsWindow w(book(kCow));
+        QCOMPARE(w.view().accessibleName(), QString("Problems"));
+        QVERIFY(!w.view().accessibleDescription().isEmpty());
+        QVERIFY(!w.get<QToolButton>("problemsTitle")->text().isEmpty());
+    }
+};
+
+QTEST_MAIN(ProblemsTest)
+#include "ProblemsTest.moc"
