@@ -109,9 +109,18 @@ bool ProblemsDock::isFolded() const
     return view->isHidden();
 }
 
+void ProblemsDock::letFoldByItself(bool may)
+{
+    foldsByItself = may;
+    foldAsNeeded();
+}
+
 void ProblemsDock::foldAsNeeded()
 {
-    fold(foldedByAuthor || list.all().empty());
+    const bool folded = foldedByAuthor || list.all().empty();
+    if (foldsByItself && folded != isFolded() && !(folded && empty.isActive())) {
+        fold(folded);
+    }
 }
 
 void ProblemsDock::fold(bool folded)

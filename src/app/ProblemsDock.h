@@ -20,6 +20,9 @@ public:
     void show(const Problems& problems);
     const Problems& problems() const { return list.all(); }
     bool isFolded() const;
+    // While it may not, the list stays folded or unfolded as it is, unless the author wants it
+    // otherwise: a page does not change its size below the mouse.
+    void letFoldByItself(bool may);
     // "3 problems"
     static QString summaryOf(const Problems& problems);
 
@@ -46,4 +49,5 @@ private:
     QToolButton* title;
     QTimer empty;  // an error that comes and goes while a word is typed leaves the list in peace
     bool foldedByAuthor = false;
+    bool foldsByItself = true;
 };

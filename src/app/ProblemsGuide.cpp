@@ -89,6 +89,11 @@ ProblemsGuide::ProblemsGuide(QMainWindow& mainWindow, Ui::MainWindow& mainForm,
     window.addDockWidget(Qt::BottomDockWidgetArea, dock);
     number->setObjectName("problemsNumber");
     number->setAlignment(Qt::AlignCenter);
+    QFont small = number->font();
+    small.setPointSizeF(small.pointSizeF() * 0.8);  // the tabs are no higher for it
+    number->setFont(small);
+    number->setStyleSheet(
+        "border-radius: 6px; padding: 0px 5px; color: white; background: #b3261e");
     number->hide();
     watch();
 }
@@ -105,6 +110,11 @@ void ProblemsGuide::watch()
     connect(form.txProjectName, &QLineEdit::textChanged, this, look);
     connect(form.txProjectId, qOverload<int>(&QSpinBox::valueChanged), this, look);
     connect(&finder, &ProblemFinder::found, this, &ProblemsGuide::show);
+    const auto tabChanged = [this] {
+        dock->letFoldByItself(form.ribbonTab->currentWidget() != form.tabAreas);
+    };
+    connect(form.ribbonTab, &QTabWidget::currentChanged, this, tabChanged);
+    tabChanged();
     connect(dock, &ProblemsDock::chosen, this, &ProblemsGuide::goTo);
     connect(dock, &ProblemsDock::fixAsked, this, &ProblemsGuide::putRight);
     connect(dock, &ProblemsDock::wasFolded, this, &ProblemsGuide::keepCaretInView,
@@ -140,8 +150,6 @@ void ProblemsGuide::showNumber(const Problems& problems)
     number->setText(text);
     number->setAccessibleName(ProblemsDock::summaryOf(problems));
     number->setToolTip(ProblemsDock::summaryOf(problems));
-    number->setStyleSheet(
-        "border-radius: 7px; padding: 1px 5px; color: white; background: #b3261e");
     number->setVisible(!problems.empty());
     number->adjustSize();
     tabs->setTabButton(tab, QTabBar::RightSide, nullptr);  // else it keeps its old width

@@ -178,6 +178,24 @@ private slots:
                             "Print it with 1200 dpi"));
     }
 
+    void aPageKeepsItsSizeWhenProblemsComeAndGo()
+    {
+        ProblemsWindow w(book(kCow));
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        QTest::qWait(50);
+        const QSize size = w.get<QWidget>("pictureScroll")->size();
+        w.get<QSpinBox>("txProjectId")->setValue(899);
+        TRY_COMPARE(w.get<QLabel>("problemsNumber")->text(), QString("3"));
+        QTest::qWait(50);
+        QCOMPARE(w.get<QWidget>("pictureScroll")->size(), size);
+        QTest::mouseClick(w.get<QToolButton>("problemsTitle"), Qt::LeftButton);
+        QVERIFY(w.view().isVisible());  // the author wants it
+        w.get<QSpinBox>("txProjectId")->setValue(900);
+        TRY_VERIFY(w.get<QLabel>("problemsNumber")->text().isEmpty());
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(2);
+        TRY_VERIFY(w.view().isHidden());
+    }
+
     void theTitleFoldsAndUnfoldsTheList()
     {
         ProblemsWindow w(book("sub cow\nfoo\nend sub\n"));

@@ -20,6 +20,7 @@ struct OnPage
     OnPage()
     {
         w.open(projectFile({kCow}), 1);
+        w.window.resize(1000, 760);  // so that all of the page fits into it
         w.window.activateWindow();
         show("tabAreas");
     }
@@ -27,7 +28,7 @@ struct OnPage
     void show(const char* tab)
     {
         w.get<QTabWidget>("ribbonTab")->setCurrentWidget(w.get<QWidget>(tab));
-        QTest::qWait(1);
+        QTest::qWait(50);  // until all have their places
     }
     PageScrollArea& area() { return *w.get<PageScrollArea>("pictureScroll"); }
     double percent() { return area().zoom() * 100; }
