@@ -42,7 +42,7 @@ struct FixCarrier
 {
     bool operator()(const hints::TextEdits& edits) const
     {
-        std::vector<KVQtHighlightEditCtrlInlay::PartEdit> parts;
+        std::vector<KVQtHighlightEditCtrlInlay::Replacement> parts;
         for (const hints::TextEdit& edit : edits) {
             parts.push_back(
                 {{edit.line, edit.column, edit.length}, QString::fromStdString(edit.text)});
