@@ -4,11 +4,13 @@
 #include "tests/app/WindowFixture.h"
 #include "tests/helpers/TemporaryFolder.h"
 
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QToolButton>
+#include <QToolTip>
 #include <QTreeView>
 
 // The other thread gets its turn late on a busy machine.
@@ -268,6 +270,18 @@ private slots:
         QCOMPARE(w.selection(), QString("5:1-4"));
         QTest::keyClick(&w.editor(), Qt::Key_F8, Qt::ShiftModifier);
         QCOMPARE(w.selection(), QString("4:9-12"));
+    }
+
+    void theMouseOverAWordTellsWhatIsWrongWithItFirst()
+    {
+        ProblemsWindow w(book("sub cow\n  count = 1\nend sub\n"));
+        TRY_COMPARE(w.view().model()->rowCount(), 1);
+        w.showScript();
+        const QPoint point = w.editor().CellRectangle({3, 4}).center();
+        QHelpEvent event(QEvent::ToolTip, point, w.editor().mapToGlobal(point));
+        QCoreApplication::sendEvent(&w.editor(), &event);
+        QCOMPARE(QToolTip::text(), QString("The variable 'count' is set but never read"));
+        QToolTip::hideText();
     }
 
     void altEnterPutsRightWhatIsAtTheCaretAsOneStep()

@@ -310,8 +310,8 @@ void ScriptHelp::releaseMouse(const QMouseEvent& event)
 
 bool ScriptHelp::showToolTip(QPoint point, QPoint global)
 {
-    if (point.x() < script.gutter_width()) {
-        return false;
+    if (point.x() < script.gutter_width() || !script.WordsAt(point).isEmpty()) {
+        return false;  // what is wrong there is told first
     }
     const KVTextEditor::CARET caret = script.FromPoint(point);
     const Part at = script.PartAt(caret);

@@ -63,7 +63,7 @@ void KVQtHighlightEditCtrlInlay::GotoMark(bool forward)
     }
 }
 
-QString KVQtHighlightEditCtrlInlay::words_at(QPoint point) const
+QString KVQtHighlightEditCtrlInlay::WordsAt(QPoint point) const
 {
     const int line = first_visible_line() + point.y() / cell_height;
     const bool in_gutter = point.x() < gutter_width();
@@ -86,7 +86,7 @@ bool KVQtHighlightEditCtrlInlay::event(QEvent* event)
         return QWidget::event(event);
     }
     const auto* const help = static_cast<QHelpEvent*>(event);
-    const QString words = words_at(help->pos());
+    const QString words = WordsAt(help->pos());
     if (words.isEmpty()) {
         QToolTip::hideText();
     } else {

@@ -123,6 +123,8 @@ public:
 
     // --- marks of others (InlayMarks.cpp) ---
     void SetMarks(std::vector<TextMark> marks);
+    // What the marks at a point of the viewport say; empty where there is none.
+    QString WordsAt(QPoint point) const;
     // To the next mark behind what is selected (or the one before it), around the end of the text.
     void GotoMark(bool forward);
 
@@ -257,7 +259,6 @@ private:
 
     void goto_bookmark(int step);
     SELECTION cells_of(const TextMark& mark) const;
-    QString words_at(QPoint point) const;  // of the marks there
     void undo_or_redo(void (BACKEND::*step)(), quint64 link, bool forward);
     static QString text_of(const BUFFER& lines);  // joined with CR LF
 
