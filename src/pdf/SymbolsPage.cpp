@@ -1,5 +1,7 @@
 #include "pdf/SymbolsPage.h"
 
+#include <QImage>
+
 #include <algorithm>
 #include <cmath>
 
@@ -150,7 +152,10 @@ bool SymbolsPages::addPicture(int n)
         Symbol symbol;
         symbol.name = area.name;
         symbol.oid = entry->second.oid;
-        symbol.piece = onWhitePaper(pieceOf(picture, area));
+        const QImage piece = onWhitePaper(pieceOf(picture, area));
+        if (!piece.isNull()) {
+            symbol.piece = imageOf(piece, {options.printer.noBlack, options.printer.lighten});
+        }
         symbols.push_back(symbol);
     }
     return true;
@@ -225,10 +230,9 @@ void SymbolsPages::drawSymbol(PdfWriter& file, PageDrawing& drawing, int i) cons
 {
     const Symbol& symbol = symbols[static_cast<std::size_t>(i)];
     const QRectF box(placeOf(i), QSizeF(kBox, kBox));
-    if (!symbol.piece.isNull()) {
-        const PictureInk ink{options.printer.noBlack, options.printer.lighten};
-        drawing.image(file.addImage(imageOf(symbol.piece, ink)),
-                      inMiddle(symbol.piece.size(), box));
+    if (symbol.piece.width > 0) {
+        const QSize pixels(symbol.piece.width, symbol.piece.height);
+        drawing.image(file.addImage(symbol.piece), inMiddle(pixels, box));
     }
     switch (symbol.sign) {
     case Sign::start:

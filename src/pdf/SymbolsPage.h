@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QImage>
-
 #include <functional>
 #include <string>
 #include <vector>
@@ -39,7 +37,7 @@ private:
         std::string name;
         int oid = 0;
         Sign sign = Sign::none;
-        QImage piece;  // of the picture
+        PdfImage piece;  // of the picture; without pixels when there is none
     };
 
     void addSymbol(const char* name, int oid, Sign sign);
