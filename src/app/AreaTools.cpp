@@ -126,3 +126,8 @@ void AreaTools::areaProposed(bool found, int tolerance)
     emit told(found ? tr("Enter takes the area, the wheel changes the tolerance: %1").arg(tolerance)
                     : tr("There is no picture here."));
 }
+
+void AreaTools::proposalEnded()
+{
+    emit told(QString());
+}

@@ -41,6 +41,7 @@ private:
     void makingGivenUp() override;
     void tooFewCorners(AreaId area) override;
     void areaProposed(bool found, int tolerance) override;
+    void proposalEnded() override;
 
     void addButton(QToolBar& bar, const char* name, const QString& icon, const QString& text,
                    const QString& toolTip, PageTool& tool);

@@ -17,6 +17,8 @@ public:
     // What lies around the point is shown to be taken; or nothing does. The tolerance goes from 0
     // to 255.
     virtual void areaProposed(bool found, int tolerance) = 0;
+    // It is no longer shown: taken or given up.
+    virtual void proposalEnded() = 0;
 
 protected:
     ~MakingListener() = default;

@@ -120,6 +120,7 @@ void MagicTool::finish()
     if (isProposed()) {
         std::vector<Oid::PNT> corners;
         corners.swap(proposed);
+        listener.proposalEnded();
         listener.areaMade(add(std::move(corners)));
     }
 }
@@ -127,7 +128,7 @@ void MagicTool::finish()
 bool MagicTool::giveUp()
 {
     if (isProposed()) {
-        proposed.clear();
+        forget();
     } else {
         listener.makingGivenUp();
     }
@@ -137,5 +138,13 @@ bool MagicTool::giveUp()
 void MagicTool::stop()
 {
     AreaMaker::stop();
-    proposed.clear();
+    forget();
+}
+
+void MagicTool::forget()
+{
+    if (!proposed.empty()) {
+        proposed.clear();
+        listener.proposalEnded();
+    }
 }

@@ -31,10 +31,11 @@ public:
 
 protected:
     void put(const Oid::PNT& at, const PageView& /*view*/) override { click(at); }
-    void takeBack() override { proposed.clear(); }
+    void takeBack() override { forget(); }
 
 private:
     void propose();
+    void forget();
     bool isProposed() const;
 
     Picture picture;

@@ -506,6 +506,21 @@ private slots:
         QVERIFY(p.cornersText().rfind("0,0 100,0 ", 0) == 0);  // everything is like that
     }
 
+    void whatIsSaidOfAProposalGoesWithIt()
+    {
+        Page p;
+        p.choose("actionMagicArea");
+        for (const Qt::Key end : {Qt::Key_Escape, Qt::Key_Backspace, Qt::Key_Return}) {
+            p.click(25, 25);
+            QCOMPARE(p.w.status(), "Enter takes the area, the wheel changes the tolerance: 32");
+            p.key(end);
+            QCOMPARE(p.w.status(), QString());
+        }
+        p.click(70, 42);
+        p.w.click("btPickPoly");
+        QCOMPARE(p.w.status(), QString());
+    }
+
     void escapeGivesTheProposedAreaUp()
     {
         Page p;
