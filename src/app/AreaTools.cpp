@@ -3,6 +3,7 @@
 #include "page/PolyEditorWidget.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QLineEdit>
 #include <QToolBar>
 
@@ -31,6 +32,7 @@ AreaTools::AreaTools(Document& edited, PickTool& pickTool, PolyEditorWidget& pag
         }
     });
     page.setTool(chosen);
+    page.installEventFilter(this);
 }
 
 void AreaTools::addButton(QToolBar& bar, const char* name, const QString& icon, const QString& text,
@@ -41,12 +43,24 @@ void AreaTools::addButton(QToolBar& bar, const char* name, const QString& icon, 
     action->setToolTip(toolTip);
     action->setCheckable(true);
     action->setPriority(QAction::LowPriority);  // its icon says it
+    action->setEnabled(shownPage.isVisible());
     bar.addAction(action);
     buttons[&tool] = action;
     connect(action, &QAction::triggered, this, [this, &tool](bool on) {
         tellUnfinished();
         choose(on && document.pageAt(document.currentPage()) != PageId::none ? tool : picker);
     });
+}
+
+// Areas are made where one sees them.
+bool AreaTools::eventFilter(QObject* /*watched*/, QEvent* event)
+{
+    if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
+        for (const auto& [tool, button] : buttons) {
+            button->setEnabled(shownPage.isVisible());
+        }
+    }
+    return false;
 }
 
 void AreaTools::choose(PageTool& tool)

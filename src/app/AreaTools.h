@@ -45,6 +45,7 @@ private:
 
     void addButton(QToolBar& bar, const char* name, const QString& icon, const QString& text,
                    const QString& toolTip, PageTool& tool);
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void choose(PageTool& tool);
     void tellUnfinished();
     QString nameOf(AreaId area) const;

@@ -551,11 +551,24 @@ private slots:
     void withoutAPageNothingIsChosen()
     {
         WindowFixture w;
+        w.get<QTabWidget>("ribbonTab")->setCurrentWidget(w.get<QWidget>("tabAreas"));
         for (const char* const name : {"actionAddBox", "actionAddEllipse", "actionMagicArea"}) {
             w.trigger(name);
             QVERIFY(!w.get<QAction>(name)->isChecked());
         }
         QCOMPARE(w.get<PolyEditorWidget>("polyArea")->cursor().shape(), Qt::ArrowCursor);
+    }
+
+    void areasAreMadeOnlyWhereThePageIsSeen()
+    {
+        Page p;
+        for (const char* const name : {"actionAddBox", "actionAddEllipse", "actionMagicArea"}) {
+            QVERIFY(p.w.get<QAction>(name)->isEnabled());
+            p.w.get<QTabWidget>("ribbonTab")->setCurrentWidget(p.w.get<QWidget>("tabScript"));
+            QVERIFY(!p.w.get<QAction>(name)->isEnabled());
+            p.w.get<QTabWidget>("ribbonTab")->setCurrentWidget(p.w.get<QWidget>("tabAreas"));
+            QVERIFY(p.w.get<QAction>(name)->isEnabled());
+        }
     }
 
     void theChosenToolIsShown()
