@@ -94,8 +94,8 @@ void drawArea(DrivenProgram& program, const DrawnArea& area)
 }
 
 // A part of the window that shows the project, and how many of its pixels may differ when the
-// project is opened again: those of a blinking caret, and some at the edges of areas, since corners
-// are saved with two decimals and shown at whole pixels.
+// project is opened again: those of the two blinking carets, and some at the edges of areas, since
+// corners are saved with two decimals and shown at whole pixels.
 struct ShownPart
 {
     const char* tab;
@@ -107,7 +107,7 @@ const std::vector<ShownPart> kParts = {
     {"tabProject", "groupBox_3", 0},
     {"tabProject", "frCurrentPicture", 0},
     {"tabAreas", "polyArea", 4000},
-    {"tabScript", "codeEditor", 50},
+    {"tabScript", "codeEditor", 70},
 };
 
 std::vector<QImage> shownProject(DrivenProgram& program)
