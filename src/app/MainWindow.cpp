@@ -105,7 +105,8 @@ void MainWindow::takeDrops()
 void MainWindow::letPictureScroll()
 {
     pictureScroll = new PageScrollArea(ui->polyArea);
-    ui->verticalLayout_2->addWidget(pictureScroll, 1);
+    docks = new SideDocks(pictureScroll);
+    ui->verticalLayout_2->addWidget(docks, 1);
     pictureScroll->setObjectName("pictureScroll");
     pictureScroll->setFocusPolicy(Qt::NoFocus);  // the page has it, and lets it scroll
     new FocusFrame(ui->polyArea, pictureScroll->viewport());
@@ -194,12 +195,11 @@ void MainWindow::prepareTextEditor()
                                    ttbasic::voiceOptions());
 }
 
-// The lists of pages and areas, beside the tab "Areas".
+// The lists of pages and areas, beside the page.
 void MainWindow::prepareDocks()
 {
-    docks = new SideDocks(this);
     auto* const pages = new PagesDock(document, this);
-    docks->add(pages, Qt::LeftDockWidgetArea, *ui->editBar, "actionDockPages", "dock-pages",
+    docks->add(pages, Qt::RightDockWidgetArea, *ui->editBar, "actionDockPages", "dock-pages",
                tr("Shows or hides the list of the pages"));
     connect(pages, &PagesDock::pageAsked, this, &MainWindow::showPicture);
     connect(pages, &PagesDock::failed, this, &MainWindow::warnOfPictures);
@@ -217,12 +217,12 @@ void MainWindow::prepareDocks()
             Qt::QueuedConnection);
     connect(areas, &AreasDock::codeAsked, this, &MainWindow::on_btEditPolyCode_clicked);
     connect(&document, &Document::changed, check, &ScriptCheck::lookSoon);
-    const auto showDocks = [this, check] {
-        docks->setShown(ui->ribbonTab->currentWidget() == ui->tabAreas);
+    const auto lookAtTab = [this, check] {
+        docks->enableActions(ui->ribbonTab->currentWidget() == ui->tabAreas);
         check->lookSoon();
     };
-    connect(ui->ribbonTab, &QTabWidget::currentChanged, docks, showDocks);
-    showDocks();
+    connect(ui->ribbonTab, &QTabWidget::currentChanged, docks, lookAtTab);
+    lookAtTab();
 }
 
 void MainWindow::helpWithScript(RenameEverywhere& rename)

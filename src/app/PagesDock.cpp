@@ -19,16 +19,25 @@ public:
     }
 };
 
-// Where there is no room for "Page 2 of 3", it shows "2/3".
+// Where there is no room for "Page 2 of 3", it shows "2/3". The buttons beside it do not move when
+// the first page comes.
 class PageLabel : public QLabel
 {
 public:
+    explicit PageLabel(const QString& usualText) : usual(usualText)
+    {
+        setAlignment(Qt::AlignCenter);
+    }
     void showPage(const QString& text, const QString& shortText)
     {
         setText(text);
         setToolTip(text);
         brief = shortText;
-        setMinimumWidth(qMax(1, fontMetrics().horizontalAdvance(brief)));
+        setMinimumWidth(1);  // on the smallest screens the buttons need all the room
+    }
+    QSize sizeHint() const override
+    {
+        return QLabel::sizeHint().expandedTo({fontMetrics().horizontalAdvance(usual), 0});
     }
 
 protected:
@@ -44,6 +53,7 @@ protected:
     }
 
 private:
+    const QString usual;
     QString brief;
 };
 
@@ -136,7 +146,7 @@ void PagesDock::showCurrent()
 
 QLabel* PagesDock::makeLabel()
 {
-    label = new PageLabel;
+    label = new PageLabel(tr("Page %1 of %2").arg(9).arg(9));
     label->setObjectName("lbPageOfPages");
     showLabel();
     return label;

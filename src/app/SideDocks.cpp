@@ -4,7 +4,6 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QMainWindow>
 #include <QScreen>
 #include <QSettings>
 #include <QToolBar>
@@ -17,15 +16,18 @@ static QString openKey(const QDockWidget& dock)
 }
 
 // Beside the docks a page still has to be wide enough.
-static bool hasRoom(const QMainWindow& window)
+static bool hasRoom(const QWidget& window)
 {
     constexpr int kWideEnough = 1000;  // pixels
     return window.screen()->availableSize().width() >= kWideEnough;
 }
 
-SideDocks::SideDocks(QMainWindow* mainWindow) : QObject(mainWindow), window(mainWindow)
+SideDocks::SideDocks(QWidget* surrounded)
 {
-    window->installEventFilter(this);
+    setWindowFlags(Qt::Widget);  // it lies in another window
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setDockOptions(QMainWindow::AllowTabbedDocks);
+    setCentralWidget(surrounded);
 }
 
 void SideDocks::add(QDockWidget* dock, Qt::DockWidgetArea area, QToolBar& bar,
@@ -38,10 +40,10 @@ void SideDocks::add(QDockWidget* dock, Qt::DockWidgetArea area, QToolBar& bar,
     action->setObjectName(actionName);
     action->setToolTip(toolTip);
     action->setCheckable(true);
-    action->setChecked(hasRoom(*window));
+    action->setChecked(hasRoom(*this));
     action->setPriority(QAction::LowPriority);  // its icon says it
     bar.addAction(action);
-    window->addDockWidget(area, dock);
+    addDockWidget(area, dock);
     dock->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
     for (auto* const button :
          dock->findChildren<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -53,17 +55,17 @@ void SideDocks::add(QDockWidget* dock, Qt::DockWidgetArea area, QToolBar& bar,
     update();
 }
 
-void SideDocks::setShown(bool nowShown)
+void SideDocks::enableActions(bool enable)
 {
-    shown = nowShown;
-    update();
+    for (const Entry& entry : docks) {
+        entry.action->setEnabled(enable);
+    }
 }
 
 void SideDocks::update()
 {
     for (const Entry& entry : docks) {
-        entry.dock->setVisible(shown && entry.action->isChecked());
-        entry.action->setEnabled(shown);
+        entry.dock->setVisible(entry.action->isChecked());
     }
 }
 
@@ -77,16 +79,13 @@ bool SideDocks::eventFilter(QObject* watched, QEvent* event)
             entry.action->setChecked(false);
         }
     }
-    if (watched == window) {
-        save();
-    }
     return false;
 }
 
 void SideDocks::keepSettingsIn(QSettings& kept)
 {
     settings = &kept;
-    window->restoreState(kept.value(kPlaces).toByteArray());
+    restoreState(kept.value(kPlaces).toByteArray());
     for (const Entry& entry : docks) {
         entry.action->setChecked(
             kept.value(openKey(*entry.dock), entry.action->isChecked()).toBool());
@@ -99,7 +98,7 @@ void SideDocks::save()
     if (settings == nullptr) {
         return;
     }
-    settings->setValue(kPlaces, window->saveState());
+    settings->setValue(kPlaces, saveState());
     for (const Entry& entry : docks) {
         settings->setValue(openKey(*entry.dock), entry.action->isChecked());
     }

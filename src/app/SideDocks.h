@@ -1,32 +1,31 @@
 #pragma once
 
-#include <QObject>
+#include <QMainWindow>
 
 #include <vector>
 
 class QAction;
 class QDockWidget;
-class QMainWindow;
 class QSettings;
 class QToolBar;
 
-// Docks that are there while one tab of the window is shown. Each has an action at the end of the
-// tool bar that opens and closes it.
-class SideDocks : public QObject
+// Docks around one widget of the window. Each has an action at the end of the tool bar that opens
+// and closes it.
+class SideDocks : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    // On small screens docks are closed until the author opens them.
-    explicit SideDocks(QMainWindow* window);
+    // Takes the widget over. On small screens docks are closed until the author opens them.
+    explicit SideDocks(QWidget* surrounded);
 
     void add(QDockWidget* dock, Qt::DockWidgetArea area, QToolBar& bar, const char* actionName,
              const QString& icon, const QString& toolTip);
-    // Whether their tab is shown.
-    void setShown(bool shown);
-    // Takes over where they were and which were open, and keeps that when the window goes. The
-    // settings outlive the window.
+    // Whether the tab of the docks is shown, so that they can be opened and closed.
+    void enableActions(bool enable);
+    // Takes over where they were and which were open. The settings outlive the window.
     void keepSettingsIn(QSettings& settings);
+    // Keeps there where they are.
     void save();
 
 protected:
@@ -40,8 +39,6 @@ private:
     };
     void update();
 
-    QMainWindow* window;
     std::vector<Entry> docks;
     QSettings* settings = nullptr;
-    bool shown = true;
 };
