@@ -1,19 +1,16 @@
-// What an author waits for at the window: until it has opened, and until a large picture with many
-// areas is painted again. Ends with 1 when a limit is missed. QT_SCALE_FACTOR=2 shows a fine
-// screen.
+// What an author waits for at the window: until it has opened, until a large picture with many
+// areas is painted again, and until what mouse and wheel do is seen; with --gestures only the last.
+// Ends with 1 when a limit is missed. QT_SCALE_FACTOR=2 shows a fine screen.
 #include "app/MainWindow.h"
 #include "base/PlatformFiles.h"
 #include "bench/EditorBench.h"
 #include "bench/MeasuredProcess.h"
+#include "bench/PageGestures.h"
 #include "oid/PictureFile.h"
-#include "page/DrawTool.h"
-#include "page/MagicTool.h"
-#include "page/PageScrollArea.h"
 #include "page/PolyEditorWidget.h"
 
 #include <QApplication>
 #include <QMainWindow>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QRandomGenerator>
 #include <QScrollArea>
@@ -23,7 +20,6 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
-#include <functional>
 
 using EditorBench::median;
 using EditorBench::medianMicroseconds;
@@ -32,6 +28,7 @@ namespace {
 
 constexpr char kBareOption[] = "--bare";
 constexpr char kShowOption[] = "--show";
+constexpr char kGesturesOption[] = "--gestures";
 constexpr char kSampleBook[] = PLINKETT_SOURCE_DIR "/examples/farm/farm.oidpro";
 constexpr int kStarts = 9;
 constexpr int kRepaints = 31;
@@ -258,88 +255,6 @@ bool measureDrags(Book& book)
     return good;
 }
 
-// Hears nothing of what a tool makes.
-class Nobody final : public MakingListener
-{
-    void areaMade(AreaId /*area*/) override {}
-    void makingGivenUp() override {}
-    void tooFewCorners(AreaId /*area*/) override {}
-    void areaProposed(bool /*found*/, int /*tolerance*/) override {}
-};
-
-void moveMouse(QWidget& page, QPoint place)
-{
-    QMouseEvent move(QEvent::MouseMove, place, page.mapToGlobal(place), Qt::NoButton, Qt::NoButton,
-                     Qt::NoModifier);
-    QCoreApplication::sendEvent(&page, &move);
-}
-
-// A row of what an author does at once, until it is on the screen.
-bool atOnce(const QString& what, double limitMs, const std::function<void()>& act)
-{
-    const double ms = medianMicroseconds(kRepaints,
-                                         [&] {
-                                             act();
-                                             QCoreApplication::processEvents();
-                                         }) /
-                      1e3;
-    std::printf("| %s | %.3g ms | | | %g ms |\n", qPrintable(what), ms, limitMs);
-    return ms <= limitMs;
-}
-
-// Moving the mouse while an area is drawn, moving the page, and zooming.
-bool measureGestures(Book& book)
-{
-    Nobody nobody;
-    DrawTool draw(book.document, nobody);
-    auto* const page = new PolyEditorWidget;
-    PageScrollArea window(page);
-    page->setDocument(&book.document);
-    page->setTool(&draw);
-    window.resize(1920, 1080);
-    window.QWidget::show();
-    QCoreApplication::processEvents();
-    draw.begin();
-    draw.click({50, 30});
-    bool good = true;
-    int count = 0;
-    for (const int zoom : {1, 4, 16}) {
-        const QString at = QString(", 1920 x 1080 pixels, zoom %1").arg(zoom);
-        window.showSpot(zoom, {0.5, 0.3}, {900, 500});
-        QCoreApplication::processEvents();
-        good = atOnce("the mouse moved by 300 pixels while an area is drawn" + at, 16,
-                      [&] {
-                          moveMouse(*page, page->seen().center() + QPoint(count++ % 2 * 300, 100));
-                      }) &&
-               good;
-        good = atOnce("the page moved by 20 pixels" + at, 16,
-                      [&] {
-                          window.pan({-20, -20});
-                      }) &&
-               good;
-        good = atOnce("a step of zooming" + at, 100,
-                      [&] {
-                          window.zoomAround(zoom * (count++ % 2 ? 1 : 0.84), {900, 500});
-                      }) &&
-               good;
-    }
-    draw.giveUp();
-
-    // From the picture; and once more, with another tolerance.
-    good = atOnce("the first click for an area of like colour", 100,
-                  [&] {
-                      MagicTool magic(book.document, nobody, [&] { return page->loadedImage(); });
-                      magic.click({50, 30});
-                  }) &&
-           good;
-    MagicTool magic(book.document, nobody, [&] { return page->loadedImage(); });
-    magic.click({50, 30});
-    good = atOnce("another tolerance for it", 100,
-                  [&] { magic.wheel(count++ % 2 == 0 ? 20 : -20); }) &&
-           good;
-    return good;
-}
-
 constexpr QSize kFineScreen(3840, 2160);
 
 // A program that shows a page of the scan, or only has it in memory. The page is scrolled to where
@@ -393,11 +308,14 @@ int main(int argc, char* argv[])
                         std::strcmp(argv[4], "page") == 0);
     }
     std::printf("| what | the window | compared with | that | limit |\n|---|---|---|---|---|\n");
+    if (argc > 1 && std::strcmp(argv[1], kGesturesOption) == 0) {
+        return measureGestures() ? 0 : 1;
+    }
     const bool quick = measureStartUp();
     Book book;
     const bool painted = measureRepaints(book);
     const bool dragged = measureDrags(book);
-    const bool atOnce = measureGestures(book);
+    const bool atOnce = measureGestures();
     const bool small = measureMemory(book);
     return quick && painted && dragged && atOnce && small ? 0 : 1;
 }
