@@ -161,10 +161,12 @@ private slots:
             w.window.resize(size);
             QTest::qWait(1);
             const QImage shot = w.page.grab().toImage();
-            const QPoint corner = w.at(30, 30);
-            QCOMPARE(shot.pixelColor(corner), QColor(255, 255, 255));
-            QCOMPARE(shot.pixelColor(corner + QPoint(3, 3)), QColor(255, 255, 255));
-            QVERIFY(shot.pixelColor(corner + QPoint(6, 6)) != QColor(255, 255, 255));
+            const auto colourBeside = [&](int x, int y) {
+                return shot.pixelColor((w.at(30, 30) + QPoint(x, y)) * shot.devicePixelRatio());
+            };
+            QCOMPARE(colourBeside(0, 0), QColor(255, 255, 255));
+            QCOMPARE(colourBeside(3, 3), QColor(255, 255, 255));
+            QVERIFY(colourBeside(6, 6) != QColor(255, 255, 255));
         }
     }
 

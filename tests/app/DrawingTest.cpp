@@ -126,7 +126,8 @@ struct Page
 
 QColor colourAt(Page& p, double x, double y)
 {
-    return p.page().grab().toImage().pixelColor(p.at(x, y));
+    const QImage image = p.page().grab().toImage();
+    return image.pixelColor(p.at(x, y) * image.devicePixelRatio());
 }
 
 // How many pixels between two points look like a line that is not there without the mouse.
@@ -156,13 +157,13 @@ private slots:
         p.click(10, 40);
         const QImage one = p.page().grab().toImage();
         p.move(30, 40);
-        QVERIFY(colourAt(p, 20, 40) != one.pixelColor(p.at(20, 40)));
+        QVERIFY(colourAt(p, 20, 40) != one.pixelColor(p.at(20, 40) * one.devicePixelRatio()));
         p.click(30, 40);
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(&p.page(), &leave);
         const QImage two = p.page().grab().toImage();
         p.move(30, 20);
-        QVERIFY(colourAt(p, 30, 30) != two.pixelColor(p.at(30, 30)));
+        QVERIFY(colourAt(p, 30, 30) != two.pixelColor(p.at(30, 30) * two.devicePixelRatio()));
         const int marked = markedPixels(p, two);
         QVERIFY(marked > p.at(20, 0).x() + p.at(20, 0).x());  // also back to the first
         QApplication::sendEvent(&p.page(), &leave);
@@ -423,8 +424,10 @@ private slots:
         const QImage without = p.page().grab().toImage();
         QTest::mousePress(&p.page(), Qt::LeftButton, Qt::NoModifier, p.at(10, 20));
         p.move(30, 40, Qt::NoModifier, Qt::LeftButton);
-        QVERIFY(colourAt(p, 20, 20) != without.pixelColor(p.at(20, 20)));
-        QVERIFY(colourAt(p, 30, 30) != without.pixelColor(p.at(30, 30)));
+        QVERIFY(colourAt(p, 20, 20) !=
+                without.pixelColor(p.at(20, 20) * without.devicePixelRatio()));
+        QVERIFY(colourAt(p, 30, 30) !=
+                without.pixelColor(p.at(30, 30) * without.devicePixelRatio()));
         p.key(Qt::Key_Escape);
         QCOMPARE(markedPixels(p, without), 0);
         QTest::mouseRelease(&p.page(), Qt::LeftButton, Qt::NoModifier, p.at(30, 40));
@@ -466,7 +469,8 @@ private slots:
         p.click(70, 42);
         QCOMPARE(p.w.status(), "Enter takes the area, the wheel changes the tolerance: 32");
         QCOMPARE(p.w.saved(), p.before);
-        QVERIFY(colourAt(p, 55, 42) != without.pixelColor(p.at(55, 42)));
+        QVERIFY(colourAt(p, 55, 42) !=
+                without.pixelColor(p.at(55, 42) * without.devicePixelRatio()));
         p.key(Qt::Key_Return);
         QCOMPARE(p.cornersText(), "50,40 90,40 90,45 50,45 ");
         p.isReadyForItsName("polygon2");
