@@ -1406,6 +1406,18 @@
 <context>
     <name>AreaTools</name>
     <message>
+        <source>Click an area to select it; drag it or its corners to change it</source>
+        <translation>Einen Bereich durch Klicken auswählen, durch Ziehen an ihm oder seinen Ecken ändern</translation>
+    </message>
+    <message>
+        <source>A new area: click its corners one after the other</source>
+        <translation>Ein neuer Bereich: seine Ecken nacheinander anklicken</translation>
+    </message>
+    <message>
+        <source>%1. By keys: arrows, Space, Enter</source>
+        <translation>%1. Mit Tasten: Pfeile, Leertaste, Eingabetaste</translation>
+    </message>
+    <message>
         <source>Add rectangle</source>
         <translation>Rechteck hinzufügen</translation>
     </message>

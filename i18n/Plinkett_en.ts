@@ -1406,6 +1406,18 @@
 <context>
     <name>AreaTools</name>
     <message>
+        <source>Click an area to select it; drag it or its corners to change it</source>
+        <translation>Click an area to select it; drag it or its corners to change it</translation>
+    </message>
+    <message>
+        <source>A new area: click its corners one after the other</source>
+        <translation>A new area: click its corners one after the other</translation>
+    </message>
+    <message>
+        <source>%1. By keys: arrows, Space, Enter</source>
+        <translation>%1. By keys: arrows, Space, Enter</translation>
+    </message>
+    <message>
         <source>Add rectangle</source>
         <translation>Add rectangle</translation>
     </message>

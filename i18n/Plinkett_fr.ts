@@ -1406,6 +1406,18 @@
 <context>
     <name>AreaTools</name>
     <message>
+        <source>Click an area to select it; drag it or its corners to change it</source>
+        <translation>Cliquer sur une zone pour la sélectionner ; la tirer, ou ses coins, pour la modifier</translation>
+    </message>
+    <message>
+        <source>A new area: click its corners one after the other</source>
+        <translation>Une nouvelle zone : cliquer sur ses coins l&apos;un après l&apos;autre</translation>
+    </message>
+    <message>
+        <source>%1. By keys: arrows, Space, Enter</source>
+        <translation>%1. Au clavier : flèches, Espace, Entrée</translation>
+    </message>
+    <message>
         <source>Add rectangle</source>
         <translation>Ajouter un rectangle</translation>
     </message>

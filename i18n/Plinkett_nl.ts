@@ -1406,6 +1406,18 @@
 <context>
     <name>AreaTools</name>
     <message>
+        <source>Click an area to select it; drag it or its corners to change it</source>
+        <translation>Klik op een gebied om het te selecteren, sleep het of zijn hoeken om het te veranderen</translation>
+    </message>
+    <message>
+        <source>A new area: click its corners one after the other</source>
+        <translation>Een nieuw gebied: klik de hoeken één voor één aan</translation>
+    </message>
+    <message>
+        <source>%1. By keys: arrows, Space, Enter</source>
+        <translation>%1. Met toetsen: pijlen, spatiebalk, Enter</translation>
+    </message>
+    <message>
         <source>Add rectangle</source>
         <translation>Rechthoek toevoegen</translation>
     </message>

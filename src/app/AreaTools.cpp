@@ -19,13 +19,18 @@ AreaTools::AreaTools(Document& edited, PickTool& pickTool, PolyEditorWidget& pag
       magic(edited, *this, [&page] { return page.loadedImage(); }),
       chosen(&pickTool)
 {
+    addHint(picker, tr("Click an area to select it; drag it or its corners to change it"));
+    addHint(drawer, tr("A new area: click its corners one after the other"));
     bar.addSeparator();
-    addButton(bar, "actionAddBox", "add-box", tr("Add rectangle"),
-              tr("A new area: drag a rectangle, with Shift a square"), box);
-    addButton(bar, "actionAddEllipse", "add-ellipse", tr("Add ellipse"),
-              tr("A new area: drag an ellipse, with Shift a circle"), ellipse);
-    addButton(bar, "actionMagicArea", "magic-area", tr("Area of one colour"),
-              tr("A new area: click what has about the same colour"), magic);
+    auto* const separator = new QAction(this);
+    separator->setSeparator(true);
+    page.addAction(separator);
+    addButton(bar, "actionAddBox", "add-box", tr("Add rectangle"), box);
+    addHint(box, tr("A new area: drag a rectangle, with Shift a square"), QKeySequence("R"));
+    addButton(bar, "actionAddEllipse", "add-ellipse", tr("Add ellipse"), ellipse);
+    addHint(ellipse, tr("A new area: drag an ellipse, with Shift a circle"), QKeySequence("E"));
+    addButton(bar, "actionMagicArea", "magic-area", tr("Area of one colour"), magic);
+    addHint(magic, tr("A new area: click what has about the same colour"), QKeySequence("M"));
     connect(&name, &QLineEdit::returnPressed, this, [this] {
         if (chosen == &drawer) {
             drawer.finish();
@@ -36,19 +41,20 @@ AreaTools::AreaTools(Document& edited, PickTool& pickTool, PolyEditorWidget& pag
 }
 
 void AreaTools::addButton(QToolBar& bar, const char* name, const QString& icon, const QString& text,
-                          const QString& toolTip, PageTool& tool)
+                          PageTool& tool)
 {
     QAction* const action = new QAction(QIcon(":/icons/" + icon + ".svg"), text, &bar);
     action->setObjectName(name);
-    action->setToolTip(toolTip);
     action->setCheckable(true);
     action->setPriority(QAction::LowPriority);  // its icon says it
     action->setEnabled(shownPage.isVisible());
     bar.addAction(action);
+    shownPage.addAction(action);
     buttons[&tool] = action;
     connect(action, &QAction::triggered, this, [this, &tool](bool on) {
-        tellUnfinished();
-        choose(on && document.pageAt(document.currentPage()) != PageId::none ? tool : picker);
+        const bool isTold = tellUnfinished();
+        choose(on && document.pageAt(document.currentPage()) != PageId::none ? tool : picker,
+               isTold);
     });
 }
 
@@ -63,8 +69,22 @@ bool AreaTools::eventFilter(QObject* /*watched*/, QEvent* event)
     return false;
 }
 
-void AreaTools::choose(PageTool& tool)
+// The key is the page's alone: in a field it is a letter.
+void AreaTools::addHint(PageTool& tool, const QString& hint, const QKeySequence& key)
 {
+    hints[&tool] = hint;
+    const auto button = buttons.find(&tool);
+    if (button != buttons.end()) {
+        button->second->setToolTip(hint + " (" + key.toString(QKeySequence::NativeText) + ")");
+        button->second->setShortcut(key);
+        button->second->setShortcutContext(Qt::WidgetShortcut);
+    }
+}
+
+// Without being told when there is something more important to say.
+void AreaTools::choose(PageTool& tool, bool silently)
+{
+    const bool isAnother = chosen != &tool;
     chosen = &tool;
     for (const auto& [other, button] : buttons) {
         button->setChecked(other == chosen);
@@ -73,20 +93,29 @@ void AreaTools::choose(PageTool& tool)
     if (chosen != &picker) {
         shownPage.setFocus();  // its keys are the tool's
     }
+    if (isAnother && !silently) {
+        tellTool();
+    }
+}
+
+void AreaTools::tellTool()
+{
+    const QString& hint = hints[chosen];
+    emit told(chosen == &picker ? hint : tr("%1. By keys: arrows, Space, Enter").arg(hint));
 }
 
 void AreaTools::pick()
 {
-    tellUnfinished();
-    choose(picker);
+    const bool isTold = tellUnfinished();
+    choose(picker, isTold);
 }
 
 int AreaTools::draw()
 {
-    tellUnfinished();
+    const bool isTold = tellUnfinished();
     const int added = drawer.begin();
     if (added >= 0) {
-        choose(drawer);
+        choose(drawer, isTold);
     }
     return added;
 }
@@ -99,12 +128,14 @@ void AreaTools::undone()
 }
 
 // It stays: it may be wanted for its name, and can be given corners.
-void AreaTools::tellUnfinished()
+bool AreaTools::tellUnfinished()
 {
-    if (chosen == &drawer && drawer.unfinished() != AreaId::none) {
+    const bool isUnfinished = chosen == &drawer && drawer.unfinished() != AreaId::none;
+    if (isUnfinished) {
         emit told(tr("The area \"%1\" has fewer than three corners. The pen will not find it.")
                       .arg(nameOf(drawer.unfinished())));
     }
+    return isUnfinished;
 }
 
 QString AreaTools::nameOf(AreaId area) const

@@ -5,6 +5,7 @@
 #include "page/PickTool.h"
 #include "page/ShapeTool.h"
 
+#include <QKeySequence>
 #include <QObject>
 
 #include <map>
@@ -14,14 +15,15 @@ class QAction;
 class QLineEdit;
 class QToolBar;
 
-// Which tool the page has, and the buttons of those that make areas. A made area is selected, and
-// its name is ready to be typed over.
+// Which tool the page has, and the buttons, keys and menu entries of those that make areas. What
+// the chosen tool does is told. A made area is selected, and its name is ready to be typed over.
 class AreaTools : public QObject, private MakingListener
 {
     Q_OBJECT
 
 public:
-    // Everything outlives the tools. Their buttons come to the end of the bar.
+    // Everything outlives the tools. Their buttons come to the end of the bar and into the page's
+    // menu.
     AreaTools(Document& edited, PickTool& pickTool, PolyEditorWidget& page, QLineEdit& name,
               QToolBar& bar);
 
@@ -44,10 +46,13 @@ private:
     void proposalEnded() override;
 
     void addButton(QToolBar& bar, const char* name, const QString& icon, const QString& text,
-                   const QString& toolTip, PageTool& tool);
+                   PageTool& tool);
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void choose(PageTool& tool);
-    void tellUnfinished();
+    void addHint(PageTool& tool, const QString& hint, const QKeySequence& key = {});
+    void choose(PageTool& tool, bool silently = false);
+    // Whether there was one, and it was told.
+    bool tellUnfinished();
+    void tellTool();
     QString nameOf(AreaId area) const;
 
     Document& document;
@@ -60,4 +65,5 @@ private:
     MagicTool magic;
     PageTool* chosen;
     std::map<PageTool*, QAction*> buttons;
+    std::map<PageTool*, QString> hints;
 };

@@ -29,6 +29,7 @@
 #include "ttbasic/ttbasic.h"
 #include "ui_MainWindow.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QBoxLayout>
 #include <QDragEnterEvent>
@@ -58,13 +59,13 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     new SubNameNote(ui->txPolyName, document, ui->verticalLayout_2, 1);
     new ProductNameNote(ui->txProjectName, ui->lbProjectNameProblems);
     ui->polyArea->setDocument(&document);
-    prepareTools();
     prepareHistory();
     new PageMenu(document, ui->polyArea);
     new AreaCommands(
         document, *ui->polyArea, [this](const QString& text) { tell(text); }, this);
     auto* const rename = new RenameEverywhere(document, ui->codeEditor->surface(), ui->polyArea);
     connect(rename, &RenameEverywhere::told, this, [this](const QString& text) { tell(text); });
+    prepareTools();
     const auto typed = [this] {
         document.typeProduct(ui->txProjectName->text().toStdString(), ui->txProjectId->value());
     };
@@ -401,6 +402,10 @@ bool MainWindow::saveProject(const std::string& path)
 void MainWindow::tell(const QString& text)
 {
     statusBar()->showMessage(text);
+    if (!text.isEmpty()) {
+        QAccessibleEvent alert(statusBar(), QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
 }
 
 void MainWindow::tell(QLabel& besideButton, const QString& text)

@@ -522,7 +522,7 @@ private slots:
         }
         p.click(70, 42);
         p.w.click("btPickPoly");
-        QCOMPARE(p.w.status(), QString());
+        QCOMPARE(p.w.status(), "Click an area to select it; drag it or its corners to change it");
     }
 
     void escapeGivesTheProposedAreaUp()
