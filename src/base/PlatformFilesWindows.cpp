@@ -36,9 +36,8 @@ bool renameFile(const std::string& from, const std::string& to)
 std::string lastFileError()
 {
     wchar_t text[512];
-    const DWORD length =
-        FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-                       GetLastError(), 0, text, 512, nullptr);
+    const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                                        nullptr, GetLastError(), 0, text, 512, nullptr);
     std::wstring words(text, length);
     words.erase(words.find_last_not_of(L"\r\n. ") + 1);
     return toUtf8(words.c_str());

@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <utility>
 
 void KVQtHighlightEditCtrlInlay::SetFont(const QString& family, int pointSize)
 {
@@ -77,7 +76,7 @@ void KVQtHighlightEditCtrlInlay::UpdateAllViews()
     offer_selection();
     EditorAccessible::announce(this);
     emit ViewUpdated(textChanged);
-    if (std::exchange(editor.dirty, false)) {
+    if (textChanged) {
         emit TextChanged();
     }
 }
