@@ -36,7 +36,7 @@ std::pair<int, int> caret(WindowFixture& w)
 // Types a line, then a second one; bookmarks the first; leaves the caret behind "end".
 void typeTwoLines(WindowFixture& w)
 {
-    QTest::keyClicks(&editor(w), "sub cow");
+    QTest::keyClicks(&editor(w), "big cow");
     QTest::keyClick(&editor(w), Qt::Key_Return);
     QTest::keyClicks(&editor(w), "end sub");
     QTest::keyClick(&editor(w), Qt::Key_Up);
@@ -48,7 +48,7 @@ void typeTwoLines(WindowFixture& w)
 
 void theCaretAndTheBookmarkAreStillThere(WindowFixture& w)
 {
-    QCOMPARE(w.script(), "sub cow\r\nend sub");
+    QCOMPARE(w.script(), "big cow\r\nend sub");
     QCOMPARE(caret(w), std::make_pair(1, 3));
     QTest::keyClick(&editor(w), Qt::Key_F2);
     QCOMPARE(caret(w), std::make_pair(0, 0));
@@ -58,9 +58,9 @@ void everythingOfTheEditorIsStillThere(WindowFixture& w)
 {
     theCaretAndTheBookmarkAreStillThere(w);
     QTest::keyClick(&editor(w), Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(w.script(), "sub cow\r\nend");
+    QCOMPARE(w.script(), "big cow\r\nend");
     QTest::keyClick(&editor(w), Qt::Key_Y, Qt::ControlModifier);
-    QCOMPARE(w.script(), "sub cow\r\nend sub");
+    QCOMPARE(w.script(), "big cow\r\nend sub");
 }
 
 }  // namespace
@@ -504,12 +504,12 @@ private slots:
         WindowFixture w;
         w.open(projectFile({kCow}), 1);
         typeTwoLines(w);
-        writeFile(w.folder.file("other.oidpro"), projectFile({kCow}, "sub cow\nend sub"));
+        writeFile(w.folder.file("other.oidpro"), projectFile({kCow}, "big cow\nend sub"));
         w.dialogs.chooseFile(w.path("other.oidpro"));
         w.trigger("action_Open");
         theCaretAndTheBookmarkAreStillThere(w);
         QTest::keyClick(&editor(w), Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(w.script(), "sub cow\r\nend sub");
+        QCOMPARE(w.script(), "big cow\r\nend sub");
     }
 
     void aScriptWithTabsAndAnyLineEndsIsTheSameWhenItIsOpenedAgain()
