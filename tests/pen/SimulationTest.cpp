@@ -2,9 +2,10 @@
 #include "gme/DescriptionReader.h"
 #include "gme/LineParser.h"
 #include "gme/Registers.h"
+#include "pen/GameReader.h"
 #include "tests/gme/GameFolder.h"
-#include "tests/gme/PenSimulator.h"
 #include "tests/helpers/CapturedMessages.h"
+#include "tests/pen/PlayedSounds.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -21,8 +22,8 @@ class GameNames
 public:
     explicit GameNames(const std::string& yamlFile);
 
-    std::string nonZeroRegisters(const PenSimulator& pen) const;
-    std::string plays(const std::vector<std::vector<unsigned>>& media) const;
+    std::string nonZeroRegisters(const pen::Pen& pen) const;
+    std::string plays(const std::vector<pen::Sound>& sounds) const;
 
 private:
     void note(const gme::Operand& operand);
@@ -85,7 +86,7 @@ void GameNames::note(const gme::Register& reg)
     byName["$" + (reg.name.empty() ? std::to_string(reg.number) : reg.name)] = reg;
 }
 
-std::string GameNames::nonZeroRegisters(const PenSimulator& pen) const
+std::string GameNames::nonZeroRegisters(const pen::Pen& pen) const
 {
     std::string text;
     for (const auto& [name, reg] : byName) {
@@ -95,13 +96,13 @@ std::string GameNames::nonZeroRegisters(const PenSimulator& pen) const
     return text;
 }
 
-std::string GameNames::plays(const std::vector<std::vector<unsigned>>& media) const
+std::string GameNames::plays(const std::vector<pen::Sound>& sounds) const
 {
     const std::vector<std::string> names(audio.begin(), audio.end());
     std::string text;
-    for (const std::vector<unsigned>& files : media) {
+    for (const pen::Sound& sound : sounds) {
         text += "[ ";
-        for (const unsigned index : files) {
+        for (const uint16_t index : sound.choices) {
             text += names.at(index) + " ";
         }
         text += "] ";
@@ -191,14 +192,19 @@ TEST_P(PlayedVector, ShowsTheExpectedRegistersAndSoundsAfterEveryTap)
     const Assembled assembled = assembleFile(yaml);
     ASSERT_TRUE(assembled.ok);
     const GameNames names(yaml);
-    PenSimulator pen(assembled.game);
+    std::string problem;
+    const std::optional<pen::PenGame> game = pen::readGame(assembled.game, problem);
+    ASSERT_TRUE(game.has_value()) << problem;
+    PlayedSounds played;
+    pen::Pen pen(*game, {}, played);
 
     ASSERT_GT(taps().size(), 0U);
     for (const gme::YamlNode& tap : taps()) {
         SCOPED_TRACE(valueOf(tap, "name").text);
-        EXPECT_TRUE(pen.tap(static_cast<uint32_t>(std::stoul(valueOf(tap, "code").text))));
+        pen.tap(static_cast<uint16_t>(std::stoul(valueOf(tap, "code").text)));
+        EXPECT_TRUE(pen.runToRest());
         EXPECT_EQ(names.nonZeroRegisters(pen), expectedRegisters(tap));
-        EXPECT_EQ(names.plays(pen.takePlays()), expectedPlays(tap));
+        EXPECT_EQ(names.plays(played.take()), expectedPlays(tap));
     }
 }
 

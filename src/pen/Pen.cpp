@@ -1,0 +1,371 @@
+#include "pen/Pen.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace pen {
+
+namespace {
+
+constexpr size_t kMostCommands = 8;  // of a line; the pen runs no more
+constexpr size_t kCodes = 65536;
+
+bool isPrintedProductId(uint32_t id)
+{
+    return id >= 1 && id <= 999;
+}
+
+}  // namespace
+
+Pen::Pen(PenGame playedGame, PenOptions usedOptions, PenListener& usedListener)
+    : game(std::move(playedGame)),
+      options(usedOptions),
+      listener(usedListener),
+      scripts(kCodes),
+      registers(game.registers),
+      random(usedOptions.seed)
+{
+    for (const auto& [code, script] : game.scripts) {
+        scripts[code] = &script;
+    }
+}
+
+void Pen::start()
+{
+    stop();
+    stepsBehindTap = 0;
+    if (!options.keepsRegisters) {
+        for (size_t i = 0; i < registers.size(); ++i) {
+            setRegister(i, game.registers[i]);
+        }
+    }
+    const size_t lists = game.welcome.size();
+    const size_t only =
+        options.choosesWelcome && lists > 1 ? chance(static_cast<unsigned>(lists)) : lists;
+    std::vector<Sound> welcome;
+    for (size_t i = 0; i < lists; ++i) {
+        for (const uint16_t media : game.welcome[i]) {
+            if (only == lists || only == i) {
+                welcome.push_back({{media}, 0});
+            }
+        }
+    }
+    startSounds(welcome);
+}
+
+void Pen::tap(uint16_t code)
+{
+    stepsBehindTap = 0;
+    limitWasReached = false;
+    if (code == game.productId && isPrintedProductId(code) && options.ownIdStarts) {
+        start();
+    } else if (code != 0 && code == game.stopCode) {
+        stop();
+    } else if (code != 0 && code == game.replayCode) {
+        cutOff();
+        startSounds(std::vector<Sound>(lastSounds));
+    } else {
+        tapped = code;
+    }
+}
+
+bool Pen::step()
+{
+    const std::optional<uint16_t> code = takeNext();
+    if (!code) {
+        return false;
+    }
+    if (stepsBehindTap >= options.mostSteps) {
+        stop();
+        limitWasReached = true;
+        listener.limitReached(stepsBehindTap);
+        return false;
+    }
+    run(*code);
+    return true;
+}
+
+std::optional<uint16_t> Pen::takeNext()
+{
+    if (tapped) {
+        return std::exchange(tapped, std::nullopt);
+    }
+    if (!noted || isSounding()) {
+        return std::nullopt;
+    }
+    listener.jumped(*noted);
+    return std::exchange(noted, std::nullopt);
+}
+
+void Pen::soundEnded()
+{
+    if (!isSounding()) {
+        return;
+    }
+    const double length = sounds.front().media() < game.soundSeconds.size()
+                              ? game.soundSeconds[sounds.front().media()]
+                              : 0;
+    clock += length > 0 ? length : options.soundSeconds;
+    sounds.pop_front();
+    if (isSounding()) {
+        listener.soundStarted(sounds.front());
+    }
+}
+
+void Pen::stop()
+{
+    tapped.reset();
+    noted.reset();
+    if (isSounding()) {
+        sounds.clear();
+        listener.soundCutOff();
+    }
+}
+
+bool Pen::runToRest()
+{
+    limitWasReached = false;
+    while (step() || isSounding()) {
+        soundEnded();
+    }
+    return !limitWasReached;
+}
+
+// The first line whose conditions all hold runs, and no other.
+void Pen::run(uint16_t code)
+{
+    const Script* script = scripts[code];
+    if (script == nullptr) {
+        listener.codeWithoutScript(code);
+        return;
+    }
+    ++stepCount;
+    ++stepsBehindTap;
+    clock += options.stepSeconds;
+    for (size_t i = 0; i < script->size(); ++i) {
+        if (holdsAll((*script)[i])) {
+            listener.lineChosen(code, i);
+            runLine(code, i, (*script)[i]);
+            return;
+        }
+    }
+    listener.noLineFits(code);
+}
+
+bool Pen::holdsAll(const Line& line) const
+{
+    return std::all_of(line.conditions.begin(), line.conditions.end(),
+                       [this](const Condition& condition) { return holds(condition); });
+}
+
+// A comparison that is not known never holds.
+bool Pen::holds(const Condition& condition) const
+{
+    const uint16_t left = valueOf(condition.left);
+    const uint16_t right = valueOf(condition.right);
+    switch (condition.comparison) {
+    case 0xFFF9:
+    case 0xFFFC:
+        return left == right;
+    case 0xFFFA:
+        return left > right;
+    case 0xFFFB:
+        return left < right;
+    case 0xFFFD:
+        return left >= right;
+    case 0xFFFE:
+        return left <= right;
+    case 0xFFFF:
+        return left != right;
+    default:
+        return false;
+    }
+}
+
+void Pen::runLine(uint16_t code, size_t index, const Line& line)
+{
+    const size_t count = std::min(line.commands.size(), kMostCommands);
+    for (size_t i = 0; i < count; ++i) {
+        const Command& command = line.commands[i];
+        if (divides(command) && valueOf(command.value) == 0) {
+            listener.divisionByZero(code, index);
+            if (options.divisionByZeroEndsLine) {
+                break;
+            }
+        } else {
+            runCommand(command, line);
+        }
+    }
+    finishLine();
+}
+
+bool Pen::divides(const Command& command) const
+{
+    return command.opcode == Arithmetic::kDivide || command.opcode == Arithmetic::kRemainder;
+}
+
+void Pen::runCommand(const Command& command, const Line& line)
+{
+    using namespace gme::Opcode;
+    const uint16_t value = valueOf(command.value);
+    const auto all = static_cast<unsigned>(line.playList.size());
+    switch (command.opcode) {
+    case kJump:
+        newJump = value;  // the last one counts
+        break;
+    case kPlay:
+        playAll(line, value, value);
+        break;
+    case kPlayOneOf:
+        playOneOf(line, value >> 8U, value & 0xFFU);
+        break;
+    case kPlayAll:
+        playAll(line, value >> 8U, value & 0xFFU);
+        break;
+    case kPlayOneOfLine:
+        playOneOf(line, 0, all - 1);
+        break;
+    case kPlayAllOfLine:
+        playAll(line, 0, all - 1);
+        break;
+    case kPlayOrNot:
+        playOrNot(line, value);
+        break;
+    default:
+        if (changesRegister(command.opcode)) {
+            calculate(command);
+        }
+        break;  // timer, games and sound profiles: there is nothing to be heard of them
+    }
+}
+
+void Pen::calculate(const Command& command)
+{
+    const unsigned before = registers[command.target];
+    const unsigned value = valueOf(command.value);
+    unsigned now = before;
+    switch (command.opcode) {
+    case Arithmetic::kAdd:
+        now = before + value;
+        break;
+    case Arithmetic::kSubtract:
+        now = before - value;
+        break;
+    case Arithmetic::kMultiply:
+        now = before * value;
+        break;
+    case Arithmetic::kDivide:
+        now = before / value;
+        break;
+    case Arithmetic::kRemainder:
+        now = before % value;
+        break;
+    case Arithmetic::kAnd:
+        now = before & value;
+        break;
+    case Arithmetic::kOr:
+        now = before | value;
+        break;
+    case Arithmetic::kXor:
+        now = before ^ value;
+        break;
+    case Arithmetic::kAssign:
+        now = value;
+        break;
+    case gme::Opcode::kNegate:
+        now = options.negatesLogically ? unsigned{before == 0} : 0U - before;
+        break;
+    case gme::Opcode::kRandom:
+        // The largest number is taken as it stands, even if it is marked as a register.
+        now = chance(command.value.value + 1U);
+        break;
+    default:
+        break;
+    }
+    setRegister(command.target, static_cast<uint16_t>(now));  // 16 bits, and wraps
+}
+
+void Pen::playOneOf(const Line& line, unsigned first, unsigned last)
+{
+    if (first > last || last >= line.playList.size()) {
+        return;
+    }
+    const auto begin = line.playList.begin();
+    newSounds.push_back({{begin + first, begin + last + 1}, chance(last - first + 1)});
+}
+
+void Pen::playAll(const Line& line, unsigned first, unsigned last)
+{
+    for (unsigned i = first; i <= last && i < line.playList.size(); ++i) {
+        newSounds.push_back({{line.playList[i]}, 0});
+    }
+}
+
+void Pen::playOrNot(const Line& line, unsigned position)
+{
+    if (chance(2) == 0) {
+        playAll(line, position, position);
+    }
+}
+
+// A line that plays or jumps cuts off what is playing; one that only calculates lets it go on.
+void Pen::finishLine()
+{
+    if (!newSounds.empty() || newJump) {
+        cutOff();
+    }
+    if (newJump) {
+        noted = std::exchange(newJump, std::nullopt);
+    }
+    if (!newSounds.empty()) {
+        startSounds(newSounds);
+        newSounds.clear();
+    }
+}
+
+void Pen::startSounds(const std::vector<Sound>& list)
+{
+    lastSounds = list;
+    sounds.assign(list.begin(), list.end());
+    if (isSounding()) {
+        listener.soundStarted(sounds.front());
+    }
+}
+
+void Pen::cutOff()
+{
+    if (!isSounding()) {
+        return;
+    }
+    sounds.clear();
+    listener.soundCutOff();
+    if (!options.takesCutJump) {
+        noted.reset();
+    }
+}
+
+// A number below the count.
+unsigned Pen::chance(unsigned count)
+{
+    return static_cast<unsigned>(random() % count);
+}
+
+uint16_t Pen::valueOf(const Operand& operand) const
+{
+    return operand.isRegister ? registers[operand.value] : operand.value;
+}
+
+uint16_t Pen::registerValue(size_t number) const
+{
+    return number < registers.size() ? registers[number] : uint16_t{0};
+}
+
+void Pen::setRegister(size_t number, uint16_t value)
+{
+    if (number < registers.size() && registers[number] != value) {
+        const uint16_t before = std::exchange(registers[number], value);
+        listener.registerChanged(static_cast<uint16_t>(number), before, value);
+    }
+}
+
+}  // namespace pen
