@@ -93,7 +93,8 @@ QVariant AreaTableModel::data(const QModelIndex& index, int role) const
     if (area == nullptr) {
         return {};
     }
-    if (role == Qt::DecorationRole && index.column() == warnings) {
+    // At the name it is in sight, however narrow the list is.
+    if (role == Qt::DecorationRole && (index.column() == name || index.column() == warnings)) {
         static const QIcon icon(":/icons/warning.svg");
         return warningsOf(*area).isEmpty() ? QVariant() : icon;
     }
@@ -107,7 +108,9 @@ QVariant AreaTableModel::shown(int row, int column, int role) const
     const Oid::POLY& area = *areaAt(row);
     switch (column) {
     case name:
-        return QString::fromStdString(area.name);
+        return role == Qt::ToolTipRole
+                   ? (QStringList(QString::fromStdString(area.name)) + warningsOf(area)).join('\n')
+                   : QString::fromStdString(area.name);
     case number:
         return numberOf(area);
     case page:
