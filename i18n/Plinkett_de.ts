@@ -920,6 +920,10 @@
         <translation>Zeigt oder verbirgt die Liste der Bereiche</translation>
     </message>
     <message>
+        <source>%1: another window has moved pages and saved that. Open the book again.</source>
+        <translation>%1: Ein anderes Fenster hat Seiten verschoben und das gespeichert. Bitte das Buch neu öffnen.</translation>
+    </message>
+    <message>
         <source>The pictures are in the order of the pages again. Pages had been moved, but not saved.</source>
         <translation>Die Bilder sind wieder in der Reihenfolge der Seiten. Seiten waren verschoben, aber nicht gespeichert worden.</translation>
     </message>
@@ -1393,6 +1397,10 @@
     <message>
         <source>The folder cannot be written.</source>
         <translation>In den Ordner kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Another window has moved pages of this book and saved that. Open the book again.</source>
+        <translation>Ein anderes Fenster hat Seiten dieses Buchs verschoben und das gespeichert. Bitte das Buch neu öffnen.</translation>
     </message>
     <message>
         <source>Another window has moved pages of this book and not saved that yet.</source>

@@ -920,6 +920,10 @@
         <translation>Shows or hides the list of the areas</translation>
     </message>
     <message>
+        <source>%1: another window has moved pages and saved that. Open the book again.</source>
+        <translation>%1: another window has moved pages and saved that. Open the book again.</translation>
+    </message>
+    <message>
         <source>The pictures are in the order of the pages again. Pages had been moved, but not saved.</source>
         <translation>The pictures are in the order of the pages again. Pages had been moved, but not saved.</translation>
     </message>
@@ -1393,6 +1397,10 @@
     <message>
         <source>The folder cannot be written.</source>
         <translation>The folder cannot be written.</translation>
+    </message>
+    <message>
+        <source>Another window has moved pages of this book and saved that. Open the book again.</source>
+        <translation>Another window has moved pages of this book and saved that. Open the book again.</translation>
     </message>
     <message>
         <source>Another window has moved pages of this book and not saved that yet.</source>

@@ -920,6 +920,10 @@
         <translation>Affiche ou masque la liste des zones</translation>
     </message>
     <message>
+        <source>%1: another window has moved pages and saved that. Open the book again.</source>
+        <translation>%1 : une autre fenêtre a déplacé des pages et les a enregistrées. Rouvrez le livre.</translation>
+    </message>
+    <message>
         <source>The pictures are in the order of the pages again. Pages had been moved, but not saved.</source>
         <translation>Les images sont de nouveau dans l&apos;ordre des pages. Des pages avaient été déplacées, mais pas enregistrées.</translation>
     </message>
@@ -1393,6 +1397,10 @@
     <message>
         <source>The folder cannot be written.</source>
         <translation>Impossible d&apos;écrire dans le dossier.</translation>
+    </message>
+    <message>
+        <source>Another window has moved pages of this book and saved that. Open the book again.</source>
+        <translation>Une autre fenêtre a déplacé des pages de ce livre et les a enregistrées. Rouvrez le livre.</translation>
     </message>
     <message>
         <source>Another window has moved pages of this book and not saved that yet.</source>

@@ -920,6 +920,10 @@
         <translation>Toont of verbergt de lijst van de gebieden</translation>
     </message>
     <message>
+        <source>%1: another window has moved pages and saved that. Open the book again.</source>
+        <translation>%1: een ander venster heeft pagina&apos;s verplaatst en dat opgeslagen. Open het boek opnieuw.</translation>
+    </message>
+    <message>
         <source>The pictures are in the order of the pages again. Pages had been moved, but not saved.</source>
         <translation>De afbeeldingen staan weer in de volgorde van de pagina&apos;s. Er waren pagina&apos;s verplaatst, maar niet opgeslagen.</translation>
     </message>
@@ -1393,6 +1397,10 @@
     <message>
         <source>The folder cannot be written.</source>
         <translation>In de map kan niet worden geschreven.</translation>
+    </message>
+    <message>
+        <source>Another window has moved pages of this book and saved that. Open the book again.</source>
+        <translation>Een ander venster heeft pagina&apos;s van dit boek verplaatst en dat opgeslagen. Open het boek opnieuw.</translation>
     </message>
     <message>
         <source>Another window has moved pages of this book and not saved that yet.</source>

@@ -43,6 +43,7 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QUrl>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -82,6 +83,11 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     prepareRecovery();
     prepareDocks();
     new ProblemsGuide(*this, *ui, document);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
+        if (focused != nullptr && focused == windowHandle()) {
+            followOtherWindows();
+        }
+    });
 }
 
 MainWindow::~MainWindow()
@@ -385,6 +391,8 @@ void MainWindow::on_actionSave_triggered()
 
 bool MainWindow::saveProject(const std::string& path)
 {
+    followOtherWindows();
+    companions.wereMoved(project);
     const bool saved = document.save(path);
     const QString name = QFileInfo(QString::fromStdString(path)).fileName();
     tell(saved ? tr("Saved: %1").arg(name) : tr("Not saved: %1").arg(name));
@@ -397,6 +405,17 @@ bool MainWindow::saveProject(const std::string& path)
         warnOfPictures();
     }
     return saved;
+}
+
+// Called whenever the author comes back to this window, and before a save.
+void MainWindow::followOtherWindows()
+{
+    const bool knew = document.isOutdated();
+    document.followOthers();
+    if (document.isOutdated() && !knew) {
+        tell(tr("%1: another window has moved pages and saved that. Open the book again.")
+                 .arg(QFileInfo(QString::fromStdString(project.projectPath)).fileName()));
+    }
 }
 
 void MainWindow::tell(const QString& text)

@@ -133,6 +133,7 @@ private:
     void noteFiles();
     // Writes the project, into which the form has been carried, and all that goes with that.
     bool saveProject(const std::string& path);
+    void followOtherWindows();
 
     // MainWindowHistory.cpp: undo and redo, of the script on its tab, else of pages and areas
     void prepareHistory();

@@ -73,6 +73,11 @@ void CompanionFiles::areBeside(const Oid::OidProject& project)
     audio = audioFolder(place);
 }
 
+void CompanionFiles::wereMoved(const Oid::OidProject& project)
+{
+    place.movedPictures = project.movedPictures;
+}
+
 void CompanionFiles::cameIn(const Oid::OidProject& project, int n)
 {
     elsewhere[n] = {project.pathImageSource(n), {}};

@@ -25,6 +25,8 @@ public:
 
     // After opening: they are beside the project.
     void areBeside(const Oid::OidProject& project);
+    // Before saving: another window has moved the pages of the book.
+    void wereMoved(const Oid::OidProject& project);
     // After picture n was brought in: its file is where the project looks for it.
     void cameIn(const Oid::OidProject& project, int n);
     // Pages have changed their order, and their files with them: from says for each page which one

@@ -329,6 +329,9 @@ bool Document::carryOver(Step& step, bool forward)
         return false;
     }
     contents.apply(step, forward);
+    for (const KeptFile& file : step.files) {
+        pictures.wasReplaced(contents.pageAt(file.page));
+    }
     notePages(before);
     selection = forward ? step.selectionAfter : step.selectionBefore;
     state = forward ? step.stateAfter : step.stateBefore;
@@ -419,6 +422,14 @@ bool Document::save(const std::string& path)
     record.movedPictures.clear();
     setClean();
     return true;
+}
+
+void Document::followOthers()
+{
+    if (pictures.followOthers()) {
+        note(Change::pictureFile, -1);
+        tell();
+    }
 }
 
 void Document::setClean()

@@ -87,6 +87,11 @@ public:
     // Writes the project to the file, and what it holds is what is saved. False, and nothing is
     // changed, when the file cannot be written or problem says what is wrong with the pictures.
     bool save(const std::string& path);
+    // Another window may have moved pages of this book: each page shows its own picture, wherever
+    // that is now.
+    void followOthers();
+    // Another window has saved pages it moved. This document can only be saved elsewhere then.
+    bool isOutdated() const { return pictures.isOutdated(); }
     // After a save in another folder or under another number, when the pictures have been taken
     // along: those of moved pages go back where the old project file looks for them. Their old and
     // new paths.

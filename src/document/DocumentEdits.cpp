@@ -246,6 +246,7 @@ bool Document::replaceFile(int page, const QByteArray& file)
     } else {
         files.push_back(kept);
     }
+    pictures.wasReplaced(contents.pageAt(page));
     note(Change::pictureFile, page);
     return true;
 }

@@ -1,8 +1,11 @@
 #include "document/PagePictures.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QFile>
 
 #include <algorithm>
+#include <set>
 
 #include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
@@ -14,6 +17,20 @@ namespace {
 bool contains(const std::vector<PageId>& pages, PageId page)
 {
     return std::find(pages.begin(), pages.end(), page) != pages.end();
+}
+
+// Pictures that have the same one are the same. Empty where there is no file.
+std::string signOf(const std::string& path)
+{
+    constexpr qint64 kEnd = 4096;  // bytes, in which pictures of one size differ
+    QFile file(QString::fromStdString(Platform::nativePath(path)));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    const qint64 size = file.size();
+    file.seek(std::max<qint64>(size - kEnd, 0));
+    const QByteArray hash = QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha1);
+    return std::to_string(size) + ' ' + hash.toHex().toStdString();
 }
 
 // Where all pictures are when nothing has been moved.
@@ -70,9 +87,13 @@ void PagePictures::number(const std::vector<PageId>& pages)
 {
     numbers.clear();
     order = {};
+    signs.clear();
+    outdated = false;
     for (std::size_t i = 0; i < pages.size(); ++i) {
-        numbers[pages[i]] = static_cast<int>(i);
-        order.places[static_cast<int>(i)] = static_cast<int>(i);
+        const auto page = static_cast<int>(i);
+        numbers[pages[i]] = page;
+        order.places[page] = page;
+        signs[page] = folder.empty() ? std::string() : signOf(project.pathImageSource(page));
     }
     order.projectFile = FileSystem::getFilenameOfPath(project.projectPath);
     savedPages = static_cast<int>(pages.size());
@@ -149,6 +170,9 @@ bool PagePictures::arrange(const std::vector<PageId>& pages)
 bool PagePictures::arrange(const std::vector<PageId>& pages, Removed removed)
 {
     found = {};
+    if (!isUpToDate()) {
+        return false;
+    }
     const auto count = static_cast<int>(pages.size());
     std::map<PageId, int> numbered = numbers;
     std::map<int, std::string> copies;
@@ -195,6 +219,87 @@ bool PagePictures::mustMove(const Places& target) const
         return target.at(entry.first) != entry.second &&
                Platform::fileExists(files.fileOf(order, entry.first));
     });
+}
+
+// By page, the files of those pictures that are not where they belong.
+std::map<int, std::string> PagePictures::foundElsewhere() const
+{
+    std::map<std::string, std::string>
+        strangers;          // by their signs, files that hold another picture
+    std::vector<int> left;  // pictures that are not in their files
+    for (const auto& [picture, place] : order.places) {
+        const auto known = signs.find(picture);
+        const std::string here = signOf(files.at(place));
+        if (place != kAside && known != signs.end() && here != known->second) {
+            left.push_back(picture);
+            strangers[here] = files.at(place);
+        }
+    }
+    for (auto place = static_cast<int>(order.places.size()); Platform::fileExists(files.at(place));
+         ++place) {
+        strangers.insert({signOf(files.at(place)), files.at(place)});
+    }
+    std::map<int, std::string> moved;
+    std::set<std::string> taken;
+    for (const int picture : left) {
+        const std::string& sign = signs.at(picture);
+        const auto stranger = sign.empty() ? strangers.end() : strangers.find(sign);
+        if (stranger != strangers.end()) {
+            moved[order.places.at(picture)] = stranger->second;
+            taken.insert(stranger->second);
+        }
+    }
+    // Where another one's picture has come, there is none of the page's own.
+    for (const int picture : left) {
+        const int place = order.places.at(picture);
+        if (taken.count(files.at(place)) > 0) {
+            moved.insert({place, files.aside(picture)});
+        }
+    }
+    return moved;
+}
+
+bool PagePictures::followOthers()
+{
+    const bool isOurs = lock != nullptr || !written.empty();
+    if (folder.empty() || isOurs || !isInPlace()) {
+        return false;
+    }
+    Oid::OidProject seen;
+    seen.projectPath = project.projectPath;
+    seen.productId = project.productId;
+    const bool isSaved = !Platform::fileExists(files.order());
+    if (isSaved) {
+        seen.movedPictures = foundElsewhere();
+    } else {
+        Oid::findMovedPictures(seen, [](const Diagnostic& /*diagnostic*/) {});
+    }
+    const bool nowOutdated = isSaved && !seen.movedPictures.empty();
+    const bool changes = seen.movedPictures != project.movedPictures || nowOutdated != outdated;
+    project.movedPictures = std::move(seen.movedPictures);
+    outdated = nowOutdated;
+    return changes;
+}
+
+bool PagePictures::isUpToDate()
+{
+    followOthers();
+    if (outdated) {
+        const char* const cause = QT_TRANSLATE_NOOP(
+            "PagePictures",
+            "Another window has moved pages of this book and saved that. Open the book again.");
+        found = {Platform::nativePath(project.projectPath),
+                 QCoreApplication::translate("PagePictures", cause).toStdString()};
+    }
+    return !outdated;
+}
+
+void PagePictures::wasReplaced(PageId page)
+{
+    const auto picture = numbers.find(page);
+    if (picture != numbers.end() && !folder.empty()) {
+        signs[picture->second] = signOf(files.at(order.places.at(picture->second)));
+    }
 }
 
 // From here on pictures may be renamed: no other program does that meanwhile.

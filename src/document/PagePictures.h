@@ -52,9 +52,17 @@ public:
     // failed; then its movedPictures tell where they are.
     bool restart(const std::vector<PageId>& pages, const PagesMoved& moved);
 
+    // Looks where the pictures are, since another window may have moved pages: each page shows its
+    // own (the project's movedPictures). True when that has changed.
+    bool followOthers();
+    // Another window has saved pages it moved. Nothing is arranged or saved here then.
+    bool isOutdated() const { return outdated; }
+    // Of this window's page: its picture is another one now.
+    void wasReplaced(PageId page);
+
     // These are the pages now. Their pictures come to their places, and those of pages that are
     // gone are kept. False when a file is in the way or cannot be renamed, or another window has
-    // moved pages; all is then as it was.
+    // moved pages or saved that; all is then as it was.
     bool arrange(const std::vector<PageId>& pages);
     // What made the last arrange or beforeSaving fail; no file when it did not.
     const FileProblem& problem() const { return found; }
@@ -94,6 +102,8 @@ private:
     bool arrange(const std::vector<PageId>& pages, Removed removed);
 
     void number(const std::vector<PageId>& pages);
+    bool isUpToDate();
+    std::map<int, std::string> foundElsewhere() const;
     int newNumber(int place, const Places& taken) const;
     bool mustMove(const Places& target) const;
     bool bring(const Places& target, const std::map<int, std::string>& copies);
@@ -122,5 +132,7 @@ private:
     std::map<PageId, int> numbers;       // of their pictures in the order
     std::map<PageId, std::string> kept;  // copies of pictures of removed pages
     int savedPages = 0;
+    std::map<int, std::string> signs;  // by which pictures are known under any name
+    bool outdated = false;
     FileProblem found;
 };

@@ -341,6 +341,71 @@ TEST_F(PagePicturesTest, AnotherWindowSeesTheSavedPagesAndMovesNoneMeanwhile)
     EXPECT_EQ(shown(second.project), "hen=hen cow=cow");
 }
 
+TEST_F(PagePicturesTest, AnotherWindowShowsItsPicturesWhereverTheyAreMeanwhile)
+{
+    PictureFileWork work;
+    Desk second(book, work);
+    {
+        Desk first(book, work);
+        ASSERT_TRUE(first.arrange({3, 1, 0}));
+        EXPECT_TRUE(second.pictures.followOthers());
+        EXPECT_EQ(shown(second.project), "cow=cow hen=hen none=none pig=pig");
+        EXPECT_FALSE(second.pictures.isOutdated());
+        EXPECT_FALSE(second.pictures.followOthers());
+    }
+    EXPECT_TRUE(second.pictures.followOthers());
+    EXPECT_EQ(shown(second.project), "cow=cow hen=hen none=none pig=pig");
+    EXPECT_TRUE(second.save([] { return true; }));
+}
+
+TEST_F(PagePicturesTest, WhatAnotherWindowHasMovedAndSavedIsNotSavedOver)
+{
+    PictureFileWork work;
+    Desk second(book, work);
+    Desk first(book, work);
+    ASSERT_TRUE(first.arrange({3, 1, 0}));
+    ASSERT_TRUE(first.save([] { return true; }));
+    const std::string files = folder.listing();
+    for (const auto& change : {std::vector<int>{1, 0}, std::vector<int>{0, 1, 2, 3}}) {
+        EXPECT_FALSE(second.arrange(change));
+        EXPECT_EQ(second.pictures.problem().file, folder.file("book.oidpro"));
+        EXPECT_EQ(second.pictures.problem().cause,
+                  "Another window has moved pages of this book and saved that. Open the book "
+                  "again.");
+    }
+    EXPECT_FALSE(second.save([] { return true; }));
+    EXPECT_TRUE(second.pictures.isOutdated());
+    EXPECT_EQ(shown(second.project), "cow=cow hen=hen none=none pig=pig");
+    EXPECT_EQ(shown(book.opened()), "pig=pig hen=hen cow=cow");
+    EXPECT_EQ(folder.listing(), files);
+}
+
+TEST_F(PagePicturesTest, APageThatAnotherWindowRemovedAndSavedHasNoPictureButTheOthersHave)
+{
+    PictureFileWork work;
+    Desk second(book, work);
+    Desk first(book, work);
+    ASSERT_TRUE(first.arrange({1, 2, 3}));
+    ASSERT_TRUE(first.save([] { return true; }));
+    EXPECT_TRUE(second.pictures.followOthers());
+    EXPECT_EQ(shown(second.project), "cow=none hen=hen none=none pig=pig");
+    EXPECT_TRUE(second.pictures.isOutdated());
+}
+
+// With another program, or in this one.
+TEST_F(PagePicturesTest, PicturesThatWereEditedAreNotMovedOnes)
+{
+    PictureFileWork work;
+    Desk desk(book, work);
+    writeFile(folder.file("900-bkgnd0.jpg"), "hen");
+    writeFile(folder.file("900-bkgnd1.jpg"), "red hen");
+    writeFile(folder.file("900-bkgnd3.jpg"), "red pig");
+    desk.pictures.wasReplaced(desk.ids[1]);
+    EXPECT_FALSE(desk.pictures.followOthers());
+    EXPECT_FALSE(desk.pictures.isOutdated());
+    EXPECT_TRUE(desk.save([] { return true; }));
+}
+
 TEST_F(PagePicturesTest, PagesThatLookAlikeKeepTheirPicturesWhenTheSaveIsStopped)
 {
     const TemporaryFolder place;
