@@ -1,11 +1,16 @@
 // The lists of pages and areas beside the page.
 #include "tests/app/WindowFixture.h"
 
+#include "app/AreaTableModel.h"
+#include "tests/helpers/RunProgram.h"
+
+#include <QAbstractItemModel>
 #include <QAction>
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QListView>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTableView>
 
 namespace {
@@ -47,6 +52,15 @@ public:
     {
         const QRect place = table().visualRect(table().model()->index(row, 0));
         QTest::mouseClick(table().viewport(), Qt::LeftButton, modifiers, place.center());
+    }
+    // What the command line prints of a page of the saved book.
+    std::string printOf(int page)
+    {
+        const ProgramRun run =
+            runProgram(PLINKETT_BIN_DIR "/plinkett-cli", {"print", folder.file("book.oidpro")});
+        return run.status != 0
+                   ? run.out + run.err
+                   : readFile(folder.file("900-print" + std::to_string(page) + ".tiff"));
     }
     std::string picture(int page)
     {
@@ -212,6 +226,162 @@ private slots:
         w.trigger("actionUndo");
         QCOMPARE(w.picture(0), first);
         QCOMPARE(w.saved(), before);
+    }
+
+    void theCommandLinePrintsTheSavedPagesWhileOthersAreShown()
+    {
+        Lists w;
+        w.makePicture("900-bkgnd0.jpg", {300, 100});
+        w.saved();
+        const std::string first = w.printOf(0);
+        const std::string second = w.printOf(1);
+        QVERIFY(first != second);
+        w.pages().setFocus();
+        QTest::keyClick(&w.pages(), Qt::Key_Down, Qt::ControlModifier);
+        QVERIFY(w.printOf(0) == first);
+        QVERIFY(w.printOf(1) == second);
+        w.saved();
+        QVERIFY(w.printOf(0) != first);
+    }
+
+    void aPageWithoutAreasMovesWithItsPaperAndPicture()
+    {
+        Lists w;
+        w.open(projectFile({area("cow", 1001), "", area("hen", 1002)}), 3);
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        w.makePicture("900-bkgnd1.jpg", {300, 100});
+        const std::string bare = w.picture(1);
+        w.click("btNextPicture");
+        w.window.activateWindow();  // the dialog was active
+        QTest::qWait(10);
+        w.pages().setFocus();
+        QTest::keyClick(&w.pages(), Qt::Key_Up, Qt::ControlModifier);
+        w.saved();
+        QCOMPARE(w.picture(0), bare);
+        w.dialogs.chooseFile(w.path("book.oidpro"));
+        w.trigger("action_Open");
+        QCOMPARE(w.text("lbPageOfPages"), QString("Page 1 of 3"));
+        QCOMPARE(w.names(), QString("cow hen"));
+        QCOMPARE(w.cell(0, 2), QString("2"));
+    }
+
+    void pagesThatAnotherWindowMovedAndSavedAreToldAndNotSavedOver()
+    {
+        Lists w;
+        w.makePicture("900-bkgnd0.jpg", {300, 100});
+        w.saved();
+        MainWindow other;
+        other.openProject(w.path("book.oidpro"));
+        other.findChild<QAction*>("actionPageDown")->trigger();
+        other.findChild<QAction*>("actionSave")->trigger();
+        const std::string theirs = readFile(w.folder.file("book.oidpro"));
+
+        w.type("txPolyName", "ox");
+        w.dialogs.press("OK");
+        w.dialogs.cancel();  // of Save As
+        w.trigger("actionSave");
+        QCOMPARE(w.dialogs.seen().value(1),
+                 "Warning: The pictures could not be brought to their pages.\n\n" +
+                     w.path("book.oidpro") +
+                     "\nAnother window has moved pages of this book and saved that. Open the book "
+                     "again.");
+        QCOMPARE(readFile(w.folder.file("book.oidpro")), theirs);
+    }
+
+    void comingBackToAWindowTellsThatAnotherOneHasMovedPages()
+    {
+        Lists w;
+        w.makePicture("900-bkgnd0.jpg", {300, 100});
+        w.saved();
+        const std::string first = w.picture(0);
+        {
+            MainWindow other;
+            other.openProject(w.path("book.oidpro"));
+            other.show();
+            other.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&other));
+            other.findChild<QAction*>("actionPageDown")->trigger();
+            other.findChild<QAction*>("actionSave")->trigger();
+            QCOMPARE(w.picture(1), first);
+            w.window.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&w.window));
+        }
+        QCOMPARE(w.status(), QString("book.oidpro: another window has moved pages and saved that. "
+                                     "Open the book again."));
+    }
+
+    void anEditOfOneOf2000AreasIsThatOfOneRow()
+    {
+        std::string many;
+        for (int i = 0; i < 2000; ++i) {
+            many += area(("area" + std::to_string(i)).c_str(), 1000 + i);
+        }
+        Lists w;
+        w.open(projectFile({many}), 1);
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(1);
+        QAbstractItemModel& list = *w.table().model();
+        QCOMPARE(list.rowCount(), 2000);
+        w.clickRow(3);
+        QCOMPARE(w.field("txPolyName"), QString("area3"));
+        QTest::qWait(600);  // the check of the script
+
+        auto* const source = w.window.findChild<AreaTableModel*>();
+        QSignalSpy resets(source, &QAbstractItemModel::modelReset);
+        QSignalSpy inserted(source, &QAbstractItemModel::rowsInserted);
+        QSignalSpy removed(source, &QAbstractItemModel::rowsRemoved);
+        QSignalSpy changed(source, &QAbstractItemModel::dataChanged);
+        w.get<PolyEditorWidget>("polyArea")->setFocus();
+        QTest::keyClick(w.get<PolyEditorWidget>("polyArea"), Qt::Key_Right);
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed[0][0].toModelIndex().row(), 3);
+        QCOMPARE(changed[0][1].toModelIndex().row(), 3);
+        QTest::keyClick(w.get<PolyEditorWidget>("polyArea"), Qt::Key_Delete);
+        QCOMPARE(removed.size(), 1);
+        QCOMPARE(list.rowCount(), 1999);
+        w.trigger("actionUndo");
+        QCOMPARE(inserted.size(), 1);
+        QCOMPARE(list.rowCount(), 2000);
+        QCOMPARE(resets.size(), 0);
+
+        w.table().sortByColumn(0, Qt::DescendingOrder);
+        QCOMPARE(w.cell(0, 0), QString("area999"));
+        w.type("areaFilter", "a199");
+        QCOMPARE(list.rowCount(), 11);
+        QCOMPARE(w.cell(10, 0), QString("area199"));
+    }
+
+    void anAreaWithAWarningHasItsIconBesideItsName()
+    {
+        Lists w;
+        QTRY_COMPARE(w.cell(0, 3), QString("yes"));
+        const auto iconOf = [&](int row) {
+            return w.table().model()->index(row, 0).data(Qt::DecorationRole);
+        };
+        QVERIFY(iconOf(0).isNull());
+        QVERIFY(!iconOf(2).isNull());
+        QCOMPARE(w.table().model()->index(2, 0).data(Qt::ToolTipRole).toString(),
+                 QString("hen\nNot in the script"));
+    }
+
+    void docksRememberTheirPlaces()
+    {
+        const TemporaryFolder folder;
+        QSettings settings(QString::fromStdString(folder.file("s.ini")), QSettings::IniFormat);
+        const auto placeIn = [](MainWindow& window) {
+            auto* const dock = window.findChild<QDockWidget*>("dockAreas");
+            return qobject_cast<QMainWindow*>(dock->parentWidget())->dockWidgetArea(dock);
+        };
+        {
+            MainWindow window;
+            window.keepSettingsIn(settings);
+            auto* const dock = window.findChild<QDockWidget*>("dockAreas");
+            qobject_cast<QMainWindow*>(dock->parentWidget())
+                ->addDockWidget(Qt::LeftDockWidgetArea, dock);
+        }
+        MainWindow window;
+        QCOMPARE(placeIn(window), Qt::RightDockWidgetArea);
+        window.keepSettingsIn(settings);
+        QCOMPARE(placeIn(window), Qt::LeftDockWidgetArea);
     }
 
     void deleteRemovesAPageAndUndoBringsItBack()

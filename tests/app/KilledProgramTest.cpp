@@ -11,7 +11,8 @@
 namespace {
 
 constexpr QSize kWindow(1000, 700);
-constexpr int kMostLost = 5000;  // ms of work
+constexpr QSize kWide(1200, 900);  // with room for the lists
+constexpr int kMostLost = 5000;    // ms of work
 
 const char* const kBook = "\xEF\xBB\xBFPRODUCT 905, \"Farm\"\r\n"
                           "IMAGE\r\nPAPER 100.0 100.0\r\nDPI   600\r\n"
@@ -90,7 +91,57 @@ private slots:
         }
     }
 
+    // Their pictures have been renamed, and the project file was not saved.
+    void movedPagesAreWhereTheyWereAgain()
+    {
+        try {
+            std::vector<std::string> pictures;
+            for (int page = 0; page < 2; ++page) {
+                QImage image(100 + page * 100, 100, QImage::Format_RGB32);
+                image.fill(Qt::white);
+                image.save(QString::fromStdString(picture(page)));
+                pictures.push_back(readFile(picture(page)));
+            }
+            const std::string book = twoPages();
+            writeFile(folder.file("farm.oidpro"), book);
+            {
+                DrivenProgram program(display, home(), kWide, {"farm.oidpro"});
+                program.showTab("tabAreas");
+                program.click("pageList");  // below the pages: it has the keys
+                program.press("Home");
+                program.press("ctrl+Down");
+                waitUntil([&] { return readFile(picture(0)) == pictures[1]; }, "the moved page");
+                program.kill();
+            }
+            QVERIFY(readFile(folder.file("farm.oidpro")) == book);
+            {
+                DrivenProgram program(display, home(), kWide, {"farm.oidpro"});
+                waitUntil([&] { return readFile(picture(0)) == pictures[0]; }, "the saved order");
+                program.quit();
+            }
+            QVERIFY(readFile(picture(1)) == pictures[1]);
+            QVERIFY(readFile(folder.file("farm.oidpro")) == book);
+        } catch (const std::exception& failure) {
+            QFAIL(failure.what());
+        }
+    }
+
 private:
+    std::string picture(int page) const
+    {
+        return folder.file("905-bkgnd" + std::to_string(page) + ".jpg");
+    }
+    static std::string twoPages()
+    {
+        const std::string head = "IMAGE\r\nPAPER 100.0 100.0\r\nDPI   600\r\n";
+        const std::string tail = "# BOX    name x y w h\r\n# CIRCLE name xm ym R\r\n";
+        const auto area = [](const std::string& name) {
+            return "POLY " + name + "\r\n    10 10\r\n    50 10\r\n    50 50\r\nEND\r\n\r\n";
+        };
+        return "\xEF\xBB\xBFPRODUCT 905, \"Farm\"\r\n" + head + area("cow") + tail + head +
+               area("hen") + tail + "SCRIPT # -----------------------\r\n";
+    }
+
     // Works in the script editor and kills the program at the end of it.
     void kill(const QStringList& arguments, const std::function<void(DrivenProgram&)>& work)
     {
