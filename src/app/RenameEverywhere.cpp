@@ -86,7 +86,7 @@ QString RenameEverywhere::placesOf(const std::string& name) const
     for (const int number : pages) {
         numbers << QString::number(number);
     }
-    const QString places = tr("Places in the script: %1").arg(renames.placesOf(name).size());
+    QString places = tr("Places in the script: %1").arg(renames.placesOf(name).size());
     if (areas.empty()) {
         return places;
     }

@@ -35,7 +35,7 @@ public:
     float at(int x, int y) const { return around[cell(x / kCell, y / kCell)]; }
 
 private:
-    std::size_t cell(int x, int y) const { return static_cast<std::size_t>(y * columns + x); }
+    std::size_t cell(int x, int y) const { return static_cast<std::size_t>(y) * columns + x; }
 
     float ofNeighbours(int x, int y) const
     {

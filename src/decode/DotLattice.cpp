@@ -48,7 +48,7 @@ std::vector<QPointF> waysBetween(const std::vector<QPointF>& dots, double tileEd
         const int row = static_cast<int>(dot.y() / reach);
         for (int y = std::max(row - 1, 0); y <= std::min(row + 1, rows - 1); ++y) {
             for (int x = std::max(column - 1, 0); x <= std::min(column + 1, columns - 1); ++x) {
-                for (const QPointF& other : cells[static_cast<std::size_t>(y * columns + x)]) {
+                for (const QPointF& other : cells[static_cast<std::size_t>(y) * columns + x]) {
                     const QPointF way = other - dot;
                     const double square = QPointF::dotProduct(way, way);
                     if (square >= least && square <= most) {
@@ -96,7 +96,7 @@ public:
 private:
     std::size_t index(int x, int y) const
     {
-        return static_cast<std::size_t>((y + radius) * (2 * radius + 1) + x + radius);
+        return static_cast<std::size_t>(y + radius) * (2 * radius + 1) + x + radius;
     }
 
     int around(int x, int y) const

@@ -93,7 +93,7 @@ void DotWindow::takeMeans()
         }
         for (int x = 0; x < columns; ++x) {
             if (x + kMeanRadius < columns) {
-                sum += sums[static_cast<std::size_t>(x + kMeanRadius)];
+                sum += sums[static_cast<std::size_t>(x) + kMeanRadius];
             }
             if (x - kMeanRadius - 1 >= 0) {
                 sum -= sums[static_cast<std::size_t>(x - kMeanRadius - 1)];

@@ -117,7 +117,7 @@ bool looksLikeATile(const TileInk& tile, float leastContrast)
     int lost = 0;
     for (int row = 0; row < kCells; ++row) {
         for (int column = 0; column < kCells; ++column) {
-            const CellInk& ink = tile[static_cast<std::size_t>(row * kCells + column)];
+            const CellInk& ink = tile[static_cast<std::size_t>(row) * kCells + column];
             const bool isThere = ink.contrast >= leastContrast;
             if (isMarker(row, column)) {
                 if (!isThere || ink.middle.x() < 0.06 ||
@@ -147,7 +147,7 @@ std::optional<int> codeOf(const TileInk& tile)
     for (int row = 1; row < kCells; ++row) {
         for (int column = 1; column < kCells; ++column) {
             const int place = 12 - 3 * row - column;
-            const int digit = tile[static_cast<std::size_t>(row * kCells + column)].digit();
+            const int digit = tile[static_cast<std::size_t>(row) * kCells + column].digit();
             if (place == kDigits) {
                 checksum = digit;
             } else {
@@ -229,7 +229,8 @@ std::optional<int> TileReader::codeAt(const QPointF& corner) const
     std::array<float, kCells * kCells> contrasts{};
     for (std::size_t i = 0; i < tile.size(); ++i) {
         const auto column = static_cast<double>(i % kCells);
-        const auto row = static_cast<double>(i / kCells);
+        const std::size_t wholeRows = i / kCells;
+        const auto row = static_cast<double>(wholeRows);
         tile[i] = inkOf(window, corner + right * column + down * row, right, down);
         contrasts[i] = tile[i].contrast;
     }

@@ -342,7 +342,7 @@ std::vector<PageId> Contents::forget(const Step& step, bool forward)
             parkedAreas.erase(id);
         }
     }
-    const std::vector<PageId> pages = onlyOnSide(step.pages, forward);
+    std::vector<PageId> pages = onlyOnSide(step.pages, forward);
     for (const PageId id : pages) {
         parkedPages.erase(id);
         areas.erase(id);

@@ -171,8 +171,8 @@ std::vector<QPoint> simplified(const std::vector<QPoint>& closed, double reach)
         }
         if (farthest > reach) {
             needed[place] = true;
-            stretches.push_back({begin, place});
-            stretches.push_back({place, end});
+            stretches.emplace_back(begin, place);
+            stretches.emplace_back(place, end);
         }
     }
     std::vector<QPoint> points;

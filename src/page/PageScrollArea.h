@@ -35,7 +35,6 @@ public:
 
     QSize sizeHint() const override;
 
-public slots:
     // To the next usual size, around the middle.
     void zoomIn();
     void zoomOut();

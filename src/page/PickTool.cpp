@@ -329,6 +329,7 @@ void PickTool::beginDrag()
 void PickTool::takeTargets(const std::vector<AreaId>& without)
 {
     std::vector<int> indices;
+    indices.reserve(without.size());
     for (const AreaId area : without) {
         indices.push_back(document.placeOf(area).index);
     }

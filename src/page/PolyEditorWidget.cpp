@@ -334,7 +334,7 @@ QRegion PolyEditorWidget::takeChangedMarks(QRect seen)
     if (tool != nullptr && picture() != nullptr) {
         now = tool->marks(view(), seen);
     }
-    const QRegion changed = marks.differenceTo(now, seen);
+    QRegion changed = marks.differenceTo(now, seen);
     marks = std::move(now);
     return changed;
 }

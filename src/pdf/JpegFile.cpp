@@ -98,9 +98,8 @@ std::optional<JpegFacts> readJpegFacts(const QByteArray& file)
             }
             facts.components = segments.byte(7);
             namedRgb = areNamedRgb(segments);
-        } else if (marker == kAdobe && segments.startsWith("Adobe")) {
-            tellsItsColours = true;
-        } else if (marker == 0xe0 && segments.startsWith("JFIF")) {
+        } else if ((marker == kAdobe && segments.startsWith("Adobe")) ||
+                   (marker == 0xe0 && segments.startsWith("JFIF"))) {
             tellsItsColours = true;
         }
         scanned = scanned || marker == kStartOfScan;

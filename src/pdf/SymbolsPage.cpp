@@ -186,7 +186,8 @@ QPointF SymbolsPages::placeOf(int i) const
 {
     const int own = static_cast<int>(signs);
     const int place = i < own ? i : (i - own + kColumns) % (kColumns * kRows);
-    return {kMargin + place % kColumns * kAcross - 3, kFirstRow + place / kColumns * kDown};
+    const int row = place / kColumns;
+    return {kMargin + place % kColumns * kAcross - 3, kFirstRow + row * kDown};
 }
 
 int SymbolsPages::pageOf(int i) const

@@ -197,7 +197,7 @@ std::vector<TestField> testFields(const std::vector<int>& resolutions)
 
 bool fitTestPage(const std::vector<int>& resolutions)
 {
-    return testFields(resolutions).size() <= static_cast<std::size_t>(kMostRows * kColumns);
+    return testFields(resolutions).size() <= static_cast<std::size_t>(kMostRows) * kColumns;
 }
 
 std::optional<PrinterSettings> settingsOfField(const std::vector<int>& resolutions,

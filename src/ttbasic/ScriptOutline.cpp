@@ -435,6 +435,7 @@ const ScriptOutline::Statement* ScriptOutline::statementOn(int line) const
 std::vector<int> ScriptOutline::postfixOf(const Expression& expression) const
 {
     std::vector<std::string> words;
+    words.reserve(static_cast<std::size_t>(expression.tokenCount));
     for (int i = 0; i < expression.tokenCount; ++i) {
         words.push_back(tokens[expression.firstToken + i].text);
     }
@@ -443,6 +444,7 @@ std::vector<int> ScriptOutline::postfixOf(const Expression& expression) const
         return {};
     }
     std::vector<int> indices;
+    indices.reserve(order.size());
     for (const std::size_t index : order) {
         indices.push_back(expression.firstToken + static_cast<int>(index));
     }

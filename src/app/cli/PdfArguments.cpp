@@ -113,7 +113,7 @@ std::vector<int> PdfArguments::pages()
     if (!arguments.has("--pages")) {
         return {};
     }
-    const std::vector<int> chosen = pageList(arguments.value("--pages"));
+    std::vector<int> chosen = pageList(arguments.value("--pages"));
     if (chosen.empty()) {
         reject("PAGES must be numbers of pictures such as 0,2-3, not '" +
                arguments.value("--pages") + "'");

@@ -273,6 +273,7 @@ void ScriptHelp::renameInScript(const NameUse& name)
         return;
     }
     std::vector<Part> parts;
+    parts.reserve(uses.size());
     for (const NameUse& use : uses) {
         parts.push_back(partOf(use.word.place));
     }

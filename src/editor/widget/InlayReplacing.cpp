@@ -66,6 +66,7 @@ void KVQtHighlightEditCtrlInlay::ReplaceParts(const std::vector<Part>& parts, co
                                               quint64 link)
 {
     std::vector<Replacement> replacements;
+    replacements.reserve(parts.size());
     for (const Part& part : parts) {
         replacements.push_back({part, text});
     }
