@@ -9,6 +9,7 @@ namespace Oid {
 namespace {
 
 constexpr int kLargestReadableOid = 15000;  // of the pen
+constexpr std::string_view kPrefix = "!!! Warning: ";
 
 // Tells the warnings, of which there may be a hundred thousand: one value serves for all.
 class Warnings
@@ -19,7 +20,7 @@ public:
         diagnostic.severity = Severity::warning;
     }
 
-    void ofMissingArea(const std::string& name, const ttbasic::Place& place)
+    void ofMissingArea(std::string_view name, const ttbasic::Place& place)
     {
         diagnostic.line = place.line;
         diagnostic.column = place.column;
@@ -27,30 +28,29 @@ public:
         tell("area-missing", name, {"Used OID '", name, "' in script, but not in the image"});
     }
 
-    void ofMissingSub(const std::string& name, int page, int area)
+    void ofMissingSub(std::string_view name, int page, int area)
     {
         diagnostic.page = page;
         diagnostic.area = area;
         tell("sub-missing", name, {"Used OID '", name, "' in image, but not in the script"});
     }
 
-    void ofUnreadableOid(const std::string& name)
+    void ofUnreadableOid(std::string_view name)
     {
         tell("oid-unreadable", name, {"OIDs > 15000 are not recognized by the pen!"});
     }
 
 private:
-    void tell(const char* kind, const std::string& subject,
+    void tell(const char* kind, std::string_view subject,
               std::initializer_list<std::string_view> words)
     {
         diagnostic.kind = kind;
         diagnostic.subject = subject;
-        diagnostic.text.clear();
+        diagnostic.printed = kPrefix;
         for (const std::string_view word : words) {
-            diagnostic.text += word;
+            diagnostic.printed += word;
         }
-        diagnostic.printed = "!!! Warning: ";
-        diagnostic.printed += diagnostic.text;
+        diagnostic.text.assign(diagnostic.printed, kPrefix.size());
         diagnostic.printed += '\n';
         sink(diagnostic);
         diagnostic.line = diagnostic.column = diagnostic.length = 0;
@@ -68,20 +68,23 @@ struct Area
     int index;  // both from 1
 };
 
-// The names that the script uses, in its order, and which of them an area bears.
-class ScriptNames
+// The names that the script uses, in its order, and which of them an area bears. The script has to
+// outlive it.
+class UsedNames
 {
 public:
-    explicit ScriptNames(const ttbasic& script) : names(script.usedOidNames()), drawn(names.size())
+    explicit UsedNames(const ttbasic& script) : drawn(script.labels.size())
     {
-        places.reserve(2 * names.size());  // short chains
-        for (size_t i = 0; i < names.size(); ++i) {
-            places.emplace(names[i], i);
+        names.reserve(drawn.size());
+        places.reserve(2 * drawn.size());  // short chains
+        for (const auto& [name, count] : script.labels) {
+            places.emplace(name, names.size());
+            names.push_back(name);
         }
     }
 
     // An area bears the name. False when it is none of the script's.
-    bool noteArea(const std::string& name)
+    bool noteArea(std::string_view name)
     {
         const auto place = places.find(name);
         if (place == places.end()) {
@@ -91,9 +94,9 @@ public:
         return true;
     }
 
-    std::vector<std::string> notDrawn() const
+    std::vector<std::string_view> notDrawn() const
     {
-        std::vector<std::string> missing;
+        std::vector<std::string_view> missing;
         for (size_t i = 0; i < names.size(); ++i) {
             if (!drawn[i]) {
                 missing.push_back(names[i]);
@@ -103,13 +106,13 @@ public:
     }
 
 private:
-    std::vector<std::string> names;
+    std::vector<std::string_view> names;
     std::vector<bool> drawn;
     std::unordered_map<std::string_view, size_t> places;
 };
 
 // The areas whose name is none of the script's; of the others it is noted that they are drawn.
-std::vector<Area> areasWithoutSub(const std::vector<PICTURE>& pictures, ScriptNames& script)
+std::vector<Area> areasWithoutSub(const std::vector<PICTURE>& pictures, UsedNames& script)
 {
     std::vector<Area> areas;
     int page = 0;
@@ -148,13 +151,13 @@ bool OidProject::checkSanity() const
 // One look at each name: projects may have a hundred thousand areas and as many subs.
 bool OidProject::checkSanity(const DiagnosticSink& sink) const
 {
-    ScriptNames script(compiler);
+    UsedNames script(compiler);
     const std::vector<Area> withoutSub = areasWithoutSub(pictures, script);
-    const std::vector<std::string> withoutArea = script.notDrawn();
+    const std::vector<std::string_view> withoutArea = script.notDrawn();
 
     Warnings warn(sink);
     Places places = withoutArea.empty() ? Places() : placesOfSubs(compiler);
-    for (const std::string& name : withoutArea) {
+    for (const std::string_view name : withoutArea) {
         warn.ofMissingArea(name, places[name]);
     }
     for (const Area& area : withoutSub) {
