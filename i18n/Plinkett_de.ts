@@ -1081,6 +1081,29 @@
     </message>
 </context>
 <context>
+    <name>SoundPlayer</name>
+    <message>
+        <source>Nothing is heard: no loudspeaker can be used (%1)</source>
+        <translation>Es ist nichts zu hören: Kein Lautsprecher ist nutzbar (%1)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened: %2</source>
+        <translation>%1 lässt sich nicht öffnen: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played: it has more than two channels</source>
+        <translation>%1 lässt sich nicht abspielen: Die Datei hat mehr als zwei Kanäle</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and cannot be played to its end</source>
+        <translation>%1 ist beschädigt und lässt sich nicht bis zum Ende abspielen</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played: it is damaged, or no sound in one of the formats WAV, Ogg, FLAC and MP3</source>
+        <translation>%1 lässt sich nicht abspielen: Die Datei ist beschädigt oder kein Ton in einem der Formate WAV, Ogg, FLAC und MP3</translation>
+    </message>
+</context>
+<context>
     <name>SubNameNote</name>
     <message>
         <source>An area needs a name. Type one.</source>

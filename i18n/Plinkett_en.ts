@@ -1081,6 +1081,29 @@
     </message>
 </context>
 <context>
+    <name>SoundPlayer</name>
+    <message>
+        <source>Nothing is heard: no loudspeaker can be used (%1)</source>
+        <translation>Nothing is heard: no loudspeaker can be used (%1)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened: %2</source>
+        <translation>%1 cannot be opened: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played: it has more than two channels</source>
+        <translation>%1 cannot be played: it has more than two channels</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and cannot be played to its end</source>
+        <translation>%1 is damaged and cannot be played to its end</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played: it is damaged, or no sound in one of the formats WAV, Ogg, FLAC and MP3</source>
+        <translation>%1 cannot be played: it is damaged, or no sound in one of the formats WAV, Ogg, FLAC and MP3</translation>
+    </message>
+</context>
+<context>
     <name>SubNameNote</name>
     <message>
         <source>An area needs a name. Type one.</source>

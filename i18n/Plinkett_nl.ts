@@ -1081,6 +1081,29 @@
     </message>
 </context>
 <context>
+    <name>SoundPlayer</name>
+    <message>
+        <source>Nothing is heard: no loudspeaker can be used (%1)</source>
+        <translation>Er is niets te horen: er is geen bruikbare luidspreker (%1)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened: %2</source>
+        <translation>%1 kan niet worden geopend: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played: it has more than two channels</source>
+        <translation>%1 kan niet worden afgespeeld: het heeft meer dan twee kanalen</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and cannot be played to its end</source>
+        <translation>%1 is beschadigd en kan niet tot het einde worden afgespeeld</translation>
+    </message>
+    <message>
+        <source>%1 cannot be played: it is damaged, or no sound in one of the formats WAV, Ogg, FLAC and MP3</source>
+        <translation>%1 kan niet worden afgespeeld: het is beschadigd, of geen geluid in een van de formaten WAV, Ogg, FLAC en MP3</translation>
+    </message>
+</context>
+<context>
     <name>SubNameNote</name>
     <message>
         <source>An area needs a name. Type one.</source>

@@ -11,7 +11,7 @@ public:
 
 private:
     int count = 1;
-    char name[14] = "publish_tests";
+    char name[6] = "tests";
     char* words[2] = {name, nullptr};
     std::unique_ptr<QCoreApplication> application;
 };
