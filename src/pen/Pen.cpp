@@ -25,6 +25,11 @@ Pen::Pen(PenGame playedGame, PenOptions usedOptions, PenListener& usedListener)
       registers(game.registers),
       random(usedOptions.seed)
 {
+    setScripts();
+}
+
+void Pen::setScripts()
+{
     for (const auto& [code, script] : game.scripts) {
         scripts[code] = &script;
     }
@@ -85,16 +90,24 @@ bool Pen::step()
     return true;
 }
 
-std::optional<uint16_t> Pen::takeNext()
+std::optional<uint16_t> Pen::nextCode() const
 {
     if (tapped) {
-        return std::exchange(tapped, std::nullopt);
+        return tapped;
     }
-    if (!noted || isSounding()) {
-        return std::nullopt;
+    return isSounding() ? std::nullopt : noted;
+}
+
+std::optional<uint16_t> Pen::takeNext()
+{
+    const std::optional<uint16_t> code = nextCode();
+    if (tapped) {
+        tapped.reset();
+    } else if (code) {
+        listener.jumped(*code);
+        noted.reset();
     }
-    listener.jumped(*noted);
-    return std::exchange(noted, std::nullopt);
+    return code;
 }
 
 void Pen::soundEnded()
@@ -122,6 +135,16 @@ void Pen::stop()
     }
 }
 
+void Pen::changeGame(PenGame newGame)
+{
+    stop();
+    lastSounds.clear();
+    game = std::move(newGame);
+    registers = game.registers;
+    std::fill(scripts.begin(), scripts.end(), nullptr);
+    setScripts();
+}
+
 bool Pen::runToRest()
 {
     limitWasReached = false;
@@ -142,14 +165,25 @@ void Pen::run(uint16_t code)
     ++stepCount;
     ++stepsBehindTap;
     clock += options.stepSeconds;
-    for (size_t i = 0; i < script->size(); ++i) {
-        if (holdsAll((*script)[i])) {
-            listener.lineChosen(code, i);
-            runLine(code, i, (*script)[i]);
-            return;
-        }
+    const std::optional<size_t> line = fittingLine(*script);
+    if (!line) {
+        listener.noLineFits(code);
+        return;
     }
-    listener.noLineFits(code);
+    listener.lineChosen(code, *line);
+    runLine(code, *line, (*script)[*line]);
+}
+
+std::optional<size_t> Pen::fittingLine(uint16_t code) const
+{
+    return scripts[code] != nullptr ? fittingLine(*scripts[code]) : std::nullopt;
+}
+
+std::optional<size_t> Pen::fittingLine(const Script& script) const
+{
+    const auto found = std::find_if(script.begin(), script.end(),
+                                    [this](const Line& line) { return holdsAll(line); });
+    return found != script.end() ? std::make_optional(found - script.begin()) : std::nullopt;
 }
 
 bool Pen::holdsAll(const Line& line) const
@@ -241,9 +275,9 @@ void Pen::runCommand(const Command& command, const Line& line)
 
 void Pen::calculate(const Command& command)
 {
-    const unsigned before = registers[command.target];
-    const unsigned value = valueOf(command.value);
-    unsigned now = before;
+    const int64_t before = registers[command.target];
+    const int64_t value = valueOf(command.value);
+    int64_t now = before;
     switch (command.opcode) {
     case Arithmetic::kAdd:
         now = before + value;
@@ -273,7 +307,7 @@ void Pen::calculate(const Command& command)
         now = value;
         break;
     case gme::Opcode::kNegate:
-        now = options.negatesLogically ? unsigned{before == 0} : 0U - before;
+        now = options.negatesLogically ? int64_t{before == 0} : -before;
         break;
     case gme::Opcode::kRandom:
         // The largest number is taken as it stands, even if it is marked as a register.
@@ -282,7 +316,11 @@ void Pen::calculate(const Command& command)
     default:
         break;
     }
-    setRegister(command.target, static_cast<uint16_t>(now));  // 16 bits, and wraps
+    const auto result = static_cast<uint16_t>(now);
+    if (result != now) {
+        listener.wrapped(command.target, now);
+    }
+    setRegister(command.target, result);
 }
 
 void Pen::playOneOf(const Line& line, unsigned first, unsigned last)

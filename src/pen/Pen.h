@@ -40,6 +40,8 @@ public:
     virtual void noLineFits(uint16_t /*code*/) {}
     // The line is counted from 0.
     virtual void divisionByZero(uint16_t /*code*/, size_t /*line*/) {}
+    // A result did not fit into the register, which gets what remains of it in 16 bits.
+    virtual void wrapped(uint16_t /*number*/, int64_t /*result*/) {}
     // The jumps came to no end; the pen has stopped.
     virtual void limitReached(uint64_t /*steps*/) {}
 };
@@ -88,12 +90,24 @@ public:
     void soundEnded();
     // Ends sound and jumps; registers stay.
     void stop();
+    // Another game takes the place of this one, all registers with their first values. What was
+    // going on ends; time, steps and chance go on.
+    void changeGame(PenGame newGame);
     // Steps and hears all sounds until nothing is left to do. False when the limit was reached.
     bool runToRest();
     // Time goes by.
     void wait(double seconds) { clock += seconds; }
 
     bool isSounding() const { return !sounds.empty(); }
+    // The sound that is playing, or null.
+    const Sound* sounding() const { return isSounding() ? &sounds.front() : nullptr; }
+    // The code whose script the next step runs; none when there is nothing to run before the sound
+    // has ended, or at all.
+    std::optional<uint16_t> nextCode() const;
+    // The line of the script, from 0, that a step would run now; none without script, and when no
+    // line fits.
+    std::optional<size_t> fittingLine(uint16_t code) const;
+    const PenGame& playedGame() const { return game; }
     // Simulated, since the pen was made.
     double seconds() const { return clock; }
     // Scripts run since the pen was made.
@@ -106,6 +120,7 @@ public:
 private:
     std::optional<uint16_t> takeNext();
     void run(uint16_t code);
+    std::optional<size_t> fittingLine(const Script& script) const;
     bool holdsAll(const Line& line) const;
     bool holds(const Condition& condition) const;
     void runLine(uint16_t code, size_t index, const Line& line);
@@ -118,10 +133,11 @@ private:
     void finishLine();
     void startSounds(const std::vector<Sound>& list);
     void cutOff();
+    void setScripts();
     unsigned chance(unsigned count);
     uint16_t valueOf(const Operand& operand) const;
 
-    const PenGame game;
+    PenGame game;
     const PenOptions options;
     PenListener& listener;
     std::vector<const Script*> scripts;  // by code; null where there is none

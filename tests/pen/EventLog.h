@@ -34,6 +34,10 @@ public:
     {
         note("division by zero in line " + std::to_string(line) + " of " + std::to_string(code));
     }
+    void wrapped(uint16_t number, int64_t result) override
+    {
+        note("$" + std::to_string(number) + " would be " + std::to_string(result));
+    }
     void limitReached(uint64_t steps) override
     {
         note("limit after " + std::to_string(steps) + " steps");
