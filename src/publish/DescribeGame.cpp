@@ -1,6 +1,7 @@
 #include "publish/DescribeGame.h"
 
 #include <limits>
+#include <utility>
 
 #include "base/TextHelpers.h"
 #include "oid/OidProject.h"
@@ -151,8 +152,8 @@ void GameDescriber::report(Diagnostic diagnostic, const char* kind, const std::s
 
 }  // namespace
 
-std::optional<gme::Description> describeGame(const Oid::OidProject& project,
-                                             const DiagnosticSink& sink, bool debugMode)
+std::optional<DescribedBook> describeBook(const Oid::OidProject& project,
+                                          const DiagnosticSink& sink, bool debugMode)
 {
     Oid::OidProject outline = outlineOf(project);
     outline.compiler.reportTo(sink);
@@ -160,5 +161,17 @@ std::optional<gme::Description> describeGame(const Oid::OidProject& project,
     if (!compileScript(outline.compiler, debugMode) || !outline.checkSanity(sink)) {
         return std::nullopt;
     }
-    return GameDescriber(outline, sink).describe();
+    std::optional<gme::Description> game = GameDescriber(outline, sink).describe();
+    if (!game) {
+        return std::nullopt;
+    }
+    return DescribedBook{std::move(*game), std::move(outline.compiler.talkTexts),
+                         std::move(outline.compiler.voices)};
+}
+
+std::optional<gme::Description> describeGame(const Oid::OidProject& project,
+                                             const DiagnosticSink& sink, bool debugMode)
+{
+    std::optional<DescribedBook> book = describeBook(project, sink, debugMode);
+    return book ? std::make_optional(std::move(book->game)) : std::nullopt;
 }

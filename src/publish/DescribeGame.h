@@ -1,9 +1,12 @@
 #pragma once
 
+#include <map>
 #include <optional>
+#include <string>
 
 #include "base/Diagnostic.h"
 #include "gme/Description.h"
+#include "ttbasic/ttbasic.h"
 
 namespace Oid {
 class OidProject;
@@ -18,3 +21,15 @@ class OidProject;
 // of a build; none after an error.
 std::optional<gme::Description> describeGame(const Oid::OidProject& project,
                                              const DiagnosticSink& sink, bool debugMode = false);
+
+// A game and what its audio says.
+struct DescribedBook
+{
+    gme::Description game;
+    std::map<std::string, ttbasic::TALKTEXT> texts;  // by audio name, the welcome included
+    std::map<std::string, ttbasic::VOICE> voices;    // by name
+};
+
+// As describeGame.
+std::optional<DescribedBook> describeBook(const Oid::OidProject& project,
+                                          const DiagnosticSink& sink, bool debugMode = false);

@@ -225,6 +225,20 @@ TEST(DescribeGame, OfAnOpenSubIsNoGame)
     EXPECT_EQ(found[0].line, 2);
 }
 
+TEST(DescribeBook, TellsWhatTheAudioSaysAndWhoSpeaksIt)
+{
+    const auto book = describeBook(projectWith(kLion, {"lion", "den"}), [](const Diagnostic&) {});
+    ASSERT_TRUE(book.has_value());
+    std::vector<std::string> texts;
+    for (const auto& [name, text] : book->texts) {
+        texts.push_back(name + ", " + text.voice + ": " + text.text);
+    }
+    EXPECT_THAT(texts,
+                ElementsAre("_welcome_message_text, adam: Zoo. Start.", "say_adam_Roar, adam: Roar",
+                            "say_eve_Eins, eve: Eins", "say_eve_One, eve: One"));
+    EXPECT_EQ(book->voices.size(), 2U);
+}
+
 TEST(DescribeGame, CanBeDoneOnSeveralThreads)
 {
     const Oid::OidProject project = projectWith(kLion, {"lion", "den"});
