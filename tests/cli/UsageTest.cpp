@@ -25,7 +25,8 @@ TEST(Usage, HelpNamesEveryCommandOnStandardOutput)
           "\n  yaml PROJECT [--debug] [-o FILE]\n", "\n  save PROJECT -o FILE\n",
           "\n  print PROJECT [--picture N]\n", "\n  tile OID -o FILE [--size PIXELS]\n",
           "\n  assemble FILE.yaml [OUT.gme] [-o OUT.gme] [--no-date] [--latin1]\n",
-          "\n  build PROJECT [--debug]\n", "\n  copy PROJECT\n"}) {
+          "\n  build PROJECT [--debug]\n", "\n  copy PROJECT\n",
+          "\n  play FILE.gme|PROJECT [--seed N] [--json]\n"}) {
         EXPECT_THAT(run.out, HasSubstr(usage));
     }
 }

@@ -24,7 +24,8 @@ QProcessEnvironment environmentWith(const std::vector<std::string>& settings)
 }  // namespace
 
 ProgramRun runProgram(const std::string& program, const std::vector<std::string>& words,
-                      const std::vector<std::string>& environment, const std::string& folder)
+                      const std::vector<std::string>& environment, const std::string& folder,
+                      const std::string& input)
 {
     Platform::useUtf8ForSystemTexts();
     QStringList arguments;
@@ -35,6 +36,8 @@ ProgramRun runProgram(const std::string& program, const std::vector<std::string>
     process.setProcessEnvironment(environmentWith(environment));
     process.setWorkingDirectory(QString::fromStdString(folder));
     process.start(QString::fromStdString(program), arguments);
+    process.write(input.data(), static_cast<qint64>(input.size()));
+    process.closeWriteChannel();
     if (!process.waitForFinished(kPatience) || process.exitStatus() != QProcess::NormalExit) {
         throw std::runtime_error(program + " did not end by itself");
     }

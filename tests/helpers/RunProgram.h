@@ -11,10 +11,11 @@ struct ProgramRun
     std::string err;
 };
 
-// Environment settings are "NAME=value". Throws when the program does not end by itself.
+// Environment settings are "NAME=value"; the input is all of standard input. Throws when the
+// program does not end by itself.
 ProgramRun runProgram(const std::string& program, const std::vector<std::string>& words,
                       const std::vector<std::string>& environment = {},
-                      const std::string& folder = "");
+                      const std::string& folder = "", const std::string& input = "");
 
 // The whole result in one text: "status 0\n", then standard output, then "stderr: " and the
 // standard error unless that is empty.

@@ -34,6 +34,7 @@ Command tileCommand();
 Command assembleCommand();
 Command buildCommand();
 Command copyCommand();
+Command playCommand();
 
 // Reports what is wrong with the command line on standard error and returns kUsageError.
 int usageError(const std::string& message);

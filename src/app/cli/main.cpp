@@ -19,9 +19,9 @@ constexpr char kFootline[] =
 
 std::vector<Command> commands()
 {
-    return {checkCommand(), yamlCommand(),     saveCommand(),     printCommand(),
-            pdfCommand(),   symbolsCommand(),  testPageCommand(), readCommand(),
-            tileCommand(),  assembleCommand(), buildCommand(),    copyCommand()};
+    return {checkCommand(),   yamlCommand(),     saveCommand(), printCommand(), pdfCommand(),
+            symbolsCommand(), testPageCommand(), readCommand(), tileCommand(),  assembleCommand(),
+            buildCommand(),   copyCommand(),     playCommand()};
 }
 
 // "  check PROJECT [--debug]", its summary, and a line for each option.
