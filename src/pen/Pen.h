@@ -95,6 +95,8 @@ public:
     void changeGame(PenGame newGame);
     // Steps and hears all sounds until nothing is left to do. False when the limit was reached.
     bool runToRest();
+    // Chance begins anew.
+    void setSeed(uint64_t seed) { random.seed(seed); }
     // Time goes by.
     void wait(double seconds) { clock += seconds; }
 

@@ -88,6 +88,8 @@ public:
     void start();  // switches the book on: first values, welcome
     void tap(uint16_t code);
     void wait(double seconds);
+    // From here on chance is that of the seed. No outcome begins.
+    void setSeed(uint64_t seed) { pen.setSeed(seed); }
 
     // --- Going on --------------------------------------------------------------------------------
     enum class Pause {
