@@ -26,7 +26,8 @@ TEST(Usage, HelpNamesEveryCommandOnStandardOutput)
           "\n  print PROJECT [--picture N]\n", "\n  tile OID -o FILE [--size PIXELS]\n",
           "\n  assemble FILE.yaml [OUT.gme] [-o OUT.gme] [--no-date] [--latin1]\n",
           "\n  build PROJECT [--debug]\n", "\n  copy PROJECT\n",
-          "\n  play FILE.gme|PROJECT [--seed N] [--json]\n"}) {
+          "\n  play FILE.gme|PROJECT [--seed N] [--json]\n",
+          "\n  test PROJECT [FILE...] [--coverage] [--explore N] [--seed N]\n"}) {
         EXPECT_THAT(run.out, HasSubstr(usage));
     }
 }

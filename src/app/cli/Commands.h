@@ -35,6 +35,7 @@ Command assembleCommand();
 Command buildCommand();
 Command copyCommand();
 Command playCommand();
+Command testCommand();
 
 // Reports what is wrong with the command line on standard error and returns kUsageError.
 int usageError(const std::string& message);

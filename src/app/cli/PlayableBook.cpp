@@ -38,8 +38,17 @@ std::optional<play::Book> openGameFile(const std::string& path)
     return book;
 }
 
-std::optional<play::Book> openProjectToPlay(const std::string& path)
+}  // namespace
+
+std::optional<play::Book> openBook(const std::string& path)
 {
+    setDefaultPrintf(printToStandardError);
+    return isGameFile(path) ? openGameFile(path) : openBookOfProject(path);
+}
+
+std::optional<play::Book> openBookOfProject(const std::string& path)
+{
+    setDefaultPrintf(printToStandardError);
     Oid::OidProject project;
     if (!Oid::openProject(project, path)) {
         return std::nullopt;
@@ -49,14 +58,6 @@ std::optional<play::Book> openProjectToPlay(const std::string& path)
         measureSounds(*book);
     }
     return book;
-}
-
-}  // namespace
-
-std::optional<play::Book> openBook(const std::string& path)
-{
-    setDefaultPrintf(printToStandardError);
-    return isGameFile(path) ? openGameFile(path) : openProjectToPlay(path);
 }
 
 bool readSeed(const std::string& text, std::uint64_t& seed)

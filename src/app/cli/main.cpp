@@ -21,7 +21,7 @@ std::vector<Command> commands()
 {
     return {checkCommand(),   yamlCommand(),     saveCommand(), printCommand(), pdfCommand(),
             symbolsCommand(), testPageCommand(), readCommand(), tileCommand(),  assembleCommand(),
-            buildCommand(),   copyCommand(),     playCommand()};
+            buildCommand(),   copyCommand(),     playCommand(), testCommand()};
 }
 
 // "  check PROJECT [--debug]", its summary, and a line for each option.
