@@ -13,6 +13,8 @@ namespace {
 constexpr int kPenReach = 2;
 // Regions are made of stripes of this height.
 constexpr int kStripe = 16;
+// Of so many outlines it is told where each of them has changed.
+constexpr std::size_t kFewOutlines = 32;
 
 QRect withPen(QRect rect)
 {
@@ -128,28 +130,25 @@ AreaOutlines::AreaOutlines(const std::vector<Oid::POLY>& areas, const std::vecto
 
 void AreaOutlines::draw(QPainter& painter, const QRegion& region) const
 {
+    const Outline* last = nullptr;
     for (const Outline& outline : outlines) {
-        if (region.intersects(outline.place)) {
-            draw(painter, outline);
+        if (!region.intersects(outline.place)) {
+            continue;
         }
-    }
-}
-
-void AreaOutlines::draw(QPainter& painter, const Outline& outline)
-{
-    painter.setPen(outline.selected ? QColor(255, 32, 32) : QColor(32, 96, 255));
-    painter.setBrush(outline.selected ? QColor(255, 32, 32, 64) : QColor(0, 255, 196, 64));
-    painter.drawPolygon(outline.corners, Qt::OddEvenFill);
-    if (outline.corners.size() == 1) {
-        painter.drawPoint(outline.corners[0]);  // the first corner of a new area
+        if (last == nullptr || last->selected != outline.selected) {
+            painter.setPen(outline.selected ? QColor(255, 32, 32) : QColor(32, 96, 255));
+            painter.setBrush(outline.selected ? QColor(255, 32, 32, 64) : QColor(0, 255, 196, 64));
+        }
+        last = &outline;
+        painter.drawPolygon(outline.corners, Qt::OddEvenFill);
+        if (outline.corners.size() == 1) {
+            painter.drawPoint(outline.corners[0]);  // the first corner of a new area
+        }
     }
 }
 
 QRegion AreaOutlines::difference(const Outline& a, const Outline& b, QRect bounds)
 {
-    if (a == b) {
-        return {};
-    }
     if (a.selected != b.selected || a.corners.isEmpty() || b.corners.isEmpty()) {
         return QRegion(a.place & bounds) + (b.place & bounds);
     }
@@ -162,12 +161,33 @@ QRegion AreaOutlines::differenceTo(const AreaOutlines& other, QRect bounds) cons
     const std::size_t count = outlines.size() - begin - end;
     const std::size_t otherCount = other.outlines.size() - begin - end;
     const Outline none;
-    QRegion region;
+    std::vector<std::pair<const Outline*, const Outline*>> unlike;
+    const auto compare = [&](const Outline& here, const Outline& there) {
+        const bool isSeen = here.place.intersects(bounds) || there.place.intersects(bounds);
+        if (isSeen && !(here == there)) {
+            unlike.emplace_back(&here, &there);
+        }
+    };
     for (std::size_t i = 0; i < std::max(count, otherCount); ++i) {
         const Outline& here = i < count ? outlines[begin + i] : none;
         const Outline& there = i < otherCount ? other.outlines[begin + i] : none;
-        region += count == otherCount ? difference(here, there, bounds)
-                                      : QRegion(here.place & bounds) + (there.place & bounds);
+        if (count == otherCount) {
+            compare(here, there);
+        } else {
+            compare(here, none);
+            compare(none, there);
+        }
+    }
+    if (unlike.size() > kFewOutlines) {
+        QRect around;
+        for (const auto& [here, there] : unlike) {
+            around |= here->place | there->place;
+        }
+        return around & bounds;
+    }
+    QRegion region;
+    for (const auto& [here, there] : unlike) {
+        region += difference(*here, *there, bounds);
     }
     return region;
 }

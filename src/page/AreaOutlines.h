@@ -27,7 +27,8 @@ public:
     void draw(QPainter& painter, const QRegion& region) const;
 
     // All pixels within the bounds on which these and those do not look alike, and not many more:
-    // the way of a dragged corner, and not the area that it belongs to.
+    // the way of a dragged corner, and not the area that it belongs to. When there are many, it is
+    // the one rectangle in which they lie: to tell them apart would take longer than to paint it.
     QRegion differenceTo(const AreaOutlines& other, QRect bounds) const;
 
 private:
@@ -43,7 +44,6 @@ private:
         bool selected = false;
     };
 
-    static void draw(QPainter& painter, const Outline& outline);
     static QRegion difference(const Outline& a, const Outline& b, QRect bounds);
 
     std::vector<Outline> outlines;

@@ -1,6 +1,7 @@
 #include "page/PictureScaler.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -117,6 +118,14 @@ PictureScaler::PictureScaler(QImage original, QSize scaledSize)
 QImage::Format PictureScaler::format() const
 {
     return picture.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
+}
+
+qint64 PictureScaler::workFor(QRect part) const
+{
+    constexpr double kMaking = 8;  // of one pixel
+    const double perColumn = double(picture.width()) / scaled.width();
+    const double perRow = std::max(2.0, double(picture.height()) / scaled.height());
+    return std::llround(double(part.width()) * part.height() * (perColumn * perRow + kMaking));
 }
 
 void PictureScaler::make(QRect part, QImage& image, QPoint origin) const

@@ -16,6 +16,9 @@ public:
     // What images of parts have: Format_RGB32, with transparency Format_ARGB32_Premultiplied.
     QImage::Format format() const;
 
+    // So much work is it to make a part, compared with others: about the time in which so many
+    // pixels of the picture are read.
+    qint64 workFor(QRect part) const;
     // Makes the part, which lies within the scaled picture, in an image of that format, whose pixel
     // (0, 0) is this one of the scaled picture.
     void make(QRect part, QImage& image, QPoint origin) const;

@@ -5,16 +5,21 @@
 #include "page/PageAccessible.h"
 #include "page/PageTool.h"
 
+#include <QBackingStore>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTimerEvent>
 #include <QToolTip>
 #include <QWheelEvent>
 
 #include <algorithm>
 #include <utility>
+
+// ms; who zooms on sooner has no use for a sharp page in between.
+constexpr int kRest = 20;
 
 PolyEditorWidget::PolyEditorWidget(QWidget* parent) : QWidget(parent)
 {
@@ -33,6 +38,7 @@ PolyEditorWidget::PolyEditorWidget(QWidget* parent) : QWidget(parent)
 void PolyEditorWidget::setDocument(Document* shown)
 {
     document = shown;
+    areasAreKnown = false;
     connect(document, &Document::changed, this, &PolyEditorWidget::showChange);
 }
 
@@ -302,7 +308,12 @@ void PolyEditorWidget::showChange(const Change& change)
     }
     const bool otherPage = picture() == nullptr || tiles.isEmpty() ||
                            document->project().pathImageSource(currentPicture()) != loadedPath;
-    updateSoon(otherPage ? rect() : takeChangedAreas() + takeChangedMarks(seen()));
+    if (otherPage) {
+        areasAreKnown = false;
+        updateSoon(rect());
+    } else {
+        updateSoon(takeChangedAreas() + takeChangedMarks(seen()));
+    }
 }
 
 void PolyEditorWidget::updateSoon(const QRegion& region)
@@ -324,6 +335,7 @@ QRegion PolyEditorWidget::takeChangedAreas()
         selected.push_back(document->placeOf(area).index);
     }
     AreaOutlines areas(picture()->polys, selected, {page.width, {0, 0}});
+    areasAreKnown = true;
     return tiles.showAreas(std::move(areas), seen().translated(-page.origin))
         .translated(page.origin);
 }
@@ -344,7 +356,10 @@ QRegion PolyEditorWidget::takeChanges()
     const int pageWidth = view().width;
     const QSize page(pageWidth, heightForWidth(pageWidth));
     const bool otherPage = tiles.showPicture(image, page, devicePixelRatioF(), seen().width());
-    const QRegion changed = takeChangedAreas();
+    if (otherPage) {
+        sharpening.stop();
+    }
+    const QRegion changed = otherPage || !areasAreKnown ? takeChangedAreas() : QRegion();
     return otherPage ? rect() : changed;
 }
 
@@ -358,6 +373,7 @@ void PolyEditorWidget::paintEvent(QPaintEvent* event)
     if (picture() == nullptr || !rect().isValid()) {
         tiles.clear();
         marks = {};
+        areasAreKnown = false;
         return;
     }
     const QRect painted = seen() | event->rect();  // an image of the widget has more
@@ -368,11 +384,37 @@ void PolyEditorWidget::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.translate(origin);
     const QRegion region = event->region().translated(-origin);
-    tiles.paint(painter, region);
+    const auto look = isPaintedOnScreen() ? PageTiles::Look::quick : PageTiles::Look::final;
+    if (tiles.paint(painter, region, look) && !sharpening.isActive()) {
+        sharpening.start(kRest, this);
+    }
     tiles.paintBeside(painter, region);
     painter.translate(-origin);
     marks.draw(painter, event->region());
     tiles.keepWithin(kept);
+}
+
+// Images of the widget, also those for a printer, are made by the same event.
+bool PolyEditorWidget::isPaintedOnScreen() const
+{
+    QPoint offset;
+    QBackingStore* const screen = window()->backingStore();
+    return screen != nullptr && redirected(&offset) == screen->paintDevice();
+}
+
+// Step by step, so that mouse and keys are not kept waiting.
+void PolyEditorWidget::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != sharpening.timerId()) {
+        QWidget::timerEvent(event);
+        return;
+    }
+    updateSoon(tiles.sharpen().translated(view().origin));
+    if (tiles.isSharp()) {
+        sharpening.stop();
+    } else {
+        sharpening.start(0, this);
+    }
 }
 
 void PolyEditorWidget::readCurrentImage()

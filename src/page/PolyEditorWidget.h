@@ -5,6 +5,7 @@
 #include "page/PageTiles.h"
 #include "page/PageView.h"
 
+#include <QBasicTimer>
 #include <QImage>
 #include <QWidget>
 
@@ -66,6 +67,9 @@ public:
 
     // Paints what has changed in the document at once, not only when nothing else is to be done.
     void paintChanges();
+    // Whether the picture is on the screen as it is in the end. After zooming a large one is shown
+    // roughly, and sharpened when mouse and keys rest.
+    bool isSharp() const { return tiles.isSharp(); }
 
     std::string loadedPath;  // where the image came from; emptied to have it loaded again
 
@@ -88,12 +92,14 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     void showTip(const QHelpEvent& event);
     void readImage(const QString& path);
     void readCurrentImage();
     void askForHeight();
+    bool isPaintedOnScreen() const;
 
     void showChange(const Change& change);
     void updateSoon(const QRegion& region);
@@ -107,6 +113,8 @@ private:
     QImage image;
     bool isPlaceholder = true;
     PageTiles tiles;
+    bool areasAreKnown = false;             // to the tiles, as they are in the document
+    QBasicTimer sharpening;                 // while what is on the screen is not sharp yet
     PageMarks marks;                        // as they are shown
     const PageTool* pressedTool = nullptr;  // that got the last press; only to be compared
     int wheelRest = 0;                      // of a step that the wheel has begun

@@ -67,7 +67,15 @@ public:
         rest();
     }
 
-    QImage screen() const { return window.screen()->grabWindow(window.winId()).toImage(); }
+    // As it is in the end.
+    QImage screen() const
+    {
+        while (!editor->isSharp()) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        rest();
+        return window.screen()->grabWindow(window.winId()).toImage();
+    }
 
     static void rest() { QCoreApplication::processEvents(); }
 
@@ -257,6 +265,25 @@ private slots:
                 QVERIFY2(shown == fresh.screen(),
                          qPrintable(QString("seed %1, step %2").arg(seed).arg(step)));
             }
+        }
+    }
+
+    void manyAreasMovedAtOnceLookAsInANewWindow()
+    {
+        Book book(2);
+        for (int i = 0; i < 60; ++i) {
+            book.document.apply(edit::AddArea{0, book.anyArea()});
+        }
+        PageWindow page(book.document, {300, 260});
+        std::vector<AreaId> all;
+        for (int i = 0; i < 72; ++i) {
+            all.push_back(book.document.areaAt(0, i));
+        }
+        for (int step = 0; step < 4; ++step) {
+            book.document.apply(edit::MoveAreas{all, {3.0 - step, 2}});
+            page.editor->paintChanges();
+            const PageWindow fresh(book.document, {300, 260});
+            QVERIFY2(page.screen() == fresh.screen(), qPrintable(QString::number(step)));
         }
     }
 

@@ -8,6 +8,7 @@
 
 #include <QContextMenuEvent>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStyleHints>
@@ -70,6 +71,29 @@ struct Zoomed
         QImage image(size, QImage::Format_RGB32);
         image.fill(QColor(255, 255, 255));
         image.save(QString::fromStdString(folder.file("900-bkgnd0.jpg")));
+    }
+
+    void saveStripes(QSize size)
+    {
+        QImage image(size, QImage::Format_RGB32);
+        for (int y = 0; y < size.height(); ++y) {
+            auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
+            for (int x = 0; x < size.width(); ++x) {
+                line[x] = x % 2 == 0 ? qRgb(0, 0, 0) : qRgb(255, 255, 255);
+            }
+        }
+        image.save(QString::fromStdString(folder.file("900-bkgnd0.jpg")), "png");
+    }
+
+    QImage screen() const { return area.screen()->grabWindow(area.winId()).toImage(); }
+    QImage screenInTheEnd() const
+    {
+        rest();
+        while (!page->isSharp()) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        rest();
+        return screen();
     }
 
     static void rest()
@@ -537,6 +561,41 @@ private slots:
                     page.height() == w.page->heightForWidth(page.width()));
         }
         QCOMPARE(w.tool.notes, QStringList());
+    }
+
+    // The picture has the columns of single pixels black and white, so what is roughly shown of it
+    // is not what is shown in the end.
+    void aLargePictureIsSharpenedWhenTheWheelRests()
+    {
+        Zoomed w;
+        w.saveStripes({4000, 3000});
+        w.page->loadedPath.clear();
+        w.page->update();
+        w.screenInTheEnd();
+        w.wheel({200, 150}, 240, Qt::ControlModifier);
+        w.page->repaint();
+        QVERIFY(!w.page->isSharp());
+        const QImage rough = w.screen();
+        QVERIFY(w.screenInTheEnd() != rough);
+        const QImage sharp = w.screen();
+
+        w.page->loadedPath.clear();
+        w.page->repaint();
+        QVERIFY(!w.page->isSharp());
+        QVERIFY(w.screen() != sharp);
+        QCOMPARE(w.screenInTheEnd(), sharp);
+    }
+
+    void anImageOfAPageThatIsRoughOnTheScreenIsSharp()
+    {
+        Zoomed w;
+        w.saveStripes({4000, 3000});
+        w.page->loadedPath.clear();
+        w.page->repaint();
+        QVERIFY(!w.page->isSharp());
+        const QImage first = w.page->grab().toImage();
+        QTRY_VERIFY(w.page->isSharp());
+        QCOMPARE(w.page->grab().toImage(), first);
     }
 };
 
