@@ -9,7 +9,11 @@
 namespace {
 
 constexpr int kLargestReadableOid = 15000;
-constexpr std::size_t kFewestCorners = 3;
+
+bool hasFewCorners(const Oid::POLY& area)
+{
+    return area.points.size() < 3;
+}
 
 }  // namespace
 
@@ -26,10 +30,9 @@ std::vector<AreaTableModel::Row> AreaTableModel::rowsNow() const
     std::vector<Row> now;
     const auto& pictures = document.project().pictures;
     for (int onPage = 0; onPage < static_cast<int>(pictures.size()); ++onPage) {
-        const auto count =
-            static_cast<int>(pictures[static_cast<std::size_t>(onPage)].polys.size());
-        for (int index = 0; index < count; ++index) {
-            now.push_back({document.areaAt(onPage, index), onPage});
+        int index = 0;
+        for (const Oid::POLY& area : pictures[static_cast<std::size_t>(onPage)].polys) {
+            now.push_back({document.areaAt(onPage, index++), onPage, hasFewCorners(area)});
         }
     }
     return now;
@@ -75,7 +78,7 @@ int AreaTableModel::numberOf(const Oid::POLY& area) const
 QStringList AreaTableModel::warningsOf(const Oid::POLY& area) const
 {
     QStringList all;
-    if (area.points.size() < kFewestCorners) {
+    if (hasFewCorners(area)) {
         all << tr("Fewer than three corners");
     }
     if (check.names().count(area.name) == 0) {
@@ -153,15 +156,34 @@ void AreaTableModel::showChange(const Change& change)
     if (change.has(Change::pages) || change.has(Change::areas)) {
         showRows();
     }
+    if (change.has(Change::corners)) {
+        showFewCorners(change.changed);
+    }
     if (change.has(Change::numbers)) {
         tellAll(name, warnings);  // a number is that of all areas of its name
         return;
     }
-    if (change.has(Change::names) || change.has(Change::corners)) {
+    if (change.has(Change::names)) {
         for (const AreaId area : change.changed) {
             if (const int row = rowOf(area); row >= 0) {
                 emit dataChanged(index(row, name), index(row, warnings));
             }
+        }
+    }
+}
+
+// Of its corners a row shows only whether they are too few: a drag of many areas is no news.
+void AreaTableModel::showFewCorners(const std::vector<AreaId>& areas)
+{
+    for (const AreaId area : areas) {
+        const int row = rowOf(area);
+        if (row < 0) {
+            continue;
+        }
+        bool& fewCorners = rows[static_cast<std::size_t>(row)].fewCorners;
+        if (const bool now = hasFewCorners(*areaAt(row)); now != fewCorners) {
+            fewCorners = now;
+            emit dataChanged(index(row, name), index(row, warnings));
         }
     }
 }

@@ -41,11 +41,13 @@ private:
     {
         AreaId area;
         int page;
+        bool fewCorners;
     };
 
     std::vector<Row> rowsNow() const;
     void showChange(const Change& change);
     void showRows();
+    void showFewCorners(const std::vector<AreaId>& areas);
     void tellAll(int first, int last);
     const Oid::POLY* areaAt(int row) const;
     int numberOf(const Oid::POLY& area) const;

@@ -73,7 +73,13 @@ AreasDock::AreasDock(Document& shown, const ScriptCheck& check, QWidget* parent)
     connect(table, &QTableView::clicked, this, &AreasDock::selectInDocument);
     connect(model, &AreaTableModel::renameAsked, this, &AreasDock::renameAsked);
     connect(table, &QTableView::doubleClicked, this, &AreasDock::codeAsked);
-    connect(&document, &Document::changed, this, &AreasDock::selectInTable);
+    connect(&document, &Document::changed, this, [this](const Change& change) {
+        constexpr unsigned kNotInList = Change::corners | Change::paper | Change::pictureFile |
+                                        Change::history | Change::product;
+        if ((change.what & ~kNotInList) != 0) {
+            selectInTable();
+        }
+    });
 }
 
 void AreasDock::prepareTable()

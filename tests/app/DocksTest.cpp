@@ -332,9 +332,17 @@ private slots:
         QSignalSpy changed(source, &QAbstractItemModel::dataChanged);
         w.get<PolyEditorWidget>("polyArea")->setFocus();
         QTest::keyClick(w.get<PolyEditorWidget>("polyArea"), Qt::Key_Right);
+        QCOMPARE(changed.size(), 0);  // where an area lies is not in the list
+        Document& document = *w.get<PolyEditorWidget>("polyArea")->shownDocument();
+        document.apply(edit::SetCorners{document.selectedArea(), {{1, 1}, {2, 2}}});
+        QCOMPARE(w.cell(3, AreaTableModel::warnings),
+                 QString("Fewer than three corners, Not in the script"));
         QCOMPARE(changed.size(), 1);
         QCOMPARE(changed[0][0].toModelIndex().row(), 3);
         QCOMPARE(changed[0][1].toModelIndex().row(), 3);
+        w.trigger("actionUndo");
+        QCOMPARE(w.cell(3, AreaTableModel::warnings), QString("Not in the script"));
+        QCOMPARE(changed.size(), 2);
         QTest::keyClick(w.get<PolyEditorWidget>("polyArea"), Qt::Key_Delete);
         QCOMPARE(removed.size(), 1);
         QCOMPARE(list.rowCount(), 1999);
