@@ -200,6 +200,22 @@ public:
         QCoreApplication::processEvents();
     }
 
+    // As a wheel does it over the point.
+    void zoomBy(double factor, const Oid::PNT& point)
+    {
+        editor->resize((QSizeF(editor->size()) * factor).toSize());
+        show(point);
+        waitUntilSharp();
+    }
+
+    void waitUntilSharp() const
+    {
+        QCoreApplication::processEvents();
+        while (!editor->isSharp()) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+    }
+
     QScrollArea window;
     PolyEditorWidget* const editor;  // the scroll area's
 };
@@ -258,7 +274,7 @@ bool measureDrags(Book& book)
 constexpr QSize kFineScreen(3840, 2160);
 
 // A program that shows a page of the scan, or only has it in memory. The page is scrolled to where
-// its pixels lie least well.
+// its pixels lie least well, and zoomed.
 int showPage(QSize viewport, int zoom, const QString& projectPath, bool shown)
 {
     Document document;
@@ -268,7 +284,13 @@ int showPage(QSize viewport, int zoom, const QString& projectPath, bool shown)
         document.select(-1, -1);
     }
     ShownPage page(document, viewport, zoom);
-    page.show({50.1, 30.1});
+    const Oid::PNT spot{50.1, 30.1};
+    page.show(spot);
+    page.waitUntilSharp();
+    if (shown) {
+        page.zoomBy(1 / 1.19, spot);
+        page.zoomBy(1.19, spot);
+    }
     return 0;
 }
 
