@@ -8,7 +8,6 @@ namespace pen {
 namespace {
 
 constexpr size_t kMostCommands = 8;  // of a line; the pen runs no more
-constexpr size_t kCodes = 65536;
 
 bool isPrintedProductId(uint32_t id)
 {
@@ -21,19 +20,10 @@ Pen::Pen(PenGame playedGame, PenOptions usedOptions, PenListener& usedListener)
     : game(std::move(playedGame)),
       options(usedOptions),
       listener(usedListener),
-      scripts(kCodes),
+      flat(game),
       registers(game.registers),
       random(usedOptions.seed)
-{
-    setScripts();
-}
-
-void Pen::setScripts()
-{
-    for (const auto& [code, script] : game.scripts) {
-        scripts[code] = &script;
-    }
-}
+{}
 
 void Pen::start()
 {
@@ -141,8 +131,7 @@ void Pen::changeGame(PenGame newGame)
     lastSounds.clear();
     game = std::move(newGame);
     registers = game.registers;
-    std::fill(scripts.begin(), scripts.end(), nullptr);
-    setScripts();
+    flat = FlatGame(game);
 }
 
 bool Pen::runToRest()
@@ -157,38 +146,36 @@ bool Pen::runToRest()
 // The first line whose conditions all hold runs, and no other.
 void Pen::run(uint16_t code)
 {
-    const Script* script = scripts[code];
-    if (script == nullptr) {
+    if (!flat.hasScript(code)) {
         listener.codeWithoutScript(code);
         return;
     }
     ++stepCount;
     ++stepsBehindTap;
     clock += options.stepSeconds;
-    const std::optional<size_t> line = fittingLine(*script);
+    const std::optional<size_t> line = fittingLine(code);
     if (!line) {
         listener.noLineFits(code);
         return;
     }
     listener.lineChosen(code, *line);
-    runLine(code, *line, (*script)[*line]);
+    runLine(code, *line);
 }
 
 std::optional<size_t> Pen::fittingLine(uint16_t code) const
 {
-    return scripts[code] != nullptr ? fittingLine(*scripts[code]) : std::nullopt;
+    const size_t count = flat.lineCount(code);
+    for (size_t i = 0; i < count; ++i) {
+        if (holdsAll(flat.line(code, i))) {
+            return i;
+        }
+    }
+    return std::nullopt;
 }
 
-std::optional<size_t> Pen::fittingLine(const Script& script) const
+bool Pen::holdsAll(const FlatGame::FlatLine& line) const
 {
-    const auto found = std::find_if(script.begin(), script.end(),
-                                    [this](const Line& line) { return holdsAll(line); });
-    return found != script.end() ? std::make_optional(found - script.begin()) : std::nullopt;
-}
-
-bool Pen::holdsAll(const Line& line) const
-{
-    return std::all_of(line.conditions.begin(), line.conditions.end(),
+    return std::all_of(line.conditions, line.conditions + line.conditionCount,
                        [this](const Condition& condition) { return holds(condition); });
 }
 
@@ -216,9 +203,10 @@ bool Pen::holds(const Condition& condition) const
     }
 }
 
-void Pen::runLine(uint16_t code, size_t index, const Line& line)
+void Pen::runLine(uint16_t code, size_t index)
 {
-    const size_t count = std::min(line.commands.size(), kMostCommands);
+    const FlatGame::FlatLine& line = flat.line(code, index);
+    const size_t count = std::min<size_t>(line.commandCount, kMostCommands);
     for (size_t i = 0; i < count; ++i) {
         const Command& command = line.commands[i];
         if (divides(command) && valueOf(command.value) == 0) {
@@ -238,11 +226,11 @@ bool Pen::divides(const Command& command) const
     return command.opcode == Arithmetic::kDivide || command.opcode == Arithmetic::kRemainder;
 }
 
-void Pen::runCommand(const Command& command, const Line& line)
+void Pen::runCommand(const Command& command, const FlatGame::FlatLine& line)
 {
     using namespace gme::Opcode;
     const uint16_t value = valueOf(command.value);
-    const auto all = static_cast<unsigned>(line.playList.size());
+    const auto all = line.playCount;
     switch (command.opcode) {
     case kJump:
         newJump = value;  // the last one counts
@@ -323,23 +311,23 @@ void Pen::calculate(const Command& command)
     setRegister(command.target, result);
 }
 
-void Pen::playOneOf(const Line& line, unsigned first, unsigned last)
+void Pen::playOneOf(const FlatGame::FlatLine& line, unsigned first, unsigned last)
 {
-    if (first > last || last >= line.playList.size()) {
+    if (first > last || last >= line.playCount) {
         return;
     }
-    const auto begin = line.playList.begin();
-    newSounds.push_back({{begin + first, begin + last + 1}, chance(last - first + 1)});
+    newSounds.push_back(
+        {{line.playList + first, line.playList + last + 1}, chance(last - first + 1)});
 }
 
-void Pen::playAll(const Line& line, unsigned first, unsigned last)
+void Pen::playAll(const FlatGame::FlatLine& line, unsigned first, unsigned last)
 {
-    for (unsigned i = first; i <= last && i < line.playList.size(); ++i) {
+    for (unsigned i = first; i <= last && i < line.playCount; ++i) {
         newSounds.push_back({{line.playList[i]}, 0});
     }
 }
 
-void Pen::playOrNot(const Line& line, unsigned position)
+void Pen::playOrNot(const FlatGame::FlatLine& line, unsigned position)
 {
     if (chance(2) == 0) {
         playAll(line, position, position);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pen/FlatGame.h"
 #include "pen/PenGame.h"
 
 #include <cstddef>
@@ -122,27 +123,25 @@ public:
 private:
     std::optional<uint16_t> takeNext();
     void run(uint16_t code);
-    std::optional<size_t> fittingLine(const Script& script) const;
-    bool holdsAll(const Line& line) const;
+    bool holdsAll(const FlatGame::FlatLine& line) const;
     bool holds(const Condition& condition) const;
-    void runLine(uint16_t code, size_t index, const Line& line);
+    void runLine(uint16_t code, size_t index);
     bool divides(const Command& command) const;
-    void runCommand(const Command& command, const Line& line);
+    void runCommand(const Command& command, const FlatGame::FlatLine& line);
     void calculate(const Command& command);
-    void playOneOf(const Line& line, unsigned first, unsigned last);
-    void playAll(const Line& line, unsigned first, unsigned last);
-    void playOrNot(const Line& line, unsigned position);
+    void playOneOf(const FlatGame::FlatLine& line, unsigned first, unsigned last);
+    void playAll(const FlatGame::FlatLine& line, unsigned first, unsigned last);
+    void playOrNot(const FlatGame::FlatLine& line, unsigned position);
     void finishLine();
     void startSounds(const std::vector<Sound>& list);
     void cutOff();
-    void setScripts();
     unsigned chance(unsigned count);
     uint16_t valueOf(const Operand& operand) const;
 
     PenGame game;
     const PenOptions options;
     PenListener& listener;
-    std::vector<const Script*> scripts;  // by code; null where there is none
+    FlatGame flat;
     std::vector<uint16_t> registers;
     std::mt19937_64 random;
 
