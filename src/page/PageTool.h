@@ -52,6 +52,10 @@ public:
     // The mouse is over the page no more.
     virtual void leave() {}
 
+    // Whether what the mouse has begun to drag follows it. Until the button goes up or this is
+    // given up, the page hears no other key and no other button.
+    virtual bool isDragging() const { return false; }
+
     // The wheel was turned by so many steps, away from the author. True when that is the tool's.
     virtual bool wheel(int /*steps*/) { return false; }
     // True when the key is the tool's; any other goes on to the window.

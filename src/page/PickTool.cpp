@@ -86,9 +86,9 @@ std::optional<Oid::PNT> wayOfKey(const QKeyEvent& event)
 
 Qt::CursorShape PickTool::cursor() const
 {
-    const bool isDragging = drag == Drag::corners || drag == Drag::areas;
+    const bool isMoving = drag == Drag::corners || drag == Drag::areas;
     const Hit::What spot = under().what;
-    if (isDragging || spot == Hit::corner) {
+    if (isMoving || spot == Hit::corner) {
         return Qt::SizeAllCursor;
     }
     return drag == Drag::frame || spot == Hit::edge ? Qt::CrossCursor : Qt::ArrowCursor;
@@ -244,8 +244,7 @@ void PickTool::stop()
 
 bool PickTool::giveUp()
 {
-    const bool isDragging = drag != Drag::none && drag != Drag::pressed && drag != Drag::over;
-    if (isDragging) {
+    if (isDragging() && drag != Drag::pressed) {
         document.takeBack(gesture);
         changed = false;
         drag = Drag::over;
@@ -427,8 +426,7 @@ void PickTool::chooseFramed()
 bool PickTool::key(const QKeyEvent& event, const PageView& view)
 {
     wentTo.reset();
-    const bool isDragging = drag != Drag::none && drag != Drag::pressed;
-    if (page() == nullptr || isDragging) {
+    if (page() == nullptr) {
         return false;
     }
     if (event.key() == Qt::Key_Delete) {

@@ -28,6 +28,7 @@ public:
     // area comes to the selected ones or leaves them.
     void click(const Oid::PNT& at) override;
     void leave() override { hover.reset(); }
+    bool isDragging() const override { return drag != Drag::none && drag != Drag::over; }
 
     bool key(const QKeyEvent& event, const PageView& view) override;
     std::optional<Oid::PNT> place() const override;

@@ -177,7 +177,7 @@ bool PolyEditorWidget::event(QEvent* event)
     }
     // What Delete removes depends on where the mouse is: that is for the tool.
     if (event->type() == QEvent::ShortcutOverride &&
-        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete) {
+        (isDragging() || static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete)) {
         event->accept();
         return true;
     }
@@ -200,9 +200,18 @@ void PolyEditorWidget::showTip(const QHelpEvent& event)
                        tip.arg(areaName(here.front()), behind.join(", ")).toHtmlEscaped(), this);
 }
 
+bool PolyEditorWidget::isDragging() const
+{
+    return tool != nullptr && tool->isDragging();
+}
+
 void PolyEditorWidget::mousePressEvent(QMouseEvent* event)
 {
     if (tool == nullptr) {
+        return;
+    }
+    if (isDragging() && event->button() != Qt::LeftButton) {
+        rightClickIsTaken = true;
         return;
     }
     const PageMouse mouse = mouseOn(view(), *event);
@@ -253,6 +262,9 @@ void PolyEditorWidget::mouseReleaseEvent(QMouseEvent* event)
 
 void PolyEditorWidget::contextMenuEvent(QContextMenuEvent* event)
 {
+    if (isDragging()) {
+        return;
+    }
     if (event->reason() == QContextMenuEvent::Keyboard) {
         emit menuWanted(mapToGlobal(seen().center()), std::nullopt);
     } else if (!rightClickIsTaken) {
@@ -267,6 +279,17 @@ void PolyEditorWidget::leaveEvent(QEvent* event)
         showTool();
     }
     QWidget::leaveEvent(event);
+}
+
+// A button that is released while another window is in front may not be heard of.
+void PolyEditorWidget::focusOutEvent(QFocusEvent* event)
+{
+    if (isDragging() && event->reason() == Qt::ActiveWindowFocusReason) {
+        tool->stop();
+        releaseIsTaken = true;
+        showTool();
+    }
+    QWidget::focusOutEvent(event);
 }
 
 void PolyEditorWidget::wheelEvent(QWheelEvent* event)
@@ -288,6 +311,9 @@ void PolyEditorWidget::wheelEvent(QWheelEvent* event)
 
 void PolyEditorWidget::keyPressEvent(QKeyEvent* event)
 {
+    if (isDragging() && event->key() != Qt::Key_Escape) {
+        return;
+    }
     const bool isTools = tool != nullptr && ((event->key() == Qt::Key_Escape && tool->giveUp()) ||
                                              tool->key(*event, view()));
     if (!isTools) {

@@ -35,6 +35,7 @@ void ShapeTool::press(const PageMouse& mouse)
     if (mouse.button == Qt::LeftButton && page() != nullptr) {
         begun = mouse.at;
         end = mouse.at;
+        byMouse = true;
     }
 }
 
@@ -72,6 +73,7 @@ void ShapeTool::put(const Oid::PNT& at, const PageView& view)
     if (!begun) {
         begun = at;
         end = at;
+        byMouse = false;
     } else if (isLargeEnough(view)) {
         finish();
     }

@@ -13,6 +13,7 @@ public:
     void press(const PageMouse& mouse) override;
     bool release(const PageMouse& mouse) override;
     void click(const Oid::PNT& /*at*/) override {}
+    bool isDragging() const override { return begun && byMouse; }
     bool giveUp() override;
     void stop() override;
     void finish() override;
@@ -31,6 +32,7 @@ private:
 
     std::optional<Oid::PNT> begun;  // the first corner
     Oid::PNT end;
+    bool byMouse = false;  // the button is held since then
 };
 
 // Shift: a square.

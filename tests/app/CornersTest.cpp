@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScrollArea>
@@ -274,12 +275,95 @@ private slots:
         }
     }
 
+    void keysWaitUntilTheDragIsOver()
+    {
+        Book w({square(10, 10, 20), square(60, 20, 20)});
+        w.key(Qt::Key_C, Qt::ControlModifier);  // which can be pasted
+        const QPoint from = w.at(20, 25);
+        const QPoint to = w.at(30, 35);
+        w.drag(from, to, Qt::ControlModifier);
+        const std::string dragged = w.saved();
+        w.undo();
+        w.key(Qt::Key_Left);  // which can be undone
+        w.key(Qt::Key_Right);
+
+        const auto pressAll = [&] {
+            for (const Qt::Key key :
+                 {Qt::Key_Delete, Qt::Key_F2, Qt::Key_R, Qt::Key_Left, Qt::Key_Menu}) {
+                w.key(key);
+            }
+            for (const Qt::Key key : {Qt::Key_X, Qt::Key_D, Qt::Key_V, Qt::Key_Z, Qt::Key_Y,
+                                      Qt::Key_A, Qt::Key_PageDown, Qt::Key_Down, Qt::Key_Tab}) {
+                w.key(key, Qt::ControlModifier);
+            }
+        };
+        w.press(from, Qt::ControlModifier);
+        pressAll();
+        w.move((from + to) / 2, Qt::LeftButton, Qt::ControlModifier);
+        pressAll();
+        w.move(to, Qt::LeftButton, Qt::ControlModifier);
+        QCOMPARE(w.tab(), "Areas");
+        QCOMPARE(QApplication::activePopupWidget(), nullptr);
+        w.release(to, Qt::ControlModifier);
+        QCOMPARE(w.saved(), dragged);
+        w.undo();
+        QCOMPARE(w.saved(), w.before);
+    }
+
+    void escapeGivesTheDragUpAndCommandsAreHeardAgain()
+    {
+        Book w;
+        w.press(w.at(20, 25));
+        w.move(w.at(30, 35));
+        w.key(Qt::Key_Escape);
+        QCOMPARE(w.saved(), w.before);
+        w.key(Qt::Key_Delete);
+        QCOMPARE(w.page.picture()->polys.size(), std::size_t(0));
+        w.release(w.at(30, 35));
+        w.undo();
+        QCOMPARE(w.saved(), w.before);
+    }
+
+    void theRightButtonWaitsUntilTheDragIsOver()
+    {
+        Book w({square(10, 10, 20), square(60, 20, 20)});
+        const QPoint to = w.at(65, 38);
+        w.press(w.at(20, 25));
+        w.move(to);
+        QTest::mousePress(&w.page, Qt::RightButton, Qt::NoModifier, to);
+        QContextMenuEvent menu(QContextMenuEvent::Mouse, to, w.page.mapToGlobal(to));
+        QCoreApplication::sendEvent(&w.page, &menu);
+        QCOMPARE(QApplication::activePopupWidget(), nullptr);
+        QTest::mouseRelease(&w.page, Qt::RightButton, Qt::NoModifier, to);
+        w.release(to);
+        QCOMPARE(w.page.selectedPoly(), 0);
+        QVERIFY(w.saved() != w.before);
+    }
+
+    void aWindowThatComesInFrontEndsTheDragWhereItIs()
+    {
+        Book w;
+        w.press(w.at(20, 25));
+        w.move(w.at(30, 35));
+        const std::string there = w.saved();
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        w.move(w.at(50, 45));
+        w.release(w.at(50, 45));
+        QCOMPARE(w.saved(), there);
+        QCOMPARE(w.page.selectedPoly(), 0);
+        w.key(Qt::Key_Delete);
+        QCOMPARE(w.page.picture()->polys.size(), std::size_t(0));
+    }
+
     void undoInTheMiddleOfADragEndsIt()
     {
         Book w;
         w.press(w.at(30, 30));
         w.move(w.at(30, 30) + QPoint(50, 50));
-        w.undo();
+        w.trigger("actionUndo");
         QCOMPARE(w.saved(), w.before);
         w.move(w.at(30, 30) + QPoint(70, 70));
         w.release(w.at(30, 30) + QPoint(70, 70));
