@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <QToolBar>
 
+#include <utility>
+
 AreaTools::AreaTools(Document& edited, PickTool& pickTool, PolyEditorWidget& page, QLineEdit& name,
                      QToolBar& bar)
     : document(edited),
@@ -38,6 +40,7 @@ AreaTools::AreaTools(Document& edited, PickTool& pickTool, PolyEditorWidget& pag
     });
     page.setTool(chosen);
     page.installEventFilter(this);
+    connect(&document, &Document::changed, this, &AreaTools::pageShown);
 }
 
 void AreaTools::addButton(QToolBar& bar, const char* name, const QString& icon, const QString& text,
@@ -132,10 +135,53 @@ bool AreaTools::tellUnfinished()
 {
     const bool isUnfinished = chosen == &drawer && drawer.unfinished() != AreaId::none;
     if (isUnfinished) {
-        emit told(tr("The area \"%1\" has fewer than three corners. The pen will not find it.")
-                      .arg(nameOf(drawer.unfinished())));
+        emit told(unfinishedText());
     }
     return isUnfinished;
+}
+
+QString AreaTools::unfinishedText() const
+{
+    return tr("The area \"%1\" has fewer than three corners. The pen will not find it.")
+        .arg(nameOf(drawer.unfinished()));
+}
+
+// What is being dragged or proposed belongs to the page it was begun on.
+void AreaTools::pageShown()
+{
+    const PageId page = document.pageAt(document.currentPage());
+    if (std::exchange(lastPage, page) == page) {
+        return;
+    }
+    if (chosen == &drawer) {
+        tellGoingOn();
+    } else {
+        chosen->stop();
+        shownPage.showTool();
+    }
+}
+
+// Intended: corners are added on whatever page is shown. So that nobody does it unawares, it is
+// told.
+void AreaTools::tellGoingOn()
+{
+    QStringList sentences;
+    if (drawer.isElsewhere() && drawer.unfinished() != AreaId::none) {
+        sentences << unfinishedText();
+    }
+    const AreaId grows = drawer.lastOnPage();
+    sentences << (grows == AreaId::none
+                      ? tr("This page has no area to draw. \"+\" begins one.")
+                      : tr("Clicks now add corners to \"%1\", the last area of this page.")
+                            .arg(nameOf(grows)));
+    sentences << tr("\"%1\" ends drawing.").arg(QChar(0x2196));
+    emit told(sentences.join(' '));
+}
+
+void AreaTools::otherAreaGrew(AreaId area)
+{
+    emit told(tr("\"%1\", which was there before, has one more corner. Undo takes it back.")
+                  .arg(nameOf(area)));
 }
 
 QString AreaTools::nameOf(AreaId area) const
@@ -158,7 +204,7 @@ void AreaTools::areaMade(AreaId area)
 
 void AreaTools::makingGivenUp()
 {
-    choose(picker);
+    pick();
 }
 
 void AreaTools::tooFewCorners(AreaId area)

@@ -42,6 +42,7 @@ private:
     void areaMade(AreaId area) override;
     void makingGivenUp() override;
     void tooFewCorners(AreaId area) override;
+    void otherAreaGrew(AreaId area) override;
     void areaProposed(bool found, int tolerance) override;
     void proposalEnded() override;
 
@@ -50,8 +51,11 @@ private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void addHint(PageTool& tool, const QString& hint, const QKeySequence& key = {});
     void choose(PageTool& tool, bool silently = false);
+    void pageShown();
     // Whether there was one, and it was told.
     bool tellUnfinished();
+    QString unfinishedText() const;
+    void tellGoingOn();
     void tellTool();
     QString nameOf(AreaId area) const;
 
@@ -64,6 +68,7 @@ private:
     EllipseTool ellipse;
     MagicTool magic;
     PageTool* chosen;
+    PageId lastPage = PageId::none;  // that was shown
     std::map<PageTool*, QAction*> buttons;
     std::map<PageTool*, QString> hints;
 };

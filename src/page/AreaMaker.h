@@ -14,6 +14,8 @@ public:
     virtual void makingGivenUp() = 0;
     // The area was to be whole, and is not.
     virtual void tooFewCorners(AreaId area) = 0;
+    // A corner has come to an area that was there before.
+    virtual void otherAreaGrew(AreaId area) = 0;
     // What lies around the point is shown to be taken; or nothing does. The tolerance goes from 0
     // to 255.
     virtual void areaProposed(bool found, int tolerance) = 0;

@@ -11,8 +11,18 @@ const std::vector<Oid::PNT>* DrawTool::corners() const
 
 bool DrawTool::isLastOnPage() const
 {
-    return hasArea() && document.placeOf(area).page == document.currentPage() &&
-           document.placeOf(area).index == static_cast<int>(page()->polys.size()) - 1;
+    return area != AreaId::none && area == lastOnPage();
+}
+
+AreaId DrawTool::lastOnPage() const
+{
+    const int count = page() != nullptr ? static_cast<int>(page()->polys.size()) : 0;
+    return document.areaAt(document.currentPage(), count - 1);
+}
+
+bool DrawTool::isElsewhere() const
+{
+    return hasArea() && document.placeOf(area).page != document.currentPage();
 }
 
 AreaId DrawTool::unfinished() const
@@ -82,9 +92,10 @@ void DrawTool::click(const Oid::PNT& at)
     }
     std::vector<Oid::PNT> more = *corners();
     more.push_back(at);
-    const int last = static_cast<int>(page()->polys.size()) - 1;
-    document.apply(
-        edit::SetCorners{document.areaAt(document.currentPage(), last), std::move(more)});
+    const AreaId last = lastOnPage();
+    if (document.apply(edit::SetCorners{last, std::move(more)}) && last != area) {
+        listener.otherAreaGrew(last);
+    }
 }
 
 void DrawTool::put(const Oid::PNT& at, const PageView& view)
@@ -130,14 +141,12 @@ void DrawTool::finish()
     }
 }
 
+// An area that is out of sight stays.
 bool DrawTool::giveUp()
 {
-    if (hasArea() && !document.unmake(area)) {
-        const int onPage = document.placeOf(area).page;
+    if (hasArea() && !isElsewhere() && !document.unmake(area)) {
         document.apply(edit::RemoveArea{area});
-        if (onPage == document.currentPage()) {
-            document.select(onPage, -1);
-        }
+        document.select(document.currentPage(), -1);
     }
     listener.makingGivenUp();
     return true;

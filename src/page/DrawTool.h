@@ -21,7 +21,11 @@ public:
     int begin();
     // Whether the area of the last begin is on any page.
     bool hasArea() const { return document.placeOf(area).page >= 0; }
-    // That area when it is, and has fewer corners than an area needs; else none.
+    // Whether it is on another page than the current one, because that was turned.
+    bool isElsewhere() const;
+    // The one that clicks add corners to; none on a page without areas.
+    AreaId lastOnPage() const;
+    // The area of the last begin when it is, and has fewer corners than an area needs; else none.
     AreaId unfinished() const;
 
     static constexpr std::size_t kLeastCorners = 3;

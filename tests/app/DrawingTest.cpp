@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QLineEdit>
+#include <QListView>
 #include <QPainter>
 #include <QSpinBox>
 #include <QToolBar>
@@ -321,6 +322,124 @@ private slots:
                  "The area \"polygon2\" has fewer than three corners. The pen will not find it.");
         QCOMPARE(p.areas().size(), std::size_t(2));
         p.isUndoneInSteps(3);
+    }
+
+    // The second one has the area "hen", the third one has none.
+    static void openThreePages(Page& p)
+    {
+        p.w.makePicture("900-bkgnd1.jpg", {400, 200});
+        p.w.open(projectFile({kCow,
+                              "OID 1002\r\nPOLY hen\r\n       10.00    10.00\r\n"
+                              "       20.00    10.00\r\n       20.00    20.00\r\nEND\r\n\r\n",
+                              ""}),
+                 3);
+        p.w.get<QTabWidget>("ribbonTab")->setCurrentWidget(p.w.get<QWidget>("tabAreas"));
+        p.before = p.w.saved();
+    }
+
+    void whereDrawingGoesOnIsToldWhenThePageIsTurned()
+    {
+        Page p;
+        openThreePages(p);
+        p.w.click("btAddPoly");
+        p.click(10, 40);
+        p.w.click("btNextPicture");
+        QCOMPARE(p.w.status(),
+                 u8"The area \"polygon2\" has fewer than three corners. The pen will not find it. "
+                 u8"Clicks now add corners to \"hen\", the last area of this page. \"\u2196\" ends "
+                 u8"drawing.");
+        p.w.click("btNextPicture");
+        QCOMPARE(p.w.status(),
+                 u8"The area \"polygon2\" has fewer than three corners. The pen will not find it. "
+                 u8"This page has no area to draw. \"+\" begins one. \"\u2196\" ends drawing.");
+    }
+
+    void pagesThatAreTurnedInTheListAreToldToo()
+    {
+        Page p;
+        openThreePages(p);
+        p.w.click("btAddPoly");
+        p.click(10, 40);
+        p.click(30, 40);
+        p.click(30, 20);
+        auto* const list = p.w.get<QListView>("pageList");
+        QTest::keyClick(list, Qt::Key_Down);
+        QCOMPARE(p.w.status(),
+                 u8"Clicks now add corners to \"hen\", the last area of this page. \"\u2196\" ends "
+                 u8"drawing.");
+        QTest::keyClick(list, Qt::Key_Up);
+        QCOMPARE(p.w.status(),
+                 u8"Clicks now add corners to \"polygon2\", the last area of this page. "
+                 u8"\"\u2196\" ends drawing.");
+    }
+
+    void aCornerThatCameToAnAreaOfBeforeIsTold()
+    {
+        Page p;
+        openThreePages(p);
+        p.w.click("btAddPoly");
+        p.w.click("btNextPicture");
+        p.click(40, 40);
+        QCOMPARE(p.corners().size(), std::size_t(4));
+        QCOMPARE(p.w.status(),
+                 "\"hen\", which was there before, has one more corner. Undo takes it back.");
+        p.isUndoneInSteps(2);
+    }
+
+    void escapeOnAnotherPageEndsDrawingAndKeepsWhatWasDrawn()
+    {
+        Page p;
+        openThreePages(p);
+        p.w.click("btAddPoly");
+        p.click(10, 40);
+        p.click(30, 40);
+        const std::string drawn = p.w.saved();
+        p.w.click("btNextPicture");
+        p.key(Qt::Key_Escape);
+        QVERIFY(p.isPicking());
+        QCOMPARE(p.w.status(),
+                 "The area \"polygon2\" has fewer than three corners. The pen will not find it.");
+        QCOMPARE(p.w.saved(), drawn);
+    }
+
+    void whatWasBegunByKeysOrProposedGoesWithItsPage()
+    {
+        Page p;
+        openThreePages(p);
+        p.choose("actionAddBox");
+        p.key(Qt::Key_Left, Qt::ControlModifier);
+        p.key(Qt::Key_Space);
+        p.w.click("btNextPicture");
+        p.key(Qt::Key_Down, Qt::ControlModifier);
+        p.key(Qt::Key_Left, Qt::ControlModifier);
+        p.key(Qt::Key_Return);
+        QCOMPARE(p.w.saved(), p.before);
+        p.w.click("btPreviousPicture");
+        p.choose("actionMagicArea");
+        p.click(70, 42);
+        QCOMPARE(p.w.status(), "Enter takes the area, the wheel changes the tolerance: 32");
+        p.w.click("btNextPicture");
+        QCOMPARE(p.w.status(), "");
+        p.w.click("btPreviousPicture");
+        p.key(Qt::Key_Return);
+        QCOMPARE(p.w.saved(), p.before);
+    }
+
+    void whileAShapeIsDraggedNoOtherKeyIsHeard()
+    {
+        Page p;
+        p.choose("actionAddBox");
+        QTest::mousePress(&p.page(), Qt::LeftButton, Qt::NoModifier, p.at(10, 20));
+        p.move(20, 30, Qt::NoModifier, Qt::LeftButton);
+        for (const Qt::Key key : {Qt::Key_Backspace, Qt::Key_E, Qt::Key_Return, Qt::Key_Left}) {
+            p.key(key);
+        }
+        p.key(Qt::Key_V, Qt::ControlModifier);
+        p.key(Qt::Key_A, Qt::ControlModifier);
+        p.move(30, 40, Qt::NoModifier, Qt::LeftButton);
+        QTest::mouseRelease(&p.page(), Qt::LeftButton, Qt::NoModifier, p.at(30, 40));
+        QCOMPARE(p.cornersText(), "10,20 30,20 30,40 10,40 ");
+        p.isUndoneInSteps(1);
     }
 
     void enterDoesNotEndAnAreaOfTwoCorners()
