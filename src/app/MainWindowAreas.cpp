@@ -90,9 +90,14 @@ void MainWindow::on_txPolyName_textChanged(const QString& arg1)
 
 void MainWindow::on_txOidOfArea_valueChanged(int arg1)
 {
-    if (!fillingFields) {
-        document.apply(edit::SetNumber{document.selectedArea(), arg1}, typedNumber);
+    if (fillingFields) {
+        return;
     }
+    if (document.selectedArea() == AreaId::none) {
+        tell(tr("No area is selected, so this numbers none. Click one, then type its number."));
+        return;
+    }
+    document.apply(edit::SetNumber{document.selectedArea(), arg1}, typedNumber);
 }
 
 // The caret before the code of an area; where there is none, the lines of an empty one are added at

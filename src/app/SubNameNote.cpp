@@ -29,6 +29,7 @@ SubNameNote::SubNameNote(QLineEdit* nameField, Document& named, QBoxLayout* layo
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     connect(field, &QLineEdit::textChanged, this, &SubNameNote::tell);
+    connect(field, &QLineEdit::textEdited, this, &SubNameNote::notice);
     // When the field shows the name of the area that was selected.
     connect(&document, &Document::changed, this, &SubNameNote::tell, Qt::QueuedConnection);
     tell();
@@ -71,11 +72,24 @@ bool SubNameNote::isPossible(const QString& name)
     return problem == SubNameProblem::none || problem == SubNameProblem::jump;
 }
 
+// Without an area the field keeps the name of the last one, and can be typed into.
+void SubNameNote::notice()
+{
+    isForNobody = document.selectedArea() == AreaId::none;
+    tell();
+}
+
 // Screen readers hear a change of what describes the field, and read it with the field.
 void SubNameNote::tell()
 {
-    const bool isNobodys = field->text().isEmpty() && document.selectedArea() == AreaId::none;
-    const QString problem = isNobodys ? QString() : problemOf(field->text());
+    const bool isNobodys = document.selectedArea() == AreaId::none;
+    isForNobody = isForNobody && isNobodys;
+    QString problem;
+    if (isForNobody) {
+        problem = tr("No area is selected, so this names none. Click one, then type its name.");
+    } else if (!isNobodys || !field->text().isEmpty()) {
+        problem = problemOf(field->text());
+    }
     if (problem != label->text()) {
         label->setText(problem);
         field->setAccessibleDescription(problem);

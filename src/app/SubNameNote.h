@@ -25,8 +25,10 @@ public:
 
 private:
     void tell();
+    void notice();
 
     QLineEdit* field;
     Document& document;
     QLabel* label;
+    bool isForNobody = false;  // what was typed
 };

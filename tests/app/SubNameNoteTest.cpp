@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSpinBox>
 
 namespace {
 
@@ -75,6 +76,43 @@ private slots:
         QCOMPARE(read->text(QAccessible::Description), note);
         w.noteFor("ab");
         QCOMPARE(read->text(QAccessible::Description), name->toolTip());
+    }
+
+    void aNameThatIsTypedForNoAreaIsTold()
+    {
+        Named w;
+        const std::string before = w.saved();
+        w.clickAt(w.get<PolyEditorWidget>("polyArea")->toPix({60, 40}));
+        QCOMPARE(w.field("txPolyName"), "cow");
+        QVERIFY(!w.label()->isVisible());
+        QCOMPARE(w.noteFor("ox"),
+                 "No area is selected, so this names none. Click one, then type its name.");
+        QVERIFY(w.label()->isVisible());
+        QCOMPARE(w.saved(), before);
+        w.clickAt(w.get<PolyEditorWidget>("polyArea")->toPix({14, 14}));
+        QTRY_VERIFY(!w.label()->isVisible());
+        QCOMPARE(w.field("txPolyName"), "cow");
+        QCOMPARE(w.noteFor("ox"), "");
+        QVERIFY(w.saved() != before);
+    }
+
+    void aNameThatIsTypedBeforeAnythingElseIsToldToo()
+    {
+        WindowFixture w;
+        w.type("txPolyName", "ox");
+        QCOMPARE(w.get<QLabel>("lbPolyNameProblems")->text(),
+                 "No area is selected, so this names none. Click one, then type its name.");
+    }
+
+    void aNumberThatIsTypedForNoAreaIsTold()
+    {
+        Named w;
+        const std::string before = w.saved();
+        w.clickAt(w.get<PolyEditorWidget>("polyArea")->toPix({60, 40}));
+        QTest::keyClick(w.get<QSpinBox>("txOidOfArea"), Qt::Key_Up);
+        QCOMPARE(w.status(),
+                 "No area is selected, so this numbers none. Click one, then type its number.");
+        QCOMPARE(w.saved(), before);
     }
 
     void anEmptyFieldWithoutAnAreaIsNotTalkedAbout()
