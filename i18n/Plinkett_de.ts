@@ -872,6 +872,10 @@
         <translation>Dieses Buch hat jetzt die Nummer %1. Erst mit dem Speichern bleibt das so.</translation>
     </message>
     <message>
+        <source>No area is selected, so this numbers none. Click one, then type its number.</source>
+        <translation>Kein Bereich ist ausgewählt, also erhält keiner diese Nummer. Klicke einen an, dann gib seine Nummer ein.</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>Warnung</translation>
     </message>
@@ -1105,6 +1109,10 @@
 </context>
 <context>
     <name>SubNameNote</name>
+    <message>
+        <source>No area is selected, so this names none. Click one, then type its name.</source>
+        <translation>Kein Bereich ist ausgewählt, also benennt das keinen. Klicke einen an, dann gib seinen Namen ein.</translation>
+    </message>
     <message>
         <source>An area needs a name. Type one.</source>
         <translation>Ein Bereich braucht einen Namen. Gib einen ein.</translation>
@@ -1475,6 +1483,22 @@
     <message>
         <source>The area &quot;%1&quot; has fewer than three corners. The pen will not find it.</source>
         <translation>Der Bereich &quot;%1&quot; hat weniger als drei Ecken. Der Stift findet ihn nicht.</translation>
+    </message>
+    <message>
+        <source>This page has no area to draw. &quot;+&quot; begins one.</source>
+        <translation>Auf dieser Seite ist kein Bereich zu zeichnen. &quot;+&quot; beginnt einen.</translation>
+    </message>
+    <message>
+        <source>Clicks now add corners to &quot;%1&quot;, the last area of this page.</source>
+        <translation>Klicks fügen jetzt &quot;%1&quot;, dem letzten Bereich dieser Seite, Ecken hinzu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends drawing.</source>
+        <translation>&quot;%1&quot; beendet das Zeichnen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, which was there before, has one more corner. Undo takes it back.</source>
+        <translation>&quot;%1&quot;, den es schon gab, hat eine Ecke mehr. Rückgängig nimmt sie zurück.</translation>
     </message>
     <message>
         <source>The area &quot;%1&quot; needs three corners.</source>

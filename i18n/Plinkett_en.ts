@@ -872,6 +872,10 @@
         <translation>This book has the number %1 now. Save it to keep that.</translation>
     </message>
     <message>
+        <source>No area is selected, so this numbers none. Click one, then type its number.</source>
+        <translation>No area is selected, so this numbers none. Click one, then type its number.</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>Warning</translation>
     </message>
@@ -1105,6 +1109,10 @@
 </context>
 <context>
     <name>SubNameNote</name>
+    <message>
+        <source>No area is selected, so this names none. Click one, then type its name.</source>
+        <translation>No area is selected, so this names none. Click one, then type its name.</translation>
+    </message>
     <message>
         <source>An area needs a name. Type one.</source>
         <translation>An area needs a name. Type one.</translation>
@@ -1475,6 +1483,22 @@
     <message>
         <source>The area &quot;%1&quot; has fewer than three corners. The pen will not find it.</source>
         <translation>The area &quot;%1&quot; has fewer than three corners. The pen will not find it.</translation>
+    </message>
+    <message>
+        <source>This page has no area to draw. &quot;+&quot; begins one.</source>
+        <translation>This page has no area to draw. &quot;+&quot; begins one.</translation>
+    </message>
+    <message>
+        <source>Clicks now add corners to &quot;%1&quot;, the last area of this page.</source>
+        <translation>Clicks now add corners to &quot;%1&quot;, the last area of this page.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends drawing.</source>
+        <translation>&quot;%1&quot; ends drawing.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, which was there before, has one more corner. Undo takes it back.</source>
+        <translation>&quot;%1&quot;, which was there before, has one more corner. Undo takes it back.</translation>
     </message>
     <message>
         <source>The area &quot;%1&quot; needs three corners.</source>

@@ -872,6 +872,10 @@
         <translation>Ce livre a maintenant le numéro %1. Enregistrez-le pour que cela reste.</translation>
     </message>
     <message>
+        <source>No area is selected, so this numbers none. Click one, then type its number.</source>
+        <translation>Aucune zone n’est sélectionnée, ce numéro n’est donc donné à aucune. Cliquez-en une, puis saisissez son numéro.</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>Avertissement</translation>
     </message>
@@ -1105,6 +1109,10 @@
 </context>
 <context>
     <name>SubNameNote</name>
+    <message>
+        <source>No area is selected, so this names none. Click one, then type its name.</source>
+        <translation>Aucune zone n’est sélectionnée, ce nom n’en nomme donc aucune. Cliquez-en une, puis saisissez son nom.</translation>
+    </message>
     <message>
         <source>An area needs a name. Type one.</source>
         <translation>Une zone a besoin d’un nom. Saisissez-en un.</translation>
@@ -1475,6 +1483,22 @@
     <message>
         <source>The area &quot;%1&quot; has fewer than three corners. The pen will not find it.</source>
         <translation>La zone « %1 » a moins de trois coins. Le stylo ne la trouvera pas.</translation>
+    </message>
+    <message>
+        <source>This page has no area to draw. &quot;+&quot; begins one.</source>
+        <translation>Cette page n’a aucune zone à dessiner. « + » en commence une.</translation>
+    </message>
+    <message>
+        <source>Clicks now add corners to &quot;%1&quot;, the last area of this page.</source>
+        <translation>Les clics ajoutent maintenant des coins à « %1 », la dernière zone de cette page.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends drawing.</source>
+        <translation>« %1 » termine le dessin.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, which was there before, has one more corner. Undo takes it back.</source>
+        <translation>« %1 », qui existait déjà, a un coin de plus. Annuler le retire.</translation>
     </message>
     <message>
         <source>The area &quot;%1&quot; needs three corners.</source>

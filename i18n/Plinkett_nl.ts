@@ -872,6 +872,10 @@
         <translation>Dit boek heeft nu het nummer %1. Sla het op om dat te behouden.</translation>
     </message>
     <message>
+        <source>No area is selected, so this numbers none. Click one, then type its number.</source>
+        <translation>Er is geen gebied geselecteerd, dus dit nummert er geen. Klik er een aan en typ dan het nummer.</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>Waarschuwing</translation>
     </message>
@@ -1105,6 +1109,10 @@
 </context>
 <context>
     <name>SubNameNote</name>
+    <message>
+        <source>No area is selected, so this names none. Click one, then type its name.</source>
+        <translation>Er is geen gebied geselecteerd, dus dit benoemt er geen. Klik er een aan en typ dan de naam.</translation>
+    </message>
     <message>
         <source>An area needs a name. Type one.</source>
         <translation>Een gebied heeft een naam nodig. Typ er een.</translation>
@@ -1475,6 +1483,22 @@
     <message>
         <source>The area &quot;%1&quot; has fewer than three corners. The pen will not find it.</source>
         <translation>Het gebied &quot;%1&quot; heeft minder dan drie hoeken. De pen vindt het niet.</translation>
+    </message>
+    <message>
+        <source>This page has no area to draw. &quot;+&quot; begins one.</source>
+        <translation>Op deze pagina is geen gebied te tekenen. &quot;+&quot; begint er een.</translation>
+    </message>
+    <message>
+        <source>Clicks now add corners to &quot;%1&quot;, the last area of this page.</source>
+        <translation>Klikken voegen nu hoeken toe aan &quot;%1&quot;, het laatste gebied van deze pagina.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends drawing.</source>
+        <translation>&quot;%1&quot; beëindigt het tekenen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, which was there before, has one more corner. Undo takes it back.</source>
+        <translation>&quot;%1&quot;, dat er al was, heeft een hoek meer. Ongedaan maken neemt hem terug.</translation>
     </message>
     <message>
         <source>The area &quot;%1&quot; needs three corners.</source>

@@ -3,6 +3,7 @@
 #include "app/StorableName.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -10,6 +11,8 @@
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -30,11 +33,18 @@ public:
     }
 };
 
-// Wide enough for the beginning of a warning.
+// Wide enough for its columns and the beginning of a warning.
 class WideTable : public QTableView
 {
 public:
-    QSize sizeHint() const override { return {fontMetrics().averageCharWidth() * 36, 200}; }
+    QSize sizeHint() const override
+    {
+        int width = fontMetrics().averageCharWidth() * 14;
+        for (int column = 0; column < AreaTableModel::warnings; ++column) {
+            width += columnWidth(column);
+        }
+        return {width, 200};
+    }
 };
 
 }  // namespace
@@ -60,6 +70,7 @@ AreasDock::AreasDock(Document& shown, const ScriptCheck& check, QWidget* parent)
     column->addWidget(filter);
     column->addWidget(table);
     setWidget(content);
+    setFocusProxy(table);
 
     connect(filter, &QLineEdit::textChanged, this, [this](const QString& text) {
         {
@@ -104,17 +115,27 @@ void AreasDock::prepareTable()
     table->setTabKeyNavigation(false);
     table->setWordWrap(false);
     table->setShowGrid(false);
-    table->setMinimumSize(60, 40);
+    table->setMinimumSize(table->fontMetrics().averageCharWidth() * 16, 40);
     table->verticalHeader()->hide();
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
-    table->horizontalHeader()->setStretchLastSection(true);
-    table->horizontalHeader()->setDefaultSectionSize(table->fontMetrics().averageCharWidth() * 8);
-    table->setColumnWidth(AreaTableModel::name, table->fontMetrics().averageCharWidth() * 13);
-    table->setColumnWidth(AreaTableModel::page, table->fontMetrics().averageCharWidth() * 7);
-    table->setColumnWidth(AreaTableModel::code, table->fontMetrics().averageCharWidth() * 6);
     table->setSortingEnabled(true);
     table->sortByColumn(AreaTableModel::page, Qt::AscendingOrder);
+    prepareColumns();
     table->installEventFilter(this);
+}
+
+// Each has room for its heading with the arrow, in any language, and for what stands in it.
+void AreasDock::prepareColumns()
+{
+    QHeaderView* const header = table->horizontalHeader();
+    header->setHighlightSections(false);  // bold, the headings would not fit
+    header->setStretchLastSection(true);
+    const QFontMetrics letters = table->fontMetrics();
+    const int widest = letters.horizontalAdvance("32767") + letters.averageCharWidth() * 2;
+    for (const int column : {AreaTableModel::number, AreaTableModel::page, AreaTableModel::code}) {
+        table->setColumnWidth(column, std::max(header->sectionSizeHint(column), widest));
+    }
+    table->setColumnWidth(AreaTableModel::name, letters.averageCharWidth() * 16);
 }
 
 // The last one of the list's selection is the area whose fields are shown; all have to be on its
@@ -168,6 +189,12 @@ void AreasDock::selectInTable()
     }
 }
 
+void AreasDock::addCommand(QAction* command)
+{
+    table->setContextMenuPolicy(Qt::ActionsContextMenu);
+    table->addAction(command);
+}
+
 bool AreasDock::eventFilter(QObject* watched, QEvent* event)
 {
     const bool isTyping = table->viewport()->findChild<QLineEdit*>() != nullptr;
@@ -182,6 +209,10 @@ bool AreasDock::eventFilter(QObject* watched, QEvent* event)
     if (key == Qt::Key_F2) {
         table->setCurrentIndex(table->currentIndex().siblingAtColumn(AreaTableModel::name));
         table->edit(table->currentIndex());
+        return true;
+    }
+    if (key == Qt::Key_Escape) {
+        emit pageAsked();
         return true;
     }
     if (key == Qt::Key_Return || key == Qt::Key_Enter) {

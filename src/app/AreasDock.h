@@ -5,6 +5,7 @@
 #include <QDockWidget>
 #include <QSortFilterProxyModel>
 
+class QAction;
 class QLineEdit;
 class QTableView;
 
@@ -18,7 +19,12 @@ public:
     // Both outlive the dock.
     AreasDock(Document& document, const ScriptCheck& check, QWidget* parent);
 
+    // One for the selected areas, under its keys and in the menu of the list, too. Not owned.
+    void addCommand(QAction* command);
+
 signals:
+    // The author goes on on the page.
+    void pageAsked();
     // The area is selected, and the author wants to see its code.
     void codeAsked();
     // A name was typed over.
@@ -29,6 +35,7 @@ protected:
 
 private:
     void prepareTable();
+    void prepareColumns();
     void selectInDocument();
     void selectInTable();
     void removeSelected();

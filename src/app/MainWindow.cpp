@@ -16,6 +16,7 @@
 #include "app/SideDocks.h"
 #include "app/StorableName.h"
 #include "app/SubNameNote.h"
+#include "app/ToolBarFit.h"
 #include "app/ZoomActions.h"
 #include "base/FileSystem.h"
 #include "editor/assist/CaretStatus.h"
@@ -83,6 +84,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     prepareRecovery();
     prepareDocks();
     new ProblemsGuide(*this, *ui, document);
+    new ToolBarFit(this);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
         if (focused != nullptr && focused == windowHandle()) {
             followOtherWindows();
@@ -207,7 +209,14 @@ void MainWindow::prepareDocks()
 {
     auto* const pages = new PagesDock(document, this);
     docks->add(pages, Qt::RightDockWidgetArea, *ui->editBar, "actionDockPages", "dock-pages",
-               tr("Shows or hides the list of the pages"));
+               tr("Shows or hides the list of the pages"), QKeySequence("Ctrl+Shift+P"));
+    const auto goToPage = [this] {
+        if (ui->polyArea->isVisible()) {
+            ui->polyArea->setFocus();
+        }
+    };
+    connect(docks, &SideDocks::focusLeft, this, goToPage);
+    connect(pages, &PagesDock::clicked, this, goToPage);
     connect(pages, &PagesDock::pageAsked, this, &MainWindow::showPicture);
     connect(pages, &PagesDock::failed, this, &MainWindow::warnOfPictures);
     connect(pages, &PagesDock::told, this, [this](const QString& text) { tell(text); });
@@ -218,7 +227,13 @@ void MainWindow::prepareDocks()
     auto* const check = new ScriptCheck(script, this);
     auto* const areas = new AreasDock(document, *check, this);
     docks->add(areas, Qt::RightDockWidgetArea, *ui->editBar, "actionDockAreas", "dock-areas",
-               tr("Shows or hides the list of the areas"));
+               tr("Shows or hides the list of the areas"), QKeySequence("Ctrl+Shift+A"));
+    connect(areas, &AreasDock::pageAsked, this, goToPage);
+    for (const char* const command :
+         {"actionCutAreas", "actionCopyAreas", "actionPasteAreas", "actionDuplicateAreas",
+          "actionBringForward", "actionSendBackward"}) {
+        areas->addCommand(findChild<QAction*>(command));
+    }
     // Behind the field of the list, since this may ask.
     connect(areas, &AreasDock::renameAsked, findChild<RenameEverywhere*>(), &RenameEverywhere::give,
             Qt::QueuedConnection);

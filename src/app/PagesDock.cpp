@@ -72,9 +72,11 @@ PagesDock::PagesDock(Document& shown, QWidget* parent)
     list->setIconSize({Thumbnails::kSide, Thumbnails::kSide});
     list->setUniformItemSizes(true);
     list->setDragDropMode(QAbstractItemView::InternalMove);
-    list->setMinimumSize(60, 40);
+    list->setMinimumSize(Thumbnails::kSide / 2 + list->fontMetrics().averageCharWidth() * 4, 40);
     list->setContextMenuPolicy(Qt::ActionsContextMenu);
     setWidget(list);
+    setFocusProxy(list);
+    connect(list, &QListView::clicked, this, &PagesDock::clicked);
     connect(add("actionPageUp", tr("Move page up"), {{"Ctrl+Up"}, {"Alt+Up"}}), &QAction::triggered,
             this, [this] { moveBy(-1); });
     connect(add("actionPageDown", tr("Move page down"), {{"Ctrl+Down"}, {"Alt+Down"}}),

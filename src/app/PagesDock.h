@@ -23,6 +23,8 @@ public:
 
 signals:
     void pageAsked(int page);
+    // It was chosen with the mouse: the author goes on on the page. By keys one stays in the list.
+    void clicked();
     // A page could not be moved or removed; the document says why.
     void failed();
     void told(const QString& message);

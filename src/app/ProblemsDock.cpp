@@ -1,5 +1,7 @@
 #include "app/ProblemsDock.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMainWindow>
@@ -24,6 +26,7 @@ ProblemsDock::ProblemsDock(QWidget* parent)
     setAllowedAreas(Qt::BottomDockWidgetArea);
     prepareView();
     prepareTitle();
+    prepareKey();
     empty.setSingleShot(true);
     empty.setInterval(kPatience);
     connect(&empty, &QTimer::timeout, this, &ProblemsDock::foldAsNeeded);
@@ -64,11 +67,38 @@ void ProblemsDock::prepareTitle()
     title->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     title->setToolTip(tr("Shows or folds the list of problems. F8 goes to the next one in the "
                          "script, Shift+F8 to the one before."));
-    connect(title, &QToolButton::clicked, this, [this] {
-        foldedByAuthor = !isFolded();
-        fold(foldedByAuthor || list.all().empty());
-    });
+    connect(title, &QToolButton::clicked, this, &ProblemsDock::toggle);
     setTitleBarWidget(title);
+}
+
+void ProblemsDock::prepareKey()
+{
+    auto* const action = new QAction(tr("Problems"), this);
+    action->setObjectName("actionDockProblems");
+    action->setShortcut(QKeySequence("Ctrl+Shift+M"));
+    addAction(action);
+    connect(action, &QAction::triggered, this, &ProblemsDock::toggleByKey);
+    title->setToolTip(title->toolTip() + " (" +
+                      action->shortcut().toString(QKeySequence::NativeText) + ")");
+}
+
+void ProblemsDock::toggle()
+{
+    foldedByAuthor = !isFolded();
+    fold(foldedByAuthor || list.all().empty());
+}
+
+// Into the list, and back to where one was.
+void ProblemsDock::toggleByKey()
+{
+    const bool wasInside = view->hasFocus();
+    toggle();
+    if (!isFolded()) {
+        before = QApplication::focusWidget();
+        view->setFocus();
+    } else if (wasInside && before != nullptr && before->isVisible()) {
+        before->setFocus();
+    }
 }
 
 QString ProblemsDock::summaryOf(const Problems& problems)

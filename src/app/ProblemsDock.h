@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDockWidget>
+#include <QPointer>
 #include <QTimer>
 
 #include "app/ProblemList.h"
@@ -39,6 +40,9 @@ protected:
 private:
     void prepareView();
     void prepareTitle();
+    void prepareKey();
+    void toggle();
+    void toggleByKey();
     void fold(bool folded);
     void foldAsNeeded();
     void choose(const QModelIndex& index);
@@ -47,6 +51,7 @@ private:
     ProblemList list;
     QTreeView* view;
     QToolButton* title;
+    QPointer<QWidget> before;  // had the focus when the key led into the list
     QTimer empty;  // an error that comes and goes while a word is typed leaves the list in peace
     bool foldedByAuthor = false;
     bool foldsByItself = true;

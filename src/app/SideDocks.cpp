@@ -2,8 +2,10 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QSettings>
 #include <QToolBar>
@@ -31,14 +33,18 @@ SideDocks::SideDocks(QWidget* surrounded)
 }
 
 void SideDocks::add(QDockWidget* dock, Qt::DockWidgetArea area, QToolBar& bar,
-                    const char* actionName, const QString& icon, const QString& toolTip)
+                    const char* actionName, const QString& icon, const QString& what,
+                    const QKeySequence& keys)
 {
     if (docks.empty()) {
         bar.addSeparator();
     }
     auto* const action = new QAction(QIcon(":/icons/" + icon + ".svg"), dock->windowTitle(), this);
     action->setObjectName(actionName);
+    const QString toolTip = what + " (" + keys.toString(QKeySequence::NativeText) + ")";
     action->setToolTip(toolTip);
+    action->setShortcut(keys);
+    action->installEventFilter(this);
     action->setCheckable(true);
     action->setChecked(hasRoom(*this));
     action->setPriority(QAction::LowPriority);  // its icon says it
@@ -51,7 +57,8 @@ void SideDocks::add(QDockWidget* dock, Qt::DockWidgetArea area, QToolBar& bar,
     }
     dock->installEventFilter(this);
     docks.push_back({dock, action});
-    connect(action, &QAction::toggled, this, &SideDocks::update);
+    const Entry entry = docks.back();
+    connect(action, &QAction::toggled, this, [this, entry] { toggle(entry); });
     update();
 }
 
@@ -69,8 +76,28 @@ void SideDocks::update()
     }
 }
 
+// The mouse leaves the focus where it is.
+void SideDocks::toggle(const Entry& entry)
+{
+    const bool hadFocus = entry.dock->isAncestorOf(QApplication::focusWidget());
+    update();
+    if (entry.action->isChecked()) {
+        if (byKey) {
+            entry.dock->raise();
+            entry.dock->setFocus();
+        }
+    } else if (hadFocus) {
+        emit focusLeft();
+    }
+}
+
 bool SideDocks::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::Shortcut) {
+        const QScopedValueRollback<bool> triggering(byKey, true);
+        static_cast<QAction*>(watched)->trigger();
+        return true;
+    }
     if (event->type() != QEvent::Close) {
         return false;
     }

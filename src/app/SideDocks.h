@@ -19,8 +19,10 @@ public:
     // Takes the widget over. On small screens docks are closed until the author opens them.
     explicit SideDocks(QWidget* surrounded);
 
+    // The keys open the dock and go into it, to its focus proxy, or close it; the tool tip is
+    // completed with them.
     void add(QDockWidget* dock, Qt::DockWidgetArea area, QToolBar& bar, const char* actionName,
-             const QString& icon, const QString& toolTip);
+             const QString& icon, const QString& toolTip, const QKeySequence& keys);
     // Whether the tab of the docks is shown, so that they can be opened and closed.
     void enableActions(bool enable);
     // Takes over where they were and which were open. The settings outlive the window.
@@ -28,8 +30,12 @@ public:
     // Keeps there where they are.
     void save();
 
+signals:
+    // A dock that had the focus was closed.
+    void focusLeft();
+
 protected:
-    bool eventFilter(QObject* dock, QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     struct Entry
@@ -38,7 +44,9 @@ private:
         QAction* action;  // checked: the author wants it open
     };
     void update();
+    void toggle(const Entry& entry);
 
     std::vector<Entry> docks;
     QSettings* settings = nullptr;
+    bool byKey = false;  // an action is being triggered by its keys
 };

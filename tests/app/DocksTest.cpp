@@ -2,16 +2,21 @@
 #include "tests/app/WindowFixture.h"
 
 #include "app/AreaTableModel.h"
+#include "app/Translations.h"
 #include "tests/helpers/RunProgram.h"
 
 #include <QAbstractItemModel>
 #include <QAction>
+#include <QApplication>
 #include <QDockWidget>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTableView>
+#include <QToolBar>
+#include <QTranslator>
 
 namespace {
 
@@ -405,6 +410,140 @@ private slots:
         w.trigger("actionUndo");
         QCOMPARE(w.picture(0), first);
         QCOMPARE(w.saved(), before);
+    }
+
+    void aClickOnAPageLeavesTheKeysToIt()
+    {
+        Lists w;
+        auto* const page = w.get<PolyEditorWidget>("polyArea");
+        const QRect place = w.pages().visualRect(w.pages().model()->index(1, 0));
+        w.pages().setFocus();
+        QTest::mouseClick(w.pages().viewport(), Qt::LeftButton, {}, place.center());
+        QVERIFY(page->hasFocus());
+        QTest::keyClick(page, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(page, Qt::Key_D, Qt::ControlModifier);
+        QCOMPARE(w.names(), QString("cow ant hen hen2"));
+    }
+
+    void theListHasTheKeysForItsAreasUntilEscape()
+    {
+        Lists w;
+        const std::string before = w.saved();
+        w.table().setFocus();
+        w.clickRow(0);
+        QVERIFY(w.table().hasFocus());
+        const auto press = [&](Qt::Key key) {
+            QTest::keyClick(QApplication::focusWidget(), key, Qt::ControlModifier);
+        };
+        press(Qt::Key_D);
+        QCOMPARE(w.names(), QString("cow ant cow2 hen"));
+        press(Qt::Key_X);
+        QCOMPARE(w.names(), QString("cow ant hen"));
+        press(Qt::Key_Z);
+        press(Qt::Key_Z);
+        QCOMPARE(w.saved(), before);
+        w.clickRow(0);
+        press(Qt::Key_C);
+        w.clickRow(2);
+        press(Qt::Key_V);
+        QCOMPARE(w.names(), QString("cow ant hen cow"));
+        w.clickRow(0);
+        press(Qt::Key_PageDown);
+        QCOMPARE(w.names(), QString("ant cow hen cow"));
+        QTest::keyClick(&w.table(), Qt::Key_Escape);
+        QVERIFY(w.get<PolyEditorWidget>("polyArea")->hasFocus());
+    }
+
+    void keysStayInTheList()
+    {
+        Lists w;
+        w.pages().setFocus();
+        QTest::keyClick(&w.pages(), Qt::Key_Down);
+        QVERIFY(w.pages().hasFocus());
+        w.table().setFocus();
+        QTest::keyClick(&w.table(), Qt::Key_Up);
+        QVERIFY(w.table().hasFocus());
+    }
+
+    void aKeyOpensAListAndGoesIntoItOrClosesIt_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QByteArray>("action");
+        QTest::addColumn<QByteArray>("dock");
+        QTest::addColumn<QByteArray>("list");
+        QTest::newRow("areas") << int(Qt::Key_A) << QByteArray("actionDockAreas")
+                               << QByteArray("dockAreas") << QByteArray("areaTable");
+        QTest::newRow("pages") << int(Qt::Key_P) << QByteArray("actionDockPages")
+                               << QByteArray("dockPages") << QByteArray("pageList");
+    }
+
+    void aKeyOpensAListAndGoesIntoItOrClosesIt()
+    {
+        QFETCH(int, key);
+        QFETCH(QByteArray, action);
+        QFETCH(QByteArray, dock);
+        QFETCH(QByteArray, list);
+        Lists w;
+        auto* const page = w.get<PolyEditorWidget>("polyArea");
+        const auto press = [&] {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key(key),
+                            Qt::ControlModifier | Qt::ShiftModifier);
+        };
+        page->setFocus();
+        press();
+        QVERIFY(!w.get<QDockWidget>(dock)->isVisible());
+        QVERIFY(page->hasFocus());
+        press();
+        QVERIFY(w.get<QDockWidget>(dock)->isVisible());
+        QCOMPARE(QApplication::focusWidget(), w.get<QWidget>(list));
+        press();
+        QVERIFY(!w.get<QDockWidget>(dock)->isVisible());
+        QVERIFY(page->hasFocus());
+        const QString keys = QString("(Ctrl+Shift+%1)").arg(QChar(key));
+        QVERIFY2(w.get<QAction>(action)->toolTip().endsWith(keys),
+                 qPrintable(w.get<QAction>(action)->toolTip()));
+    }
+
+    void theMouseOpensAListAndThePageKeepsTheKeys()
+    {
+        Lists w;
+        w.get<PolyEditorWidget>("polyArea")->setFocus();
+        QAction* const action = w.get<QAction>("actionDockAreas");
+        QWidget* const button = w.get<QToolBar>("editBar")->widgetForAction(action);
+        for (int i = 0; i < 2; ++i) {
+            QTest::mouseClick(button, Qt::LeftButton);
+            QVERIFY(w.get<PolyEditorWidget>("polyArea")->hasFocus());
+        }
+        QVERIFY(w.get<QDockWidget>("dockAreas")->isVisible());
+    }
+
+    void headingsAreWholeInEveryLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const char* const language : {"en", "de", "fr", "nl"}) {
+            QTest::newRow(language) << QString(language);
+        }
+    }
+
+    void headingsAreWholeInEveryLanguage()
+    {
+        QFETCH(QString, language);
+        QTranslator translator;
+        QVERIFY(loadTranslation(translator, {language}));
+        QCoreApplication::installTranslator(&translator);
+        Lists w;
+        QHeaderView* const header = w.table().horizontalHeader();
+        QVERIFY(!header->highlightSections());
+        const QFontMetrics letters = header->fontMetrics();
+        const int arrow = header->style()->pixelMetric(QStyle::PM_HeaderMarkSize);
+        for (int column = 0; column < AreaTableModel::warnings; ++column) {
+            const QString heading =
+                w.table().model()->headerData(column, Qt::Horizontal).toString();
+            QVERIFY2(header->sectionSize(column) >= letters.horizontalAdvance(heading) + arrow,
+                     qPrintable(heading));
+        }
+        QVERIFY(header->length() - header->sectionSize(AreaTableModel::warnings) <
+                w.table().viewport()->width());
     }
 
     void withoutPagesTheLabelSaysSo()

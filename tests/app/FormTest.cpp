@@ -399,6 +399,44 @@ private slots:
         QVERIFY2(smallest.height() <= 360, qPrintable(QString::number(smallest.height())));
     }
 
+    static void seeAllToolsOf(WindowFixture& w)
+    {
+        for (const QToolBar* const bar : w.window.findChildren<QToolBar*>()) {
+            for (QAction* const action : bar->actions()) {
+                const QWidget* const button = bar->widgetForAction(action);
+                const bool isSeen = button->isVisible() &&
+                                    bar->rect().contains(button->geometry()) &&
+                                    bar->childAt(button->geometry().center()) == button;
+                QVERIFY2(isSeen || action->isSeparator(), qPrintable(action->objectName()));
+            }
+        }
+    }
+
+    void everyToolIsSeenAtEveryWidth_data() { fitsOnASmallScreen_data(); }
+
+    void everyToolIsSeenAtEveryWidth()
+    {
+        QFETCH(QString, language);
+        QTranslator translator;
+        QVERIFY(loadTranslation(translator, {language}));
+        QCoreApplication::installTranslator(&translator);
+        WindowFixture w;
+        const auto styles = [&] {
+            return QPair(w.get<QToolBar>("toolBar")->toolButtonStyle(),
+                         w.get<QToolBar>("editBar")->toolButtonStyle());
+        };
+        for (const int width : {640, 700, 800, 900, 1000, 1400}) {
+            w.window.resize(width, 600);
+            QCoreApplication::processEvents();
+            seeAllToolsOf(w);
+        }
+        QCOMPARE(styles(), QPair(Qt::ToolButtonTextBesideIcon, Qt::ToolButtonTextBesideIcon));
+        w.window.resize(640, 600);
+        QCoreApplication::processEvents();
+        QCOMPARE(styles().second, Qt::ToolButtonIconOnly);
+        seeAllToolsOf(w);
+    }
+
     void startsMaximisedOnAScreenThatIsTooSmallForIt()
     {
         MainWindow window;

@@ -4,6 +4,7 @@
 #include "tests/app/WindowFixture.h"
 #include "tests/helpers/TemporaryFolder.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -112,6 +113,33 @@ class ProblemsTest : public QObject
     Q_OBJECT
 
 private slots:
+    void aKeyOpensTheListAndGoesIntoItAndBack()
+    {
+        ProblemsWindow w(book(kCow + "sub hen\nend sub\n"));
+        w.get<QTabWidget>("ribbonTab")->setCurrentWidget(w.get<QWidget>("tabAreas"));
+        w.window.activateWindow();
+        auto* const page = w.get<PolyEditorWidget>("polyArea");
+        page->setFocus();
+        auto* const list = w.get<QTreeView>("problemsView");
+        TRY_VERIFY(list->model()->rowCount() > 0);
+        const auto press = [] {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_M,
+                            Qt::ControlModifier | Qt::ShiftModifier);
+        };
+        const bool wasOpen = list->isVisible();
+        press();
+        QCOMPARE(list->isVisible(), !wasOpen);
+        if (wasOpen) {
+            QVERIFY(page->hasFocus());
+            press();
+        }
+        QVERIFY(list->hasFocus());
+        press();
+        QVERIFY(!list->isVisible());
+        QVERIFY(page->hasFocus());
+        QVERIFY(w.get<QToolButton>("problemsTitle")->toolTip().endsWith("(Ctrl+Shift+M)"));
+    }
+
     void messagesComeInTheirWordsAndHintsAfterThem()
     {
         QCOMPARE(linesOf(problemsOf(book("sub cow\nfoo\nsay eve A B\nx = (1\nend sub\n"))),
