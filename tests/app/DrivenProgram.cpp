@@ -134,6 +134,26 @@ void DrivenProgram::clickPicture(double x, double y)
             QPoint(qRound(x * area.width() / 100), qRound(y * area.width() / 100)));
 }
 
+void DrivenProgram::drag(QPoint from, QPoint to)
+{
+    constexpr int kSteps = 10;
+    constexpr int kPause = 100;       // ms
+    constexpr int kLongPause = 1000;  // for a machine that is busy with other things
+    const auto moveTo = [this](QPoint point) {
+        xdotool({"mousemove", "--window", window, QString::number(point.x()),
+                 QString::number(point.y())});
+        QThread::msleep(kPause);
+    };
+    moveTo(from);
+    xdotool({"mousedown", "1"});
+    QThread::msleep(kLongPause);
+    for (int i = 1; i <= kSteps; ++i) {
+        moveTo(from + (to - from) * i / kSteps);
+    }
+    QThread::msleep(kLongPause);
+    xdotool({"mouseup", "1"});
+}
+
 void DrivenProgram::fill(const char* field, const QString& text)
 {
     click(field);

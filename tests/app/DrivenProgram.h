@@ -23,6 +23,8 @@ public:
     void click(const char* control);
     // On the picture: x and y in percent of its width.
     void clickPicture(double x, double y);
+    // With the button held, slowly enough to be seen as a drag. In pixels of the window.
+    void drag(QPoint from, QPoint to);
     // Replaces what a field holds.
     void fill(const char* field, const QString& text);
     // What ends a line is typed with Return.
