@@ -1,6 +1,7 @@
 #include "tests/app/DrivenProgram.h"
 
 #include <QDeadlineTimer>
+#include <QFile>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTabBar>
@@ -19,6 +20,12 @@ constexpr int kPatience = 60000;  // milliseconds, for a machine that is busy wi
 }
 
 }  // namespace
+
+std::string fileNow(const std::string& path)
+{
+    QFile file(QString::fromStdString(path));
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+}
 
 void waitUntil(const std::function<bool()>& isSo, const QString& what)
 {

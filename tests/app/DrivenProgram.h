@@ -56,5 +56,8 @@ private:
     MainWindow twin;
 };
 
+// What a file holds that the program may be renaming; empty while there is none.
+std::string fileNow(const std::string& path);
+
 // Waits until something is so, looking often; throws with this text after a minute.
 void waitUntil(const std::function<bool()>& isSo, const QString& what);

@@ -51,11 +51,7 @@ public:
         for (const char* const button : {"btBuild", "btCopyToPen", "btCreateImage"}) {
             window.findChild<QWidget*>(button)->setEnabled(false);
         }
-        QObject::connect(&dismissing, &QTimer::timeout, [] {
-            if (QWidget* const dialog = QApplication::activeModalWidget()) {
-                QTest::keyClick(dialog, Qt::Key_Escape);
-            }
-        });
+        QObject::connect(&dismissing, &QTimer::timeout, [this] { dismiss(); });
         dismissing.start(5);
     }
 
@@ -64,7 +60,9 @@ public:
         QElapsedTimer time;
         time.start();
         for (int i = 0; i < steps && time.elapsed() < longest; ++i) {
+            isActing = true;
             doAnything();
+            isActing = false;
             if (below(20) == 0) {
                 showAreas();
             }
@@ -101,6 +99,17 @@ private:
         window.activateWindow();
         window.findChild<QTabWidget*>("ribbonTab")
             ->setCurrentWidget(window.findChild<QWidget*>("tabAreas"));
+    }
+
+    // What waits for an answer while the monkey acts: a dialog, or the menu of a scroll bar.
+    void dismiss()
+    {
+        QWidget* const popup = isActing ? QApplication::activePopupWidget() : nullptr;
+        if (popup != nullptr) {
+            popup->close();
+        } else if (QWidget* const dialog = QApplication::activeModalWidget()) {
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        }
     }
 
     // Most often the page, else anything that can be seen; while there is a menu, that.
@@ -216,6 +225,7 @@ private:
     OwnDataFolder userData;
     TemporaryFolder folder;
     QTimer dismissing;
+    bool isActing = false;
     std::mt19937 random;
     MainWindow window;
 };

@@ -2,7 +2,6 @@
 #include "tests/app/DrivenProgram.h"
 #include "tests/app/OwnScreen.h"
 
-#include <QFile>
 #include <QtTest>
 
 namespace {
@@ -68,13 +67,6 @@ private:
     std::string picture(int page) const
     {
         return folder.file("905-bkgnd" + std::to_string(page) + ".jpg");
-    }
-
-    // Empty while there is none: just then it may be renamed.
-    static std::string fileNow(const std::string& path)
-    {
-        QFile file(QString::fromStdString(path));
-        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
     }
 
     // Which of the first pictures each page has now.
