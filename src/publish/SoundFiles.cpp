@@ -5,9 +5,9 @@
 #include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"
-#include "base/TextHelpers.h"
 #include "oid/OidProject.h"
 #include "publish/ProcessRunner.h"
+#include "publish/SpeechProgram.h"
 
 namespace {
 
@@ -23,20 +23,6 @@ struct NewText
     std::string audioName;
     ttbasic::TALKTEXT said;
 };
-
-// Intended: not undone, and only the first of the two folders is looked for, so that a second build
-// adds nothing.
-void putToolsOnPath()
-{
-    const std::string tools = Platform::nativePath(FileSystem::exeDirectory() + "\\tools\\");
-    const std::string speech = tools + "text2speech_win" + Platform::searchPathSeparator;
-    const std::string path = Platform::searchPath();
-    if (path.find(speech) == std::string::npos) {
-        const std::string sound =
-            Platform::nativePath(tools + "ffmpeg\\bin") + Platform::searchPathSeparator;
-        Platform::setEnvironmentVariable("PATH", speech + sound + path);
-    }
-}
 
 std::vector<NewText> newTexts(const Oid::OidProject& project, const std::string& folder)
 {
@@ -84,21 +70,11 @@ bool canBeMade(const NewText& text, ProcessRunner& runner)
     return true;
 }
 
-// Our speech program prints in the encoding that its output is shown in. A variable, not an option:
-// another speech program may take its place.
-Surroundings readableMessages(const ProcessRunner& runner)
-{
-    return {{}, {{"TEXT2SPEECH_LATIN1", runner.readsLatin1() ? "1" : ""}}};
-}
-
-// The text is handed over as it stands; only the path takes its native form.
 bool speak(const std::string& text, const ttbasic::VOICE& voice, const std::string& speech,
            ProcessRunner& runner)
 {
-    return runner.run("Text2Speech.exe",
-                      {"-q", "-v", voice.language, "-a", itostr(voice.age), "-g",
-                       voice.female ? "f" : "m", "-f", Platform::nativePath(speech), "-t", text},
-                      true, readableMessages(runner));
+    const ProgramCall call = callToSpeak(text, voice, speech, runner.readsLatin1());
+    return runner.run(call.program, call.arguments, true, call.surroundings);
 }
 
 bool convert(const std::string& speech, const std::string& sound, ProcessRunner& runner)
