@@ -33,6 +33,7 @@ public:
     PageTool(const PageTool&) = delete;
     PageTool& operator=(const PageTool&) = delete;
 
+    // The bitmap cursor stands for that which the page was given.
     virtual Qt::CursorShape cursor() const = 0;
     // What the tool shows over the page; what lies outside the seen pixels may be left out.
     virtual PageMarks marks(const PageView& /*view*/, const QRect& /*seen*/) const { return {}; }

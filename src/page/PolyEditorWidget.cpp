@@ -51,10 +51,17 @@ void PolyEditorWidget::setTool(PageTool* chosen)
     showTool();
 }
 
+void PolyEditorWidget::showAreas(bool show)
+{
+    areasAreShown = show;
+    update();
+}
+
 void PolyEditorWidget::showTool()
 {
-    if (cursor().shape() != tool->cursor()) {
-        setCursor(tool->cursor());
+    const Qt::CursorShape shape = tool->cursor();
+    if (shape != Qt::BitmapCursor && shape != cursor().shape()) {
+        setCursor(shape);
     }
     updateSoon(takeChangedMarks(seen()));
 }
@@ -355,6 +362,9 @@ void PolyEditorWidget::paintChanges()
 
 QRegion PolyEditorWidget::takeChangedAreas()
 {
+    if (!areasAreShown) {
+        return {};
+    }
     const PageView page = view();
     std::vector<int> selected;
     for (const AreaId area : document->selectedAreas()) {

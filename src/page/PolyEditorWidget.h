@@ -32,6 +32,8 @@ public:
     // Not owned, stays until another one is set. Its cursor is the widget's, its marks lie over the
     // page.
     void setTool(PageTool* chosen);
+    // Whether the areas are seen on the page, as in the beginning, or only what the tool shows.
+    void showAreas(bool show);
     // Shows cursor and marks of the tool as they are now. Needed only after something else than an
     // event of the widget or a change of the document.
     void showTool();
@@ -112,6 +114,7 @@ private:
 
     Document* document = nullptr;
     PageTool* tool = nullptr;
+    bool areasAreShown = true;
     QImage image;
     bool isPlaceholder = true;
     PageTiles tiles;
