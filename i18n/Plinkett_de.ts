@@ -756,6 +756,10 @@
         <translation>Bauen</translation>
     </message>
     <message>
+        <source>Try</source>
+        <translation>Ausprobieren</translation>
+    </message>
+    <message>
         <source>👷 Build</source>
         <translation>👷 Bauen</translation>
     </message>
@@ -1105,6 +1109,266 @@
     <message>
         <source>%1 cannot be played: it is damaged, or no sound in one of the formats WAV, Ogg, FLAC and MP3</source>
         <translation>%1 lässt sich nicht abspielen: Die Datei ist beschädigt oder kein Ton in einem der Formate WAV, Ogg, FLAC und MP3</translation>
+    </message>
+</context>
+<context>
+    <name>Conversation</name>
+    <message>
+        <source>What was said</source>
+        <translation>Was gesagt wurde</translation>
+    </message>
+    <message>
+        <source>Tapped</source>
+        <translation>Angetippt</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Stimme</translation>
+    </message>
+    <message>
+        <source>Said</source>
+        <translation>Gesagt</translation>
+    </message>
+    <message>
+        <source>Waited</source>
+        <translation>Gewartet</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>Chosen by chance from:</source>
+        <translation>Zufällig gewählt aus:</translation>
+    </message>
+    <message>
+        <source>There is no script for this area</source>
+        <translation>Für diesen Bereich gibt es kein Skript</translation>
+    </message>
+    <message>
+        <source>Division by zero</source>
+        <translation>Division durch null</translation>
+    </message>
+    <message>
+        <source>A value ran over 65535 and went on from 0</source>
+        <translation>Ein Wert lief über 65535 hinaus und ging bei 0 weiter</translation>
+    </message>
+    <message>
+        <source>A value fell below 0 and went on from 65535</source>
+        <translation>Ein Wert fiel unter 0 und ging bei 65535 weiter</translation>
+    </message>
+    <message>
+        <source>The condition was %1, neither 0 nor 1, so no branch was run</source>
+        <translation>Die Bedingung war %1, weder 0 noch 1, darum lief kein Zweig</translation>
+    </message>
+    <message>
+        <source>There was no end after %1 steps</source>
+        <translation>Nach %1 Schritten war kein Ende da</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1, %2 steps</source>
+        <translation>%1, %2 Schritte</translation>
+    </message>
+    <message>
+        <source>The reader waits long before the first sound: %1 steps</source>
+        <translation>Der Leser wartet lange auf den ersten Ton: %1 Schritte</translation>
+    </message>
+    <message>
+        <source>Until the first sound: %1 steps</source>
+        <translation>Bis zum ersten Ton: %1 Schritte</translation>
+    </message>
+</context>
+<context>
+    <name>PageWindow</name>
+    <message>
+        <source>Page to be tapped</source>
+        <translation>Seite zum Antippen</translation>
+    </message>
+</context>
+<context>
+    <name>ReaderPage</name>
+    <message>
+        <source>Page to be tapped</source>
+        <translation>Seite zum Antippen</translation>
+    </message>
+    <message>
+        <source>The arrow keys go from area to area, Enter taps, Page Up and Page Down turn the pages.</source>
+        <translation>Die Pfeiltasten gehen von Bereich zu Bereich, Enter tippt an, Bild auf und Bild ab blättern.</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptView</name>
+    <message>
+        <source>A click sets a breakpoint, or takes it away (F9)</source>
+        <translation>Ein Klick setzt einen Haltepunkt oder nimmt ihn weg (F9)</translation>
+    </message>
+    <message>
+        <source>The script that runs</source>
+        <translation>Das laufende Skript</translation>
+    </message>
+    <message>
+        <source>A double click goes to the line in the script, to change it</source>
+        <translation>Ein Doppelklick führt zur Zeile im Skript, um sie zu ändern</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenTexts</name>
+    <message>
+        <source>A text is too long for the speech program and is only shown.</source>
+        <translation>Ein Text ist zu lang für das Sprachprogramm und wird nur gezeigt.</translation>
+    </message>
+    <message>
+        <source>The speech program is not there: texts without an audio file are only shown.</source>
+        <translation>Das Sprachprogramm fehlt: Texte ohne Audiodatei werden nur gezeigt.</translation>
+    </message>
+    <message>
+        <source>The speech program could not speak a text, which is only shown.</source>
+        <translation>Das Sprachprogramm konnte einen Text nicht sprechen; er wird nur gezeigt.</translation>
+    </message>
+</context>
+<context>
+    <name>TriedBook</name>
+    <message>
+        <source>The book cannot be tried as it is now. Line %1: %2</source>
+        <translation>Das Buch lässt sich so nicht ausprobieren. Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>The book cannot be tried as it is now: %1</source>
+        <translation>Das Buch lässt sich so nicht ausprobieren: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TryTab</name>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Again</source>
+        <translation>Nochmal</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Switches the book on: plays the welcome</source>
+        <translation>Schaltet das Buch ein: spielt die Begrüßung</translation>
+    </message>
+    <message>
+        <source>Repeats what was played last</source>
+        <translation>Wiederholt, was zuletzt gespielt wurde</translation>
+    </message>
+    <message>
+        <source>Ends the sound</source>
+        <translation>Beendet den Ton</translation>
+    </message>
+    <message>
+        <source>Fresh</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>All as in the beginning: nothing was tapped, no variable changed</source>
+        <translation>Alles wie am Anfang: nichts angetippt, keine Variable geändert</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Schritt</translation>
+    </message>
+    <message>
+        <source>Goes on by one line of the script; the next tap begins like that</source>
+        <translation>Geht um eine Zeile des Skripts weiter; das nächste Antippen beginnt so</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Goes on to the next breakpoint</source>
+        <translation>Geht weiter bis zum nächsten Haltepunkt</translation>
+    </message>
+    <message>
+        <source>Breakpoint</source>
+        <translation>Haltepunkt</translation>
+    </message>
+    <message>
+        <source>Sets a breakpoint at the line of the caret, or takes it away</source>
+        <translation>Setzt einen Haltepunkt an der Zeile der Schreibmarke oder nimmt ihn weg</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Shows the page in a window of its own, for a second screen</source>
+        <translation>Zeigt die Seite in einem eigenen Fenster, für einen zweiten Bildschirm</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>The page that is shown; Page Up and Page Down turn the pages, too</source>
+        <translation>Die gezeigte Seite; auch Bild auf und Bild ab blättern</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>There is no area here.</source>
+        <translation>Hier ist kein Bereich.</translation>
+    </message>
+    <message>
+        <source>Line %1 comes next: F10 runs it, F5 goes on</source>
+        <translation>Zeile %1 kommt als Nächstes: F10 führt sie aus, F5 geht weiter</translation>
+    </message>
+    <message>
+        <source>Something is heard</source>
+        <translation>Etwas ist zu hören</translation>
+    </message>
+    <message>
+        <source>The next tap goes line by line</source>
+        <translation>Das nächste Antippen geht Zeile für Zeile</translation>
+    </message>
+    <message>
+        <source>Tap an area of the page</source>
+        <translation>Tippen Sie einen Bereich der Seite an</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Seite %1</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTable</name>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>From 0 to 65535</source>
+        <translation>Von 0 bis 65535</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
     </message>
 </context>
 <context>

@@ -756,6 +756,10 @@
         <translation>Build</translation>
     </message>
     <message>
+        <source>Try</source>
+        <translation>Try</translation>
+    </message>
+    <message>
         <source>👷 Build</source>
         <translation>👷 Build</translation>
     </message>
@@ -1105,6 +1109,266 @@
     <message>
         <source>%1 cannot be played: it is damaged, or no sound in one of the formats WAV, Ogg, FLAC and MP3</source>
         <translation>%1 cannot be played: it is damaged, or no sound in one of the formats WAV, Ogg, FLAC and MP3</translation>
+    </message>
+</context>
+<context>
+    <name>Conversation</name>
+    <message>
+        <source>What was said</source>
+        <translation>What was said</translation>
+    </message>
+    <message>
+        <source>Tapped</source>
+        <translation>Tapped</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Voice</translation>
+    </message>
+    <message>
+        <source>Said</source>
+        <translation>Said</translation>
+    </message>
+    <message>
+        <source>Waited</source>
+        <translation>Waited</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nothing</translation>
+    </message>
+    <message>
+        <source>Chosen by chance from:</source>
+        <translation>Chosen by chance from:</translation>
+    </message>
+    <message>
+        <source>There is no script for this area</source>
+        <translation>There is no script for this area</translation>
+    </message>
+    <message>
+        <source>Division by zero</source>
+        <translation>Division by zero</translation>
+    </message>
+    <message>
+        <source>A value ran over 65535 and went on from 0</source>
+        <translation>A value ran over 65535 and went on from 0</translation>
+    </message>
+    <message>
+        <source>A value fell below 0 and went on from 65535</source>
+        <translation>A value fell below 0 and went on from 65535</translation>
+    </message>
+    <message>
+        <source>The condition was %1, neither 0 nor 1, so no branch was run</source>
+        <translation>The condition was %1, neither 0 nor 1, so no branch was run</translation>
+    </message>
+    <message>
+        <source>There was no end after %1 steps</source>
+        <translation>There was no end after %1 steps</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Line %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1, %2 steps</source>
+        <translation>%1, %2 steps</translation>
+    </message>
+    <message>
+        <source>The reader waits long before the first sound: %1 steps</source>
+        <translation>The reader waits long before the first sound: %1 steps</translation>
+    </message>
+    <message>
+        <source>Until the first sound: %1 steps</source>
+        <translation>Until the first sound: %1 steps</translation>
+    </message>
+</context>
+<context>
+    <name>PageWindow</name>
+    <message>
+        <source>Page to be tapped</source>
+        <translation>Page to be tapped</translation>
+    </message>
+</context>
+<context>
+    <name>ReaderPage</name>
+    <message>
+        <source>Page to be tapped</source>
+        <translation>Page to be tapped</translation>
+    </message>
+    <message>
+        <source>The arrow keys go from area to area, Enter taps, Page Up and Page Down turn the pages.</source>
+        <translation>The arrow keys go from area to area, Enter taps, Page Up and Page Down turn the pages.</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptView</name>
+    <message>
+        <source>A click sets a breakpoint, or takes it away (F9)</source>
+        <translation>A click sets a breakpoint, or takes it away (F9)</translation>
+    </message>
+    <message>
+        <source>The script that runs</source>
+        <translation>The script that runs</translation>
+    </message>
+    <message>
+        <source>A double click goes to the line in the script, to change it</source>
+        <translation>A double click goes to the line in the script, to change it</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenTexts</name>
+    <message>
+        <source>A text is too long for the speech program and is only shown.</source>
+        <translation>A text is too long for the speech program and is only shown.</translation>
+    </message>
+    <message>
+        <source>The speech program is not there: texts without an audio file are only shown.</source>
+        <translation>The speech program is not there: texts without an audio file are only shown.</translation>
+    </message>
+    <message>
+        <source>The speech program could not speak a text, which is only shown.</source>
+        <translation>The speech program could not speak a text, which is only shown.</translation>
+    </message>
+</context>
+<context>
+    <name>TriedBook</name>
+    <message>
+        <source>The book cannot be tried as it is now. Line %1: %2</source>
+        <translation>The book cannot be tried as it is now. Line %1: %2</translation>
+    </message>
+    <message>
+        <source>The book cannot be tried as it is now: %1</source>
+        <translation>The book cannot be tried as it is now: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TryTab</name>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Again</source>
+        <translation>Again</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Switches the book on: plays the welcome</source>
+        <translation>Switches the book on: plays the welcome</translation>
+    </message>
+    <message>
+        <source>Repeats what was played last</source>
+        <translation>Repeats what was played last</translation>
+    </message>
+    <message>
+        <source>Ends the sound</source>
+        <translation>Ends the sound</translation>
+    </message>
+    <message>
+        <source>Fresh</source>
+        <translation>Fresh</translation>
+    </message>
+    <message>
+        <source>All as in the beginning: nothing was tapped, no variable changed</source>
+        <translation>All as in the beginning: nothing was tapped, no variable changed</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Step</translation>
+    </message>
+    <message>
+        <source>Goes on by one line of the script; the next tap begins like that</source>
+        <translation>Goes on by one line of the script; the next tap begins like that</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Go on</translation>
+    </message>
+    <message>
+        <source>Goes on to the next breakpoint</source>
+        <translation>Goes on to the next breakpoint</translation>
+    </message>
+    <message>
+        <source>Breakpoint</source>
+        <translation>Breakpoint</translation>
+    </message>
+    <message>
+        <source>Sets a breakpoint at the line of the caret, or takes it away</source>
+        <translation>Sets a breakpoint at the line of the caret, or takes it away</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Window</translation>
+    </message>
+    <message>
+        <source>Shows the page in a window of its own, for a second screen</source>
+        <translation>Shows the page in a window of its own, for a second screen</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>The page that is shown; Page Up and Page Down turn the pages, too</source>
+        <translation>The page that is shown; Page Up and Page Down turn the pages, too</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>There is no area here.</source>
+        <translation>There is no area here.</translation>
+    </message>
+    <message>
+        <source>Line %1 comes next: F10 runs it, F5 goes on</source>
+        <translation>Line %1 comes next: F10 runs it, F5 goes on</translation>
+    </message>
+    <message>
+        <source>Something is heard</source>
+        <translation>Something is heard</translation>
+    </message>
+    <message>
+        <source>The next tap goes line by line</source>
+        <translation>The next tap goes line by line</translation>
+    </message>
+    <message>
+        <source>Tap an area of the page</source>
+        <translation>Tap an area of the page</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Page %1</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTable</name>
+    <message>
+        <source>Value</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>From 0 to 65535</source>
+        <translation>From 0 to 65535</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Before</translation>
     </message>
 </context>
 <context>

@@ -756,6 +756,10 @@
         <translation>Génération</translation>
     </message>
     <message>
+        <source>Try</source>
+        <translation>Essayer</translation>
+    </message>
+    <message>
         <source>👷 Build</source>
         <translation>👷 Générer</translation>
     </message>
@@ -1105,6 +1109,266 @@
     <message>
         <source>%1 cannot be played: it is damaged, or no sound in one of the formats WAV, Ogg, FLAC and MP3</source>
         <translation>%1 ne peut pas être lu : il est endommagé, ou n’est pas un son dans un des formats WAV, Ogg, FLAC et MP3</translation>
+    </message>
+</context>
+<context>
+    <name>Conversation</name>
+    <message>
+        <source>What was said</source>
+        <translation>Ce qui a été dit</translation>
+    </message>
+    <message>
+        <source>Tapped</source>
+        <translation>Touché</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Voix</translation>
+    </message>
+    <message>
+        <source>Said</source>
+        <translation>Dit</translation>
+    </message>
+    <message>
+        <source>Waited</source>
+        <translation>Attente</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>rien</translation>
+    </message>
+    <message>
+        <source>Chosen by chance from:</source>
+        <translation>Choisi au hasard parmi :</translation>
+    </message>
+    <message>
+        <source>There is no script for this area</source>
+        <translation>Il n’y a pas de script pour cette zone</translation>
+    </message>
+    <message>
+        <source>Division by zero</source>
+        <translation>Division par zéro</translation>
+    </message>
+    <message>
+        <source>A value ran over 65535 and went on from 0</source>
+        <translation>Une valeur a dépassé 65535 et a repris à 0</translation>
+    </message>
+    <message>
+        <source>A value fell below 0 and went on from 65535</source>
+        <translation>Une valeur est passée sous 0 et a repris à 65535</translation>
+    </message>
+    <message>
+        <source>The condition was %1, neither 0 nor 1, so no branch was run</source>
+        <translation>La condition valait %1, ni 0 ni 1 : aucune branche n’a été exécutée</translation>
+    </message>
+    <message>
+        <source>There was no end after %1 steps</source>
+        <translation>Pas de fin après %1 pas</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1, %2 steps</source>
+        <translation>%1, %2 pas</translation>
+    </message>
+    <message>
+        <source>The reader waits long before the first sound: %1 steps</source>
+        <translation>Le lecteur attend longtemps avant le premier son : %1 pas</translation>
+    </message>
+    <message>
+        <source>Until the first sound: %1 steps</source>
+        <translation>Avant le premier son : %1 pas</translation>
+    </message>
+</context>
+<context>
+    <name>PageWindow</name>
+    <message>
+        <source>Page to be tapped</source>
+        <translation>Page à toucher</translation>
+    </message>
+</context>
+<context>
+    <name>ReaderPage</name>
+    <message>
+        <source>Page to be tapped</source>
+        <translation>Page à toucher</translation>
+    </message>
+    <message>
+        <source>The arrow keys go from area to area, Enter taps, Page Up and Page Down turn the pages.</source>
+        <translation>Les flèches vont de zone en zone, Entrée touche, Page précédente et Page suivante tournent les pages.</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptView</name>
+    <message>
+        <source>A click sets a breakpoint, or takes it away (F9)</source>
+        <translation>Un clic pose un point d’arrêt ou l’enlève (F9)</translation>
+    </message>
+    <message>
+        <source>The script that runs</source>
+        <translation>Le script en cours</translation>
+    </message>
+    <message>
+        <source>A double click goes to the line in the script, to change it</source>
+        <translation>Un double clic mène à la ligne dans le script, pour la modifier</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenTexts</name>
+    <message>
+        <source>A text is too long for the speech program and is only shown.</source>
+        <translation>Un texte est trop long pour le programme de parole et n’est qu’affiché.</translation>
+    </message>
+    <message>
+        <source>The speech program is not there: texts without an audio file are only shown.</source>
+        <translation>Le programme de parole manque : les textes sans fichier audio ne sont qu’affichés.</translation>
+    </message>
+    <message>
+        <source>The speech program could not speak a text, which is only shown.</source>
+        <translation>Le programme de parole n’a pas pu dire un texte, qui n’est qu’affiché.</translation>
+    </message>
+</context>
+<context>
+    <name>TriedBook</name>
+    <message>
+        <source>The book cannot be tried as it is now. Line %1: %2</source>
+        <translation>Le livre ne peut pas être essayé ainsi. Ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>The book cannot be tried as it is now: %1</source>
+        <translation>Le livre ne peut pas être essayé ainsi : %1</translation>
+    </message>
+</context>
+<context>
+    <name>TryTab</name>
+    <message>
+        <source>Start</source>
+        <translation>Départ</translation>
+    </message>
+    <message>
+        <source>Again</source>
+        <translation>Encore</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Switches the book on: plays the welcome</source>
+        <translation>Met le livre en marche : joue l’accueil</translation>
+    </message>
+    <message>
+        <source>Repeats what was played last</source>
+        <translation>Répète ce qui a été joué en dernier</translation>
+    </message>
+    <message>
+        <source>Ends the sound</source>
+        <translation>Arrête le son</translation>
+    </message>
+    <message>
+        <source>Fresh</source>
+        <translation>À neuf</translation>
+    </message>
+    <message>
+        <source>All as in the beginning: nothing was tapped, no variable changed</source>
+        <translation>Tout comme au début : rien n’a été touché, aucune variable modifiée</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Pas</translation>
+    </message>
+    <message>
+        <source>Goes on by one line of the script; the next tap begins like that</source>
+        <translation>Avance d’une ligne du script ; le prochain toucher commence ainsi</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Goes on to the next breakpoint</source>
+        <translation>Continue jusqu’au prochain point d’arrêt</translation>
+    </message>
+    <message>
+        <source>Breakpoint</source>
+        <translation>Point d’arrêt</translation>
+    </message>
+    <message>
+        <source>Sets a breakpoint at the line of the caret, or takes it away</source>
+        <translation>Pose un point d’arrêt à la ligne du curseur, ou l’enlève</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenêtre</translation>
+    </message>
+    <message>
+        <source>Shows the page in a window of its own, for a second screen</source>
+        <translation>Montre la page dans une fenêtre à part, pour un second écran</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>The page that is shown; Page Up and Page Down turn the pages, too</source>
+        <translation>La page montrée ; Page précédente et Page suivante tournent aussi les pages</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>There is no area here.</source>
+        <translation>Il n’y a pas de zone ici.</translation>
+    </message>
+    <message>
+        <source>Line %1 comes next: F10 runs it, F5 goes on</source>
+        <translation>La ligne %1 vient ensuite : F10 l’exécute, F5 continue</translation>
+    </message>
+    <message>
+        <source>Something is heard</source>
+        <translation>On entend quelque chose</translation>
+    </message>
+    <message>
+        <source>The next tap goes line by line</source>
+        <translation>Le prochain toucher va ligne par ligne</translation>
+    </message>
+    <message>
+        <source>Tap an area of the page</source>
+        <translation>Touchez une zone de la page</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Page %1</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTable</name>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>From 0 to 65535</source>
+        <translation>De 0 à 65535</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Avant</translation>
     </message>
 </context>
 <context>

@@ -756,6 +756,10 @@
         <translation>Bouwen</translation>
     </message>
     <message>
+        <source>Try</source>
+        <translation>Proberen</translation>
+    </message>
+    <message>
         <source>👷 Build</source>
         <translation>👷 Bouwen</translation>
     </message>
@@ -1105,6 +1109,266 @@
     <message>
         <source>%1 cannot be played: it is damaged, or no sound in one of the formats WAV, Ogg, FLAC and MP3</source>
         <translation>%1 kan niet worden afgespeeld: het is beschadigd, of geen geluid in een van de formaten WAV, Ogg, FLAC en MP3</translation>
+    </message>
+</context>
+<context>
+    <name>Conversation</name>
+    <message>
+        <source>What was said</source>
+        <translation>Wat er gezegd is</translation>
+    </message>
+    <message>
+        <source>Tapped</source>
+        <translation>Aangeraakt</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Stem</translation>
+    </message>
+    <message>
+        <source>Said</source>
+        <translation>Gezegd</translation>
+    </message>
+    <message>
+        <source>Waited</source>
+        <translation>Gewacht</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>niets</translation>
+    </message>
+    <message>
+        <source>Chosen by chance from:</source>
+        <translation>Toevallig gekozen uit:</translation>
+    </message>
+    <message>
+        <source>There is no script for this area</source>
+        <translation>Er is geen script voor dit gebied</translation>
+    </message>
+    <message>
+        <source>Division by zero</source>
+        <translation>Deling door nul</translation>
+    </message>
+    <message>
+        <source>A value ran over 65535 and went on from 0</source>
+        <translation>Een waarde kwam boven 65535 en ging verder vanaf 0</translation>
+    </message>
+    <message>
+        <source>A value fell below 0 and went on from 65535</source>
+        <translation>Een waarde kwam onder 0 en ging verder vanaf 65535</translation>
+    </message>
+    <message>
+        <source>The condition was %1, neither 0 nor 1, so no branch was run</source>
+        <translation>De voorwaarde was %1, niet 0 of 1, dus geen tak werd uitgevoerd</translation>
+    </message>
+    <message>
+        <source>There was no end after %1 steps</source>
+        <translation>Na %1 stappen was er geen einde</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Regel %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1, %2 steps</source>
+        <translation>%1, %2 stappen</translation>
+    </message>
+    <message>
+        <source>The reader waits long before the first sound: %1 steps</source>
+        <translation>De lezer wacht lang op het eerste geluid: %1 stappen</translation>
+    </message>
+    <message>
+        <source>Until the first sound: %1 steps</source>
+        <translation>Tot het eerste geluid: %1 stappen</translation>
+    </message>
+</context>
+<context>
+    <name>PageWindow</name>
+    <message>
+        <source>Page to be tapped</source>
+        <translation>Pagina om aan te raken</translation>
+    </message>
+</context>
+<context>
+    <name>ReaderPage</name>
+    <message>
+        <source>Page to be tapped</source>
+        <translation>Pagina om aan te raken</translation>
+    </message>
+    <message>
+        <source>The arrow keys go from area to area, Enter taps, Page Up and Page Down turn the pages.</source>
+        <translation>De pijltoetsen gaan van gebied naar gebied, Enter raakt aan, Page Up en Page Down slaan de bladzijden om.</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptView</name>
+    <message>
+        <source>A click sets a breakpoint, or takes it away (F9)</source>
+        <translation>Een klik zet een onderbrekingspunt of haalt het weg (F9)</translation>
+    </message>
+    <message>
+        <source>The script that runs</source>
+        <translation>Het script dat loopt</translation>
+    </message>
+    <message>
+        <source>A double click goes to the line in the script, to change it</source>
+        <translation>Dubbelklikken leidt naar de regel in het script, om die te veranderen</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenTexts</name>
+    <message>
+        <source>A text is too long for the speech program and is only shown.</source>
+        <translation>Een tekst is te lang voor het spraakprogramma en wordt alleen getoond.</translation>
+    </message>
+    <message>
+        <source>The speech program is not there: texts without an audio file are only shown.</source>
+        <translation>Het spraakprogramma ontbreekt: teksten zonder audiobestand worden alleen getoond.</translation>
+    </message>
+    <message>
+        <source>The speech program could not speak a text, which is only shown.</source>
+        <translation>Het spraakprogramma kon een tekst niet uitspreken; die wordt alleen getoond.</translation>
+    </message>
+</context>
+<context>
+    <name>TriedBook</name>
+    <message>
+        <source>The book cannot be tried as it is now. Line %1: %2</source>
+        <translation>Het boek kan zo niet worden geprobeerd. Regel %1: %2</translation>
+    </message>
+    <message>
+        <source>The book cannot be tried as it is now: %1</source>
+        <translation>Het boek kan zo niet worden geprobeerd: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TryTab</name>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Again</source>
+        <translation>Opnieuw</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Switches the book on: plays the welcome</source>
+        <translation>Zet het boek aan: speelt het welkom</translation>
+    </message>
+    <message>
+        <source>Repeats what was played last</source>
+        <translation>Herhaalt wat het laatst gespeeld werd</translation>
+    </message>
+    <message>
+        <source>Ends the sound</source>
+        <translation>Stopt het geluid</translation>
+    </message>
+    <message>
+        <source>Fresh</source>
+        <translation>Nieuw</translation>
+    </message>
+    <message>
+        <source>All as in the beginning: nothing was tapped, no variable changed</source>
+        <translation>Alles als in het begin: niets aangeraakt, geen variabele veranderd</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Stap</translation>
+    </message>
+    <message>
+        <source>Goes on by one line of the script; the next tap begins like that</source>
+        <translation>Gaat één regel van het script verder; de volgende aanraking begint zo</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Verder</translation>
+    </message>
+    <message>
+        <source>Goes on to the next breakpoint</source>
+        <translation>Gaat verder tot het volgende onderbrekingspunt</translation>
+    </message>
+    <message>
+        <source>Breakpoint</source>
+        <translation>Onderbreking</translation>
+    </message>
+    <message>
+        <source>Sets a breakpoint at the line of the caret, or takes it away</source>
+        <translation>Zet een onderbrekingspunt op de regel van de cursor of haalt het weg</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Venster</translation>
+    </message>
+    <message>
+        <source>Shows the page in a window of its own, for a second screen</source>
+        <translation>Toont de pagina in een eigen venster, voor een tweede scherm</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Pagina</translation>
+    </message>
+    <message>
+        <source>The page that is shown; Page Up and Page Down turn the pages, too</source>
+        <translation>De getoonde pagina; ook Page Up en Page Down slaan om</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>There is no area here.</source>
+        <translation>Hier is geen gebied.</translation>
+    </message>
+    <message>
+        <source>Line %1 comes next: F10 runs it, F5 goes on</source>
+        <translation>Regel %1 komt nu: F10 voert die uit, F5 gaat verder</translation>
+    </message>
+    <message>
+        <source>Something is heard</source>
+        <translation>Er klinkt iets</translation>
+    </message>
+    <message>
+        <source>The next tap goes line by line</source>
+        <translation>De volgende aanraking gaat regel voor regel</translation>
+    </message>
+    <message>
+        <source>Tap an area of the page</source>
+        <translation>Raak een gebied van de pagina aan</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Pagina %1</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTable</name>
+    <message>
+        <source>Value</source>
+        <translation>Waarde</translation>
+    </message>
+    <message>
+        <source>From 0 to 65535</source>
+        <translation>Van 0 tot 65535</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variabelen</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variabele</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Eerder</translation>
     </message>
 </context>
 <context>

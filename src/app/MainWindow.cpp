@@ -27,6 +27,7 @@
 #include "page/PageScrollArea.h"
 #include "page/PageTouch.h"
 #include "qtsync/KVQtSync.h"
+#include "tryout/TryTab.h"
 #include "ttbasic/ttbasic.h"
 #include "ui_MainWindow.h"
 
@@ -83,6 +84,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     helpWithScript(*rename);
     prepareRecovery();
     prepareDocks();
+    prepareTrying();
     new ProblemsGuide(*this, *ui, document);
     new ToolBarFit(this);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
@@ -373,6 +375,7 @@ void MainWindow::showProject(bool opened)
     ui->ribbonTab->setCurrentWidget(opened ? ui->tabProject : ui->tabBuild);
     // First the index: the form would show, and later write back, the sizes of another page.
     document.restart();
+    tryTab->forget();
     pictureScroll->fit();
     showTopOfPicture();
     selectPolygon(-1);

@@ -28,6 +28,7 @@ class QSettings;
 class Recovery;
 class RenameEverywhere;
 class SideDocks;
+class TryTab;
 struct RecoveryHead;
 
 // The one window. It owns the one document, which all its controls edit; form and project are kept
@@ -113,6 +114,10 @@ private:
     void addNotice(NoticeBar* bar);
     void makeRoomForNotice(bool visible);
     void takeNumber(int number);
+    // MainWindowTrying.cpp: the tab on which the book is tried
+    void prepareTrying();
+    void showScriptLine(int line);
+
     // Points all messages of the project at the console.
     void printIntoConsole();
 
@@ -207,5 +212,6 @@ private:
     QScrollArea* projectScroll = nullptr;
     NumberBar* numberBar = nullptr;
     SideDocks* docks = nullptr;
+    TryTab* tryTab = nullptr;
     std::unique_ptr<Recovery> recovery;  // ends first: it reads the form
 };

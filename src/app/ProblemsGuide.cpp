@@ -111,7 +111,8 @@ void ProblemsGuide::watch()
     connect(form.txProjectId, qOverload<int>(&QSpinBox::valueChanged), this, look);
     connect(&finder, &ProblemFinder::found, this, &ProblemsGuide::show);
     const auto tabChanged = [this] {
-        dock->letFoldByItself(form.ribbonTab->currentWidget() != form.tabAreas);
+        const QWidget* const tab = form.ribbonTab->currentWidget();
+        dock->letFoldByItself(tab != form.tabAreas && tab != form.tabTry);
     };
     connect(form.ribbonTab, &QTabWidget::currentChanged, this, tabChanged);
     tabChanged();

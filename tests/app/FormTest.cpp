@@ -96,6 +96,8 @@ private slots:
             "Copies the binary to the attached USB device");
         row("lbBuildResult", "QLabel");
         row("txConsole", "KVQtStdoutWidget");
+        row("tabTry", "QWidget");
+        row("btStart", "QPushButton", "Start", "Switches the book on: plays the welcome");
     }
 
     void hasItsObjects()
@@ -132,11 +134,12 @@ private slots:
     {
         WindowFixture w;
         const QTabWidget* const tabs = w.get<QTabWidget>("ribbonTab");
-        QCOMPARE(tabs->count(), 4);
+        QCOMPARE(tabs->count(), 5);
         QCOMPARE(tabs->tabText(0), "Project");
         QCOMPARE(tabs->tabText(1), "Areas");
         QCOMPARE(tabs->tabText(2), "Script");
         QCOMPARE(tabs->tabText(3), "Build");
+        QCOMPARE(tabs->tabText(4), "Try");
         QCOMPARE(tabs->currentIndex(), 1);
         QCOMPARE(tabs->styleSheet(), "QTabBar::tab {\nmin-height:32px;\n}");
     }
@@ -293,6 +296,10 @@ private slots:
         QTest::newRow("Script") << QStringList{tabs, "inlay"};
         QTest::newRow("Build") << QStringList{tabs,          "btBuild",   "chDebugMode",
                                               "btCopyToPen", "txConsole", tabs};
+        QTest::newRow("Try") << QStringList{
+            tabs,        "btStart",         "btTryAgain",      "btTryStop",   "btTryFresh",
+            "btTryStep", "btTryGoOn",       "btTryBreakpoint", "btTryWindow", "slTryVolume",
+            "tryPage",   "tryConversation", "tryVariables",    "tryScript",   tabs};
     }
 
     void everyControlIsReachedByTab()

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "publish/OutsideProgram.h"
+#include "ttbasic/ttbasic.h"
+
+#include <QObject>
+#include <QProcess>
+#include <QString>
+
+#include <optional>
+#include <string>
+
+// Texts that have no audio file yet, spoken by the speech program into files of our own, where they
+// are found again. Nothing here waits.
+class SpokenTexts : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Where the files lie; a folder that is not there is made when it is needed.
+    explicit SpokenTexts(QString folder, QObject* parent = nullptr);
+    ~SpokenTexts() override;
+
+    // The folder in the user's cache.
+    static QString usualFolder();
+
+    // One text at a time: only for the last one, ready or failed will come. Not within this call.
+    void want(const std::string& text, const ttbasic::VOICE& voice);
+    // None is wanted any more.
+    void giveUp() { wanted.reset(); }
+
+signals:
+    void ready(const QString& file);
+    // Why it is not spoken.
+    void failed(const QString& reason);
+
+private:
+    struct Speech
+    {
+        std::string text;
+        ttbasic::VOICE voice;
+    };
+
+    QString fileOf(const Speech& speech) const;
+    QString unfinishedFile() const;
+    void bringOn();
+    void speak();
+    void takeSpoken();
+    void tell(const QString& reason);
+
+    const QString folder;
+    QProcess process;
+    OutsideProgram program{process};
+    std::optional<Speech> wanted;
+    std::optional<Speech> spoken;  // by the program, while it runs
+};

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "tryout/TriedBook.h"
+
+#include <QWidget>
+
+class Conversation;
+class Document;
+class PageWindow;
+class QComboBox;
+class QLabel;
+class QLayout;
+class QPushButton;
+class ReaderPage;
+class ScriptView;
+class VariableTable;
+
+// The book as its reader has it before him: pages to be tapped, what is said, and what happens
+// behind it. Only shows and asks; what happens is TriedBook's.
+class TryTab : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // The document, whose current page is shown, outlives the tab.
+    TryTab(Document& document, const TriedBook::Source& source, QWidget* parent = nullptr);
+    ~TryTab() override;
+
+    // Another project comes.
+    void forget() { book.forget(); }
+
+signals:
+    // For the author.
+    void told(const QString& text);
+    void pageAsked(int page);
+    // The author wants to change this line of the script.
+    void lineAsked(int line);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    QWidget* makeControls();
+    QWidget* makePanels();
+    QPushButton* addButton(QLayout& row, const char* name, const QString& text,
+                           const QString& toolTip, const char* key = nullptr);
+    void connectBook();
+    void takeTaps(ReaderPage* page);
+
+    void tapArea(const QString& area);
+    void turn(int way);
+    void begin(const TriedBook::Tap& tap);
+    void showBook();
+    void showMoves();
+    void showState();
+    void showPages();
+    void toggleWindow();
+    void useSound();
+
+    Document& document;
+    TriedBook book;
+    ReaderPage* page;
+    PageWindow* window = nullptr;  // once it was wanted
+    Conversation* conversation = nullptr;
+    VariableTable* variables = nullptr;
+    ScriptView* script = nullptr;
+    QComboBox* pages = nullptr;
+    QLabel* state = nullptr;
+    QPushButton* windowButton = nullptr;
+    bool showingPages = false;
+};
