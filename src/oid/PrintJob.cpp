@@ -1,42 +1,10 @@
 #include "oid/PrintJob.h"
 
-#include <cstdarg>
-
-#include "base/PlatformText.h"
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
+#include "oid/PrintMessages.h"
 
 namespace {
-
-// Keeps the last message of the print images while it lives; they are printed as before.
-class LastMessage
-{
-public:
-    LastMessage()
-    {
-        forward = mi_printf;
-        text.clear();
-        mi_printf = print;
-    }
-    ~LastMessage() { mi_printf = forward; }
-    LastMessage(const LastMessage&) = delete;
-    LastMessage& operator=(const LastMessage&) = delete;
-
-    static std::string line() { return text.substr(0, text.find('\n')); }
-
-private:
-    static int print(const char* format, ...)
-    {
-        va_list arguments;
-        va_start(arguments, format);
-        text = Platform::formatText(format, arguments);
-        va_end(arguments);
-        return forward("%s", text.c_str());
-    }
-
-    static inline PrintFunction forward = nullptr;
-    static inline std::string text;
-};
 
 void sayWhichHaveTooFewDpi(const Oid::OidProject& project, int first, int last)
 {
