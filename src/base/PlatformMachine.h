@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-// The machine: its memory and its keyboard.
+// The machine: its memory, its keyboard and its screen.
 namespace Platform {
 
 // Bytes that this process can still fill without driving the machine out of memory; the largest
@@ -16,5 +16,8 @@ void releaseFreeMemory();
 
 // Whether the Insert key is toggled on; nothing where the system keeps no such state.
 std::optional<bool> insertKeyToggled();
+
+// The plugin with which Qt draws where nothing is to be shown on a screen.
+const char* screenlessPlugin();
 
 }  // namespace Platform

@@ -63,4 +63,9 @@ std::optional<bool> insertKeyToggled()
     return std::nullopt;
 }
 
+const char* screenlessPlugin()
+{
+    return "offscreen";
+}
+
 }  // namespace Platform

@@ -26,4 +26,9 @@ std::optional<bool> insertKeyToggled()
     return (GetKeyState(VK_INSERT) & 1) != 0;
 }
 
+const char* screenlessPlugin()
+{
+    return "windows";  // the one that is installed; there always is a desktop
+}
+
 }  // namespace Platform

@@ -50,6 +50,11 @@ bool BookPage::prepare(PdfWriter& file)
     warnOfFewDpi();
     target = pictureOnPage(picture.size(), geometry, percentPerPixel);
     paper = sheetsOf(geometry, page.paperWidth, page.paperHeight, dpi, options);
+    if (paper.empty()) {
+        mi_printf("Error: A margin of %g mm leaves no room on %s\n", options.margin.value_or(0),
+                  options.poster->name);
+        return false;
+    }
     takeInPicture(file);
     return true;
 }

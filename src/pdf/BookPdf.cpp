@@ -41,6 +41,13 @@ public:
     explicit Progress(const PrintJobProgress& report) : tell(report) {}
 
     int addSheet() { return sheets++; }
+    // While so many pages are prepared, whose sheets are not known yet.
+    void prepare(std::size_t pages) const
+    {
+        if (tell && !tell(0, kPercentOfSheet * static_cast<int>(pages))) {
+            throw PdfFailure();
+        }
+    }
     void reach(int sheet, int percent) const
     {
         const int total = kPercentOfSheet * sheets;
@@ -69,6 +76,7 @@ public:
         }
         if (options.symbols != PdfOptions::Symbols::alone) {
             for (const int n : chosen) {
+                progress.prepare(chosen.size());
                 if (!addPage(n)) {
                     return false;
                 }
@@ -103,6 +111,7 @@ private:
         }
         symbols = std::make_unique<SymbolsPages>(project, options);
         for (const int n : chosen) {
+            progress.prepare(chosen.size());
             if (!symbols->addPicture(n)) {
                 return false;
             }
@@ -147,6 +156,7 @@ bool makePdf(const Oid::OidProject& project, const std::string& path, const PdfO
     bool written = false;
     try {
         written = BookPdf(project, options, progress).make(path);
+    } catch (const PdfFailure&) {  // cancelled while pages were prepared
     } catch (const std::bad_alloc&) {
         mi_printf("Error: Not enough memory to print the page\n");
     }

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 
+#include "pdf/TextOutline.h"
+
 namespace {
 
 // Of Helvetica, in thousandths of its size, from the blank to the tilde.
@@ -16,11 +18,21 @@ constexpr std::array<int, 95> kWidths = {
     222, 833, 556, 556, 556, 556, 333, 500, 278, 556, 500, 722, 500, 500,  500, 334, 260, 334, 584};
 constexpr int kOtherWidth = 640;  // between small and capital letters with accents
 
-// In the encoding of the page's fonts.
+// That of the page's fonts.
+const QTextCodec& encoding()
+{
+    static const QTextCodec* const codec = QTextCodec::codecForName("Windows-1252");
+    return *codec;
+}
+
+bool canBeEncoded(const std::string& utf8)
+{
+    return encoding().canEncode(QString::fromStdString(utf8));
+}
+
 QByteArray encoded(const std::string& utf8)
 {
-    static QTextCodec* const codec = QTextCodec::codecForName("Windows-1252");
-    return codec->fromUnicode(QString::fromStdString(utf8));
+    return encoding().fromUnicode(QString::fromStdString(utf8));
 }
 
 std::string literal(const QByteArray& text)
@@ -166,28 +178,56 @@ void PageDrawing::mask(int number, const QPoint& place, const QSize& pixels, int
 
 void PageDrawing::text(const QPointF& start, const std::string& utf8, double height, Weight weight)
 {
+    if (!canBeEncoded(utf8)) {
+        shapes(start, TextOutline(utf8, weight == Weight::bold).path(), height);
+        return;
+    }
     content += weight == Weight::bold ? "BT /F2 " : "BT /F1 ";
     write({x(height)}, "Tf");
     write({x(start.x()), y(start.y())}, "Td");
     content += literal(encoded(utf8)) + " Tj ET\n";
 }
 
+void PageDrawing::shapes(const QPointF& start, const QPainterPath& path, double height)
+{
+    const auto point = [&](int i) {
+        const QPainterPath::Element element = path.elementAt(i);
+        return QPointF(x(start.x() + element.x * height), y(start.y() + element.y * height));
+    };
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPointF to = point(i);
+        if (path.elementAt(i).isCurveTo()) {  // with two more points behind it
+            const QPointF control = point(i + 1);
+            const QPointF end = point(i + 2);
+            write({to.x(), to.y(), control.x(), control.y(), end.x(), end.y()}, "c");
+            i += 2;
+        } else {
+            write({to.x(), to.y()}, path.elementAt(i).isMoveTo() ? "m" : "l");
+        }
+    }
+    write({}, "f");
+}
+
 void PageDrawing::centred(const QPointF& middle, const std::string& utf8, double height,
                           double width, Weight weight)
 {
-    const double wanted = widthOf(utf8, height) * (weight == Weight::bold ? 1.1 : 1);
+    const double wanted = widthOf(utf8, height, weight);
     const double factor = std::min(1.0, width / std::max(wanted, 1e-9));
     text({middle.x() - wanted * factor / 2, middle.y()}, utf8, height * factor, weight);
 }
 
-double PageDrawing::widthOf(const std::string& utf8, double height)
+double PageDrawing::widthOf(const std::string& utf8, double height, Weight weight)
 {
+    constexpr double kBoldIsWider = 1.1;
+    if (!canBeEncoded(utf8)) {
+        return TextOutline(utf8, weight == Weight::bold).width() * height;
+    }
     int thousandths = 0;
     for (const char letter : encoded(utf8)) {
         const bool known = letter >= ' ' && letter <= '~';
         thousandths += known ? kWidths[static_cast<std::size_t>(letter - ' ')] : kOtherWidth;
     }
-    return thousandths * height / 1000;
+    return thousandths * height / 1000 * (weight == Weight::bold ? kBoldIsWider : 1);
 }
 
 PdfPage PageDrawing::page() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImageIOHandler>
+#include <QPainterPath>
 #include <QPointF>
 #include <QRectF>
 
@@ -51,18 +52,20 @@ public:
     void mask(int number, const QPoint& place, const QSize& pixels, int dpi);
 
     enum class Weight { normal, bold };
-    // The line stands on the point. Letters that Western Europe does not write become "?".
+    // The line stands on the point. One with letters that Western Europe does not write is drawn
+    // as shapes (TextOutline), as viewers have no fonts for them.
     void text(const QPointF& start, const std::string& utf8, double height,
               Weight weight = Weight::normal);
     // The same with its middle on the point, and smaller when it is wider than the width.
     void centred(const QPointF& middle, const std::string& utf8, double height, double width,
                  Weight weight = Weight::normal);
-    static double widthOf(const std::string& utf8, double height);
+    static double widthOf(const std::string& utf8, double height, Weight weight = Weight::normal);
 
     // What was drawn, on a page of the size.
     PdfPage page() const;
 
 private:
+    void shapes(const QPointF& start, const QPainterPath& path, double height);
     void ring(const std::vector<QPointF>& points);
     void write(std::initializer_list<double> numbers, const char* operation);
     double x(double fromLeft) const { return fromLeft * kPointsPerMillimetre; }

@@ -15,6 +15,10 @@ constexpr PaperSize kA4{"A4", 210, 297};
 constexpr PaperSize kA3{"A3", 297, 420};
 constexpr PaperSize kLetter{"Letter", 215.9, 279.4};
 
+constexpr int kFewestPrinterDpi = 100;
+constexpr int kMostPrinterDpi = 9600;
+constexpr int kLargestMargin = 100;  // mm
+
 // What belongs to a printer.
 struct PrinterSettings
 {

@@ -76,6 +76,9 @@ bool fits(double paperWidth, double paperHeight, const PaperSize& paper)
 std::vector<Sheet> posterSheets(const PageGeometry& page, int dpi, const PaperSize& paper,
                                 double margin)
 {
+    if (std::min(paper.width, paper.height) - 2 * margin < 2 * kOverlap) {
+        return {};
+    }
     const Poster upright(page, paper.width, paper.height, margin, dpi);
     const Poster lying(page, paper.height, paper.width, margin, dpi);
     return upright.rows * upright.columns <= lying.rows * lying.columns ? upright.sheets(page)

@@ -23,6 +23,7 @@ struct Sheet
 };
 
 // The sheets of a page of that paper size (mm). Margins are rounded to whole pixels, so that the
-// dots of each sheet lie on the grid of the printer's own.
+// dots of each sheet lie on the grid of the printer's own. None when a poster's margin leaves no
+// room on its paper.
 std::vector<Sheet> sheetsOf(const PageGeometry& page, double paperWidth, double paperHeight,
                             int dpi, const PdfOptions& options);

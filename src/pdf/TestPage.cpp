@@ -169,6 +169,12 @@ bool isUsual(const std::vector<int>& resolutions)
 
 }  // namespace
 
+const std::vector<int>& usualTestResolutions()
+{
+    static const std::vector<int> usual{600, 1200};
+    return usual;
+}
+
 std::vector<TestField> testFields(const std::vector<int>& resolutions)
 {
     using Ground = TestField::Ground;

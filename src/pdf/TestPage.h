@@ -15,6 +15,10 @@
 
 constexpr int kTestProduct = 949;
 constexpr char kTestName[] = "Printer test";
+constexpr int kFewestTestDpi = 600;
+constexpr int kMostTestDpi = 4800;
+// Those that are tried unless others are asked for.
+const std::vector<int>& usualTestResolutions();
 
 struct TestField
 {

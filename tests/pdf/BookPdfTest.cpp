@@ -361,6 +361,13 @@ TEST_F(BookPdf, ACancelledPdfIsNotWritten)
     EXPECT_EQ(book.folder.listing(), "900-bkgnd0.jpg");
 }
 
+TEST_F(BookPdf, AnAuthorMayCancelWhilePagesArePrepared)
+{
+    EXPECT_FALSE(book.makePdf({}, [](int, int) { return false; }));
+    EXPECT_EQ(book.messages, "Creating PDF...\n");
+    EXPECT_EQ(book.folder.listing(), "900-bkgnd0.jpg");
+}
+
 TEST_F(BookPdf, OutlinesHaveNamesAndNumbersInInkThatThePenDoesNotSee)
 {
     PdfOptions options;
@@ -381,6 +388,52 @@ TEST_F(BookPdf, NamesWithUmlautsAreWrittenOut)
     options.outlines = true;
     ASSERT_TRUE(book.makePdf(options));
     EXPECT_NE(book.ask("pdftotext", {"{pdf}", "-"}).find("K\xC3\xBChe (2) 0"), std::string::npos);
+}
+
+// Viewers have no fonts for them, so they are drawn.
+TEST_F(BookPdf, NamesInAnyScriptAreWrittenOut)
+{
+    PdfOptions options;
+    options.outlines = true;
+    options.dots = PdfOptions::Dots::none;
+    const auto drawnWith = [&](const char* name) {
+        book.project.pictures[0].polys[0].name = name;
+        EXPECT_TRUE(book.makePdf(options));
+        EXPECT_EQ(book.ask("pdftotext", {"{pdf}", "-"}).find('?'), std::string::npos) << name;
+        return book.drawn(600);
+    };
+    const QImage turtle = drawnWith("\xC5\xBB\xC3\xB3\xC5\x82w");                      // Polish
+    const QImage cow = drawnWith("\xD0\x9A\xD0\xBE\xD1\x80\xD0\xBE\xD0\xB2\xD0\xB0");  // Russian
+    const QImage owl = drawnWith("\xCE\xBA\xCE\xBF\xCF\x85\xCE\xBA\xCE\xBF");          // Greek
+    EXPECT_NE(turtle, cow);
+    EXPECT_NE(owl, cow);
+    EXPECT_NE(turtle, owl);
+}
+
+TEST_F(BookPdf, ALongNameInAnyScriptStaysInItsArea)
+{
+    PdfOptions options;
+    options.outlines = true;
+    options.dots = PdfOptions::Dots::none;
+    book.project.pictures[0].polys.resize(1);
+    const auto inkOutside = [&](const std::string& name) {
+        book.project.pictures[0].polys[0].name = name;
+        EXPECT_TRUE(book.makePdf(options));
+        const QImage drawn = book.drawn(600);  // the area ends at 40 percent of the width
+        int ink = 0;
+        for (int y = 0; y < drawn.height(); ++y) {
+            for (int x = drawn.width() / 2; x < drawn.width(); ++x) {
+                ink += qGray(drawn.pixel(x, y)) < 255 ? 1 : 0;
+            }
+        }
+        return ink;
+    };
+    EXPECT_EQ(inkOutside("\xD0\x9A"), 0);
+    std::string longName;
+    for (int i = 0; i < 60; ++i) {
+        longName += "\xD0\x9A";
+    }
+    EXPECT_EQ(inkOutside(longName), 0);
 }
 
 TEST_F(BookPdf, AMarginLiesAroundThePageAndTheDotsStayOnThePrintersGrid)
@@ -438,6 +491,16 @@ TEST_F(PosterPdf, EachSheetHasItsPartOfThePagesDots)
     EXPECT_EQ(
         firstDifference(book.mask(3), page.copy(second, 0, page.width() - second, page.height())),
         "");
+}
+
+TEST_F(PosterPdf, AMarginThatLeavesNoRoomIsRefused)
+{
+    options.margin = 100;
+    EXPECT_FALSE(book.makePdf(options));
+    EXPECT_EQ(book.messages, "Creating PDF...\nError: A margin of 100 mm leaves no room on A4\n");
+    EXPECT_EQ(book.folder.listing(), "900-bkgnd0.jpg");
+    options.margin = 94;
+    EXPECT_TRUE(book.makePdf(options));
 }
 
 TEST_F(PosterPdf, TheDotsOfEachSheetLieOnItsOwnGrid)

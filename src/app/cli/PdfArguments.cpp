@@ -2,36 +2,12 @@
 
 #include <QSettings>
 
-#include <sstream>
-
+#include "pdf/PageList.h"
 #include "pdf/PrinterProfiles.h"
 
 namespace {
 
-constexpr int kFewestPrinterDpi = 100;
-constexpr int kMostPrinterDpi = 9600;
-constexpr int kLargestDot = 100;     // pixels; the page knows better
-constexpr int kLargestMargin = 100;  // mm
-
-// "0,2-3" as 0, 2, 3; empty when it is something else.
-std::vector<int> pageList(const std::string& text)
-{
-    std::vector<int> pages;
-    std::istringstream parts(text + ",");
-    for (std::string part; std::getline(parts, part, ',');) {
-        const std::size_t dash = part.find('-');
-        const auto first = wholeNumber(part.substr(0, dash), 0);
-        const auto last =
-            dash == std::string::npos ? first : wholeNumber(part.substr(dash + 1), 0, 9999);
-        if (!first || !last || *last < *first) {
-            return {};
-        }
-        for (int page = *first; page <= *last; ++page) {
-            pages.push_back(page);
-        }
-    }
-    return pages;
-}
+constexpr int kLargestDot = 100;  // pixels; the page knows better
 
 }  // namespace
 
@@ -113,7 +89,7 @@ std::vector<int> PdfArguments::pages()
     if (!arguments.has("--pages")) {
         return {};
     }
-    std::vector<int> chosen = pageList(arguments.value("--pages"));
+    std::vector<int> chosen = pagesIn(arguments.value("--pages"));
     if (chosen.empty()) {
         reject("PAGES must be numbers of pictures such as 0,2-3, not '" +
                arguments.value("--pages") + "'");

@@ -11,9 +11,6 @@
 
 namespace {
 
-constexpr int kFewestTestDpi = 600;
-constexpr int kMostTestDpi = 4800;
-
 // "600,1200"; empty when it is something else.
 std::vector<int> resolutionsIn(const std::string& text)
 {
