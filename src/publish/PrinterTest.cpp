@@ -2,7 +2,7 @@
 
 #include <QTemporaryDir>
 
-#include "base/FileSystem.h"
+#include "base/PlatformFiles.h"
 #include "gme/Assembler.h"
 #include "oid/OidTable.h"
 #include "oid/PrintImage.h"
@@ -36,21 +36,47 @@ std::string nameOfFile(const char* extension)
     return std::to_string(kTestProduct) + "-" + kTestName + extension;
 }
 
-// Numbers, script, description and speech in a folder for the time being, and the game from them.
-bool makeGame(const std::string& gameFile, Oid::OidProject& book, ProcessRunner& runner)
+constexpr int kTotal = 100;  // percent, of which the speech takes this part:
+constexpr int kOfSpeech = 80;
+
+// Numbers, script, description and speech in a folder for the time being, and the game from them,
+// there, too. An empty path when it was cancelled, or could not be made.
+std::string makeGame(const QTemporaryDir& folder, Oid::OidProject& book, ProcessRunner& runner,
+                     const PrintJobProgress& progress)
 {
-    const QTemporaryDir folder;
     book.projectPath = folder.filePath(QStringLiteral("test.oidpro")).toStdString();
     if (!folder.isValid() || !compileProject(book, false) || !makeYAML(book)) {
-        return false;
+        return {};
     }
-    if (createSoundFiles(book, runner) != SpeechOutcome::complete) {
-        return false;
+    const auto speech = [&](int done, int total) {
+        return !progress || progress(total > 0 ? kOfSpeech * done / total : 0, kTotal);
+    };
+    if (createSoundFiles(book, runner, speech) != SpeechOutcome::complete) {
+        return {};
     }
     gme::AssembleOptions options;
     options.yamlFile = book.pathYaml();
-    options.gameFile = gameFile;
-    return gme::assemble(options, mi_printf);
+    options.gameFile = folder.filePath(QStringLiteral("test.gme")).toStdString();
+    return gme::assemble(options, mi_printf) ? options.gameFile : std::string();
+}
+
+// Said before the speech is made, which takes long.
+bool canBeWritten(const std::string& path)
+{
+    const bool opened = Platform::FileReplacement(path).file() != nullptr;
+    if (!opened) {
+        mi_printf("Error: Can't open file '%s'\n", Platform::nativePath(path).c_str());
+    }
+    return opened;
+}
+
+bool putInPlace(const std::string& made, const std::string& path)
+{
+    const bool copied = Platform::copyFile(made, path);
+    if (!copied) {
+        mi_printf("Error: Can't write file '%s'\n", Platform::nativePath(path).c_str());
+    }
+    return copied;
 }
 
 }  // namespace
@@ -89,16 +115,31 @@ std::string printerTestGame()
 }
 
 bool makePrinterTest(const std::string& folder, const std::vector<int>& resolutions,
-                     const std::string& language, ProcessRunner& runner)
+                     const std::string& language, ProcessRunner& runner,
+                     const PrintJobProgress& progress)
 {
     const std::string start = folder.empty() ? "" : folder + "/";
-    if (!makeTestPage(start + printerTestPage(), resolutions)) {
+    bool cancelled = false;
+    const PrintJobProgress noting = [&](int done, int total) {
+        cancelled = cancelled || (progress && !progress(done, total));
+        return !cancelled;
+    };
+    if (!canBeWritten(start + printerTestPage())) {
         return false;
     }
+    const QTemporaryDir work;
     Oid::OidProject book = printerTestBook(resolutions, language);
-    if (!makeGame(start + printerTestGame(), book, runner)) {
+    const std::string game = makeGame(work, book, runner, noting);
+    if (cancelled) {
+        return false;
+    }
+    if (game.empty()) {
         mi_printf("Error: The game of the test page was not made\n");
         return false;
     }
-    return true;
+    const auto page = [&](int done, int total) {
+        return noting(kOfSpeech + (kTotal - kOfSpeech) * done / total, kTotal);
+    };
+    return makeTestPage(start + printerTestPage(), resolutions, page) &&
+           putInPlace(game, start + printerTestGame());
 }

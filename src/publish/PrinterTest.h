@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "oid/OidProject.h"
+#include "oid/PrintJob.h"
 
 class ProcessRunner;
 
@@ -20,7 +21,9 @@ std::string printerTestPage();
 std::string printerTestGame();
 
 // Makes both in a folder, which is there. The runner runs the programs that speak and shows what
-// they say; other messages go through mi_printf. False, with a message, when one of the files could
-// not be made, or when speech is missing; the other one may be there then.
+// they say; other messages go through mi_printf. False when it was cancelled, and, with a message,
+// when one of the files could not be made, or when speech is missing. Nothing is written then,
+// unless it is the game that cannot be: it comes behind the page.
 bool makePrinterTest(const std::string& folder, const std::vector<int>& resolutions,
-                     const std::string& language, ProcessRunner& runner);
+                     const std::string& language, ProcessRunner& runner,
+                     const PrintJobProgress& progress = {});
