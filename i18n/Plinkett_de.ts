@@ -89,6 +89,68 @@
     </message>
 </context>
 <context>
+    <name>BookPrinting</name>
+    <message>
+        <source>&amp;PDF of the book...</source>
+        <translation>&amp;PDF des Buchs...</translation>
+    </message>
+    <message>
+        <source>&amp;Symbols and legend...</source>
+        <translation>&amp;Zeichen und Legende...</translation>
+    </message>
+    <message>
+        <source>Printer&apos;s &amp;test page...</source>
+        <translation>&amp;Testseite des Druckers...</translation>
+    </message>
+    <message>
+        <source>There is no picture yet</source>
+        <translation>Es gibt noch kein Bild</translation>
+    </message>
+    <message>
+        <source>Creating the PDF...</source>
+        <translation>Das PDF wird erzeugt...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The PDF was created: %1</source>
+        <translation>Das PDF wurde erzeugt: %1</translation>
+    </message>
+    <message>
+        <source>Creating was cancelled</source>
+        <translation>Das Erzeugen wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>The PDF was not created: %1</source>
+        <translation>Das PDF wurde nicht erzeugt: %1</translation>
+    </message>
+    <message>
+        <source>Making the printer&apos;s test page...</source>
+        <translation>Die Testseite des Druckers wird erzeugt...</translation>
+    </message>
+    <message>
+        <source>Print %1 at 100 %, and copy %2 onto the pen</source>
+        <translation>%1 bei 100 % drucken und %2 auf den Stift kopieren</translation>
+    </message>
+    <message>
+        <source>The test page was not created: %1</source>
+        <translation>Die Testseite wurde nicht erzeugt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DotPreview</name>
+    <message>
+        <source>Preview: a square centimetre of the page</source>
+        <translation>Vorschau: ein Quadratzentimeter der Seite</translation>
+    </message>
+    <message>
+        <source>A square centimetre of the page: a pixel of the screen is one of the printer</source>
+        <translation>Ein Quadratzentimeter der Seite: Ein Bildpunkt des Bildschirms ist einer des Druckers</translation>
+    </message>
+</context>
+<context>
     <name>Hints</name>
     <message>
         <source>The pen says only one of these texts, at random</source>
@@ -544,6 +606,34 @@
         <translation>Das Druckbild jetzt erzeugen...</translation>
     </message>
     <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Makes a PDF of the book for your own printer; in its menu: symbols and the printer&apos;s test page</source>
+        <translation>Macht ein PDF des Buchs für den eigenen Drucker; in seinem Menü: Zeichen und die Testseite des Druckers</translation>
+    </message>
+    <message>
+        <source>Add START &amp;symbol</source>
+        <translation>&amp;START-Zeichen einfügen</translation>
+    </message>
+    <message>
+        <source>An area with the number of the book, which the pen must touch before it knows it</source>
+        <translation>Ein Bereich mit der Nummer des Buchs, den der Stift berühren muss, bevor er es kennt</translation>
+    </message>
+    <message>
+        <source>This page has its START symbol already: %1</source>
+        <translation>Diese Seite hat ihr START-Zeichen schon: %1</translation>
+    </message>
+    <message>
+        <source>The START symbol lies over other areas: nothing of the page is free. Move it.</source>
+        <translation>Das START-Zeichen liegt über anderen Bereichen: Auf der Seite ist nichts frei. Verschieben Sie es.</translation>
+    </message>
+    <message>
+        <source>The START symbol is on the page. Drag it where you like.</source>
+        <translation>Das START-Zeichen ist auf der Seite. Ziehen Sie es, wohin Sie möchten.</translation>
+    </message>
+    <message>
         <source>For all pictures</source>
         <translation>Für alle Bilder</translation>
     </message>
@@ -971,6 +1061,181 @@
     </message>
 </context>
 <context>
+    <name>PdfDialog</name>
+    <message>
+        <source>Lighten only inside of areas</source>
+        <translation>Nur in Bereichen aufhellen</translation>
+    </message>
+    <message>
+        <source>Outlines and names of the areas</source>
+        <translation>Umrisse und Namen der Bereiche</translation>
+    </message>
+    <message>
+        <source>Crop marks</source>
+        <translation>Schnittmarken</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>everywhere</source>
+        <translation>überall</translation>
+    </message>
+    <message>
+        <source>only in areas</source>
+        <translation>nur in Bereichen</translation>
+    </message>
+    <message>
+        <source>none: a proof</source>
+        <translation>keine: ein Probedruck</translation>
+    </message>
+    <message>
+        <source>when no area starts the book</source>
+        <translation>wenn kein Bereich das Buch startet</translation>
+    </message>
+    <message>
+        <source>always</source>
+        <translation>immer</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nie</translation>
+    </message>
+    <message>
+        <source>nothing else</source>
+        <translation>nichts anderes</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Erzeugen</translation>
+    </message>
+    <message>
+        <source>1 cm of the page, dots 1:1</source>
+        <translation>1 cm der Seite, Punkte 1:1</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>Only these pictures, counted from 0, such as 0,2-3</source>
+        <translation>Nur diese Bilder, von 0 an gezählt, etwa 0,2-3</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Seiten:</translation>
+    </message>
+    <message>
+        <source>Where dots are printed</source>
+        <translation>Wo Punkte gedruckt werden</translation>
+    </message>
+    <message>
+        <source>Dots</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Dots:</source>
+        <translation>Punkte:</translation>
+    </message>
+    <message>
+        <source>The rest of the picture stays as it is</source>
+        <translation>Der Rest des Bilds bleibt, wie er ist</translation>
+    </message>
+    <message>
+        <source>For you: in a colour that the pen does not see</source>
+        <translation>Für Sie: in einer Farbe, die der Stift nicht sieht</translation>
+    </message>
+    <message>
+        <source>as needed</source>
+        <translation>nach Bedarf</translation>
+    </message>
+    <message>
+        <source>White paper around each page</source>
+        <translation>Weißes Papier um jede Seite</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Rand</translation>
+    </message>
+    <message>
+        <source>Margin:</source>
+        <translation>Rand:</translation>
+    </message>
+    <message>
+        <source>Marks in the margin where the page ends</source>
+        <translation>Marken im Rand, wo die Seite endet</translation>
+    </message>
+    <message>
+        <source>Pages that are larger than the paper on several sheets that overlap</source>
+        <translation>Seiten, die größer als das Papier sind, auf mehreren Bögen, die sich überlappen</translation>
+    </message>
+    <message>
+        <source>Poster</source>
+        <translation>Plakat</translation>
+    </message>
+    <message>
+        <source>Poster:</source>
+        <translation>Plakat:</translation>
+    </message>
+    <message>
+        <source>A page with START, REPLAY, STOP and a legend of all areas</source>
+        <translation>Eine Seite mit START, REPLAY, STOP und einer Legende aller Bereiche</translation>
+    </message>
+    <message>
+        <source>Symbols and legend</source>
+        <translation>Zeichen und Legende</translation>
+    </message>
+    <message>
+        <source>Symbols and legend:</source>
+        <translation>Zeichen und Legende:</translation>
+    </message>
+    <message>
+        <source>The file that is written</source>
+        <translation>Die Datei, die geschrieben wird</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Chooses another file</source>
+        <translation>Wählt eine andere Datei</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Datei:</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Sheets of paper: %1</source>
+        <translation>Blätter Papier: %1</translation>
+    </message>
+    <message>
+        <source>Pages are numbers from 0 to %1, such as 0,2-3.</source>
+        <translation>Seiten sind Zahlen von 0 bis %1, etwa 0,2-3.</translation>
+    </message>
+    <message>
+        <source>The DPI are a number from %1 to %2.</source>
+        <translation>DPI sind eine Zahl von %1 bis %2.</translation>
+    </message>
+    <message>
+        <source>The file has no name.</source>
+        <translation>Die Datei hat keinen Namen.</translation>
+    </message>
+</context>
+<context>
     <name>PickTool</name>
     <message>
         <source>An area needs at least three corners.</source>
@@ -990,6 +1255,205 @@
     <message>
         <source>Ctrl+Down and Ctrl+Up go through the areas, Ctrl+Right and Ctrl+Left through the corners of the selected one; the arrow keys move them.</source>
         <translation>Strg+Ab und Strg+Auf gehen durch die Bereiche, Strg+Rechts und Strg+Links durch die Ecken des ausgewählten; die Pfeiltasten verschieben sie.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterBox</name>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Keep...</source>
+        <translation>Merken...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Make profile...</source>
+        <translation>Profil anlegen...</translation>
+    </message>
+    <message>
+        <source>No black in the picture</source>
+        <translation>Kein Schwarz im Bild</translation>
+    </message>
+    <message>
+        <source>Profile:</source>
+        <translation>Profil:</translation>
+    </message>
+    <message>
+        <source>Best field:</source>
+        <translation>Bestes Feld:</translation>
+    </message>
+    <message>
+        <source>DPI:</source>
+        <translation>DPI:</translation>
+    </message>
+    <message>
+        <source>Edge of a dot:</source>
+        <translation>Kante eines Punkts:</translation>
+    </message>
+    <message>
+        <source>Lighten the picture:</source>
+        <translation>Bild aufhellen:</translation>
+    </message>
+    <message>
+        <source>Profile of a printer</source>
+        <translation>Profil eines Druckers</translation>
+    </message>
+    <message>
+        <source>What has been kept about a printer</source>
+        <translation>Was über einen Drucker gemerkt wurde</translation>
+    </message>
+    <message>
+        <source>Keeps the settings of this printer under a name</source>
+        <translation>Merkt sich die Einstellungen dieses Druckers unter einem Namen</translation>
+    </message>
+    <message>
+        <source>Forgets the chosen profile</source>
+        <translation>Vergisst das gewählte Profil</translation>
+    </message>
+    <message>
+        <source>Best field of the printer&apos;s test page</source>
+        <translation>Bestes Feld der Testseite des Druckers</translation>
+    </message>
+    <message>
+        <source>The field of the printer&apos;s test page that the pen reads best, such as B3</source>
+        <translation>Das Feld der Testseite des Druckers, das der Stift am besten liest, etwa B3</translation>
+    </message>
+    <message>
+        <source>Makes a profile of what that field says about the printer</source>
+        <translation>Macht ein Profil daraus, was dieses Feld über den Drucker sagt</translation>
+    </message>
+    <message>
+        <source>Resolution of the printer</source>
+        <translation>Auflösung des Druckers</translation>
+    </message>
+    <message>
+        <source>The dots per inch of the printer, when they are not those of the pictures</source>
+        <translation>Die Punkte je Zoll des Druckers, wenn es nicht die der Bilder sind</translation>
+    </message>
+    <message>
+        <source>that of each picture</source>
+        <translation>die jedes Bilds</translation>
+    </message>
+    <message>
+        <source>Edge of a dot in pixels of the printer</source>
+        <translation>Kante eines Punkts in Bildpunkten des Druckers</translation>
+    </message>
+    <message>
+        <source>Smaller dots for a printer that prints them too fat</source>
+        <translation>Kleinere Punkte für einen Drucker, der sie zu dick druckt</translation>
+    </message>
+    <message>
+        <source>standard</source>
+        <translation>üblich</translation>
+    </message>
+    <message>
+        <source> pixels</source>
+        <translation> Bildpunkte</translation>
+    </message>
+    <message>
+        <source>Mixes the picture&apos;s black of cyan, magenta and yellow, which the pen does not see</source>
+        <translation>Mischt das Schwarz des Bilds aus Cyan, Magenta und Gelb, was der Stift nicht sieht</translation>
+    </message>
+    <message>
+        <source>How much lighter the picture is, in percent</source>
+        <translation>Um wie viel das Bild heller ist, in Prozent</translation>
+    </message>
+    <message>
+        <source>Takes ink out of the picture, so that the pen finds the dots</source>
+        <translation>Nimmt Farbe aus dem Bild, damit der Stift die Punkte findet</translation>
+    </message>
+    <message>
+        <source>not</source>
+        <translation>nicht</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keines</translation>
+    </message>
+    <message>
+        <source>The profile %1 is gone.</source>
+        <translation>Das Profil %1 ist entfernt.</translation>
+    </message>
+    <message>
+        <source>The test page has no field %1.</source>
+        <translation>Die Testseite hat kein Feld %1.</translation>
+    </message>
+    <message>
+        <source>Printer %1</source>
+        <translation>Drucker %1</translation>
+    </message>
+    <message>
+        <source>Name of the printer:</source>
+        <translation>Name des Druckers:</translation>
+    </message>
+    <message>
+        <source>The profile %1 is kept.</source>
+        <translation>Das Profil %1 ist gemerkt.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterTestDialog</name>
+    <message>
+        <source>Printer&apos;s test page</source>
+        <translation>Testseite des Druckers</translation>
+    </message>
+    <message>
+        <source>Makes a page and a game that find out how your printer prints dots. Print the page, copy the game onto the pen, touch the fields, and tell the best one&apos;s name where you make a PDF.</source>
+        <translation>Erzeugt eine Seite und ein Spiel, die herausfinden, wie Ihr Drucker Punkte druckt. Drucken Sie die Seite, kopieren Sie das Spiel auf den Stift, berühren Sie die Felder und nennen Sie den Namen des besten dort, wo Sie ein PDF erzeugen.</translation>
+    </message>
+    <message>
+        <source>%1 DPI</source>
+        <translation>%1 DPI</translation>
+    </message>
+    <message>
+        <source>Tries this resolution of the printer</source>
+        <translation>Probiert diese Auflösung des Druckers</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Where page and game are written</source>
+        <translation>Wohin Seite und Spiel geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Chooses another folder</source>
+        <translation>Wählt einen anderen Ordner</translation>
+    </message>
+    <message>
+        <source>DPI:</source>
+        <translation>DPI:</translation>
+    </message>
+    <message>
+        <source>Language of the pen:</source>
+        <translation>Sprache des Stifts:</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Ordner:</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Erzeugen</translation>
+    </message>
+    <message>
+        <source>Language of the pen</source>
+        <translation>Sprache des Stifts</translation>
+    </message>
+    <message>
+        <source>The language in which the pen names the fields</source>
+        <translation>Die Sprache, in der der Stift die Felder nennt</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language of this translation: en, de, fr or nl.</extracomment>
+        <translation>de</translation>
     </message>
 </context>
 <context>

@@ -89,6 +89,68 @@
     </message>
 </context>
 <context>
+    <name>BookPrinting</name>
+    <message>
+        <source>&amp;PDF of the book...</source>
+        <translation>&amp;PDF of the book...</translation>
+    </message>
+    <message>
+        <source>&amp;Symbols and legend...</source>
+        <translation>&amp;Symbols and legend...</translation>
+    </message>
+    <message>
+        <source>Printer&apos;s &amp;test page...</source>
+        <translation>Printer&apos;s &amp;test page...</translation>
+    </message>
+    <message>
+        <source>There is no picture yet</source>
+        <translation>There is no picture yet</translation>
+    </message>
+    <message>
+        <source>Creating the PDF...</source>
+        <translation>Creating the PDF...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>The PDF was created: %1</source>
+        <translation>The PDF was created: %1</translation>
+    </message>
+    <message>
+        <source>Creating was cancelled</source>
+        <translation>Creating was cancelled</translation>
+    </message>
+    <message>
+        <source>The PDF was not created: %1</source>
+        <translation>The PDF was not created: %1</translation>
+    </message>
+    <message>
+        <source>Making the printer&apos;s test page...</source>
+        <translation>Making the printer&apos;s test page...</translation>
+    </message>
+    <message>
+        <source>Print %1 at 100 %, and copy %2 onto the pen</source>
+        <translation>Print %1 at 100 %, and copy %2 onto the pen</translation>
+    </message>
+    <message>
+        <source>The test page was not created: %1</source>
+        <translation>The test page was not created: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DotPreview</name>
+    <message>
+        <source>Preview: a square centimetre of the page</source>
+        <translation>Preview: a square centimetre of the page</translation>
+    </message>
+    <message>
+        <source>A square centimetre of the page: a pixel of the screen is one of the printer</source>
+        <translation>A square centimetre of the page: a pixel of the screen is one of the printer</translation>
+    </message>
+</context>
+<context>
     <name>Hints</name>
     <message>
         <source>The pen says only one of these texts, at random</source>
@@ -544,6 +606,34 @@
         <translation>Create the output image now...</translation>
     </message>
     <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Makes a PDF of the book for your own printer; in its menu: symbols and the printer&apos;s test page</source>
+        <translation>Makes a PDF of the book for your own printer; in its menu: symbols and the printer&apos;s test page</translation>
+    </message>
+    <message>
+        <source>Add START &amp;symbol</source>
+        <translation>Add START &amp;symbol</translation>
+    </message>
+    <message>
+        <source>An area with the number of the book, which the pen must touch before it knows it</source>
+        <translation>An area with the number of the book, which the pen must touch before it knows it</translation>
+    </message>
+    <message>
+        <source>This page has its START symbol already: %1</source>
+        <translation>This page has its START symbol already: %1</translation>
+    </message>
+    <message>
+        <source>The START symbol lies over other areas: nothing of the page is free. Move it.</source>
+        <translation>The START symbol lies over other areas: nothing of the page is free. Move it.</translation>
+    </message>
+    <message>
+        <source>The START symbol is on the page. Drag it where you like.</source>
+        <translation>The START symbol is on the page. Drag it where you like.</translation>
+    </message>
+    <message>
         <source>For all pictures</source>
         <translation>For all pictures</translation>
     </message>
@@ -971,6 +1061,181 @@
     </message>
 </context>
 <context>
+    <name>PdfDialog</name>
+    <message>
+        <source>Lighten only inside of areas</source>
+        <translation>Lighten only inside of areas</translation>
+    </message>
+    <message>
+        <source>Outlines and names of the areas</source>
+        <translation>Outlines and names of the areas</translation>
+    </message>
+    <message>
+        <source>Crop marks</source>
+        <translation>Crop marks</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>everywhere</source>
+        <translation>everywhere</translation>
+    </message>
+    <message>
+        <source>only in areas</source>
+        <translation>only in areas</translation>
+    </message>
+    <message>
+        <source>none: a proof</source>
+        <translation>none: a proof</translation>
+    </message>
+    <message>
+        <source>when no area starts the book</source>
+        <translation>when no area starts the book</translation>
+    </message>
+    <message>
+        <source>always</source>
+        <translation>always</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>never</translation>
+    </message>
+    <message>
+        <source>nothing else</source>
+        <translation>nothing else</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Create</translation>
+    </message>
+    <message>
+        <source>1 cm of the page, dots 1:1</source>
+        <translation>1 cm of the page, dots 1:1</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>all</translation>
+    </message>
+    <message>
+        <source>Only these pictures, counted from 0, such as 0,2-3</source>
+        <translation>Only these pictures, counted from 0, such as 0,2-3</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Pages:</translation>
+    </message>
+    <message>
+        <source>Where dots are printed</source>
+        <translation>Where dots are printed</translation>
+    </message>
+    <message>
+        <source>Dots</source>
+        <translation>Dots</translation>
+    </message>
+    <message>
+        <source>Dots:</source>
+        <translation>Dots:</translation>
+    </message>
+    <message>
+        <source>The rest of the picture stays as it is</source>
+        <translation>The rest of the picture stays as it is</translation>
+    </message>
+    <message>
+        <source>For you: in a colour that the pen does not see</source>
+        <translation>For you: in a colour that the pen does not see</translation>
+    </message>
+    <message>
+        <source>as needed</source>
+        <translation>as needed</translation>
+    </message>
+    <message>
+        <source>White paper around each page</source>
+        <translation>White paper around each page</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Margin</translation>
+    </message>
+    <message>
+        <source>Margin:</source>
+        <translation>Margin:</translation>
+    </message>
+    <message>
+        <source>Marks in the margin where the page ends</source>
+        <translation>Marks in the margin where the page ends</translation>
+    </message>
+    <message>
+        <source>Pages that are larger than the paper on several sheets that overlap</source>
+        <translation>Pages that are larger than the paper on several sheets that overlap</translation>
+    </message>
+    <message>
+        <source>Poster</source>
+        <translation>Poster</translation>
+    </message>
+    <message>
+        <source>Poster:</source>
+        <translation>Poster:</translation>
+    </message>
+    <message>
+        <source>A page with START, REPLAY, STOP and a legend of all areas</source>
+        <translation>A page with START, REPLAY, STOP and a legend of all areas</translation>
+    </message>
+    <message>
+        <source>Symbols and legend</source>
+        <translation>Symbols and legend</translation>
+    </message>
+    <message>
+        <source>Symbols and legend:</source>
+        <translation>Symbols and legend:</translation>
+    </message>
+    <message>
+        <source>The file that is written</source>
+        <translation>The file that is written</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Chooses another file</source>
+        <translation>Chooses another file</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>File:</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>PDF files (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Sheets of paper: %1</source>
+        <translation>Sheets of paper: %1</translation>
+    </message>
+    <message>
+        <source>Pages are numbers from 0 to %1, such as 0,2-3.</source>
+        <translation>Pages are numbers from 0 to %1, such as 0,2-3.</translation>
+    </message>
+    <message>
+        <source>The DPI are a number from %1 to %2.</source>
+        <translation>The DPI are a number from %1 to %2.</translation>
+    </message>
+    <message>
+        <source>The file has no name.</source>
+        <translation>The file has no name.</translation>
+    </message>
+</context>
+<context>
     <name>PickTool</name>
     <message>
         <source>An area needs at least three corners.</source>
@@ -990,6 +1255,205 @@
     <message>
         <source>Ctrl+Down and Ctrl+Up go through the areas, Ctrl+Right and Ctrl+Left through the corners of the selected one; the arrow keys move them.</source>
         <translation>Ctrl+Down and Ctrl+Up go through the areas, Ctrl+Right and Ctrl+Left through the corners of the selected one; the arrow keys move them.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterBox</name>
+    <message>
+        <source>Printer</source>
+        <translation>Printer</translation>
+    </message>
+    <message>
+        <source>Keep...</source>
+        <translation>Keep...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Make profile...</source>
+        <translation>Make profile...</translation>
+    </message>
+    <message>
+        <source>No black in the picture</source>
+        <translation>No black in the picture</translation>
+    </message>
+    <message>
+        <source>Profile:</source>
+        <translation>Profile:</translation>
+    </message>
+    <message>
+        <source>Best field:</source>
+        <translation>Best field:</translation>
+    </message>
+    <message>
+        <source>DPI:</source>
+        <translation>DPI:</translation>
+    </message>
+    <message>
+        <source>Edge of a dot:</source>
+        <translation>Edge of a dot:</translation>
+    </message>
+    <message>
+        <source>Lighten the picture:</source>
+        <translation>Lighten the picture:</translation>
+    </message>
+    <message>
+        <source>Profile of a printer</source>
+        <translation>Profile of a printer</translation>
+    </message>
+    <message>
+        <source>What has been kept about a printer</source>
+        <translation>What has been kept about a printer</translation>
+    </message>
+    <message>
+        <source>Keeps the settings of this printer under a name</source>
+        <translation>Keeps the settings of this printer under a name</translation>
+    </message>
+    <message>
+        <source>Forgets the chosen profile</source>
+        <translation>Forgets the chosen profile</translation>
+    </message>
+    <message>
+        <source>Best field of the printer&apos;s test page</source>
+        <translation>Best field of the printer&apos;s test page</translation>
+    </message>
+    <message>
+        <source>The field of the printer&apos;s test page that the pen reads best, such as B3</source>
+        <translation>The field of the printer&apos;s test page that the pen reads best, such as B3</translation>
+    </message>
+    <message>
+        <source>Makes a profile of what that field says about the printer</source>
+        <translation>Makes a profile of what that field says about the printer</translation>
+    </message>
+    <message>
+        <source>Resolution of the printer</source>
+        <translation>Resolution of the printer</translation>
+    </message>
+    <message>
+        <source>The dots per inch of the printer, when they are not those of the pictures</source>
+        <translation>The dots per inch of the printer, when they are not those of the pictures</translation>
+    </message>
+    <message>
+        <source>that of each picture</source>
+        <translation>that of each picture</translation>
+    </message>
+    <message>
+        <source>Edge of a dot in pixels of the printer</source>
+        <translation>Edge of a dot in pixels of the printer</translation>
+    </message>
+    <message>
+        <source>Smaller dots for a printer that prints them too fat</source>
+        <translation>Smaller dots for a printer that prints them too fat</translation>
+    </message>
+    <message>
+        <source>standard</source>
+        <translation>standard</translation>
+    </message>
+    <message>
+        <source> pixels</source>
+        <translation> pixels</translation>
+    </message>
+    <message>
+        <source>Mixes the picture&apos;s black of cyan, magenta and yellow, which the pen does not see</source>
+        <translation>Mixes the picture&apos;s black of cyan, magenta and yellow, which the pen does not see</translation>
+    </message>
+    <message>
+        <source>How much lighter the picture is, in percent</source>
+        <translation>How much lighter the picture is, in percent</translation>
+    </message>
+    <message>
+        <source>Takes ink out of the picture, so that the pen finds the dots</source>
+        <translation>Takes ink out of the picture, so that the pen finds the dots</translation>
+    </message>
+    <message>
+        <source>not</source>
+        <translation>not</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>The profile %1 is gone.</source>
+        <translation>The profile %1 is gone.</translation>
+    </message>
+    <message>
+        <source>The test page has no field %1.</source>
+        <translation>The test page has no field %1.</translation>
+    </message>
+    <message>
+        <source>Printer %1</source>
+        <translation>Printer %1</translation>
+    </message>
+    <message>
+        <source>Name of the printer:</source>
+        <translation>Name of the printer:</translation>
+    </message>
+    <message>
+        <source>The profile %1 is kept.</source>
+        <translation>The profile %1 is kept.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterTestDialog</name>
+    <message>
+        <source>Printer&apos;s test page</source>
+        <translation>Printer&apos;s test page</translation>
+    </message>
+    <message>
+        <source>Makes a page and a game that find out how your printer prints dots. Print the page, copy the game onto the pen, touch the fields, and tell the best one&apos;s name where you make a PDF.</source>
+        <translation>Makes a page and a game that find out how your printer prints dots. Print the page, copy the game onto the pen, touch the fields, and tell the best one&apos;s name where you make a PDF.</translation>
+    </message>
+    <message>
+        <source>%1 DPI</source>
+        <translation>%1 DPI</translation>
+    </message>
+    <message>
+        <source>Tries this resolution of the printer</source>
+        <translation>Tries this resolution of the printer</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>Where page and game are written</source>
+        <translation>Where page and game are written</translation>
+    </message>
+    <message>
+        <source>Chooses another folder</source>
+        <translation>Chooses another folder</translation>
+    </message>
+    <message>
+        <source>DPI:</source>
+        <translation>DPI:</translation>
+    </message>
+    <message>
+        <source>Language of the pen:</source>
+        <translation>Language of the pen:</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Folder:</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Create</translation>
+    </message>
+    <message>
+        <source>Language of the pen</source>
+        <translation>Language of the pen</translation>
+    </message>
+    <message>
+        <source>The language in which the pen names the fields</source>
+        <translation>The language in which the pen names the fields</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language of this translation: en, de, fr or nl.</extracomment>
+        <translation>en</translation>
     </message>
 </context>
 <context>

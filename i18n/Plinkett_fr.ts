@@ -89,6 +89,68 @@
     </message>
 </context>
 <context>
+    <name>BookPrinting</name>
+    <message>
+        <source>&amp;PDF of the book...</source>
+        <translation>&amp;PDF du livre...</translation>
+    </message>
+    <message>
+        <source>&amp;Symbols and legend...</source>
+        <translation>&amp;Symboles et légende...</translation>
+    </message>
+    <message>
+        <source>Printer&apos;s &amp;test page...</source>
+        <translation>Page de &amp;test de l&apos;imprimante...</translation>
+    </message>
+    <message>
+        <source>There is no picture yet</source>
+        <translation>Il n&apos;y a pas encore d&apos;image</translation>
+    </message>
+    <message>
+        <source>Creating the PDF...</source>
+        <translation>Création du PDF...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>The PDF was created: %1</source>
+        <translation>Le PDF a été créé : %1</translation>
+    </message>
+    <message>
+        <source>Creating was cancelled</source>
+        <translation>La création a été annulée</translation>
+    </message>
+    <message>
+        <source>The PDF was not created: %1</source>
+        <translation>Le PDF n&apos;a pas été créé : %1</translation>
+    </message>
+    <message>
+        <source>Making the printer&apos;s test page...</source>
+        <translation>Création de la page de test de l&apos;imprimante...</translation>
+    </message>
+    <message>
+        <source>Print %1 at 100 %, and copy %2 onto the pen</source>
+        <translation>Imprimez %1 à 100 % et copiez %2 sur le stylo</translation>
+    </message>
+    <message>
+        <source>The test page was not created: %1</source>
+        <translation>La page de test n&apos;a pas été créée : %1</translation>
+    </message>
+</context>
+<context>
+    <name>DotPreview</name>
+    <message>
+        <source>Preview: a square centimetre of the page</source>
+        <translation>Aperçu : un centimètre carré de la page</translation>
+    </message>
+    <message>
+        <source>A square centimetre of the page: a pixel of the screen is one of the printer</source>
+        <translation>Un centimètre carré de la page : un pixel de l&apos;écran est un pixel de l&apos;imprimante</translation>
+    </message>
+</context>
+<context>
     <name>Hints</name>
     <message>
         <source>The pen says only one of these texts, at random</source>
@@ -544,6 +606,34 @@
         <translation>Créer l&apos;image à imprimer maintenant...</translation>
     </message>
     <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Makes a PDF of the book for your own printer; in its menu: symbols and the printer&apos;s test page</source>
+        <translation>Fait un PDF du livre pour votre imprimante ; dans son menu : symboles et page de test de l&apos;imprimante</translation>
+    </message>
+    <message>
+        <source>Add START &amp;symbol</source>
+        <translation>Ajouter le &amp;symbole START</translation>
+    </message>
+    <message>
+        <source>An area with the number of the book, which the pen must touch before it knows it</source>
+        <translation>Une zone avec le numéro du livre, que le stylo doit toucher avant de le connaître</translation>
+    </message>
+    <message>
+        <source>This page has its START symbol already: %1</source>
+        <translation>Cette page a déjà son symbole START : %1</translation>
+    </message>
+    <message>
+        <source>The START symbol lies over other areas: nothing of the page is free. Move it.</source>
+        <translation>Le symbole START recouvre d&apos;autres zones : rien n&apos;est libre sur la page. Déplacez-le.</translation>
+    </message>
+    <message>
+        <source>The START symbol is on the page. Drag it where you like.</source>
+        <translation>Le symbole START est sur la page. Faites-le glisser où vous voulez.</translation>
+    </message>
+    <message>
         <source>For all pictures</source>
         <translation>Pour toutes les images</translation>
     </message>
@@ -971,6 +1061,181 @@
     </message>
 </context>
 <context>
+    <name>PdfDialog</name>
+    <message>
+        <source>Lighten only inside of areas</source>
+        <translation>N&apos;éclaircir que dans les zones</translation>
+    </message>
+    <message>
+        <source>Outlines and names of the areas</source>
+        <translation>Contours et noms des zones</translation>
+    </message>
+    <message>
+        <source>Crop marks</source>
+        <translation>Traits de coupe</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>everywhere</source>
+        <translation>partout</translation>
+    </message>
+    <message>
+        <source>only in areas</source>
+        <translation>seulement dans les zones</translation>
+    </message>
+    <message>
+        <source>none: a proof</source>
+        <translation>aucun : une épreuve</translation>
+    </message>
+    <message>
+        <source>when no area starts the book</source>
+        <translation>si aucune zone ne démarre le livre</translation>
+    </message>
+    <message>
+        <source>always</source>
+        <translation>toujours</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>jamais</translation>
+    </message>
+    <message>
+        <source>nothing else</source>
+        <translation>rien d&apos;autre</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Créer</translation>
+    </message>
+    <message>
+        <source>1 cm of the page, dots 1:1</source>
+        <translation>1 cm de la page, points 1:1</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>toutes</translation>
+    </message>
+    <message>
+        <source>Only these pictures, counted from 0, such as 0,2-3</source>
+        <translation>Seulement ces images, comptées à partir de 0, par exemple 0,2-3</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Pages :</translation>
+    </message>
+    <message>
+        <source>Where dots are printed</source>
+        <translation>Où des points sont imprimés</translation>
+    </message>
+    <message>
+        <source>Dots</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>Dots:</source>
+        <translation>Points :</translation>
+    </message>
+    <message>
+        <source>The rest of the picture stays as it is</source>
+        <translation>Le reste de l&apos;image reste tel quel</translation>
+    </message>
+    <message>
+        <source>For you: in a colour that the pen does not see</source>
+        <translation>Pour vous : dans une couleur que le stylo ne voit pas</translation>
+    </message>
+    <message>
+        <source>as needed</source>
+        <translation>selon le besoin</translation>
+    </message>
+    <message>
+        <source>White paper around each page</source>
+        <translation>Du papier blanc autour de chaque page</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Marge</translation>
+    </message>
+    <message>
+        <source>Margin:</source>
+        <translation>Marge :</translation>
+    </message>
+    <message>
+        <source>Marks in the margin where the page ends</source>
+        <translation>Des traits dans la marge là où la page finit</translation>
+    </message>
+    <message>
+        <source>Pages that are larger than the paper on several sheets that overlap</source>
+        <translation>Les pages plus grandes que le papier sur plusieurs feuilles qui se chevauchent</translation>
+    </message>
+    <message>
+        <source>Poster</source>
+        <translation>Affiche</translation>
+    </message>
+    <message>
+        <source>Poster:</source>
+        <translation>Affiche :</translation>
+    </message>
+    <message>
+        <source>A page with START, REPLAY, STOP and a legend of all areas</source>
+        <translation>Une page avec START, REPLAY, STOP et une légende de toutes les zones</translation>
+    </message>
+    <message>
+        <source>Symbols and legend</source>
+        <translation>Symboles et légende</translation>
+    </message>
+    <message>
+        <source>Symbols and legend:</source>
+        <translation>Symboles et légende :</translation>
+    </message>
+    <message>
+        <source>The file that is written</source>
+        <translation>Le fichier qui est écrit</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Chooses another file</source>
+        <translation>Choisit un autre fichier</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Fichier :</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>Fichiers PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Sheets of paper: %1</source>
+        <translation>Feuilles de papier : %1</translation>
+    </message>
+    <message>
+        <source>Pages are numbers from 0 to %1, such as 0,2-3.</source>
+        <translation>Les pages sont des nombres de 0 à %1, par exemple 0,2-3.</translation>
+    </message>
+    <message>
+        <source>The DPI are a number from %1 to %2.</source>
+        <translation>Les DPI sont un nombre de %1 à %2.</translation>
+    </message>
+    <message>
+        <source>The file has no name.</source>
+        <translation>Le fichier n&apos;a pas de nom.</translation>
+    </message>
+</context>
+<context>
     <name>PickTool</name>
     <message>
         <source>An area needs at least three corners.</source>
@@ -990,6 +1255,205 @@
     <message>
         <source>Ctrl+Down and Ctrl+Up go through the areas, Ctrl+Right and Ctrl+Left through the corners of the selected one; the arrow keys move them.</source>
         <translation>Ctrl+Bas et Ctrl+Haut parcourent les zones, Ctrl+Droite et Ctrl+Gauche les coins de la zone choisie ; les flèches les déplacent.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterBox</name>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>Keep...</source>
+        <translation>Garder...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Make profile...</source>
+        <translation>Créer un profil...</translation>
+    </message>
+    <message>
+        <source>No black in the picture</source>
+        <translation>Pas de noir dans l&apos;image</translation>
+    </message>
+    <message>
+        <source>Profile:</source>
+        <translation>Profil :</translation>
+    </message>
+    <message>
+        <source>Best field:</source>
+        <translation>Meilleur champ :</translation>
+    </message>
+    <message>
+        <source>DPI:</source>
+        <translation>DPI :</translation>
+    </message>
+    <message>
+        <source>Edge of a dot:</source>
+        <translation>Côté d&apos;un point :</translation>
+    </message>
+    <message>
+        <source>Lighten the picture:</source>
+        <translation>Éclaircir l&apos;image :</translation>
+    </message>
+    <message>
+        <source>Profile of a printer</source>
+        <translation>Profil d&apos;une imprimante</translation>
+    </message>
+    <message>
+        <source>What has been kept about a printer</source>
+        <translation>Ce qui a été gardé d&apos;une imprimante</translation>
+    </message>
+    <message>
+        <source>Keeps the settings of this printer under a name</source>
+        <translation>Garde les réglages de cette imprimante sous un nom</translation>
+    </message>
+    <message>
+        <source>Forgets the chosen profile</source>
+        <translation>Oublie le profil choisi</translation>
+    </message>
+    <message>
+        <source>Best field of the printer&apos;s test page</source>
+        <translation>Meilleur champ de la page de test de l&apos;imprimante</translation>
+    </message>
+    <message>
+        <source>The field of the printer&apos;s test page that the pen reads best, such as B3</source>
+        <translation>Le champ de la page de test de l&apos;imprimante que le stylo lit le mieux, par exemple B3</translation>
+    </message>
+    <message>
+        <source>Makes a profile of what that field says about the printer</source>
+        <translation>Fait un profil de ce que ce champ dit de l&apos;imprimante</translation>
+    </message>
+    <message>
+        <source>Resolution of the printer</source>
+        <translation>Résolution de l&apos;imprimante</translation>
+    </message>
+    <message>
+        <source>The dots per inch of the printer, when they are not those of the pictures</source>
+        <translation>Les points par pouce de l&apos;imprimante, s&apos;ils ne sont pas ceux des images</translation>
+    </message>
+    <message>
+        <source>that of each picture</source>
+        <translation>celle de chaque image</translation>
+    </message>
+    <message>
+        <source>Edge of a dot in pixels of the printer</source>
+        <translation>Côté d&apos;un point en pixels de l&apos;imprimante</translation>
+    </message>
+    <message>
+        <source>Smaller dots for a printer that prints them too fat</source>
+        <translation>Des points plus petits pour une imprimante qui les grossit</translation>
+    </message>
+    <message>
+        <source>standard</source>
+        <translation>normal</translation>
+    </message>
+    <message>
+        <source> pixels</source>
+        <translation> pixels</translation>
+    </message>
+    <message>
+        <source>Mixes the picture&apos;s black of cyan, magenta and yellow, which the pen does not see</source>
+        <translation>Mélange le noir de l&apos;image de cyan, magenta et jaune, que le stylo ne voit pas</translation>
+    </message>
+    <message>
+        <source>How much lighter the picture is, in percent</source>
+        <translation>De combien l&apos;image est plus claire, en pour cent</translation>
+    </message>
+    <message>
+        <source>Takes ink out of the picture, so that the pen finds the dots</source>
+        <translation>Retire de l&apos;encre de l&apos;image pour que le stylo trouve les points</translation>
+    </message>
+    <message>
+        <source>not</source>
+        <translation>pas du tout</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>The profile %1 is gone.</source>
+        <translation>Le profil %1 est supprimé.</translation>
+    </message>
+    <message>
+        <source>The test page has no field %1.</source>
+        <translation>La page de test n&apos;a pas de champ %1.</translation>
+    </message>
+    <message>
+        <source>Printer %1</source>
+        <translation>Imprimante %1</translation>
+    </message>
+    <message>
+        <source>Name of the printer:</source>
+        <translation>Nom de l&apos;imprimante :</translation>
+    </message>
+    <message>
+        <source>The profile %1 is kept.</source>
+        <translation>Le profil %1 est gardé.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterTestDialog</name>
+    <message>
+        <source>Printer&apos;s test page</source>
+        <translation>Page de test de l&apos;imprimante</translation>
+    </message>
+    <message>
+        <source>Makes a page and a game that find out how your printer prints dots. Print the page, copy the game onto the pen, touch the fields, and tell the best one&apos;s name where you make a PDF.</source>
+        <translation>Crée une page et un jeu qui trouvent comment votre imprimante imprime les points. Imprimez la page, copiez le jeu sur le stylo, touchez les champs et donnez le nom du meilleur là où vous créez un PDF.</translation>
+    </message>
+    <message>
+        <source>%1 DPI</source>
+        <translation>%1 DPI</translation>
+    </message>
+    <message>
+        <source>Tries this resolution of the printer</source>
+        <translation>Essaie cette résolution de l&apos;imprimante</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Where page and game are written</source>
+        <translation>Où la page et le jeu sont écrits</translation>
+    </message>
+    <message>
+        <source>Chooses another folder</source>
+        <translation>Choisit un autre dossier</translation>
+    </message>
+    <message>
+        <source>DPI:</source>
+        <translation>DPI :</translation>
+    </message>
+    <message>
+        <source>Language of the pen:</source>
+        <translation>Langue du stylo :</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Dossier :</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Créer</translation>
+    </message>
+    <message>
+        <source>Language of the pen</source>
+        <translation>Langue du stylo</translation>
+    </message>
+    <message>
+        <source>The language in which the pen names the fields</source>
+        <translation>La langue dans laquelle le stylo nomme les champs</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language of this translation: en, de, fr or nl.</extracomment>
+        <translation>fr</translation>
     </message>
 </context>
 <context>

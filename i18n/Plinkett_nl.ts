@@ -89,6 +89,68 @@
     </message>
 </context>
 <context>
+    <name>BookPrinting</name>
+    <message>
+        <source>&amp;PDF of the book...</source>
+        <translation>&amp;PDF van het boek...</translation>
+    </message>
+    <message>
+        <source>&amp;Symbols and legend...</source>
+        <translation>&amp;Symbolen en legenda...</translation>
+    </message>
+    <message>
+        <source>Printer&apos;s &amp;test page...</source>
+        <translation>&amp;Testpagina van de printer...</translation>
+    </message>
+    <message>
+        <source>There is no picture yet</source>
+        <translation>Er is nog geen plaatje</translation>
+    </message>
+    <message>
+        <source>Creating the PDF...</source>
+        <translation>De PDF wordt gemaakt...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>The PDF was created: %1</source>
+        <translation>De PDF is gemaakt: %1</translation>
+    </message>
+    <message>
+        <source>Creating was cancelled</source>
+        <translation>Het maken is geannuleerd</translation>
+    </message>
+    <message>
+        <source>The PDF was not created: %1</source>
+        <translation>De PDF is niet gemaakt: %1</translation>
+    </message>
+    <message>
+        <source>Making the printer&apos;s test page...</source>
+        <translation>De testpagina van de printer wordt gemaakt...</translation>
+    </message>
+    <message>
+        <source>Print %1 at 100 %, and copy %2 onto the pen</source>
+        <translation>Druk %1 af op 100 % en kopieer %2 naar de pen</translation>
+    </message>
+    <message>
+        <source>The test page was not created: %1</source>
+        <translation>De testpagina is niet gemaakt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DotPreview</name>
+    <message>
+        <source>Preview: a square centimetre of the page</source>
+        <translation>Voorbeeld: een vierkante centimeter van de pagina</translation>
+    </message>
+    <message>
+        <source>A square centimetre of the page: a pixel of the screen is one of the printer</source>
+        <translation>Een vierkante centimeter van de pagina: een pixel van het scherm is er een van de printer</translation>
+    </message>
+</context>
+<context>
     <name>Hints</name>
     <message>
         <source>The pen says only one of these texts, at random</source>
@@ -544,6 +606,34 @@
         <translation>De afdrukafbeelding nu maken...</translation>
     </message>
     <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Makes a PDF of the book for your own printer; in its menu: symbols and the printer&apos;s test page</source>
+        <translation>Maakt een PDF van het boek voor uw eigen printer; in het menu: symbolen en de testpagina van de printer</translation>
+    </message>
+    <message>
+        <source>Add START &amp;symbol</source>
+        <translation>START-&amp;symbool toevoegen</translation>
+    </message>
+    <message>
+        <source>An area with the number of the book, which the pen must touch before it knows it</source>
+        <translation>Een gebied met het nummer van het boek, dat de pen moet aanraken voordat hij het kent</translation>
+    </message>
+    <message>
+        <source>This page has its START symbol already: %1</source>
+        <translation>Deze pagina heeft haar START-symbool al: %1</translation>
+    </message>
+    <message>
+        <source>The START symbol lies over other areas: nothing of the page is free. Move it.</source>
+        <translation>Het START-symbool ligt over andere gebieden: op de pagina is niets vrij. Verplaats het.</translation>
+    </message>
+    <message>
+        <source>The START symbol is on the page. Drag it where you like.</source>
+        <translation>Het START-symbool staat op de pagina. Sleep het waarheen u wilt.</translation>
+    </message>
+    <message>
         <source>For all pictures</source>
         <translation>Voor alle afbeeldingen</translation>
     </message>
@@ -971,6 +1061,181 @@
     </message>
 </context>
 <context>
+    <name>PdfDialog</name>
+    <message>
+        <source>Lighten only inside of areas</source>
+        <translation>Alleen in gebieden lichter maken</translation>
+    </message>
+    <message>
+        <source>Outlines and names of the areas</source>
+        <translation>Omtrekken en namen van de gebieden</translation>
+    </message>
+    <message>
+        <source>Crop marks</source>
+        <translation>Snijtekens</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>everywhere</source>
+        <translation>overal</translation>
+    </message>
+    <message>
+        <source>only in areas</source>
+        <translation>alleen in gebieden</translation>
+    </message>
+    <message>
+        <source>none: a proof</source>
+        <translation>geen: een proefdruk</translation>
+    </message>
+    <message>
+        <source>when no area starts the book</source>
+        <translation>als geen gebied het boek start</translation>
+    </message>
+    <message>
+        <source>always</source>
+        <translation>altijd</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nooit</translation>
+    </message>
+    <message>
+        <source>nothing else</source>
+        <translation>niets anders</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nee</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Maken</translation>
+    </message>
+    <message>
+        <source>1 cm of the page, dots 1:1</source>
+        <translation>1 cm van de pagina, punten 1:1</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>Only these pictures, counted from 0, such as 0,2-3</source>
+        <translation>Alleen deze plaatjes, geteld vanaf 0, bijvoorbeeld 0,2-3</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pagina&apos;s</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Pagina&apos;s:</translation>
+    </message>
+    <message>
+        <source>Where dots are printed</source>
+        <translation>Waar punten worden gedrukt</translation>
+    </message>
+    <message>
+        <source>Dots</source>
+        <translation>Punten</translation>
+    </message>
+    <message>
+        <source>Dots:</source>
+        <translation>Punten:</translation>
+    </message>
+    <message>
+        <source>The rest of the picture stays as it is</source>
+        <translation>De rest van het plaatje blijft zoals het is</translation>
+    </message>
+    <message>
+        <source>For you: in a colour that the pen does not see</source>
+        <translation>Voor u: in een kleur die de pen niet ziet</translation>
+    </message>
+    <message>
+        <source>as needed</source>
+        <translation>naar behoefte</translation>
+    </message>
+    <message>
+        <source>White paper around each page</source>
+        <translation>Wit papier om elke pagina</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Marge</translation>
+    </message>
+    <message>
+        <source>Margin:</source>
+        <translation>Marge:</translation>
+    </message>
+    <message>
+        <source>Marks in the margin where the page ends</source>
+        <translation>Tekens in de marge waar de pagina eindigt</translation>
+    </message>
+    <message>
+        <source>Pages that are larger than the paper on several sheets that overlap</source>
+        <translation>Pagina&apos;s die groter zijn dan het papier op meer vellen die elkaar overlappen</translation>
+    </message>
+    <message>
+        <source>Poster</source>
+        <translation>Poster</translation>
+    </message>
+    <message>
+        <source>Poster:</source>
+        <translation>Poster:</translation>
+    </message>
+    <message>
+        <source>A page with START, REPLAY, STOP and a legend of all areas</source>
+        <translation>Een pagina met START, REPLAY, STOP en een legenda van alle gebieden</translation>
+    </message>
+    <message>
+        <source>Symbols and legend</source>
+        <translation>Symbolen en legenda</translation>
+    </message>
+    <message>
+        <source>Symbols and legend:</source>
+        <translation>Symbolen en legenda:</translation>
+    </message>
+    <message>
+        <source>The file that is written</source>
+        <translation>Het bestand dat wordt geschreven</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Bestand</translation>
+    </message>
+    <message>
+        <source>Chooses another file</source>
+        <translation>Kiest een ander bestand</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Bestand:</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>PDF-bestanden (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Sheets of paper: %1</source>
+        <translation>Vellen papier: %1</translation>
+    </message>
+    <message>
+        <source>Pages are numbers from 0 to %1, such as 0,2-3.</source>
+        <translation>Pagina&apos;s zijn getallen van 0 tot %1, bijvoorbeeld 0,2-3.</translation>
+    </message>
+    <message>
+        <source>The DPI are a number from %1 to %2.</source>
+        <translation>De DPI zijn een getal van %1 tot %2.</translation>
+    </message>
+    <message>
+        <source>The file has no name.</source>
+        <translation>Het bestand heeft geen naam.</translation>
+    </message>
+</context>
+<context>
     <name>PickTool</name>
     <message>
         <source>An area needs at least three corners.</source>
@@ -990,6 +1255,205 @@
     <message>
         <source>Ctrl+Down and Ctrl+Up go through the areas, Ctrl+Right and Ctrl+Left through the corners of the selected one; the arrow keys move them.</source>
         <translation>Ctrl+Omlaag en Ctrl+Omhoog gaan door de gebieden, Ctrl+Rechts en Ctrl+Links door de hoeken van het gekozen gebied; de pijltoetsen verplaatsen ze.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterBox</name>
+    <message>
+        <source>Printer</source>
+        <translation>Printer</translation>
+    </message>
+    <message>
+        <source>Keep...</source>
+        <translation>Bewaren...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Make profile...</source>
+        <translation>Profiel maken...</translation>
+    </message>
+    <message>
+        <source>No black in the picture</source>
+        <translation>Geen zwart in het plaatje</translation>
+    </message>
+    <message>
+        <source>Profile:</source>
+        <translation>Profiel:</translation>
+    </message>
+    <message>
+        <source>Best field:</source>
+        <translation>Beste veld:</translation>
+    </message>
+    <message>
+        <source>DPI:</source>
+        <translation>DPI:</translation>
+    </message>
+    <message>
+        <source>Edge of a dot:</source>
+        <translation>Zijde van een punt:</translation>
+    </message>
+    <message>
+        <source>Lighten the picture:</source>
+        <translation>Plaatje lichter maken:</translation>
+    </message>
+    <message>
+        <source>Profile of a printer</source>
+        <translation>Profiel van een printer</translation>
+    </message>
+    <message>
+        <source>What has been kept about a printer</source>
+        <translation>Wat over een printer is bewaard</translation>
+    </message>
+    <message>
+        <source>Keeps the settings of this printer under a name</source>
+        <translation>Bewaart de instellingen van deze printer onder een naam</translation>
+    </message>
+    <message>
+        <source>Forgets the chosen profile</source>
+        <translation>Vergeet het gekozen profiel</translation>
+    </message>
+    <message>
+        <source>Best field of the printer&apos;s test page</source>
+        <translation>Beste veld van de testpagina van de printer</translation>
+    </message>
+    <message>
+        <source>The field of the printer&apos;s test page that the pen reads best, such as B3</source>
+        <translation>Het veld van de testpagina van de printer dat de pen het best leest, bijvoorbeeld B3</translation>
+    </message>
+    <message>
+        <source>Makes a profile of what that field says about the printer</source>
+        <translation>Maakt een profiel van wat dat veld over de printer zegt</translation>
+    </message>
+    <message>
+        <source>Resolution of the printer</source>
+        <translation>Resolutie van de printer</translation>
+    </message>
+    <message>
+        <source>The dots per inch of the printer, when they are not those of the pictures</source>
+        <translation>De punten per inch van de printer, als het niet die van de plaatjes zijn</translation>
+    </message>
+    <message>
+        <source>that of each picture</source>
+        <translation>die van elk plaatje</translation>
+    </message>
+    <message>
+        <source>Edge of a dot in pixels of the printer</source>
+        <translation>Zijde van een punt in pixels van de printer</translation>
+    </message>
+    <message>
+        <source>Smaller dots for a printer that prints them too fat</source>
+        <translation>Kleinere punten voor een printer die ze te dik drukt</translation>
+    </message>
+    <message>
+        <source>standard</source>
+        <translation>standaard</translation>
+    </message>
+    <message>
+        <source> pixels</source>
+        <translation> pixels</translation>
+    </message>
+    <message>
+        <source>Mixes the picture&apos;s black of cyan, magenta and yellow, which the pen does not see</source>
+        <translation>Mengt het zwart van het plaatje uit cyaan, magenta en geel, wat de pen niet ziet</translation>
+    </message>
+    <message>
+        <source>How much lighter the picture is, in percent</source>
+        <translation>Hoeveel lichter het plaatje is, in procent</translation>
+    </message>
+    <message>
+        <source>Takes ink out of the picture, so that the pen finds the dots</source>
+        <translation>Haalt inkt uit het plaatje, zodat de pen de punten vindt</translation>
+    </message>
+    <message>
+        <source>not</source>
+        <translation>niet</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>geen</translation>
+    </message>
+    <message>
+        <source>The profile %1 is gone.</source>
+        <translation>Het profiel %1 is verwijderd.</translation>
+    </message>
+    <message>
+        <source>The test page has no field %1.</source>
+        <translation>De testpagina heeft geen veld %1.</translation>
+    </message>
+    <message>
+        <source>Printer %1</source>
+        <translation>Printer %1</translation>
+    </message>
+    <message>
+        <source>Name of the printer:</source>
+        <translation>Naam van de printer:</translation>
+    </message>
+    <message>
+        <source>The profile %1 is kept.</source>
+        <translation>Het profiel %1 is bewaard.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterTestDialog</name>
+    <message>
+        <source>Printer&apos;s test page</source>
+        <translation>Testpagina van de printer</translation>
+    </message>
+    <message>
+        <source>Makes a page and a game that find out how your printer prints dots. Print the page, copy the game onto the pen, touch the fields, and tell the best one&apos;s name where you make a PDF.</source>
+        <translation>Maakt een pagina en een spel die uitzoeken hoe uw printer punten drukt. Druk de pagina af, kopieer het spel naar de pen, raak de velden aan en noem de naam van het beste waar u een PDF maakt.</translation>
+    </message>
+    <message>
+        <source>%1 DPI</source>
+        <translation>%1 DPI</translation>
+    </message>
+    <message>
+        <source>Tries this resolution of the printer</source>
+        <translation>Probeert deze resolutie van de printer</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Map</translation>
+    </message>
+    <message>
+        <source>Where page and game are written</source>
+        <translation>Waar pagina en spel worden geschreven</translation>
+    </message>
+    <message>
+        <source>Chooses another folder</source>
+        <translation>Kiest een andere map</translation>
+    </message>
+    <message>
+        <source>DPI:</source>
+        <translation>DPI:</translation>
+    </message>
+    <message>
+        <source>Language of the pen:</source>
+        <translation>Taal van de pen:</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Map:</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Maken</translation>
+    </message>
+    <message>
+        <source>Language of the pen</source>
+        <translation>Taal van de pen</translation>
+    </message>
+    <message>
+        <source>The language in which the pen names the fields</source>
+        <translation>De taal waarin de pen de velden noemt</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language of this translation: en, de, fr or nl.</extracomment>
+        <translation>nl</translation>
     </message>
 </context>
 <context>

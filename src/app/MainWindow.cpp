@@ -3,6 +3,7 @@
 #include "app/AreaCommands.h"
 #include "app/AreaTools.h"
 #include "app/AreasDock.h"
+#include "app/BookPrinting.h"
 #include "app/DecimalComma.h"
 #include "app/FileDialogs.h"
 #include "app/NumberBar.h"
@@ -85,6 +86,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     prepareRecovery();
     prepareDocks();
     prepareTrying();
+    preparePrinting();
     new ProblemsGuide(*this, *ui, document);
     new ToolBarFit(this);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
@@ -265,6 +267,7 @@ void MainWindow::keepSettingsIn(QSettings& settings)
 {
     findChild<CaretStatus*>()->keepSettingsIn(settings);
     docks->keepSettingsIn(settings);
+    printing->keepSettingsIn(settings);
     constexpr char kLetterSize[] = "script/letterSize";  // points
     KVQtHighlightEditCtrlInlay& script = ui->codeEditor->surface();
     bool isNumber = false;

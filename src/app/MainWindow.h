@@ -18,6 +18,7 @@ namespace Ui {
 class MainWindow;
 }
 class AreaTools;
+class BookPrinting;
 class NoticeBar;
 class NumberBar;
 class PageScrollArea;
@@ -108,6 +109,7 @@ private:
     void takeDrops();
     void letPictureScroll();
     void prepareTools();
+    void preparePrinting();
     void letProjectScroll();
     void takeDecimalCommas();
     void prepareNotices();
@@ -183,6 +185,13 @@ private:
     void tell(const QString& text);
     void tell(QLabel& besideButton, const QString& text);
 
+    // The current page's picture, upright.
+    QImage currentPicture() const;
+    // The middle of the selected area.
+    std::optional<Oid::PNT> middleOfSelectedArea() const;
+    // Selects the area that tells the pen which book it is; makes it where there is none.
+    void addStartSymbol();
+
     // The corners of all areas that are about to be printed.
     void turnAreasForPrint();
     // Paper and resolution of the current picture become those of all.
@@ -211,6 +220,7 @@ private:
     PageScrollArea* pictureScroll = nullptr;
     QScrollArea* projectScroll = nullptr;
     NumberBar* numberBar = nullptr;
+    BookPrinting* printing = nullptr;
     SideDocks* docks = nullptr;
     TryTab* tryTab = nullptr;
     std::unique_ptr<Recovery> recovery;  // ends first: it reads the form

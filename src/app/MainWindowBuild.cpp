@@ -1,9 +1,13 @@
 // What comes out of the project: print images, the game file, and its way onto the pen.
 #include "app/MainWindow.h"
 
+#include "app/AreaTools.h"
+#include "app/BookPrinting.h"
 #include "app/Recovery.h"
 #include "app/WorkProgress.h"
 #include "base/FileSystem.h"
+#include "document/StartSymbol.h"
+#include "oid/PictureFile.h"
 #include "oid/PrintImage.h"
 #include "oid/PrintJob.h"
 #include "publish/BuildDriver.h"
@@ -92,6 +96,71 @@ void MainWindow::on_btCreateImage_clicked()
     tell(*ui->lbCreateResult, sentenceOn(result));
     if (!warnings.isEmpty()) {
         ui->lbCreateResult->setText(ui->lbCreateResult->text() + '\n' + warnings);
+    }
+}
+
+void MainWindow::preparePrinting()
+{
+    auto* const addStart = new QAction(tr("Add START &symbol"), this);
+    addStart->setObjectName("actionAddStart");
+    addStart->setToolTip(
+        tr("An area with the number of the book, which the pen must touch before it knows it"));
+    connect(addStart, &QAction::triggered, this, &MainWindow::addStartSymbol);
+    ui->polyArea->addAction(addStart);
+    BookPrinting::Window window;
+    window.takeForm = [this] {
+        ProjectDataWasChanged(true);
+        recovery->keep();
+    };
+    window.tell = [this](const QString& text) { tell(*ui->lbCreateResult, text); };
+    window.picture = [this] { return currentPicture(); };
+    window.selected = [this] { return middleOfSelectedArea(); };
+    printing = new BookPrinting(document, *ui->txConsole, *ui->btCreatePdf, addStart, window);
+}
+
+// The page on the screen has it, if it has been shown since.
+QImage MainWindow::currentPicture() const
+{
+    const std::string path = project.pathImageSource(document.currentPage());
+    return ui->polyArea->loadedPath == path ? ui->polyArea->loadedImage()
+                                            : PictureFile(QString::fromStdString(path)).read();
+}
+
+std::optional<Oid::PNT> MainWindow::middleOfSelectedArea() const
+{
+    const Oid::POLY* const area = selectedArea();
+    if (area == nullptr || area->points.empty()) {
+        return std::nullopt;
+    }
+    Oid::POLY bounded = *area;
+    prepareBounds(bounded);
+    return Oid::PNT{(bounded.minX + bounded.maxX) / 2, (bounded.minY + bounded.maxY) / 2};
+}
+
+void MainWindow::addStartSymbol()
+{
+    keepEdits();
+    areaTools->pick();
+    const std::string picture = project.pathImageSource(document.currentPage());
+    const StartSymbol start =
+        giveStartSymbol(document, PictureFile(QString::fromStdString(picture)).uprightSize());
+    if (start.area == AreaId::none) {
+        tell(tr("There is no picture yet"));
+        return;
+    }
+    ui->ribbonTab->setCurrentWidget(ui->tabAreas);
+    showSelectedArea();
+    ui->polyArea->setFocus();
+    const Oid::POLY& area = *selectedArea();
+    emit ui->polyArea->cameTo(ui->polyArea->toPix(area.points.front()));
+    ui->polyArea->paintChanges();
+    if (!start.isNew) {
+        tell(tr("This page has its START symbol already: %1")
+                 .arg(QString::fromStdString(area.name)));
+    } else if (start.covers) {
+        tell(tr("The START symbol lies over other areas: nothing of the page is free. Move it."));
+    } else {
+        tell(tr("The START symbol is on the page. Drag it where you like."));
     }
 }
 

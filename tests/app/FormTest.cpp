@@ -66,6 +66,9 @@ private slots:
         row("widget_6", "QWidget");
         row("btCreateImage", "QPushButton", "Create", "Creates the print images of all pictures");
         row("label_7", "QLabel", "Create the output image now...");
+        row("btCreatePdf", "QToolButton", "PDF",
+            "Makes a PDF of the book for your own printer; in its menu: symbols and the printer's "
+            "test page");
         row("lbCreateResult", "QLabel");
         row("tabAreas", "QWidget");
         row("widget_7", "QWidget");
@@ -279,15 +282,9 @@ private slots:
     {
         QTest::addColumn<QStringList>("order");
         const QString tabs = "qt_tabwidget_tabbar";
-        QTest::newRow("Project") << QStringList{tabs,
-                                                "txProjectName",
-                                                "txProjectId",
-                                                "txProjPaperWidth",
-                                                "txProjPaperHeight",
-                                                "txProjDPI",
-                                                "btSizeForAll",
-                                                "btCreateImage",
-                                                tabs};
+        QTest::newRow("Project") << QStringList{
+            tabs,        "txProjectName", "txProjectId",   "txProjPaperWidth", "txProjPaperHeight",
+            "txProjDPI", "btSizeForAll",  "btCreateImage", "btCreatePdf",      tabs};
         QTest::newRow("Areas") << QStringList{tabs,          "btPreviousPicture", "btNextPicture",
                                               "btLoadImage", "btDeletePicture",   "btPickPoly",
                                               "btAddPoly",   "btDelPoly",         "txPolyName",
