@@ -358,6 +358,57 @@ private slots:
         QCOMPARE(w.page.picture()->polys.size(), std::size_t(0));
     }
 
+    // What was dragged so far is unsaved work, which is offered when the book is opened again.
+    void anotherProjectInTheMiddleOfADragLosesNothing()
+    {
+        Book w;
+        const std::string other = projectFile({area("hen", 1001, square(20, 25, 10))});
+        writeFile(w.folder.file("other.oidpro"), other);
+        w.press(w.at(20, 25));
+        w.move(w.at(30, 35));
+        w.window.openProject(w.path("other.oidpro"));
+        w.get<QTabWidget>("ribbonTab")->setCurrentWidget(w.get<QWidget>("tabAreas"));
+        w.move(w.at(50, 45));
+        w.release(w.at(50, 45));
+        w.trigger("actionSave");
+        QCOMPARE(readFile(w.folder.file("other.oidpro")), other);
+        QCOMPARE(readFile(w.folder.file("book.oidpro")), w.before);
+        QVERIFY(!w.get<QWidget>("recoveryBar")->isVisible());
+        w.window.openProject(w.path("book.oidpro"));
+        QVERIFY(w.get<QWidget>("recoveryBar")->isVisible());
+        w.click("btRestore");
+        QVERIFY(w.saved() != w.before);
+    }
+
+    void aWindowThatIsClosedInTheMiddleOfADragLosesNothing()
+    {
+        const OwnDataFolder userData;
+        const TemporaryFolder folder;
+        const QString path = QString::fromStdString(folder.file("book.oidpro"));
+        const std::string book = projectFile({area("cow", 1001, square(10, 10, 20))});
+        writeFile(path.toStdString(), book);
+        {
+            MainWindow window;
+            window.openProject(path);
+            window.findChild<QTabWidget*>("ribbonTab")
+                ->setCurrentWidget(window.findChild<QWidget*>("tabAreas"));
+            window.show();
+            auto* const page = window.findChild<PolyEditorWidget*>("polyArea");
+            QTest::mouseClick(page, Qt::LeftButton, Qt::NoModifier, page->toPix({12, 12}));
+            QTest::mousePress(page, Qt::LeftButton, Qt::NoModifier, page->toPix({20, 25}));
+            const QPoint to = page->toPix({40, 30});
+            QMouseEvent move(QEvent::MouseMove, to, page->mapToGlobal(to), Qt::NoButton,
+                             Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(page, &move);
+            window.close();
+        }
+        QCOMPARE(readFile(path.toStdString()), book);
+        MainWindow again;
+        again.openProject(path);
+        again.show();
+        QVERIFY(again.findChild<QWidget*>("recoveryBar")->isVisible());
+    }
+
     void undoInTheMiddleOfADragEndsIt()
     {
         Book w;

@@ -11,6 +11,7 @@
 #include <QWheelEvent>
 
 #include <cmath>
+#include <random>
 
 namespace {
 
@@ -556,6 +557,22 @@ private slots:
         QVERIFY(p.isPicking());
     }
 
+    void aShapeIsNotDraggedIntoAnotherProject()
+    {
+        Page p;
+        const std::string other = projectFile({kCow});
+        writeFile(p.w.folder.file("other.oidpro"), other);
+        p.choose("actionAddBox");
+        QTest::mousePress(&p.page(), Qt::LeftButton, Qt::NoModifier, p.at(10, 20));
+        p.move(20, 30, Qt::NoModifier, Qt::LeftButton);
+        p.w.window.openProject(p.w.path("other.oidpro"));
+        p.w.get<QTabWidget>("ribbonTab")->setCurrentWidget(p.w.get<QWidget>("tabAreas"));
+        p.move(30, 40, Qt::NoModifier, Qt::LeftButton);
+        QTest::mouseRelease(&p.page(), Qt::LeftButton, Qt::NoModifier, p.at(30, 40));
+        p.w.trigger("actionSave");
+        QCOMPARE(readFile(p.w.folder.file("other.oidpro")), other);
+    }
+
     void aMereClickMakesNoShape()
     {
         Page p;
@@ -656,6 +673,35 @@ private slots:
         QVERIFY(!p.isPicking());
         p.key(Qt::Key_Escape);
         QVERIFY(p.isPicking());
+    }
+
+    // Noise on the colours and soft changes of light: a round thing on a ground of another colour.
+    void aPhotoHasAreasOfOneColourToo()
+    {
+        Page p;
+        QImage photo(1200, 800, QImage::Format_RGB32);
+        std::mt19937 random(16);
+        for (int y = 0; y < photo.height(); ++y) {
+            for (int x = 0; x < photo.width(); ++x) {
+                const bool isInside = std::hypot(x - 400, y - 400) < 200;
+                const int light = (isInside ? 200 : 90) + x / 60 + int(random() % 31) - 15;
+                photo.setPixel(x, y, qRgb(light, light - 20, isInside ? 40 : light));
+            }
+        }
+        QVERIFY(photo.save(p.w.path("900-bkgnd0.jpg"), "jpg", 85));
+        p.w.open(projectFile({""}));
+        p.w.get<QTabWidget>("ribbonTab")->setCurrentWidget(p.w.get<QWidget>("tabAreas"));
+        p.w.window.activateWindow();
+        p.before = p.w.saved();
+        p.choose("actionMagicArea");
+        p.click(100.0 / 3, 100.0 / 3);
+        p.key(Qt::Key_Return);
+        QVERIFY2(p.corners().size() < 200, qPrintable(QString::number(p.corners().size())));
+        for (const Oid::PNT& corner : p.corners()) {
+            const double far = std::hypot(corner.x - 100.0 / 3, corner.y - 100.0 / 3);
+            QVERIFY2(std::abs(far - 100.0 / 6) < 1.5, qPrintable(QString::number(far)));
+        }
+        p.isUndoneInSteps(1);
     }
 
     void withoutAPictureThereIsNoColour()

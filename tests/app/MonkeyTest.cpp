@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QImage>
 #include <QPointer>
 #include <QTabWidget>
@@ -55,21 +56,15 @@ public:
         dismissing.start(5);
     }
 
+    // Within a loop of events, as in the program: what is to be deleted later waits for its end.
     void play(int steps, int longest)
     {
-        QElapsedTimer time;
-        time.start();
-        for (int i = 0; i < steps && time.elapsed() < longest; ++i) {
-            isActing = true;
-            doAnything();
-            isActing = false;
-            if (below(20) == 0) {
-                showAreas();
-            }
-            if (below(8) == 0) {
-                QCoreApplication::processEvents();
-            }
-        }
+        QEventLoop loop;
+        QTimer::singleShot(0, &loop, [&] {
+            playSteps(steps, longest);
+            loop.quit();
+        });
+        loop.exec();
         while (QWidget* const popup = QApplication::activePopupWidget()) {
             popup->close();
         }
@@ -89,6 +84,23 @@ public:
     }
 
 private:
+    void playSteps(int steps, int longest)
+    {
+        QElapsedTimer time;
+        time.start();
+        for (int i = 0; i < steps && time.elapsed() < longest; ++i) {
+            isActing = true;
+            doAnything();
+            isActing = false;
+            if (below(20) == 0) {
+                showAreas();
+            }
+            if (below(8) == 0) {
+                QCoreApplication::processEvents();
+            }
+        }
+    }
+
     QString path(const QString& name) const
     {
         return QString::fromStdString(folder.file(name.toStdString()));
