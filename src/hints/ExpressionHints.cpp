@@ -143,7 +143,8 @@ public:
         for (const ExpressionTree::Node& node : tree.nodes) {
             if (node.isOperator() && isOrdering(script.tokens[node.token].text)) {
                 for (const int side : {node.left, node.right}) {
-                    if (canFallBelow0(tree, values, side)) {
+                    if (canFallBelow0(tree, values, side) &&
+                        !isGuarded(expression, node, tree.nodes[tree.nodes[side].left])) {
                         add(tree, node, tree.nodes[side]);
                     }
                 }
@@ -158,6 +159,59 @@ private:
         const ExpressionTree::Node& node = tree.nodes[index];
         return node.isOperator() && script.tokens[node.token].text == "-" &&
                values[node.left].smallest() < values[node.right].largest();
+    }
+
+    // The author has looked at what something is taken from before: in the same expression or in an
+    // `if` or `select` around it.
+    bool isGuarded(const Outline::Expression& expression, const ExpressionTree::Node& comparison,
+                   const ExpressionTree::Node& left) const
+    {
+        for (int token = left.first; token <= left.last; ++token) {
+            const Outline::Token& name = script.tokens[token];
+            if (name.kind == TokenKind::name &&
+                (isIn(expression, name.text, comparison) || isAround(expression, name.text))) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    // Beside the comparison.
+    bool isIn(const Outline::Expression& expression, const std::string& name,
+              const ExpressionTree::Node& comparison) const
+    {
+        const int end = expression.firstToken + expression.tokenCount;
+        for (int token = expression.firstToken; token < end; ++token) {
+            const bool isBeside = token < comparison.first || token > comparison.last;
+            if (isBeside && isName(script.tokens[token], name)) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    bool isAround(const Outline::Expression& expression, const std::string& name) const
+    {
+        int block = script.statements[expression.statement].block;
+        for (; block != Outline::kNone; block = script.blocks[block].parent) {
+            const int begin = script.blocks[block].begin;
+            auto variable =
+                std::lower_bound(script.variables.begin(), script.variables.end(), begin,
+                                 [](const Outline::Variable& one, int statement) {
+                                     return one.statement < statement;
+                                 });
+            for (; variable != script.variables.end() && variable->statement == begin; ++variable) {
+                if (toLower(variable->name) == toLower(name)) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+
+    static bool isName(const Outline::Token& token, const std::string& name)
+    {
+        return token.kind == TokenKind::name && toLower(token.text) == toLower(name);
     }
 
     void add(const ExpressionTree& tree, const ExpressionTree::Node& comparison,
