@@ -7,6 +7,7 @@
 #include "hints/Values.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace hints {
 
@@ -108,10 +109,53 @@ void reportOrder(const Outline& script, const std::vector<Part>& parts, Report& 
     finding.fix = Fix{QT_TRANSLATE_NOOP("Hints", "Put each comparison into parentheses"), edits};
 }
 
-// Comparisons on both sides of "&" or "|", which binds tighter.
+// Looks for "&" and "|", which bind tighter than comparisons, where the author means it the other
+// way round.
+class OrderSearch
+{
+public:
+    explicit OrderSearch(const Outline& outline) : script(outline) {}
+
+    // Comparisons on both sides, "a == 1 & b == 2", or on one side and on the other a variable that
+    // is 0 or 1, "a == 2 & seen".
+    bool isWrong(const std::vector<Part>& parts)
+    {
+        const auto comparison = std::find_if(parts.begin(), parts.end(), isComparing);
+        const auto comparisons = std::count_if(parts.begin(), parts.end(), isComparing);
+        return comparisons > 1 ||
+               (comparisons == 1 && parts.size() > 1 && hasName(*comparison) &&
+                std::any_of(parts.begin(), parts.end(), [&](const Part& p) { return isFlag(p); }));
+    }
+
+private:
+    static bool isComparing(const Part& part) { return part.hasComparison; }
+
+    bool hasName(const Part& part) const
+    {
+        const auto isName = [](const Outline::Token& t) { return t.kind == TokenKind::name; };
+        const Outline::Token* const tokens = script.tokens.data();
+        return std::any_of(tokens + part.first, tokens + part.end, isName);
+    }
+
+    bool isFlag(const Part& part)
+    {
+        if (part.end != part.first + 1 || !hasName(part)) {
+            return false;
+        }
+        if (!variables) {
+            variables.emplace(script);
+        }
+        return !variables->of(toLower(script.tokens[part.first].text)).canBeOtherThan0And1();
+    }
+
+    const Outline& script;
+    std::optional<VariableValues> variables;  // which few scripts need
+};
+
 void findOrder(const Book& book, Report& report)
 {
     const Outline& script = book.script;
+    OrderSearch search(script);
     for (const Outline::Expression& expression : script.expressions) {
         if (!ExpressionTree(script, expression).isValid()) {
             continue;
@@ -119,9 +163,7 @@ void findOrder(const Book& book, Report& report)
         int token = expression.firstToken;
         LevelReader(script, token + expression.tokenCount)
             .read(token, [&](const std::vector<Part>& parts) {
-                const auto comparisons = std::count_if(
-                    parts.begin(), parts.end(), [](const Part& p) { return p.hasComparison; });
-                if (comparisons > 1) {
+                if (search.isWrong(parts)) {
                     reportOrder(script, parts, report);
                 }
             });
