@@ -245,6 +245,10 @@
         <translation>Hinter seiner letzten Zeile beenden</translation>
     </message>
     <message>
+        <source>Add an empty sub</source>
+        <translation>Einen leeren sub anfügen</translation>
+    </message>
+    <message>
         <source>The pen never comes to this: it stands behind a goto</source>
         <translation>Hierher kommt der Stift nie: Es steht hinter einem goto</translation>
     </message>

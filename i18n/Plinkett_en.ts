@@ -245,6 +245,10 @@
         <translation>End it behind its last line</translation>
     </message>
     <message>
+        <source>Add an empty sub</source>
+        <translation>Add an empty sub</translation>
+    </message>
+    <message>
         <source>The pen never comes to this: it stands behind a goto</source>
         <translation>The pen never comes to this: it stands behind a goto</translation>
     </message>

@@ -245,6 +245,10 @@
         <translation>Le terminer après sa dernière ligne</translation>
     </message>
     <message>
+        <source>Add an empty sub</source>
+        <translation>Ajouter un sub vide</translation>
+    </message>
+    <message>
         <source>The pen never comes to this: it stands behind a goto</source>
         <translation>Le stylo n&apos;arrive jamais ici : c&apos;est derrière un goto</translation>
     </message>

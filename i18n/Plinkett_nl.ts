@@ -245,6 +245,10 @@
         <translation>Achter de laatste regel beëindigen</translation>
     </message>
     <message>
+        <source>Add an empty sub</source>
+        <translation>Een lege sub toevoegen</translation>
+    </message>
+    <message>
         <source>The pen never comes to this: it stands behind a goto</source>
         <translation>Hier komt de pen nooit: het staat achter een goto</translation>
     </message>

@@ -1,9 +1,9 @@
 #include "app/ProblemFinder.h"
 
 #include <algorithm>
+#include <map>
 #include <memory>
 #include <new>
-#include <set>
 #include <tuple>
 
 namespace {
@@ -58,15 +58,22 @@ void addMessages(Oid::OidProject& book, Problems& problems)
     book.compiler.reportTo({});
 }
 
+// Of what a message has said already only the quick fix is added.
 void addHints(std::vector<hints::Finding> found, Problems& problems)
 {
-    std::set<std::pair<std::string, std::string>> said;
-    for (const Problem& problem : problems) {
-        said.emplace(problem.diagnostic.kind, problem.diagnostic.subject);
+    std::map<std::pair<std::string, std::string>, std::size_t> said;
+    for (std::size_t i = 0; i < problems.size(); ++i) {
+        said.emplace(std::make_pair(problems[i].diagnostic.kind, problems[i].diagnostic.subject),
+                     i);
     }
     for (hints::Finding& hint : found) {
-        if (said.count({sameAs(hint.hint->name), hint.diagnostic.subject}) == 0) {
-            problems.push_back(problemOf(hint));
+        Problem problem = problemOf(hint);
+        const auto message = said.find({sameAs(hint.hint->name), hint.diagnostic.subject});
+        if (message == said.end()) {
+            problems.push_back(std::move(problem));
+        } else {
+            problems[message->second].fix = std::move(problem.fix);
+            problems[message->second].fixWords = problem.fixWords;
         }
     }
 }
@@ -89,13 +96,18 @@ void ProblemSearch::setProject(Oid::OidProject project)
     hintsOnPages.reset();
 }
 
-Problems ProblemSearch::find(const std::string& script, const hints::Cancelled& isCancelled)
+Problems ProblemSearch::find(const std::string& script, const hints::Cancelled& isCancelled,
+                             const std::function<void(ScriptNames names)>& tellNames)
 {
     using hints::Subject;
     Problems problems;
     book.compiler = ttbasic();
     book.compiler.source = script;
     addMessages(book, problems);
+    if (tellNames) {
+        const std::vector<std::string> names = book.compiler.usedOidNames();
+        tellNames({names.begin(), names.end()});
+    }
     addHints(hints::findHints(Subject::book, book, pictures, isCancelled), problems);
     if (!hintsOnPages) {
         hintsOnPages = hints::findHints(Subject::pages, book, pictures, isCancelled);

@@ -10,12 +10,34 @@ namespace hints {
 
 namespace {
 
+// The compiler reads it as it stands.
+bool canNameSub(const std::string& name)
+{
+    return !name.empty() && name.find_first_of(" \t\r\n\"'#") == std::string::npos;
+}
+
+// An empty one at the end of the script.
+std::optional<Fix> addedSub(const Book& book, const std::string& name)
+{
+    const std::vector<ScriptOutline::Sub>& subs = book.script.subs;
+    const bool isOpen = !subs.empty() && subs.back().end == ScriptOutline::kNone;
+    if (isOpen || !canNameSub(name)) {
+        return std::nullopt;
+    }
+    const int last = book.lastLineOfScript();
+    const std::string line = book.lineOfScript(last);
+    const std::string gap = line.empty() ? "\n" : "\n\n";
+    return Fix{QT_TRANSLATE_NOOP("Hints", "Add an empty sub"),
+               TextEdits{{last, static_cast<int>(line.size()) + 1, 0,
+                          gap + "sub " + name + "\nend sub\n"}}};
+}
+
 // The product's own number needs no sub: touched, it starts the book.
 void findAreasWithoutSub(const Book& book, Report& report)
 {
     for (const auto& [name, area] : book.areas) {
         if (book.subs.count(name) == 0 && book.numberOf(name) != book.project.productId) {
-            report.add(area);
+            report.add(area).fix = addedSub(book, name);
         }
     }
 }

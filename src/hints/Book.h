@@ -40,6 +40,7 @@ struct Book
     // Where a line of the script begins, counted from 1, and the line without its end.
     std::size_t startOfLine(int line) const { return lineStarts[line - 1]; }
     std::string lineOfScript(int line) const;
+    int lastLineOfScript() const { return static_cast<int>(lineStarts.size()); }
 
     const Oid::OidProject& project;
     ScriptOutline script;

@@ -402,6 +402,18 @@ private slots:
         QTest::qWait(120);  // it has begun
     }
 
+    void aWarningOfAnAreaHasTheQuickFixOfItsHint()
+    {
+        ProblemsWindow w(book("voice max lang de"));
+        TRY_COMPARE(w.rows(),
+                    QString("Warning||page 1: cow|Used OID 'cow' in image, but not in the script|"
+                            "Add an empty sub"));
+        w.click(0, ProblemList::fix);
+        QCOMPARE(w.editor().text(), QString("sub start\r\nend sub\r\nvoice max lang de\r\n\r\n"
+                                            "sub cow\r\nend sub\r\n"));
+        TRY_COMPARE(w.rows(), QString());
+    }
+
     void whatCanBePressedHasANameForScreenReaders()
     {
         ProblemsWindow w(book(kCow));
