@@ -17,12 +17,17 @@ bool hasFewCorners(const Oid::POLY& area)
 
 }  // namespace
 
-AreaTableModel::AreaTableModel(Document& shown, const ScriptCheck& scriptCheck, QObject* parent)
-    : QAbstractTableModel(parent), document(shown), check(scriptCheck)
+AreaTableModel::AreaTableModel(Document& shown, QObject* parent)
+    : QAbstractTableModel(parent), document(shown)
 {
     connect(&document, &Document::changed, this, &AreaTableModel::showChange);
-    connect(&check, &ScriptCheck::found, this, [this] { tellAll(code, warnings); });
     showRows();
+}
+
+void AreaTableModel::setScriptNames(std::unordered_set<std::string> names)
+{
+    scriptNames = std::move(names);
+    tellAll(code, warnings);
 }
 
 std::vector<AreaTableModel::Row> AreaTableModel::rowsNow() const
@@ -81,7 +86,7 @@ QStringList AreaTableModel::warningsOf(const Oid::POLY& area) const
     if (hasFewCorners(area)) {
         all << tr("Fewer than three corners");
     }
-    if (check.names().count(area.name) == 0) {
+    if (!hasCode(area)) {
         all << tr("Not in the script");
     }
     if (numberOf(area) > kLargestReadableOid) {
@@ -119,7 +124,7 @@ QVariant AreaTableModel::shown(int row, int column, int role) const
     case page:
         return rows[static_cast<std::size_t>(row)].page + 1;
     case code:
-        return check.names().count(area.name) > 0 ? tr("yes") : tr("no");
+        return hasCode(area) ? tr("yes") : tr("no");
     default:
         return warningsOf(area).join(role == Qt::ToolTipRole ? "\n" : ", ");
     }

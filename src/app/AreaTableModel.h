@@ -1,10 +1,11 @@
 #pragma once
 
-#include "app/ScriptCheck.h"
 #include "document/Document.h"
 
 #include <QAbstractTableModel>
 
+#include <string>
+#include <unordered_set>
 #include <vector>
 
 // All areas of all pages of a document, a row each. Only what a change names is told anew.
@@ -17,8 +18,11 @@ public:
     // What rows are sorted by.
     static constexpr int kSortRole = Qt::UserRole;
 
-    // Both outlive the model.
-    AreaTableModel(Document& document, const ScriptCheck& check, QObject* parent);
+    // The document outlives the model.
+    AreaTableModel(Document& document, QObject* parent);
+
+    // Which names of areas the script knows by now; none in the beginning.
+    void setScriptNames(std::unordered_set<std::string> names);
 
     AreaId areaOf(int row) const;
     // -1 for an area that is on no page.
@@ -51,11 +55,12 @@ private:
     void tellAll(int first, int last);
     const Oid::POLY* areaAt(int row) const;
     int numberOf(const Oid::POLY& area) const;
+    bool hasCode(const Oid::POLY& area) const { return scriptNames.count(area.name) > 0; }
     QStringList warningsOf(const Oid::POLY& area) const;
     QVariant shown(int row, int column, int role) const;
 
     Document& document;
-    const ScriptCheck& check;
+    std::unordered_set<std::string> scriptNames;
     std::vector<Row> rows;
     std::unordered_map<AreaId, int> places;
 };

@@ -49,10 +49,10 @@ public:
 
 }  // namespace
 
-AreasDock::AreasDock(Document& shown, const ScriptCheck& check, QWidget* parent)
+AreasDock::AreasDock(Document& shown, QWidget* parent)
     : QDockWidget(tr("Areas"), parent),
       document(shown),
-      model(new AreaTableModel(shown, check, this)),
+      model(new AreaTableModel(shown, this)),
       sorted(new QSortFilterProxyModel(this)),
       filter(new QLineEdit),
       table(new WideTable)
@@ -91,6 +91,11 @@ AreasDock::AreasDock(Document& shown, const ScriptCheck& check, QWidget* parent)
             selectInTable();
         }
     });
+}
+
+void AreasDock::setScriptNames(const std::unordered_set<std::string>& names)
+{
+    model->setScriptNames(names);
 }
 
 void AreasDock::prepareTable()

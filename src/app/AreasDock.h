@@ -16,8 +16,11 @@ class AreasDock : public QDockWidget
     Q_OBJECT
 
 public:
-    // Both outlive the dock.
-    AreasDock(Document& document, const ScriptCheck& check, QWidget* parent);
+    // The document outlives the dock.
+    AreasDock(Document& document, QWidget* parent);
+
+    // Which names of areas the script knows by now.
+    void setScriptNames(const std::unordered_set<std::string>& names);
 
     // One for the selected areas, under its keys and in the menu of the list, too. Not owned.
     void addCommand(QAction* command);

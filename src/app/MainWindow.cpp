@@ -227,9 +227,7 @@ void MainWindow::prepareDocks()
     const int behindNext = ui->horizontalLayout->indexOf(ui->btNextPicture) + 1;
     ui->horizontalLayout->insertWidget(behindNext, pages->makeLabel());
 
-    const auto script = [this] { return ui->codeEditor->text().toStdString(); };
-    auto* const check = new ScriptCheck(script, this);
-    auto* const areas = new AreasDock(document, *check, this);
+    auto* const areas = new AreasDock(document, this);
     docks->add(areas, Qt::RightDockWidgetArea, *ui->editBar, "actionDockAreas", "dock-areas",
                tr("Shows or hides the list of the areas"), QKeySequence("Ctrl+Shift+A"));
     connect(areas, &AreasDock::pageAsked, this, goToPage);
@@ -242,10 +240,8 @@ void MainWindow::prepareDocks()
     connect(areas, &AreasDock::renameAsked, findChild<RenameEverywhere*>(), &RenameEverywhere::give,
             Qt::QueuedConnection);
     connect(areas, &AreasDock::codeAsked, this, &MainWindow::on_btEditPolyCode_clicked);
-    connect(&document, &Document::changed, check, &ScriptCheck::lookSoon);
-    const auto lookAtTab = [this, check] {
+    const auto lookAtTab = [this] {
         docks->enableActions(ui->ribbonTab->currentWidget() == ui->tabAreas);
-        check->lookSoon();
     };
     connect(ui->ribbonTab, &QTabWidget::currentChanged, docks, lookAtTab);
     lookAtTab();

@@ -175,7 +175,20 @@ Problems ProblemFinder::look(Request& request)
     if (request.project) {
         book.setProject(std::move(*request.project));
     }
-    return book.find(request.script.toStdString(), [this] { return isCancelled.load(); });
+    const auto tellNames = [this](ScriptNames names) {
+        QMetaObject::invokeMethod(
+            this, [this, names = std::move(names)] { takeNames(names); }, Qt::QueuedConnection);
+    };
+    return book.find(
+        request.script.toStdString(), [this] { return isCancelled.load(); }, tellNames);
+}
+
+void ProblemFinder::takeNames(const ScriptNames& names)
+{
+    if (names != known) {
+        known = names;
+        emit scriptNamesFound(known);
+    }
 }
 
 void ProblemFinder::finish()

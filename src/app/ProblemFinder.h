@@ -9,10 +9,14 @@
 #include <future>
 #include <optional>
 #include <string>
+#include <unordered_set>
 
 #include "app/Problem.h"
 #include "hints/FindHints.h"
 #include "oid/OidProject.h"
+
+// Of the areas that the script knows.
+using ScriptNames = std::unordered_set<std::string>;
 
 // The problems of a book, whose pages are looked at once and whose script again and again. Can be
 // used on any thread, by one at a time.
@@ -22,8 +26,9 @@ public:
     // Another state of all but the script.
     void setProject(Oid::OidProject project);
     // What compiler, comparison and hints have to say with this script. Prints nothing. When it was
-    // cancelled, some of that.
-    Problems find(const std::string& script, const hints::Cancelled& isCancelled = {});
+    // cancelled, some of that. The names are told as soon as the compiler has them.
+    Problems find(const std::string& script, const hints::Cancelled& isCancelled = {},
+                  const std::function<void(ScriptNames names)>& tellNames = {});
 
 private:
     Oid::OidProject book;
@@ -58,6 +63,8 @@ public:
 
 signals:
     void found(const Problems& problems);
+    // Other names than before. The problems are found a little later.
+    void scriptNamesFound(const ScriptNames& names);
 
 private:
     // What the other thread needs to know.
@@ -70,9 +77,11 @@ private:
     void start();
     void finish();
     Problems look(Request& request);
+    void takeNames(const ScriptNames& names);
 
     Source source;
     QTimer pause;
+    ScriptNames known;
     bool upToDate = false;
     bool isWaited = false;              // for the end of a search that nobody wants any more
     std::optional<std::uint64_t> seen;  // the revision that the book has

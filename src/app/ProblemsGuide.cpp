@@ -1,5 +1,6 @@
 #include "app/ProblemsGuide.h"
 
+#include "app/AreasDock.h"
 #include "app/ProblemsDock.h"
 #include "document/Document.h"
 #include "ui_MainWindow.h"
@@ -110,6 +111,8 @@ void ProblemsGuide::watch()
     connect(form.txProjectName, &QLineEdit::textChanged, this, look);
     connect(form.txProjectId, qOverload<int>(&QSpinBox::valueChanged), this, look);
     connect(&finder, &ProblemFinder::found, this, &ProblemsGuide::show);
+    connect(&finder, &ProblemFinder::scriptNamesFound, window.findChild<AreasDock*>(),
+            &AreasDock::setScriptNames);
     const auto tabChanged = [this] {
         const QWidget* const tab = form.ribbonTab->currentWidget();
         dock->letFoldByItself(tab != form.tabAreas && tab != form.tabTry);

@@ -20,7 +20,7 @@ class ProblemsGuide : public QObject
     Q_OBJECT
 
 public:
-    // They outlive it; it is a child of the window, which gets a dock.
+    // They outlive it; it is a child of the window, which has the list of areas and gets a dock.
     ProblemsGuide(QMainWindow& mainWindow, Ui::MainWindow& mainForm, Document& mainDocument);
 
 private:

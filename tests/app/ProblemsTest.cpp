@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QTableView>
 #include <QToolButton>
 #include <QToolTip>
 #include <QTreeView>
@@ -412,6 +413,25 @@ private slots:
         QCOMPARE(w.editor().text(), QString("sub start\r\nend sub\r\nvoice max lang de\r\n\r\n"
                                             "sub cow\r\nend sub\r\n"));
         TRY_COMPARE(w.rows(), QString());
+    }
+
+    void theListOfAreasKnowsWhichOnesTheScriptKnows()
+    {
+        ProblemsWindow w(book(kCow));
+        const QAbstractItemModel& areas =
+            *w.get<QDockWidget>("dockAreas")->findChild<QTableView*>()->model();
+        const auto code = [&] {
+            QStringList texts;
+            for (int row = 0; row < areas.rowCount(); ++row) {
+                texts << areas.index(row, 0).data().toString() + " " +
+                             areas.index(row, 3).data().toString();
+            }
+            return texts.join(", ");
+        };
+        TRY_COMPARE(code(), QString("cow yes, start yes"));
+        w.showScript();
+        QTest::keyClicks(&w.editor(), "# ");  // no sub "start"
+        TRY_COMPARE(code(), QString("cow yes, start no"));
     }
 
     void whatCanBePressedHasANameForScreenReaders()
