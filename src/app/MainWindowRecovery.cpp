@@ -6,6 +6,7 @@
 #include "ui_MainWindow.h"
 
 #include <functional>
+#include <string_view>
 
 void MainWindow::prepareRecovery()
 {
@@ -23,9 +24,11 @@ void MainWindow::prepareRecovery()
 
 std::uint64_t MainWindow::workFingerprint() const
 {
-    const std::u16string script = ui->codeEditor->text().toStdU16String();
+    const QString script = ui->codeEditor->text();
+    const std::u16string_view units(reinterpret_cast<const char16_t*>(script.utf16()),
+                                    static_cast<std::size_t>(script.size()));
     constexpr std::uint64_t kSpreading = 0x9E3779B97F4A7C15;  // odd, its bits as if by chance
-    return std::hash<std::u16string>()(script) ^ document.revision() * kSpreading;
+    return std::hash<std::u16string_view>()(units) ^ document.revision() * kSpreading;
 }
 
 Oid::OidProject MainWindow::projectToSave() const

@@ -119,6 +119,7 @@ TextView KVQtHighlightEditCtrlInlay::prepare_view()
     view.ratio = devicePixelRatioF();
     if (editor.is_dirty()) {
         brackets_known = false;
+        told_text.clear();
         note_width();  // colouring forgets which lines have changed
         editor.colorize(KVTextEditor::write_cell_color, view.first_line,
                         view.first_line + view.lines);

@@ -64,8 +64,9 @@ void KVQtHighlightEditCtrlInlay::UpdateAllViews()
     }
     brackets_known = false;
     note_width();
-    const bool textChanged = editor.is_dirty() || buffer.line_count() != told_lines;
+    const bool textChanged = has_changed();
     told_lines = buffer.line_count();
+    told_text.clear();
     if (editor.is_dirty()) {
         editor.colorize(KVTextEditor::write_cell_color, 0, -1);
     }

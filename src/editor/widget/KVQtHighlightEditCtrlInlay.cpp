@@ -41,7 +41,18 @@ KVQtHighlightEditCtrlInlay::~KVQtHighlightEditCtrlInlay() = default;
 
 QString KVQtHighlightEditCtrlInlay::text() const
 {
-    return text_of(buffer);
+    if (has_changed()) {
+        return text_of(buffer);
+    }
+    if (told_text.isNull()) {
+        told_text = text_of(buffer);
+    }
+    return told_text;
+}
+
+bool KVQtHighlightEditCtrlInlay::has_changed() const
+{
+    return editor.is_dirty() || buffer.line_count() != told_lines;
 }
 
 QString KVQtHighlightEditCtrlInlay::text_of(const BUFFER& lines)

@@ -43,7 +43,8 @@ public:
     // Replace All stops when the text is longer than this many characters (1 GB).
     std::size_t replace_all_limit = std::size_t(1) << 29;
 
-    // The whole text, its lines joined with CR LF. Setting it ends undo and redo.
+    // The whole text, its lines joined with CR LF; between two commands all who ask share one copy.
+    // Setting it ends undo and redo.
     QString text() const;
     void setText(const QString& text);
     // True when the text is the one that setText would leave, whatever its line ends.
@@ -261,6 +262,7 @@ private:
     SELECTION cells_of(const TextMark& mark) const;
     void undo_or_redo(void (BACKEND::*step)(), quint64 link, bool forward);
     static QString text_of(const BUFFER& lines);  // joined with CR LF
+    bool has_changed() const;                     // since the last command
 
     // --- painting (InlayPainting.cpp) ---
     void draw_canvas(const QRegion& region);
@@ -295,8 +297,9 @@ private:
     QRegion drawn_caret;
     int cell_width = 1;
     int cell_height = 1;
-    int told_lines = 1;  // of the text that ViewUpdated last told of
-    int text_width = 0;  // cells of the widest line
+    int told_lines = 1;         // of the text that ViewUpdated last told of
+    mutable QString told_text;  // since the last command, null as long as nobody has asked
+    int text_width = 0;         // cells of the widest line
     int widest_line = 0;
     LineMarks line_marks;
     int wheel_turned = 0;  // with Control, in eighths of a degree, less than a step

@@ -166,6 +166,21 @@ private slots:
         QCOMPARE(toolTipAt(surface, {2, surface.line_height() + 2}), QString());
     }
 
+    void whoAsksForTheTextBetweenCommandsGetsTheSameCopy()
+    {
+        EditorWindow window("sub cow\nend sub");
+        Inlay& surface = window.surface;
+        const QString text = surface.text();
+        QCOMPARE(surface.text().constData(), text.constData());
+        surface.buffer.line(1).set(u"end", -1);  // no command yet
+        QCOMPARE(surface.text(), QString("sub cow\r\nend"));
+        surface.UpdateAllViews();
+        QCOMPARE(surface.text(), QString("sub cow\r\nend"));
+        QTest::keyClick(&surface, Qt::Key_X);
+        QCOMPARE(surface.text(), QString("xsub cow\r\nend"));
+        QCOMPARE(text, QString("sub cow\r\nend sub"));
+    }
+
     void everyCommandThatChangesTheTextSaysSo()
     {
         EditorWindow window("one|\ntwo");
