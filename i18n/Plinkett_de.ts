@@ -1992,6 +1992,60 @@
     </message>
 </context>
 <context>
+    <name>KeywordToolTips</name>
+    <message>
+        <source>without it: %1</source>
+        <translation>ohne: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptLanguage</name>
+    <message>
+        <source>what the pen does when the area NAME is touched</source>
+        <translation>was der Stift tut, wenn der Bereich NAME berührt wird</translation>
+    </message>
+    <message>
+        <source>goes on with the sub NAME and does not come back</source>
+        <translation>macht mit dem sub NAME weiter und kommt nicht zurück</translation>
+    </message>
+    <message>
+        <source>gives a variable a value</source>
+        <translation>gibt einer Variablen einen Wert</translation>
+    </message>
+    <message>
+        <source>does one or the other</source>
+        <translation>tut das eine oder das andere</translation>
+    </message>
+    <message>
+        <source>chooses by the value of a variable</source>
+        <translation>wählt nach dem Wert einer Variablen</translation>
+    </message>
+    <message>
+        <source>declares a voice</source>
+        <translation>vereinbart eine Stimme</translation>
+    </message>
+    <message>
+        <source>speaks the text, or one of several</source>
+        <translation>spricht den Text, oder einen von mehreren</translation>
+    </message>
+    <message>
+        <source>the language: `en`, `de`, `es`, ...</source>
+        <translation>die Sprache: `en`, `de`, `es`, ...</translation>
+    </message>
+    <message>
+        <source>`m` or `f`</source>
+        <translation>`m` oder `f`</translation>
+    </message>
+    <message>
+        <source>1 to 99</source>
+        <translation>1 bis 99</translation>
+    </message>
+    <message>
+        <source>a number; meant is 1 to 5, up to 99 is accepted</source>
+        <translation>eine Zahl; gemeint ist 1 bis 5, bis 99 wird angenommen</translation>
+    </message>
+</context>
+<context>
     <name>JumpList</name>
     <message>
         <source>Type a part of it</source>

@@ -1992,6 +1992,60 @@
     </message>
 </context>
 <context>
+    <name>KeywordToolTips</name>
+    <message>
+        <source>without it: %1</source>
+        <translation>without it: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptLanguage</name>
+    <message>
+        <source>what the pen does when the area NAME is touched</source>
+        <translation>what the pen does when the area NAME is touched</translation>
+    </message>
+    <message>
+        <source>goes on with the sub NAME and does not come back</source>
+        <translation>goes on with the sub NAME and does not come back</translation>
+    </message>
+    <message>
+        <source>gives a variable a value</source>
+        <translation>gives a variable a value</translation>
+    </message>
+    <message>
+        <source>does one or the other</source>
+        <translation>does one or the other</translation>
+    </message>
+    <message>
+        <source>chooses by the value of a variable</source>
+        <translation>chooses by the value of a variable</translation>
+    </message>
+    <message>
+        <source>declares a voice</source>
+        <translation>declares a voice</translation>
+    </message>
+    <message>
+        <source>speaks the text, or one of several</source>
+        <translation>speaks the text, or one of several</translation>
+    </message>
+    <message>
+        <source>the language: `en`, `de`, `es`, ...</source>
+        <translation>the language: `en`, `de`, `es`, ...</translation>
+    </message>
+    <message>
+        <source>`m` or `f`</source>
+        <translation>`m` or `f`</translation>
+    </message>
+    <message>
+        <source>1 to 99</source>
+        <translation>1 to 99</translation>
+    </message>
+    <message>
+        <source>a number; meant is 1 to 5, up to 99 is accepted</source>
+        <translation>a number; meant is 1 to 5, up to 99 is accepted</translation>
+    </message>
+</context>
+<context>
     <name>JumpList</name>
     <message>
         <source>Type a part of it</source>

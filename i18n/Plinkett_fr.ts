@@ -1992,6 +1992,60 @@
     </message>
 </context>
 <context>
+    <name>KeywordToolTips</name>
+    <message>
+        <source>without it: %1</source>
+        <translation>sans : %1</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptLanguage</name>
+    <message>
+        <source>what the pen does when the area NAME is touched</source>
+        <translation>ce que fait le stylo quand on touche la zone NAME</translation>
+    </message>
+    <message>
+        <source>goes on with the sub NAME and does not come back</source>
+        <translation>continue avec le sub NAME et ne revient pas</translation>
+    </message>
+    <message>
+        <source>gives a variable a value</source>
+        <translation>donne une valeur à une variable</translation>
+    </message>
+    <message>
+        <source>does one or the other</source>
+        <translation>fait l&apos;un ou l&apos;autre</translation>
+    </message>
+    <message>
+        <source>chooses by the value of a variable</source>
+        <translation>choisit selon la valeur d&apos;une variable</translation>
+    </message>
+    <message>
+        <source>declares a voice</source>
+        <translation>déclare une voix</translation>
+    </message>
+    <message>
+        <source>speaks the text, or one of several</source>
+        <translation>dit le texte, ou l&apos;un de plusieurs</translation>
+    </message>
+    <message>
+        <source>the language: `en`, `de`, `es`, ...</source>
+        <translation>la langue : `en`, `de`, `es`, ...</translation>
+    </message>
+    <message>
+        <source>`m` or `f`</source>
+        <translation>`m` ou `f`</translation>
+    </message>
+    <message>
+        <source>1 to 99</source>
+        <translation>1 à 99</translation>
+    </message>
+    <message>
+        <source>a number; meant is 1 to 5, up to 99 is accepted</source>
+        <translation>un nombre ; prévu de 1 à 5, accepté jusqu&apos;à 99</translation>
+    </message>
+</context>
+<context>
     <name>JumpList</name>
     <message>
         <source>Type a part of it</source>

@@ -1992,6 +1992,60 @@
     </message>
 </context>
 <context>
+    <name>KeywordToolTips</name>
+    <message>
+        <source>without it: %1</source>
+        <translation>zonder: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptLanguage</name>
+    <message>
+        <source>what the pen does when the area NAME is touched</source>
+        <translation>wat de pen doet als het gebied NAME wordt aangeraakt</translation>
+    </message>
+    <message>
+        <source>goes on with the sub NAME and does not come back</source>
+        <translation>gaat verder met de sub NAME en komt niet terug</translation>
+    </message>
+    <message>
+        <source>gives a variable a value</source>
+        <translation>geeft een variabele een waarde</translation>
+    </message>
+    <message>
+        <source>does one or the other</source>
+        <translation>doet het een of het ander</translation>
+    </message>
+    <message>
+        <source>chooses by the value of a variable</source>
+        <translation>kiest naar de waarde van een variabele</translation>
+    </message>
+    <message>
+        <source>declares a voice</source>
+        <translation>declareert een stem</translation>
+    </message>
+    <message>
+        <source>speaks the text, or one of several</source>
+        <translation>zegt de tekst, of een van meer teksten</translation>
+    </message>
+    <message>
+        <source>the language: `en`, `de`, `es`, ...</source>
+        <translation>de taal: `en`, `de`, `es`, ...</translation>
+    </message>
+    <message>
+        <source>`m` or `f`</source>
+        <translation>`m` of `f`</translation>
+    </message>
+    <message>
+        <source>1 to 99</source>
+        <translation>1 tot 99</translation>
+    </message>
+    <message>
+        <source>a number; meant is 1 to 5, up to 99 is accepted</source>
+        <translation>een getal; bedoeld is 1 tot 5, tot 99 wordt aanvaard</translation>
+    </message>
+</context>
+<context>
     <name>JumpList</name>
     <message>
         <source>Type a part of it</source>

@@ -4,29 +4,34 @@
 
 #include "base/TextHelpers.h"
 
+// Marks a text for the translations of the program, which the help of the editor shows.
+#define QT_TRANSLATE_NOOP(context, text) text
+
 namespace ScriptLanguage {
 
 const std::vector<Statement>& statements()
 {
     static const std::vector<Statement> all = {
         {StatementKind::sub, "`sub NAME` ... `end sub` (`endsub`)",
-         "what the pen does when the area NAME is touched",
+         QT_TRANSLATE_NOOP("ScriptLanguage", "what the pen does when the area NAME is touched"),
          "sub cow\n"
          "  say \"Moo!\"\n"
          "end sub\n"},
-        {StatementKind::jump, "`goto NAME`", "goes on with the sub NAME and does not come back",
+        {StatementKind::jump, "`goto NAME`",
+         QT_TRANSLATE_NOOP("ScriptLanguage", "goes on with the sub NAME and does not come back"),
          "sub calf\n"
          "  goto cow\n"
          "end sub\n"
          "sub cow\n"
          "  say \"Moo!\"\n"
          "end sub\n"},
-        {StatementKind::assignment, "`NAME = EXPRESSION`", "gives a variable a value",
+        {StatementKind::assignment, "`NAME = EXPRESSION`",
+         QT_TRANSLATE_NOOP("ScriptLanguage", "gives a variable a value"),
          "sub cow\n"
          "  touched = touched + 1\n"
          "end sub\n"},
         {StatementKind::ifBlock, "`if EXPRESSION` ... `else` ... `end if` (`endif`)",
-         "does one or the other",
+         QT_TRANSLATE_NOOP("ScriptLanguage", "does one or the other"),
          "sub cow\n"
          "  if touched == 0\n"
          "    touched = 1\n"
@@ -36,7 +41,7 @@ const std::vector<Statement>& statements()
          "end sub\n"},
         {StatementKind::select,
          "`select NAME` ... `case NUMBER` ... `default` ... `end select` (`endselect`)",
-         "chooses by the value of a variable",
+         QT_TRANSLATE_NOOP("ScriptLanguage", "chooses by the value of a variable"),
          "sub cow\n"
          "  select touched\n"
          "  case 0\n"
@@ -47,16 +52,42 @@ const std::vector<Statement>& statements()
          "    say \"No more milk.\"\n"
          "  end select\n"
          "end sub\n"},
-        {StatementKind::voice, "`voice NAME [OPTION VALUE]...`", "declares a voice",
+        {StatementKind::voice, "`voice NAME [OPTION VALUE]...`",
+         QT_TRANSLATE_NOOP("ScriptLanguage", "declares a voice"),
          "voice max lang de sex m age 40\n"},
         {StatementKind::say, "`say TEXT`, `say VOICE TEXT...`",
-         "speaks the text, or one of several",
+         QT_TRANSLATE_NOOP("ScriptLanguage", "speaks the text, or one of several"),
          "sub cow\n"
          "  say \"Moo!\"\n"
          "  say eve \"Good morning.\" \"Good night.\"\n"
          "end sub\n"},
     };
     return all;
+}
+
+const Statement* statementOf(StatementKind kind)
+{
+    const auto opened = [kind] {
+        switch (kind) {
+        case StatementKind::endSub:
+            return StatementKind::sub;
+        case StatementKind::elseBranch:
+        case StatementKind::endIf:
+            return StatementKind::ifBlock;
+        case StatementKind::caseBranch:
+        case StatementKind::defaultBranch:
+        case StatementKind::endSelect:
+            return StatementKind::select;
+        default:
+            return kind;
+        }
+    }();
+    for (const Statement& statement : statements()) {
+        if (statement.kind == opened) {
+            return &statement;
+        }
+    }
+    return nullptr;
 }
 
 const std::vector<Keyword>& keywords()
@@ -91,11 +122,16 @@ const std::vector<Keyword>& ends()
 const std::vector<VoiceOption>& voiceOptions()
 {
     static const std::vector<VoiceOption> all = {
-        {VoiceOptionKind::language, "lang", "the language: `en`, `de`, `es`, ...", "`en`"},
-        {VoiceOptionKind::sex, "sex", "`m` or `f`", "`m`"},
-        {VoiceOptionKind::age, "age", "1 to 99", "30"},
-        {VoiceOptionKind::speed, "speed", "a number; meant is 1 to 5, up to 99 is accepted", "3"},
-        {VoiceOptionKind::pitch, "pitch", "a number; meant is 1 to 5, up to 99 is accepted", "3"},
+        {VoiceOptionKind::language, "lang",
+         QT_TRANSLATE_NOOP("ScriptLanguage", "the language: `en`, `de`, `es`, ..."), "`en`"},
+        {VoiceOptionKind::sex, "sex", QT_TRANSLATE_NOOP("ScriptLanguage", "`m` or `f`"), "`m`"},
+        {VoiceOptionKind::age, "age", QT_TRANSLATE_NOOP("ScriptLanguage", "1 to 99"), "30"},
+        {VoiceOptionKind::speed, "speed",
+         QT_TRANSLATE_NOOP("ScriptLanguage", "a number; meant is 1 to 5, up to 99 is accepted"),
+         "3"},
+        {VoiceOptionKind::pitch, "pitch",
+         QT_TRANSLATE_NOOP("ScriptLanguage", "a number; meant is 1 to 5, up to 99 is accepted"),
+         "3"},
     };
     return all;
 }

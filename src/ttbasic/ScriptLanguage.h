@@ -81,6 +81,8 @@ struct Operators
 
 // In the order in which an author learns them; what closes a block stands with what opens it.
 const std::vector<Statement>& statements();
+// The one that a line of this kind belongs to, `if` for an `else`; null for one without keyword.
+const Statement* statementOf(StatementKind kind);
 // All words that a line can begin with, but kEnd.
 const std::vector<Keyword>& keywords();
 // The word that needs a second one, and which ones there are.

@@ -400,7 +400,30 @@ private slots:
         QVERIFY(w.toolTipAt(6, 8).startsWith("Area cow, number 1001, page 1<br><img src="));
         QCOMPARE(w.toolTipAt(2, 12), "Variable count, set in lines 3");
         QCOMPARE(w.toolTipAt(3, 7), "Voice max, line 1<br>voice max lang de");
-        QCOMPARE(w.toolTipAt(6, 3), "");
+        QCOMPARE(w.toolTipAt(6, 1), "");
+    }
+
+    void wordsOfTheLanguageAreExplainedUnderTheMouse()
+    {
+        Writing w("voice max lang de\r\nsub cow\r\nif x\r\nelse\r\nend  if\r\nx = 1\r\n");
+        const QString ofIf = "<b>if EXPRESSION</b> ... <b>else</b> ... <b>end if</b> (<b>endif</b>)"
+                             "<br>does one or the other<pre>sub cow\n"
+                             "  if touched == 0\n"
+                             "    touched = 1\n"
+                             "  else\n"
+                             "    say &quot;Moo!&quot;\n"
+                             "  end if\n"
+                             "end sub</pre>";
+        QCOMPARE(w.toolTipAt(2, 1), ofIf);
+        QCOMPARE(w.toolTipAt(3, 0), ofIf);
+        QCOMPARE(w.toolTipAt(4, 6), ofIf);
+        QCOMPARE(w.toolTipAt(1, 1).section("<br>", 1).section("<pre>", 0, 0),
+                 "what the pen does when the area NAME is touched");
+        QCOMPARE(w.toolTipAt(0, 11),
+                 "<b>lang</b><br>the language: <b>en</b>, <b>de</b>, <b>es</b>, ...<br>"
+                 "without it: <b>en</b>");
+        QCOMPARE(w.toolTipAt(0, 16), "");
+        QCOMPARE(w.toolTipAt(5, 3), "");
     }
 
     void theStatusBarShowsLineAndColumnAndWhetherTypingInserts()
@@ -424,8 +447,8 @@ private slots:
         {
             Writing w("");
             w.window.keepSettingsIn(settings);
-            for (const char* name :
-                 {"actionSuggestWhileTyping", "actionIndentNewLines", "actionScriptToolTips"}) {
+            for (const char* name : {"actionSuggestWhileTyping", "actionIndentNewLines",
+                                     "actionScriptToolTips", "actionShowMarks"}) {
                 w.get<QAction>(name)->trigger();
             }
             w.write("sub cow\nend sub\ngoto c");

@@ -82,6 +82,69 @@ TEST(ScriptLanguage, ThePageOfTheLanguageHasItsOperators)
     EXPECT_THAT(tableOfDocs("| operators |"), ElementsAreArray(rows));
 }
 
+TEST(ScriptLanguage, ThePageOfTheLanguageHasItsLimits)
+{
+    const std::string page = readFile(PLINKETT_SOURCE_DIR "/docs/script-language.md");
+    const std::string largest = std::to_string(ScriptLanguage::kLargestNumber);
+    const std::string smallestOfVoice = std::to_string(ScriptLanguage::kSmallestVoiceNumber);
+    const std::string largestOfVoice = std::to_string(ScriptLanguage::kLargestVoiceNumber);
+    std::string voices = "Two voices are always there:";
+    for (const char* name : ScriptLanguage::builtInVoices()) {
+        voices += std::string(name) == ScriptLanguage::builtInVoices()[0] ? " `" : ") and `";
+        voices += std::string(name) + "` (" + (std::string(name) == "eve" ? "female" : "male");
+    }
+    for (const std::string& words :
+         {"whole numbers from 0 to " + largest + ".",
+          "A comment begins at `" + std::string(1, ScriptLanguage::kCommentMarkers[1]) + "` or `" +
+              std::string(1, ScriptLanguage::kCommentMarkers[0]) + "`",
+          "Names that begin with `" + std::string(1, ScriptLanguage::kReservedStart) + "`",
+          "range " + smallestOfVoice + ".." + largestOfVoice, voices}) {
+        EXPECT_THAT(page, testing::HasSubstr(words));
+    }
+    for (const ScriptLanguage::VoiceOption& option : ScriptLanguage::voiceOptions()) {
+        if (option.kind == VoiceOptionKind::age) {
+            EXPECT_EQ(option.values, smallestOfVoice + " to " + largestOfVoice);
+        }
+    }
+}
+
+// But those that show how something is written, with "[".
+TEST(ScriptLanguage, EveryExampleOfItsPageCompiles)
+{
+    std::istringstream page(readFile(PLINKETT_SOURCE_DIR "/docs/script-language.md"));
+    std::string example;
+    bool isInside = false;
+    int count = 0;
+    for (std::string line; std::getline(page, line);) {
+        if (line != "```") {
+            example += isInside ? line + "\n" : "";
+            continue;
+        }
+        isInside = !isInside;
+        if (!isInside && example.find('[') == std::string::npos) {
+            const bool isWhole = example.find("end sub") != std::string::npos;
+            EXPECT_EQ(compile(isWhole ? example : "sub cow\n" + example + "end sub\n").messages, "")
+                << example;
+            ++count;
+        }
+        example = isInside ? "" : example;
+    }
+    EXPECT_EQ(count, 3);
+}
+
+TEST(ScriptLanguage, AllThatIsWrittenWithAKeywordIsOfAStatement)
+{
+    for (const auto& words : {ScriptLanguage::keywords(), ScriptLanguage::ends()}) {
+        for (const ScriptLanguage::Keyword& keyword : words) {
+            const ScriptLanguage::Statement* const statement =
+                ScriptLanguage::statementOf(keyword.kind);
+            ASSERT_NE(statement, nullptr) << keyword.word;
+            EXPECT_THAT(statement->syntax, testing::HasSubstr(keyword.word));
+        }
+    }
+    EXPECT_EQ(ScriptLanguage::statementOf(StatementKind::unknown), nullptr);
+}
+
 TEST(ScriptLanguage, OperatorsBindAsTheirOrderSays)
 {
     std::size_t count = 0;

@@ -2,6 +2,7 @@
 
 #include "editor/assist/CompletionList.h"
 #include "editor/assist/JumpList.h"
+#include "editor/assist/KeywordToolTips.h"
 #include "editor/assist/LineTools.h"
 #include "editor/assist/RenameDialog.h"
 #include "editor/assist/VariableNames.h"
@@ -317,7 +318,8 @@ bool ScriptHelp::showToolTip(QPoint point, QPoint global)
     const KVTextEditor::CARET caret = script.FromPoint(point);
     const Part at = script.PartAt(caret);
     const std::optional<NameUse> name = nameAt(watch.recent(), at.line, at.column);
-    const QString text = name ? toolTipOf(*name) : QString();
+    const QString text =
+        name ? toolTipOf(*name) : keywordToolTip(watch.recent(), at.line, at.column);
     if (text.isEmpty()) {
         return false;
     }
