@@ -2105,8 +2105,12 @@
         <translation>Neue Zeilen &amp;einrücken</translation>
     </message>
     <message>
-        <source>&amp;Explain names under the mouse</source>
-        <translation>Namen unter der Maus &amp;erklären</translation>
+        <source>&amp;Explain words under the mouse</source>
+        <translation>W&amp;örter unter der Maus erklären</translation>
+    </message>
+    <message>
+        <source>&amp;Mark problems in the text</source>
+        <translation>Probleme im Text &amp;markieren</translation>
     </message>
     <message>
         <source>Line %1, column %2</source>

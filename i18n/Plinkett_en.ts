@@ -2105,8 +2105,12 @@
         <translation>&amp;Indent new lines</translation>
     </message>
     <message>
-        <source>&amp;Explain names under the mouse</source>
-        <translation>&amp;Explain names under the mouse</translation>
+        <source>&amp;Explain words under the mouse</source>
+        <translation>&amp;Explain words under the mouse</translation>
+    </message>
+    <message>
+        <source>&amp;Mark problems in the text</source>
+        <translation>&amp;Mark problems in the text</translation>
     </message>
     <message>
         <source>Line %1, column %2</source>

@@ -2105,8 +2105,12 @@
         <translation>&amp;Indenter les nouvelles lignes</translation>
     </message>
     <message>
-        <source>&amp;Explain names under the mouse</source>
-        <translation>&amp;Expliquer les noms sous la souris</translation>
+        <source>&amp;Explain words under the mouse</source>
+        <translation>&amp;Expliquer les mots sous la souris</translation>
+    </message>
+    <message>
+        <source>&amp;Mark problems in the text</source>
+        <translation>&amp;Marquer les problèmes dans le texte</translation>
     </message>
     <message>
         <source>Line %1, column %2</source>

@@ -2105,8 +2105,12 @@
         <translation>Nieuwe regels &amp;inspringen</translation>
     </message>
     <message>
-        <source>&amp;Explain names under the mouse</source>
-        <translation>Namen onder de muis &amp;uitleggen</translation>
+        <source>&amp;Explain words under the mouse</source>
+        <translation>Woorden onder de muis &amp;uitleggen</translation>
+    </message>
+    <message>
+        <source>&amp;Mark problems in the text</source>
+        <translation>Problemen in de tekst &amp;markeren</translation>
     </message>
     <message>
         <source>Line %1, column %2</source>

@@ -455,6 +455,8 @@ private slots:
             QCOMPARE(w.surface().text(), "sub cow\r\nend sub\r\ngoto c");
             QCOMPARE(w.suggested(), "");
             QCOMPARE(w.toolTipAt(0, 5), "");
+            w.surface().SetMarks({{3, 1, 4, TextMark::error, "wrong"}});
+            QCOMPARE(w.toolTipAt(2, 1), "");
             w.key(Qt::Key_Space, Qt::ControlModifier);
             QCOMPARE(w.suggested(), "cow");
         }
@@ -462,6 +464,10 @@ private slots:
         w.window.keepSettingsIn(settings);
         w.write("sub cow\nx");
         QCOMPARE(w.line(1), "x");
+        w.surface().SetMarks({{1, 1, 3, TextMark::error, "wrong"}});
+        QCOMPARE(w.toolTipAt(0, 1), "");
+        w.get<QAction>("actionShowMarks")->trigger();
+        QCOMPARE(w.toolTipAt(0, 1), "wrong");
     }
 };
 

@@ -19,9 +19,13 @@ CaretStatus::CaretStatus(KVQtHighlightEditCtrlInlay& shown, ScriptHelp& help)
     button->setPopupMode(QToolButton::InstantPopup);
     button->setMenu(new QMenu(button));
     addSwitch("actionSuggestWhileTyping", tr("&Suggest names while typing"),
-              help.suggestsWhileTyping);
-    addSwitch("actionIndentNewLines", tr("&Indent new lines"), help.indentsNewLines);
-    addSwitch("actionScriptToolTips", tr("&Explain names under the mouse"), help.showsToolTips);
+              [&help](bool on) { help.suggestsWhileTyping = on; });
+    addSwitch("actionIndentNewLines", tr("&Indent new lines"),
+              [&help](bool on) { help.indentsNewLines = on; });
+    addSwitch("actionScriptToolTips", tr("&Explain words under the mouse"),
+              [&help](bool on) { help.showsToolTips = on; });
+    addSwitch("actionShowMarks", tr("&Mark problems in the text"),
+              [this](bool on) { script.ShowMarks(on); });
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     for (QWidget* const widget : std::initializer_list<QWidget*>{place, mode, button}) {
@@ -41,14 +45,14 @@ CaretStatus::CaretStatus(KVQtHighlightEditCtrlInlay& shown, ScriptHelp& help)
     show();
 }
 
-QAction* CaretStatus::addSwitch(const char* name, const QString& text, bool& isOn)
+// On in the beginning.
+void CaretStatus::addSwitch(const char* name, const QString& text, std::function<void(bool)> set)
 {
     QAction* const action = button->menu()->addAction(text);
     action->setObjectName(name);
     action->setCheckable(true);
-    action->setChecked(isOn);
-    connect(action, &QAction::toggled, this, [&isOn](bool on) { isOn = on; });
-    return action;
+    action->setChecked(true);
+    connect(action, &QAction::toggled, this, std::move(set));
 }
 
 void CaretStatus::keepSettingsIn(QSettings& settings)

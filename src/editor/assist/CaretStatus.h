@@ -3,6 +3,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
+
 #include "editor/assist/ScriptHelp.h"
 
 class QAction;
@@ -27,7 +29,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QAction* addSwitch(const char* name, const QString& text, bool& isOn);
+    void addSwitch(const char* name, const QString& text, std::function<void(bool)> set);
     void show();
 
     QTimer soon;  // no key waits for what is shown here

@@ -22,6 +22,12 @@ void KVQtHighlightEditCtrlInlay::SetMarks(std::vector<TextMark> newMarks)
     update_changed_rows();
 }
 
+void KVQtHighlightEditCtrlInlay::ShowMarks(bool shown)
+{
+    marks_shown = shown;
+    update_changed_rows();
+}
+
 KVQtHighlightEditCtrlInlay::SELECTION
 KVQtHighlightEditCtrlInlay::cells_of(const TextMark& mark) const
 {
@@ -69,7 +75,7 @@ QString KVQtHighlightEditCtrlInlay::WordsAt(QPoint point) const
     const bool in_gutter = point.x() < gutter_width();
     const int column = first_visible_column() + (point.x() - gutter_width()) / cell_width;
     QStringList words;
-    for (auto [mark, end] = line_marks.of(line); mark != end; ++mark) {
+    for (auto [mark, end] = line_marks.of(line); marks_shown && mark != end; ++mark) {
         const SELECTION cells = cells_of(*mark);
         const int behind = std::max(cells.end.column, cells.start.column + 1);
         if (in_gutter || (column >= cells.start.column && column < behind)) {

@@ -126,7 +126,7 @@ TextView KVQtHighlightEditCtrlInlay::prepare_view()
     }
     find_brackets();
     view.brackets = brackets;
-    view.marks = &line_marks;
+    view.marks = marks_shown ? &line_marks : nullptr;
     return view;
 }
 

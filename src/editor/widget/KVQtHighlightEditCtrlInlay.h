@@ -124,6 +124,8 @@ public:
 
     // --- marks of others (InlayMarks.cpp) ---
     void SetMarks(std::vector<TextMark> marks);
+    // Draws them and tells their words, which it does in the beginning, or does neither.
+    void ShowMarks(bool shown);
     // What the marks at a point of the viewport say; empty where there is none.
     QString WordsAt(QPoint point) const;
     // To the next mark behind what is selected (or the one before it), around the end of the text.
@@ -302,6 +304,7 @@ private:
     int text_width = 0;         // cells of the widest line
     int widest_line = 0;
     LineMarks line_marks;
+    bool marks_shown = true;
     int wheel_turned = 0;  // with Control, in eighths of a degree, less than a step
 
     bool caret_visible = true;

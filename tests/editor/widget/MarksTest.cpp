@@ -166,6 +166,24 @@ private slots:
         QCOMPARE(toolTipAt(surface, {2, surface.line_height() + 2}), QString());
     }
 
+    void hiddenMarksAreNeitherDrawnNorTold()
+    {
+        EditorWindow window("sub cow\nfoo bar\nend sub");
+        Inlay& surface = window.surface;
+        const QImage before = surface.grab().toImage();
+        surface.SetMarks({mark(2, 1, 3)});
+        surface.ShowMarks(false);
+        QCOMPARE(surface.grab().toImage(), before);
+        QCOMPARE(toolTipAt(surface, cells(surface, 1, 1, 1).center()), QString());
+        surface.GotoMark(true);  // keys still find them
+        QCOMPARE(surface.editor.selection.end.line, 1);
+        surface.editor.selection.set(0, 0);
+        surface.ShowMarks(true);
+        QCOMPARE(countOf(kRed, surface.grab().toImage(), lineInGutter(surface, 1)),
+                 3 * surface.line_height());
+        QCOMPARE(toolTipAt(surface, cells(surface, 1, 1, 1).center()), QString("wrong"));
+    }
+
     void whoAsksForTheTextBetweenCommandsGetsTheSameCopy()
     {
         EditorWindow window("sub cow\nend sub");
