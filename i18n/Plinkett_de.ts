@@ -1475,6 +1475,26 @@
         <translation>Hinweis</translation>
     </message>
     <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, Zeile %2: %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>No problems any more</source>
+        <translation>Keine Probleme mehr</translation>
+    </message>
+    <message>
+        <source>New problem. %1</source>
+        <translation>Neues Problem. %1</translation>
+    </message>
+    <message>
+        <source>%1 new problems. %2</source>
+        <translation>%1 neue Probleme. %2</translation>
+    </message>
+    <message>
         <source>page %1</source>
         <translation>Seite %1</translation>
     </message>

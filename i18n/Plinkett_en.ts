@@ -1475,6 +1475,26 @@
         <translation>Hint</translation>
     </message>
     <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, line %2: %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>No problems any more</source>
+        <translation>No problems any more</translation>
+    </message>
+    <message>
+        <source>New problem. %1</source>
+        <translation>New problem. %1</translation>
+    </message>
+    <message>
+        <source>%1 new problems. %2</source>
+        <translation>%1 new problems. %2</translation>
+    </message>
+    <message>
         <source>page %1</source>
         <translation>page %1</translation>
     </message>

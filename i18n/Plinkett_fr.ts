@@ -1475,6 +1475,26 @@
         <translation>Conseil</translation>
     </message>
     <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, ligne %2 : %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>No problems any more</source>
+        <translation>Plus aucun problème</translation>
+    </message>
+    <message>
+        <source>New problem. %1</source>
+        <translation>Nouveau problème. %1</translation>
+    </message>
+    <message>
+        <source>%1 new problems. %2</source>
+        <translation>%1 nouveaux problèmes. %2</translation>
+    </message>
+    <message>
         <source>page %1</source>
         <translation>page %1</translation>
     </message>

@@ -1475,6 +1475,26 @@
         <translation>Tip</translation>
     </message>
     <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, regel %2: %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>No problems any more</source>
+        <translation>Geen problemen meer</translation>
+    </message>
+    <message>
+        <source>New problem. %1</source>
+        <translation>Nieuw probleem. %1</translation>
+    </message>
+    <message>
+        <source>%1 new problems. %2</source>
+        <translation>%1 nieuwe problemen. %2</translation>
+    </message>
+    <message>
         <source>page %1</source>
         <translation>pagina %1</translation>
     </message>

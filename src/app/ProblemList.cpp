@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QHash>
 #include <QIcon>
 #include <QStyle>
 
@@ -38,6 +39,36 @@ QString ProblemList::nameOf(Severity severity)
     default:
         return tr("Hint");
     }
+}
+
+QString ProblemList::sentenceOf(const Problem& problem)
+{
+    const QString name = nameOf(problem.diagnostic.severity);
+    const int line = problem.diagnostic.line;
+    return line > 0 ? tr("%1, line %2: %3").arg(name, QString::number(line), problem.words)
+                    : tr("%1: %2").arg(name, problem.words);
+}
+
+// Problems whose lines have moved are no news.
+QString ProblemList::newsOf(const Problems& before, const Problems& now)
+{
+    QHash<QString, int> known;
+    for (const Problem& problem : before) {
+        ++known[problem.words];
+    }
+    const Problem* first = nullptr;
+    int count = 0;
+    for (const Problem& problem : now) {
+        if (--known[problem.words] < 0) {
+            first = first != nullptr ? first : &problem;
+            ++count;
+        }
+    }
+    if (count == 0) {
+        return now.empty() && !before.empty() ? tr("No problems any more") : QString();
+    }
+    return count == 1 ? tr("New problem. %1").arg(sentenceOf(*first))
+                      : tr("%1 new problems. %2").arg(QString::number(count), sentenceOf(*first));
 }
 
 int ProblemList::rowCount(const QModelIndex& parent) const
@@ -82,6 +113,8 @@ QVariant ProblemList::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return textOf(problem, index.column()).simplified();
+    case Qt::AccessibleTextRole:  // one hears the first column of the row that one comes to
+        return index.column() == kind ? sentenceOf(problem) : textOf(problem, index.column());
     case Qt::ToolTipRole:
         return textOf(problem, index.column());
     case Qt::DecorationRole:

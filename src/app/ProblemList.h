@@ -18,6 +18,10 @@ public:
     const Problems& all() const { return problems; }
     // "Error", "Warning", "Hint", in the language of the window.
     static QString nameOf(Severity severity);
+    // All of a problem in one sentence: "Error, line 3: else without if"
+    static QString sentenceOf(const Problem& problem);
+    // What has come since then, in a sentence for those who do not see the list; empty for nothing.
+    static QString newsOf(const Problems& before, const Problems& now);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

@@ -1,5 +1,6 @@
 #include "app/ProblemsDock.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QHeaderView>
@@ -118,8 +119,10 @@ void ProblemsDock::show(const Problems& problems)
 {
     const int row = view->currentIndex().row();
     const bool wasEmpty = list.all().empty();
+    const QString news = ProblemList::newsOf(list.all(), problems);
     list.set(problems);
     title->setText(summaryOf(problems));
+    announce(news);
     title->setEnabled(!problems.empty());
     if (row >= 0 && row < list.rowCount()) {
         view->setCurrentIndex(list.index(row, 0));
@@ -131,6 +134,16 @@ void ProblemsDock::show(const Problems& problems)
         if (wasEmpty) {
             foldAsNeeded();
         }
+    }
+}
+
+// Without taking the focus from the text.
+void ProblemsDock::announce(const QString& news)
+{
+    if (!news.isEmpty()) {
+        title->setAccessibleDescription(news);
+        QAccessibleEvent alert(title, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
     }
 }
 

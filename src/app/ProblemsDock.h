@@ -43,6 +43,7 @@ private:
     void prepareKey();
     void toggle();
     void toggleByKey();
+    void announce(const QString& news);
     void fold(bool folded);
     void foldAsNeeded();
     void choose(const QModelIndex& index);

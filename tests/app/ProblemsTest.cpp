@@ -403,6 +403,48 @@ private slots:
         QTest::qWait(120);  // it has begun
     }
 
+    void newProblemsAreSaidToThoseWhoDoNotSeeThem()
+    {
+        ProblemsWindow w(book(kCow));
+        w.showScript();
+        const auto said = [&] {
+            return w.get<QToolButton>("problemsTitle")->accessibleDescription();
+        };
+        QTest::keyClicks(&w.editor(), "foo");
+        TRY_COMPARE(said(),
+                    QString("2 new problems. Error, line 1: Failed to parse command: foosub"));
+        QTest::keyClick(&w.editor(), Qt::Key_Return);  // the sub begins on the next line
+        TRY_COMPARE(said(), QString("New problem. Error, line 1: Failed to parse command: foo"));
+        w.editor().OnEditUndo();
+        w.editor().OnEditUndo();
+        TRY_COMPARE(said(), QString("No problems any more"));
+        QCOMPARE(w.window.focusWidget(), static_cast<QWidget*>(&w.editor()));
+    }
+
+    void problemsThatOnlyMoveAreNoNews()
+    {
+        const Problems before = problemsOf(book("sub cow\nfoo\nbar\nend sub\n"));
+        const Problems after = problemsOf(book("sub cow\n\nfoo\nbar\nend sub\n"));
+        QCOMPARE(ProblemList::newsOf(before, after), QString());
+        const Problems more = problemsOf(book("sub cow\nbar\nfoo\nfoo\nbar\nend sub\n"));
+        QCOMPARE(ProblemList::newsOf(before, more),
+                 QString("2 new problems. Error, line 6: Failed to parse command: foo"));
+    }
+
+    void theFirstColumnOfARowSaysItAll()
+    {
+        ProblemsWindow w(book("sub cow\nsay eve A B\nend sub\n", ""));
+        TRY_COMPARE(w.view().model()->rowCount(), 2);
+        const auto spoken = [&](int row, int column) {
+            return w.view().model()->index(row, column).data(Qt::AccessibleTextRole).toString();
+        };
+        QCOMPARE(spoken(0, 0), QString("Warning, line 3: Used OID 'cow' in script, but not in the "
+                                       "image"));
+        QCOMPARE(spoken(1, 0),
+                 QString("Hint, line 4: The pen says only one of these texts, at random"));
+        QCOMPARE(spoken(1, 4), QString("Say one after the other"));
+    }
+
     void aWarningOfAnAreaHasTheQuickFixOfItsHint()
     {
         ProblemsWindow w(book("voice max lang de"));
@@ -428,10 +470,10 @@ private slots:
             }
             return texts.join(", ");
         };
-        TRY_COMPARE(code(), QString("cow yes, start yes"));
+        TRY_COMPARE(code(), QString("start yes, cow yes"));
         w.showScript();
         QTest::keyClicks(&w.editor(), "# ");  // no sub "start"
-        TRY_COMPARE(code(), QString("cow yes, start no"));
+        TRY_COMPARE(code(), QString("start no, cow yes"));
     }
 
     void whatCanBePressedHasANameForScreenReaders()
