@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <set>
 #include <utility>
 
 namespace {
@@ -89,13 +88,13 @@ QString ScriptAreas::toolTip(const Document& document, const std::string& name)
 
 std::vector<std::string> namesOf(const Oid::OidProject& project)
 {
-    std::set<std::string> names;
+    std::vector<std::string> names;
     for (const Oid::PICTURE& page : project.pictures) {
         for (const Oid::POLY& area : page.polys) {
-            names.insert(area.name);
+            names.push_back(area.name);
         }
     }
-    return {names.begin(), names.end()};
+    return names;
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "ttbasic/Completion.h"
 
 #include <algorithm>
-#include <set>
+#include <unordered_set>
 
 #include "base/QuotedWords.h"
 #include "base/TextHelpers.h"
@@ -52,107 +52,125 @@ Wanted wantedBehind(StatementKind kind, std::size_t index)
     }
 }
 
-// A text that begins with the word in any case, but is not the word.
-bool completes(const std::string& text, std::string_view word)
+char lowered(char c)
 {
-    return text != word && toLower(text.substr(0, word.size())) == toLower(std::string(word));
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
+// Collects what begins with the word in any case, but is not the word. A script may have ten
+// thousand names, so only the few that fit are kept and put in order.
 class Suggestions
 {
 public:
     explicit Suggestions(std::string_view writtenWord) : word(writtenWord) {}
 
-    void add(Kind kind, const std::set<std::string>& texts)
+    // The text outlives this.
+    void offer(std::string_view text)
     {
-        for (const std::string& text : texts) {
-            if (completes(text, word) && known.insert(text).second) {
-                all.push_back({kind, text});
+        if (text != word && fits(text)) {
+            offered.push_back(text);
+        }
+    }
+
+    // What was offered is of this kind, unless it is there already.
+    void add(Kind kind)
+    {
+        std::sort(offered.begin(), offered.end());
+        offered.erase(std::unique(offered.begin(), offered.end()), offered.end());
+        const std::size_t known = all.size();
+        for (const std::string_view text : offered) {
+            const auto end = all.begin() + static_cast<std::ptrdiff_t>(known);
+            if (std::none_of(all.begin(), end, [&](const auto& one) { return one.text == text; })) {
+                all.push_back({kind, std::string(text)});
             }
         }
+        offered.clear();
     }
 
     std::vector<Suggestion> take() { return std::move(all); }
 
 private:
+    bool fits(std::string_view text) const
+    {
+        return text.size() >= word.size() &&
+               std::equal(word.begin(), word.end(), text.begin(),
+                          [](char one, char other) { return lowered(one) == lowered(other); });
+    }
+
     std::string_view word;
-    std::set<std::string> known;
+    std::vector<std::string_view> offered;
     std::vector<Suggestion> all;
 };
 
-std::set<std::string> keywords()
+void offerKeywords(Suggestions& found)
 {
-    std::set<std::string> words;
+    static const std::vector<std::string> pairs = [] {
+        std::vector<std::string> all;
+        for (const ScriptLanguage::Keyword& end : ScriptLanguage::ends()) {
+            all.push_back(std::string(ScriptLanguage::kEnd) + " " + end.word);
+        }
+        return all;
+    }();
     for (const ScriptLanguage::Keyword& keyword : ScriptLanguage::keywords()) {
-        words.insert(keyword.word);
+        found.offer(keyword.word);
     }
-    for (const ScriptLanguage::Keyword& end : ScriptLanguage::ends()) {
-        words.insert(std::string(ScriptLanguage::kEnd) + " " + end.word);
+    for (const std::string& pair : pairs) {
+        found.offer(pair);
     }
-    return words;
 }
 
-std::set<std::string> ends()
+// What stands on the line itself is being written, and no suggestion.
+void offerSubs(Suggestions& found, const ScriptOutline& outline, int line)
 {
-    std::set<std::string> words;
-    for (const ScriptLanguage::Keyword& end : ScriptLanguage::ends()) {
-        words.insert(end.word);
-    }
-    return words;
-}
-
-std::set<std::string> options()
-{
-    std::set<std::string> words;
-    for (const ScriptLanguage::VoiceOption& option : ScriptLanguage::voiceOptions()) {
-        words.insert(option.word);
-    }
-    return words;
-}
-
-// Those of other lines: what is being written is no suggestion for itself.
-std::set<std::string> subs(const ScriptOutline& outline, int line)
-{
-    std::set<std::string> names;
     for (const ScriptOutline::Sub& sub : outline.subs) {
         if (sub.line != line) {
-            names.emplace(sub.name.text);
+            found.offer(sub.name.text);
         }
     }
-    return names;
+}
+
+void offerAreasWithoutSub(Suggestions& found, const std::vector<std::string>& areas,
+                          const ScriptOutline& outline, int line)
+{
+    std::unordered_set<std::string_view> subs;
+    for (const ScriptOutline::Sub& sub : outline.subs) {
+        if (sub.line != line) {
+            subs.insert(sub.name.text);
+        }
+    }
+    for (const std::string& area : areas) {
+        if (subs.count(area) == 0) {
+            found.offer(area);
+        }
+    }
+}
+
+bool hasCapitals(std::string_view name)
+{
+    return std::any_of(name.begin(), name.end(), [](char c) { return lowered(c) != c; });
 }
 
 // A variable that is set with capitals can never be read.
-std::set<std::string> readable(std::set<std::string> names)
+void offerVariables(Suggestions& found, const ScriptOutline& outline, int line, bool toBeRead)
 {
-    for (auto name = names.begin(); name != names.end();) {
-        name = toLower(*name) == *name ? std::next(name) : names.erase(name);
-    }
-    return names;
-}
-
-std::set<std::string> variables(const ScriptOutline& outline, int line)
-{
-    std::set<std::string> names;
     for (const ScriptOutline::Variable& variable : outline.variables) {
-        if (variable.word.place.line != line) {
-            names.insert(variable.name);
+        if (variable.word.place.line != line && !(toBeRead && hasCapitals(variable.name))) {
+            found.offer(variable.name);
         }
     }
-    return names;
 }
 
-// That a line can choose: those above it.
-std::set<std::string> voices(const ScriptOutline& outline, int line)
+// That the line can choose: those above it.
+void offerVoices(Suggestions& found, const ScriptOutline& outline, int line)
 {
-    std::set<std::string> names(ScriptLanguage::builtInVoices().begin(),
-                                ScriptLanguage::builtInVoices().end());
+    for (const char* voice : ScriptLanguage::builtInVoices()) {
+        found.offer(voice);
+    }
     for (const ScriptOutline::Voice& voice : outline.voices) {
         if (voice.name.place.line < line) {
-            names.emplace(voice.name.text);
+            found.offer(voice.name.text);
         }
     }
-    return names;
 }
 
 }  // namespace
@@ -200,34 +218,38 @@ std::vector<Suggestion> suggestionsFor(const WrittenWord& word, const ScriptOutl
     case Wanted::nothing:
         break;
     case Wanted::statement:
-        found.add(Kind::keyword, keywords());
-        found.add(Kind::variable, variables(outline, line));
+        offerKeywords(found);
+        found.add(Kind::keyword);
+        offerVariables(found, outline, line, false);
+        found.add(Kind::variable);
         break;
     case Wanted::end:
-        found.add(Kind::keyword, ends());
-        break;
-    case Wanted::areaOfSub: {
-        const std::set<std::string> present = subs(outline, line);
-        std::set<std::string> without;
-        for (const std::string& area : areas) {
-            if (present.count(area) == 0) {
-                without.insert(area);
-            }
+        for (const ScriptLanguage::Keyword& end : ScriptLanguage::ends()) {
+            found.offer(end.word);
         }
-        found.add(Kind::area, without);
+        found.add(Kind::keyword);
         break;
-    }
+    case Wanted::areaOfSub:
+        offerAreasWithoutSub(found, areas, outline, line);
+        found.add(Kind::area);
+        break;
     case Wanted::subOfGoto:
-        found.add(Kind::sub, subs(outline, line));
+        offerSubs(found, outline, line);
+        found.add(Kind::sub);
         break;
     case Wanted::voiceOfSay:
-        found.add(Kind::voice, voices(outline, line));
+        offerVoices(found, outline, line);
+        found.add(Kind::voice);
         break;
     case Wanted::optionOfVoice:
-        found.add(Kind::option, options());
+        for (const ScriptLanguage::VoiceOption& option : ScriptLanguage::voiceOptions()) {
+            found.offer(option.word);
+        }
+        found.add(Kind::option);
         break;
     case Wanted::variable:
-        found.add(Kind::variable, readable(variables(outline, line)));
+        offerVariables(found, outline, line, true);
+        found.add(Kind::variable);
         break;
     }
     return found.take();

@@ -86,8 +86,9 @@ void CompletionList::offer(bool isAsked)
 {
     std::string line;
     const WrittenWord word = wordAtCaret(line);
+    const bool needsAreas = word.wanted == Wanted::areaOfSub && areas.names;
     const std::vector<Suggestion> suggestions = suggestionsFor(
-        word, watch.recent(), areas.names ? areas.names() : std::vector<std::string>(),
+        word, watch.recent(), needsAreas ? areas.names() : std::vector<std::string>(),
         script.editor.selection.end.line + 1);
     if (word.wanted == Wanted::nothing || suggestions.empty()) {
         hide();
