@@ -343,6 +343,21 @@ std::optional<BookTest> readBookTest(const std::string& text, const Book& book,
     return TestReader(book, mistakes).read(text);
 }
 
+std::string tapLineOf(uint16_t code, const Book& book)
+{
+    if (code != 0 && (code == book.game.replayCode || code == book.game.stopCode)) {
+        return code == book.game.stopCode ? "stop\n" : "replay\n";
+    }
+    for (const auto& [name, areaCode] : book.areas) {
+        if (areaCode == code && name.find('"') == std::string::npos) {
+            // Quotes keep comments away.
+            const bool needsQuotes = name.find_first_of("#' \t") != std::string::npos;
+            return "tap " + (needsQuotes ? "\"" + name + "\"" : name) + "\n";
+        }
+    }
+    return "tap " + std::to_string(code) + "\n";
+}
+
 std::string expectationsOf(const Outcome& outcome, const Book& book)
 {
     std::string lines;

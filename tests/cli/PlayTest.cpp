@@ -83,7 +83,7 @@ TEST(Play, ChoosesAlikeWithTheSameSeedOnly)
 
 TEST(Play, StartsWaitsAndStops)
 {
-    EXPECT_EQ(playedBook("cow\nstart\nwait 2.5\nstop\n"),
+    EXPECT_EQ(playedBook("cow\nstart\nwait \t2.5\nstop\n"),
               "status 0\n"
               "cow (1001)\n"
               "  says \"Moo\"\n"
@@ -95,7 +95,7 @@ TEST(Play, StartsWaitsAndStops)
               "  count = 0\n"
               "  until the first sound: 0 steps, 0.00 s\n"
               "  until rest: 0 steps, 0.73 s\n"
-              "wait 2.5\n"
+              "wait \t2.5\n"
               "  until rest: 0 steps, 2.50 s\n"
               "stop (3945)\n"
               "  until rest: 0 steps, 0.00 s\n");

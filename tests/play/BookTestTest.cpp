@@ -200,3 +200,22 @@ TEST(BookTest, ExpectsWhatHappened)
     EXPECT_EQ(linesAfter(1002), "expect say Cre\"a k\"\n");
     EXPECT_EQ(linesAfter(1003), "expect silence\n");
 }
+
+TEST(BookTest, TouchesACodeByWhatItIsCalled)
+{
+    const play::Book book =
+        bookWith("sub cow\nend sub\n", {"cow", "old barn", "o'clock", "#1", "12\"", "x"});
+    std::string lines;
+    for (uint16_t code = 1001; code <= 1007; ++code) {
+        lines += tapLineOf(code, book);
+    }
+    lines += tapLineOf(book.game.replayCode, book) + tapLineOf(book.game.stopCode, book);
+    EXPECT_EQ(lines, "tap cow\ntap \"old barn\"\ntap \"o'clock\"\ntap \"#1\"\ntap 1005\ntap x\n"
+                     "tap 1007\nreplay\nstop\n");
+    std::vector<play::TestMessage> mistakes;
+    const std::optional<play::BookTest> test = readBookTest(lines, book, mistakes);
+    ASSERT_TRUE(test.has_value());
+    for (uint16_t code = 1001; code <= 1007; ++code) {
+        EXPECT_EQ(test->commands.at(code - 1001U).code, code);
+    }
+}

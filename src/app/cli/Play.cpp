@@ -14,6 +14,16 @@ bool startsWith(const std::string& text, const std::string& start)
     return text.compare(0, start.size(), start) == 0;
 }
 
+// Without white space around it, and without a byte-order mark.
+std::string trimmed(const std::string& line)
+{
+    const std::string kMark = "\xEF\xBB\xBF";
+    const size_t begin = startsWith(line, kMark) ? kMark.size() : 0;
+    const size_t first = line.find_first_not_of(" \t\r", begin);
+    const size_t last = line.find_last_not_of(" \t\r");
+    return first == std::string::npos ? std::string() : line.substr(first, last + 1 - first);
+}
+
 // Does what a line says; the reason when it cannot: "there is no area 'cwo'".
 class Reader
 {
@@ -43,10 +53,10 @@ std::string Reader::act(const std::string& line)
         return tapSpecial(line, line == "stop" ? game.stopCode : game.replayCode);
     }
     if (startsWith(line, kWait)) {
-        return wait(line.substr(kWait.size()));
+        return wait(trimmed(line.substr(kWait.size())));
     }
     return tap(startsWith(line, kTap) && played.book().areas.count(line) == 0
-                   ? line.substr(kTap.size())
+                   ? trimmed(line.substr(kTap.size()))
                    : line);
 }
 
@@ -79,16 +89,6 @@ std::string Reader::tapSpecial(const std::string& name, uint16_t code)
     }
     played.tap(code);
     return {};
-}
-
-// Without white space around it, and without a byte-order mark.
-std::string trimmed(const std::string& line)
-{
-    const std::string kMark = "\xEF\xBB\xBF";
-    const size_t begin = startsWith(line, kMark) ? kMark.size() : 0;
-    const size_t first = line.find_first_not_of(" \t\r", begin);
-    const size_t last = line.find_last_not_of(" \t\r");
-    return first == std::string::npos ? std::string() : line.substr(first, last + 1 - first);
 }
 
 ExitStatus playLines(play::PlayedBook& played, bool isJson)
