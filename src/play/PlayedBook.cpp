@@ -262,10 +262,10 @@ void PlayedBook::divisionByZero(uint16_t /*code*/, size_t /*line*/)
     note(Incident::Kind::divisionByZero);
 }
 
-// The register of chance is meant to wrap.
+// The register of chance is meant to wrap, and of a game file nobody knows which registers are.
 void PlayedBook::wrapped(uint16_t number, int64_t result)
 {
-    if (number != chance) {
+    if (running != nullptr && number != chance) {
         note(result < 0 ? Incident::Kind::belowZero : Incident::Kind::tooLarge);
     }
 }

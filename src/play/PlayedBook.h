@@ -30,8 +30,8 @@ struct Incident
     enum class Kind {
         noScript,        // the code `number` has none
         divisionByZero,  // the variable stays as it is
-        tooLarge,        // a value ran over 65535 and goes on from 0
-        belowZero,       // a value fell below 0 and goes on from 65535
+        tooLarge,        // a value ran over 65535 and goes on from 0; told of known lines only
+        belowZero,       // a value fell below 0 and goes on from 65535; likewise
         noBranch,        // the value `number` of an `if` is neither 0 nor 1: neither branch is run
         noEnd            // the pen was stopped after `number` steps
     };

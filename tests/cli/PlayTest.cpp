@@ -1,5 +1,9 @@
 // Taps on standard input, answers on standard output.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <filesystem>
+#include <regex>
 
 #include "tests/cli/RunCli.h"
 #include "tests/helpers/TemporaryFolder.h"
@@ -18,6 +22,29 @@ std::string played(const std::vector<std::string>& words, const std::string& tap
     std::vector<std::string> all = {"play"};
     all.insert(all.end(), words.begin(), words.end());
     return resultOf(runProgram(PLINKETT_BIN_DIR "/plinkett-cli", all, {}, "", taps));
+}
+
+// A WAV file that sounds for so many milliseconds.
+std::string wav(size_t milliseconds)
+{
+    const auto number = [](size_t value, size_t size) {
+        std::string bytes;
+        for (size_t i = 0; i < size; ++i) {
+            bytes += static_cast<char>(value >> (8 * i) & 0xFFU);
+        }
+        return bytes;
+    };
+    const std::string format = number(1, 2) + number(1, 2) + number(1000, 4) + number(1000, 4) +
+                               number(1, 2) + number(8, 2);
+    return "RIFF" + number(36 + milliseconds, 4) + "WAVEfmt " + number(16, 4) + format + "data" +
+           number(milliseconds, 4) + std::string(milliseconds, '\x80');
+}
+
+// Answers in JSON without what only the project knows: texts and the names of variables.
+std::string withoutNames(const std::string& answers)
+{
+    return std::regex_replace(answers, std::regex(R"re("says":.*"plays"|"variables":\{[^}]*\})re"),
+                              "...");
 }
 
 std::string playedBook(const std::string& taps, const std::vector<std::string>& options = {})
@@ -174,6 +201,26 @@ TEST(Play, PlaysAGameFileByItsNumbers)
               "status 1\n1001\n  plays 0\n  $0 = 3\n  until the first sound: 1 step, 0.07 s\n"
               "  until rest: 1 step, 1.07 s\n"
               "stderr: Error: line 2: 'cow' is no code\n");
+}
+
+TEST(Play, HearsTheSameOfTheProjectAndOfItsGameFile)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("book.oidpro"), kBook);
+    std::filesystem::create_directory(folder.file("900-audio"));
+    size_t milliseconds = 700;
+    for (const char* name :
+         {"_welcome_message_text", "say_adam_Moo", "say_adam_Wuff", "say_adam_Wau"}) {
+        writeFile(folder.file("900-audio/" + std::string(name) + ".wav"), wav(milliseconds += 111));
+    }
+    EXPECT_EQ(cli({"yaml", folder.file("book.oidpro"), "-o", folder.file("900.yaml")}).status, 0);
+    EXPECT_EQ(cli({"assemble", folder.file("900.yaml")}).status, 0);
+    const std::string taps = "start\n1001\n1002\n1002\n1002\n1002\nreplay\n1001\n900\n1007\n";
+    const std::string ofProject =
+        withoutNames(played({folder.file("book.oidpro"), "--json", "--seed", "9"}, taps));
+    EXPECT_EQ(withoutNames(played({folder.file("900.gme"), "--json", "--seed", "9"}, taps)),
+              ofProject);
+    EXPECT_THAT(ofProject, testing::HasSubstr("\"steps\":6,\"seconds\":1.342,"));
 }
 
 TEST(Play, RefusesWhatIsNoGame)

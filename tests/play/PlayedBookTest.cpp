@@ -251,6 +251,14 @@ TEST(PlayedBook, IsSilentAboutTheChanceOfTheCompiler)
     }
 }
 
+TEST(PlayedBook, IsSilentAboutValuesThatDoNotFitWhereTheScriptIsNotKnown)
+{
+    play::Book book = bookOfOneArea("a = 65535 + 1\n");
+    book.origins.clear();
+    PlayedBook played(book);
+    EXPECT_THAT(incidentsOf(tapped(played, kCow)), IsEmpty());
+}
+
 TEST(PlayedBook, TellsOfAConditionThatRunsNeitherBranch)
 {
     PlayedBook played(bookOfOneArea("if 7\nsay \"Moo\"\nelse\nsay \"Muh\"\nend if\n"));
