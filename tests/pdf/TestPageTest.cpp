@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCryptographicHash>
 #include <QFile>
 
 #include <algorithm>
@@ -113,6 +114,23 @@ TEST_F(PrinterTestPage, TheSamePageAgain)
     const std::string first = readFile(folder.file("test.pdf"));
     ASSERT_TRUE(make({600, 1200}));
     EXPECT_EQ(readFile(folder.file("test.pdf")), first);
+}
+
+// The page as it was looked at. What it draws stands in the file, and its dots, which
+// are far more, are a sum of their bits.
+TEST_F(PrinterTestPage, IsTheOneThatWasLookedAt)
+{
+    ASSERT_TRUE(make({600, 1200}));
+    EXPECT_EQ(ask("mutool", {"show", "-b", folder.file("test.pdf"), "pages/1/Contents"}),
+              readFile(PLINKETT_SOURCE_DIR "/tests/pdf/golden/test-page.txt"));
+    ask("pdfimages", {folder.file("test.pdf"), folder.file("mask")});
+    std::string sums;
+    for (const char* mask : {"mask-000.pbm", "mask-001.pbm", "mask-002.pbm"}) {
+        const QByteArray bits = QByteArray::fromStdString(readFile(folder.file(mask)));
+        sums += QCryptographicHash::hash(bits, QCryptographicHash::Sha256).toHex().toStdString();
+        sums += '\n';
+    }
+    EXPECT_EQ(sums, readFile(PLINKETT_SOURCE_DIR "/tests/pdf/golden/test-page-dots.txt"));
 }
 
 TEST(TestFields, TheTableOfTheUsualResolutions)
