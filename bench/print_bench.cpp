@@ -126,6 +126,22 @@ void measureMemory(const Books& books, Measurements& measured)
     }
 }
 
+// The page as plinkett-cli makes it: a PDF, and the TIFF beside it.
+void measurePdf(const Books& books, const QString& pdfFile, Measurements& measured)
+{
+    const QString& book = books.at("page");
+    const auto run = [&](const std::string& name, const QStringList& words) {
+        double memory = 0;
+        measured.time(name,
+                      [&] { memory = peakMemoryOf(PLINKETT_BIN_DIR "/plinkett-cli", words); });
+        measured.add(name + " memory", memory);
+    };
+    run("tiff", {"print", book});
+    run("pdf", {"pdf", "--no-symbols", "-o", pdfFile, book});
+    measured.add("pdf size", static_cast<double>(QFileInfo(pdfFile).size()));
+    run("pdf with symbols", {"pdf", "--symbols", "-o", pdfFile, book});
+}
+
 void printRow(const char* what, const std::string& value, const std::string& other, double ratio,
               const char* limit)
 {
@@ -194,7 +210,25 @@ void printMemoryRows(const Measurements& measured, const PageGeometry& page)
     row("peak memory of 20 pages (their tiles stay), of the page", "memory twenty", "about 1");
 }
 
-void printTable(const Measurements& measured, const PageGeometry& page, int runs)
+void printPdfRows(const Measurements& measured, const PageGeometry& page, double photo)
+{
+    const double canvas = 4.0 * page.width * page.height;
+    const double allowed = 1.2 * photo + 1.5 * kMegabyte;
+    const double size = measured["pdf size"];
+    printRow("the page as a PDF, 1.2 times the photo and 1.5 MB", megabytes(size),
+             megabytes(allowed), size / allowed, "at most 1");
+    const double time = measured["pdf"];
+    printRow("`plinkett-cli pdf`, `plinkett-cli print`", seconds(time), seconds(measured["tiff"]),
+             time / measured["tiff"], "at most 0.5");
+    const auto memory = [&](const char* what, const char* name) {
+        printRow(what, megabytes(measured[name]), megabytes(canvas), measured[name] / canvas,
+                 "at most 0.09");
+    };
+    memory("its peak memory, one 32-bit canvas", "pdf memory");
+    memory("the same with symbols and legend", "pdf with symbols memory");
+}
+
+void printTable(const Measurements& measured, const PageGeometry& page, double photo, int runs)
 {
     std::printf("Page of %d x %d pixels, %d threads, medians of %d runs. Per-pixel test: %d rows "
                 "measured,\nextrapolated to %d.\n\n",
@@ -204,6 +238,7 @@ void printTable(const Measurements& measured, const PageGeometry& page, int runs
     printDotRows(measured, page);
     printPageRows(measured);
     printMemoryRows(measured, page);
+    printPdfRows(measured, page, photo);
 }
 
 }  // namespace
@@ -231,7 +266,9 @@ int main(int argc, char** argv)
         measureDots("200", pages.twoHundred, measured);
         measurePages(pages, temporary.filePath("plain.tiff"), measured);
         measureMemory(books, measured);
+        measurePdf(books, temporary.filePath("page.pdf"), measured);
     }
-    printTable(measured, pages.one.geometry, runs);
+    const auto photoSize = static_cast<double>(QFileInfo(QString::fromStdString(photo)).size());
+    printTable(measured, pages.one.geometry, photoSize, runs);
     return 0;
 }
