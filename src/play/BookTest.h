@@ -58,7 +58,8 @@ struct BookTest
 std::optional<BookTest> readBookTest(const std::string& text, const Book& book,
                                      std::vector<TestMessage>& mistakes);
 
-// The line of a test that touches the code, with its line end: by the area's name where there is one.
+// The line of a test that touches the code, with its line end: by the area's name where there is
+// one.
 std::string tapLineOf(uint16_t code, const Book& book);
 
 // The lines of a test that expect what came of a tap, each with its line end: what was said or
