@@ -850,6 +850,14 @@
         <translation>Bauen</translation>
     </message>
     <message>
+        <source>Book tests (*.booktest)</source>
+        <translation>Buchtests (*.booktest)</translation>
+    </message>
+    <message>
+        <source>Save book test</source>
+        <translation>Buchtest speichern</translation>
+    </message>
+    <message>
         <source>Try</source>
         <translation>Ausprobieren</translation>
     </message>
@@ -1806,6 +1814,26 @@
     <message>
         <source>The page that is shown; Page Up and Page Down turn the pages, too</source>
         <translation>Die gezeigte Seite; auch Bild auf und Bild ab blättern</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Aufnehmen</translation>
+    </message>
+    <message>
+        <source>Begins anew and writes down what is tapped, as a book test; a second click keeps it</source>
+        <translation>Beginnt neu und schreibt als Buchtest auf, was angetippt wird; ein zweiter Klick behält ihn</translation>
+    </message>
+    <message>
+        <source>What is tapped now becomes a book test. Another click on &quot;Record&quot; keeps it.</source>
+        <translation>Was jetzt angetippt wird, wird ein Buchtest. Ein weiterer Klick auf „Aufnehmen“ behält ihn.</translation>
+    </message>
+    <message>
+        <source>Nothing was tapped, so there is no book test.</source>
+        <translation>Nichts wurde angetippt, also gibt es keinen Buchtest.</translation>
+    </message>
+    <message>
+        <source>The book test was not saved; it goes on. &quot;Fresh&quot; begins it anew.</source>
+        <translation>Der Buchtest wurde nicht gespeichert; er geht weiter. „Neu“ beginnt ihn von vorn.</translation>
     </message>
     <message>
         <source>Volume</source>

@@ -850,6 +850,14 @@
         <translation>Build</translation>
     </message>
     <message>
+        <source>Book tests (*.booktest)</source>
+        <translation>Book tests (*.booktest)</translation>
+    </message>
+    <message>
+        <source>Save book test</source>
+        <translation>Save book test</translation>
+    </message>
+    <message>
         <source>Try</source>
         <translation>Try</translation>
     </message>
@@ -1806,6 +1814,26 @@
     <message>
         <source>The page that is shown; Page Up and Page Down turn the pages, too</source>
         <translation>The page that is shown; Page Up and Page Down turn the pages, too</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Record</translation>
+    </message>
+    <message>
+        <source>Begins anew and writes down what is tapped, as a book test; a second click keeps it</source>
+        <translation>Begins anew and writes down what is tapped, as a book test; a second click keeps it</translation>
+    </message>
+    <message>
+        <source>What is tapped now becomes a book test. Another click on &quot;Record&quot; keeps it.</source>
+        <translation>What is tapped now becomes a book test. Another click on &quot;Record&quot; keeps it.</translation>
+    </message>
+    <message>
+        <source>Nothing was tapped, so there is no book test.</source>
+        <translation>Nothing was tapped, so there is no book test.</translation>
+    </message>
+    <message>
+        <source>The book test was not saved; it goes on. &quot;Fresh&quot; begins it anew.</source>
+        <translation>The book test was not saved; it goes on. &quot;Fresh&quot; begins it anew.</translation>
     </message>
     <message>
         <source>Volume</source>

@@ -850,6 +850,14 @@
         <translation>Génération</translation>
     </message>
     <message>
+        <source>Book tests (*.booktest)</source>
+        <translation>Tests de livre (*.booktest)</translation>
+    </message>
+    <message>
+        <source>Save book test</source>
+        <translation>Enregistrer le test du livre</translation>
+    </message>
+    <message>
         <source>Try</source>
         <translation>Essayer</translation>
     </message>
@@ -1806,6 +1814,26 @@
     <message>
         <source>The page that is shown; Page Up and Page Down turn the pages, too</source>
         <translation>La page montrée ; Page précédente et Page suivante tournent aussi les pages</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Begins anew and writes down what is tapped, as a book test; a second click keeps it</source>
+        <translation>Recommence et note ce qui est touché, comme test du livre ; un second clic le garde</translation>
+    </message>
+    <message>
+        <source>What is tapped now becomes a book test. Another click on &quot;Record&quot; keeps it.</source>
+        <translation>Ce qui est touché maintenant devient un test du livre. Un autre clic sur « Enregistrer » le garde.</translation>
+    </message>
+    <message>
+        <source>Nothing was tapped, so there is no book test.</source>
+        <translation>Rien n’a été touché, il n’y a donc pas de test du livre.</translation>
+    </message>
+    <message>
+        <source>The book test was not saved; it goes on. &quot;Fresh&quot; begins it anew.</source>
+        <translation>Le test du livre n’a pas été enregistré ; il continue. « À neuf » le recommence.</translation>
     </message>
     <message>
         <source>Volume</source>

@@ -850,6 +850,14 @@
         <translation>Bouwen</translation>
     </message>
     <message>
+        <source>Book tests (*.booktest)</source>
+        <translation>Boektests (*.booktest)</translation>
+    </message>
+    <message>
+        <source>Save book test</source>
+        <translation>Boektest opslaan</translation>
+    </message>
+    <message>
         <source>Try</source>
         <translation>Proberen</translation>
     </message>
@@ -1806,6 +1814,26 @@
     <message>
         <source>The page that is shown; Page Up and Page Down turn the pages, too</source>
         <translation>De getoonde pagina; ook Page Up en Page Down slaan om</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Opnemen</translation>
+    </message>
+    <message>
+        <source>Begins anew and writes down what is tapped, as a book test; a second click keeps it</source>
+        <translation>Begint opnieuw en schrijft op wat wordt aangeraakt, als boektest; nog een klik bewaart die</translation>
+    </message>
+    <message>
+        <source>What is tapped now becomes a book test. Another click on &quot;Record&quot; keeps it.</source>
+        <translation>Wat nu wordt aangeraakt, wordt een boektest. Nog een klik op “Opnemen” bewaart die.</translation>
+    </message>
+    <message>
+        <source>Nothing was tapped, so there is no book test.</source>
+        <translation>Er is niets aangeraakt, dus er is geen boektest.</translation>
+    </message>
+    <message>
+        <source>The book test was not saved; it goes on. &quot;Fresh&quot; begins it anew.</source>
+        <translation>De boektest is niet opgeslagen; hij gaat verder. “Nieuw” begint hem opnieuw.</translation>
     </message>
     <message>
         <source>Volume</source>

@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QFileDialog>
+#include <QFileInfo>
 
 static QString chosenFile(QFileDialog& dialog)
 {
@@ -48,5 +49,18 @@ QString askForPicture(QWidget* parent)
     QFileDialog dialog(parent, MainWindow::tr("Import Picture"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     setPictureFilter(dialog, MainWindow::tr("Picture files (*.png; *.jpg; *.jpeg; *.bmp)"));
+    return chosenFile(dialog);
+}
+
+QString askForTestToSave(QWidget* parent, const QString& suggestion)
+{
+    QFileDialog dialog(parent, MainWindow::tr("Save book test"), QString(),
+                       MainWindow::tr("Book tests (*.booktest)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix("booktest");
+    const QFileInfo file(suggestion);
+    dialog.setDirectory(file.absolutePath());
+    dialog.selectFile(file.fileName());
     return chosenFile(dialog);
 }

@@ -338,6 +338,7 @@ void MainWindow::on_action_Open_triggered()
 
 void MainWindow::openProject(const QString& path)
 {
+    tryTab->keepTest();
     clearMessages();
     recovery->leaving();
     document.leave();

@@ -119,6 +119,8 @@ private:
     // MainWindowTrying.cpp: the tab on which the book is tried
     void prepareTrying();
     void showScriptLine(int line);
+    // Asks where; false when it was not written.
+    bool saveBookTest(const std::string& test);
 
     // Points all messages of the project at the console.
     void printIntoConsole();

@@ -26,6 +26,7 @@ TriedBook::TriedBook(Source used, const QString& speechFolder, QObject* parent)
 
 void TriedBook::start()
 {
+    endTap();
     if (refresh()) {
         silence();
         played->start();
@@ -35,6 +36,7 @@ void TriedBook::start()
 
 void TriedBook::tapArea(const std::string& area)
 {
+    endTap();
     if (!refresh()) {
         return;
     }
@@ -45,6 +47,7 @@ void TriedBook::tapArea(const std::string& area)
 
 void TriedBook::again()
 {
+    endTap();
     if (refresh()) {
         tap({Tap::Kind::again, {}}, played->book().game.replayCode);
     }
@@ -52,6 +55,7 @@ void TriedBook::again()
 
 void TriedBook::stop()
 {
+    endTap();
     if (refresh()) {
         tap({Tap::Kind::stop, {}}, played->book().game.stopCode);
     }
@@ -67,6 +71,32 @@ void TriedBook::begin(const Tap& what)
 {
     emit tapped(what);
     advance();
+}
+
+void TriedBook::endTap()
+{
+    if (!makesTest || played == nullptr) {
+        return;
+    }
+    if (now != State::atRest) {
+        silence();
+        played->runToRest();
+        now = State::atRest;
+        emit moved();
+    }
+    emit tapEnded();
+}
+
+void TriedBook::beginTest()
+{
+    makesTest = true;
+    fresh();
+}
+
+void TriedBook::endTest()
+{
+    endTap();
+    makesTest = false;
 }
 
 void TriedBook::fresh()
@@ -96,13 +126,16 @@ bool TriedBook::refresh()
     if (!book) {
         return played != nullptr;
     }
+    endTap();
     seen = revision;
     silence();
     if (played != nullptr) {
         played->takeOver(std::move(*book));
     } else {
         pen::PenOptions options;
-        options.seed = QRandomGenerator::global()->generate64();
+        if (!makesTest) {
+            options.seed = QRandomGenerator::global()->generate64();
+        }
         played = std::make_unique<play::PlayedBook>(std::move(*book), options);
     }
     now = State::atRest;
@@ -243,6 +276,7 @@ void TriedBook::silence()
 
 void TriedBook::releaseSound()
 {
+    endTap();
     silence();
     if (played != nullptr) {
         played->stop();

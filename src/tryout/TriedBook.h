@@ -58,6 +58,13 @@ public:
     // Takes over what was changed, without a tap. False when there is no book.
     bool refresh();
 
+    // From a fresh beginning on, as book tests are run: chance is that of their seed, and what a
+    // tap has begun is run to its end before the next one, or whatever else would end it.
+    void beginTest();
+    // The last tap of these comes to its end. The test can go on afterwards as if nothing was.
+    void endTest();
+    void goOnWithTest() { makesTest = true; }
+
     // --- Step by step
     // Goes on by one line of the script; where nothing is to be run, the next tap will begin so.
     void step();
@@ -83,6 +90,8 @@ public:
 signals:
     // The outcome is that of another tap from now on.
     void tapped(const TriedBook::Tap& tap);
+    // While a test is made: this was the whole outcome of the last tap, or of none.
+    void tapEnded();
     // Outcome, state, line or variables are others.
     void moved();
     // The book is another one, or there is one.
@@ -95,6 +104,7 @@ signals:
 private:
     void tap(const Tap& what, uint16_t code);
     void begin(const Tap& what);
+    void endTap();
     void advance();
     void hear();
     void show(const play::Text& text);
@@ -111,5 +121,6 @@ private:
     QString reason;  // why texts are not spoken, as it was told
     std::set<int> breakpoints;
     bool stepping = false;
+    bool makesTest = false;
     State now = State::atRest;
 };

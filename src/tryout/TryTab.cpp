@@ -110,6 +110,11 @@ QWidget* TryTab::makeControls()
     connect(addButton(*row, "btTryBreakpoint", tr("Breakpoint"),
                       tr("Sets a breakpoint at the line of the caret, or takes it away"), "F9"),
             &QPushButton::clicked, this, [this] { script->toggleHere(); });
+    recordButton = addButton(*row, "btTryRecord", tr("Record"),
+                             tr("Begins anew and writes down what is tapped, as a book test; a "
+                                "second click keeps it"));
+    recordButton->setCheckable(true);
+    connect(recordButton, &QPushButton::clicked, this, &TryTab::record);
     windowButton =
         addButton(*row, "btTryWindow", tr("Window"),
                   tr("Shows the page in a window of its own, for a second screen"), "F11");
@@ -176,7 +181,11 @@ void TryTab::connectBook()
     connect(&book, &TriedBook::told, this, &TryTab::told);
     connect(&book, &TriedBook::tapped, this, &TryTab::begin);
     connect(&book, &TriedBook::bookChanged, this, &TryTab::showBook);
-    connect(&book, &TriedBook::begunAnew, conversation, &Conversation::clearAll);
+    connect(&book, &TriedBook::begunAnew, this, [this] {
+        conversation->clearAll();
+        recorder.clear();
+    });
+    connect(&book, &TriedBook::tapEnded, this, [this] { recorder.end(*book.book()); });
     connect(&book, &TriedBook::moved, this, &TryTab::showMoves);
 }
 
@@ -215,6 +224,7 @@ void TryTab::turn(int way)
 void TryTab::begin(const TriedBook::Tap& tap)
 {
     conversation->begin(wordsOf(tap));
+    recorder.add(tap);
 }
 
 void TryTab::showBook()
@@ -260,6 +270,37 @@ void TryTab::showPages()
     }
     pages->setCurrentIndex(document.currentPage());
     pages->setEnabled(count > 1);
+}
+
+// --- Recording -----------------------------------------------------------------------------------
+
+void TryTab::record(bool on)
+{
+    if (on) {
+        book.beginTest();
+        emit told(
+            tr("What is tapped now becomes a book test. Another click on \"Record\" keeps it."));
+        return;
+    }
+    book.endTest();
+    if (recorder.text().empty()) {
+        emit told(tr("Nothing was tapped, so there is no book test."));
+    } else if (!saveTest(recorder.text())) {
+        book.goOnWithTest();
+        recordButton->setChecked(true);
+        emit told(tr("The book test was not saved; it goes on. \"Fresh\" begins it anew."));
+    }
+}
+
+void TryTab::keepTest()
+{
+    if (recordButton->isChecked()) {
+        recordButton->setChecked(false);
+        book.endTest();
+        if (!recorder.text().empty()) {
+            saveTest(recorder.text());
+        }
+    }
 }
 
 // --- The second window, and who hears ------------------------------------------------------------

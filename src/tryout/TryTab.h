@@ -1,8 +1,11 @@
 #pragma once
 
+#include "tryout/TestRecorder.h"
 #include "tryout/TriedBook.h"
 
 #include <QWidget>
+
+#include <functional>
 
 class Conversation;
 class Document;
@@ -26,8 +29,15 @@ public:
     TryTab(Document& document, const TriedBook::Source& source, QWidget* parent = nullptr);
     ~TryTab() override;
 
-    // Another project comes.
+    // Before another project comes: offers to keep the test that is being recorded.
+    void keepTest();
+    // Another project has come.
     void forget() { book.forget(); }
+
+    // Asks for a file for the text of a book test, and writes it. False when it was not written.
+    std::function<bool(const std::string& test)> saveTest = [](const std::string&) {
+        return false;
+    };
 
 signals:
     // For the author.
@@ -56,6 +66,7 @@ private:
     void showState();
     void showPages();
     void toggleWindow();
+    void record(bool on);
     void useSound();
 
     Document& document;
@@ -68,5 +79,7 @@ private:
     QComboBox* pages = nullptr;
     QLabel* state = nullptr;
     QPushButton* windowButton = nullptr;
+    QPushButton* recordButton = nullptr;
+    TestRecorder recorder;
     bool showingPages = false;
 };

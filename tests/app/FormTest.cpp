@@ -294,9 +294,10 @@ private slots:
         QTest::newRow("Build") << QStringList{tabs,          "btBuild",   "chDebugMode",
                                               "btCopyToPen", "txConsole", tabs};
         QTest::newRow("Try") << QStringList{
-            tabs,        "btStart",         "btTryAgain",      "btTryStop",   "btTryFresh",
-            "btTryStep", "btTryGoOn",       "btTryBreakpoint", "btTryWindow", "slTryVolume",
-            "tryPage",   "tryConversation", "tryVariables",    "tryScript",   tabs};
+            tabs,          "btStart",   "btTryAgain",      "btTryStop",    "btTryFresh",
+            "btTryStep",   "btTryGoOn", "btTryBreakpoint", "btTryRecord",  "btTryWindow",
+            "slTryVolume", "tryPage",   "tryConversation", "tryVariables", "tryScript",
+            tabs};
     }
 
     void everyControlIsReachedByTab()

@@ -1,4 +1,6 @@
 // Trying the book on the screen: taps, what is said and heard, variables, steps.
+#include "oid/OpenProject.h"
+#include "play/TestRun.h"
 #include "tests/app/WindowFixture.h"
 #include "tests/helpers/Environment.h"
 #include "tests/sound/WavFile.h"
@@ -7,6 +9,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -544,6 +547,110 @@ private slots:
         const int count = w.said().size();
         QTest::qWait(200);
         QCOMPARE(w.said().size(), count);
+    }
+
+    void whatIsTappedBecomesABookTestThatTheBookPasses()
+    {
+        TryFixture w(farm("sub cow\r\n"
+                          "  count = count + 1\r\n"
+                          "  say \"Moo\"\r\n"
+                          "  say eve \"Mooo\" \"Muh\"\r\n"
+                          "  other = count\r\n"
+                          "end sub\r\n"
+                          "sub pig\r\n"
+                          "end sub\r\n"));
+        w.tapCow();  // before the test
+        w.click("btTryRecord");
+        QCOMPARE(w.said(), QStringList());
+        w.click("btStart");
+        w.tapCow();
+        w.tapPig();  // while the cow is heard
+        w.click("btTryAgain");
+        w.dialogs.chooseFile(w.path("cow.booktest"));
+        w.click("btTryRecord");
+        QCOMPARE(w.status(), "Saved: cow.booktest");
+        const std::string test = readFile(w.folder.file("cow.booktest"));
+        QCOMPARE(QString::fromStdString(test), "start\n"
+                                               "expect say \"Zoo. Start.\"\n"
+                                               "\n"
+                                               "tap cow\n"
+                                               "expect say \"Moo\"\n"
+                                               "expect say one of \"Mooo\" \"Muh\"\n"
+                                               "expect count == 1\n"
+                                               "expect other == 1\n"
+                                               "\n"
+                                               "tap pig\n"
+                                               "expect silence\n"
+                                               "\n"
+                                               "replay\n"
+                                               "expect say one of \"Mooo\" \"Muh\"\n");
+        Oid::OidProject project;
+        QVERIFY(Oid::openProject(project, w.folder.file("book.oidpro")));
+        const auto book = play::bookOf(project, [](const Diagnostic&) {});
+        std::vector<play::TestMessage> mistakes;
+        const play::TestResult result =
+            play::runBookTest(*play::readBookTest(test, *book, mistakes), *book);
+        QCOMPARE(result.failures.size(), size_t(0));
+        QCOMPARE(result.expectations, size_t(7));
+    }
+
+    void aTestThatIsNotSavedGoesOn()
+    {
+        TryFixture w(farm("sub cow\r\n  say \"Moo\"\r\nend sub\r\nsub pig\r\nend sub\r\n"));
+        w.click("btTryRecord");
+        w.click("btTryRecord");
+        QCOMPARE(w.status(), "Nothing was tapped, so there is no book test.");
+        w.click("btTryRecord");
+        w.tapCow();
+        w.dialogs.cancel();
+        w.click("btTryRecord");
+        QCOMPARE(w.status(), "The book test was not saved; it goes on. \"Fresh\" begins it anew.");
+        w.tapPig();
+        w.dialogs.look([](QWidget& dialog) {
+            QCOMPARE(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "book.booktest");
+            QTest::keyClick(&dialog, Qt::Key_Return);
+        });
+        w.click("btTryRecord");
+        QCOMPARE(QString::fromStdString(readFile(w.folder.file("book.booktest"))),
+                 "tap cow\nexpect say \"Moo\"\n\ntap pig\nexpect silence\n");
+    }
+
+    void aTestThatIsRecordedIsNotLostWhenAnotherProjectComes()
+    {
+        TryFixture w;
+        w.click("btTryRecord");
+        w.tapPig();
+        writeFile(w.folder.file("other.oidpro"), farm(""));
+        w.dialogs.chooseFile(w.path("other.oidpro"));
+        w.dialogs.chooseFile(w.path("pig.booktest"));
+        w.trigger("action_Open");
+        QCOMPARE(QString::fromStdString(readFile(w.folder.file("pig.booktest"))),
+                 "tap pig\nexpect silence\nexpect count == 7\n");
+        QVERIFY(!w.get<QPushButton>("btTryRecord")->isChecked());
+    }
+
+    void freshBeginsARecordedTestAnew()
+    {
+        TryFixture w;
+        w.click("btTryRecord");
+        w.tapCow();
+        w.click("btTryFresh");
+        w.click("btTryRecord");
+        QCOMPARE(w.status(), "Nothing was tapped, so there is no book test.");
+    }
+
+    void aScriptThatChangesWhileATestIsRecordedEndsTheTapBefore()
+    {
+        TryFixture w;
+        w.click("btTryRecord");
+        w.tapCow();
+        w.setScript("sub pig\n  say \"Oink\"\nend sub\n");
+        w.tapPig();
+        w.dialogs.chooseFile(w.path("cow.booktest"));
+        w.click("btTryRecord");
+        QCOMPARE(QString::fromStdString(readFile(w.folder.file("cow.booktest"))),
+                 "tap cow\nexpect say \"Moo\"\nexpect say \"Mooo\"\nexpect count == 1\n"
+                 "\ntap pig\nexpect say \"Oink\"\n");
     }
 
 private:
