@@ -49,11 +49,13 @@ bool isFree(const Areas& areas, const Oid::PNT& corner, double edge)
         if (std::any_of(area.points.begin(), area.points.end(), isInside)) {
             return true;
         }
-        for (int i = 0; i < (kProbes + 1) * (kProbes + 1); ++i) {
-            const double right = i % (kProbes + 1) * edge / kProbes;
-            const double down = i / (kProbes + 1) * edge / kProbes;
-            if (area.isPntInPoly({corner.x + right, corner.y + down})) {
-                return true;
+        for (int row = 0; row <= kProbes; ++row) {
+            for (int column = 0; column <= kProbes; ++column) {
+                const double right = column * edge / kProbes;
+                const double down = row * edge / kProbes;
+                if (area.isPntInPoly({corner.x + right, corner.y + down})) {
+                    return true;
+                }
             }
         }
         return false;
