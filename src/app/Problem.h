@@ -16,6 +16,11 @@ struct Problem
     QString words;
     std::optional<hints::Fix> fix;
     QString fixWords;  // what the fix does; empty without one
+
+    bool operator==(const Problem& other) const
+    {
+        return diagnostic == other.diagnostic && words == other.words && fix == other.fix;
+    }
 };
 
 // Errors first, then warnings, then hints; each in the order of the book.

@@ -3,24 +3,36 @@
 #include <QApplication>
 #include <QFont>
 #include <QHash>
-#include <QIcon>
 #include <QStyle>
 
 namespace {
 
-QIcon iconOf(Severity severity)
+QIcon standardIcon(QStyle::StandardPixmap which)
 {
-    switch (severity) {
-    case Severity::error:
-        return QApplication::style()->standardIcon(QStyle::SP_MessageBoxCritical);
-    case Severity::warning:
-        return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
-    default:
-        return QApplication::style()->standardIcon(QStyle::SP_MessageBoxInformation);
-    }
+    return QApplication::style()->standardIcon(which);
 }
 
 }  // namespace
+
+// The style looks for an icon each time that it is asked.
+ProblemList::ProblemList(QObject* parent)
+    : QAbstractTableModel(parent),
+      error(standardIcon(QStyle::SP_MessageBoxCritical)),
+      warning(standardIcon(QStyle::SP_MessageBoxWarning)),
+      hint(standardIcon(QStyle::SP_MessageBoxInformation))
+{}
+
+const QIcon& ProblemList::iconOf(Severity severity) const
+{
+    switch (severity) {
+    case Severity::error:
+        return error;
+    case Severity::warning:
+        return warning;
+    default:
+        return hint;
+    }
+}
 
 void ProblemList::set(const Problems& newProblems)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QIcon>
 
 #include "app/Problem.h"
 
@@ -12,7 +13,7 @@ class ProblemList : public QAbstractTableModel
 public:
     enum Column { kind, line, area, words, fix, columnCountOfAll };
 
-    explicit ProblemList(QObject* parent = nullptr) : QAbstractTableModel(parent) {}
+    explicit ProblemList(QObject* parent = nullptr);
 
     void set(const Problems& newProblems);
     const Problems& all() const { return problems; }
@@ -30,6 +31,10 @@ public:
 
 private:
     static QString textOf(const Problem& problem, int column);
+    const QIcon& iconOf(Severity severity) const;
 
+    const QIcon error;
+    const QIcon warning;
+    const QIcon hint;
     Problems problems;
 };

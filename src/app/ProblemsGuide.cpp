@@ -125,8 +125,12 @@ void ProblemsGuide::watch()
             Qt::QueuedConnection);  // when all have their places
 }
 
+// Mostly typing leaves them all as they are.
 void ProblemsGuide::show(const Problems& problems)
 {
+    if (problems == dock->problems()) {
+        return;
+    }
     dock->show(problems);
     showNumber(problems);
     markScript(problems);

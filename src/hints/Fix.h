@@ -14,6 +14,12 @@ struct TextEdit
     int column = 0;
     int length = 0;
     std::string text;
+
+    bool operator==(const TextEdit& other) const
+    {
+        return line == other.line && column == other.column && length == other.length &&
+               text == other.text;
+    }
 };
 
 // Edits in the order of the script, which do not overlap; all places are those before any of them.
@@ -24,6 +30,11 @@ struct AreaNumber
 {
     std::string name;
     int oid = 0;
+
+    bool operator==(const AreaNumber& other) const
+    {
+        return name == other.name && oid == other.oid;
+    }
 };
 
 // Another print resolution for a page, which is counted from 1.
@@ -31,6 +42,11 @@ struct PrintResolution
 {
     int page = 0;
     int dpi = 0;
+
+    bool operator==(const PrintResolution& other) const
+    {
+        return page == other.page && dpi == other.dpi;
+    }
 };
 
 // What puts right what a hint has found, without taking away anything that the author has written.
@@ -38,6 +54,11 @@ struct Fix
 {
     const char* words = nullptr;  // what a button says, marked for translations as those of hints
     std::variant<TextEdits, AreaNumber, PrintResolution> change;
+
+    bool operator==(const Fix& other) const
+    {
+        return words == other.words && change == other.change;
+    }
 };
 
 // Where each line of a script begins.
