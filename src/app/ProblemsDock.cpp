@@ -14,7 +14,8 @@
 namespace {
 
 constexpr int kPatience = 1500;  // ms
-constexpr int kRowsShown = 5;
+constexpr int kFewestRows = 3;   // there is seldom one alone
+constexpr int kMostRows = 5;
 
 }  // namespace
 
@@ -174,7 +175,7 @@ void ProblemsDock::fold(bool folded)
     setMaximumHeight(folded ? titleHeight : QWIDGETSIZE_MAX);
     auto* const window = qobject_cast<QMainWindow*>(parentWidget());
     if (!folded && window != nullptr) {
-        const int rows = std::min(list.rowCount(), kRowsShown) + 1;  // and the header
+        const int rows = std::clamp(list.rowCount(), kFewestRows, kMostRows) + 1;  // and the header
         const int rowHeight = view->fontMetrics().lineSpacing() * 3 / 2;
         window->resizeDocks({this}, {titleHeight + rows * rowHeight}, Qt::Vertical);
     }

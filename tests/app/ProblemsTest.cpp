@@ -183,6 +183,15 @@ private slots:
         QCOMPARE(w.get<QTabWidget>("ribbonTab")->tabText(2), QString("Script"));
     }
 
+    void theFirstProblemMakesRoomForMore()
+    {
+        ProblemsWindow w(book("sub cow\nsay eve A B\nend sub\n"));
+        TRY_COMPARE(w.rows().count('\n'), 0);
+        TRY_VERIFY(!w.view().isHidden());
+        const int row = w.view().visualRect(w.view().model()->index(0, 0)).height();
+        TRY_VERIFY(w.view().viewport()->height() >= 3 * row);
+    }
+
     void theyComeAndGoWhileTheAuthorTypes()
     {
         ProblemsWindow w(book(kCow));
