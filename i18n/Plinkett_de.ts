@@ -1836,6 +1836,22 @@
         <translation>Der Buchtest wurde nicht gespeichert; er geht weiter. „Neu“ beginnt ihn von vorn.</translation>
     </message>
     <message>
+        <source>What is shown beside the page</source>
+        <translation>Was neben der Seite gezeigt wird</translation>
+    </message>
+    <message>
+        <source>Said</source>
+        <translation>Gesagt</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Skript</translation>
+    </message>
+    <message>
         <source>Volume</source>
         <translation>Lautstärke</translation>
     </message>

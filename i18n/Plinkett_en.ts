@@ -1836,6 +1836,22 @@
         <translation>The book test was not saved; it goes on. &quot;Fresh&quot; begins it anew.</translation>
     </message>
     <message>
+        <source>What is shown beside the page</source>
+        <translation>What is shown beside the page</translation>
+    </message>
+    <message>
+        <source>Said</source>
+        <translation>Said</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Script</translation>
+    </message>
+    <message>
         <source>Volume</source>
         <translation>Volume</translation>
     </message>

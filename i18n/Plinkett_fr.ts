@@ -1836,6 +1836,22 @@
         <translation>Le test du livre n’a pas été enregistré ; il continue. « À neuf » le recommence.</translation>
     </message>
     <message>
+        <source>What is shown beside the page</source>
+        <translation>Ce qui est montré à côté de la page</translation>
+    </message>
+    <message>
+        <source>Said</source>
+        <translation>Dit</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Script</translation>
+    </message>
+    <message>
         <source>Volume</source>
         <translation>Volume</translation>
     </message>

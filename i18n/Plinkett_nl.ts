@@ -1836,6 +1836,22 @@
         <translation>De boektest is niet opgeslagen; hij gaat verder. “Nieuw” begint hem opnieuw.</translation>
     </message>
     <message>
+        <source>What is shown beside the page</source>
+        <translation>Wat naast de pagina wordt getoond</translation>
+    </message>
+    <message>
+        <source>Said</source>
+        <translation>Gezegd</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variabelen</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Script</translation>
+    </message>
+    <message>
         <source>Volume</source>
         <translation>Volume</translation>
     </message>

@@ -16,6 +16,7 @@
 #include <QShortcut>
 #include <QSlider>
 #include <QSplitter>
+#include <QTabBar>
 #include <QVBoxLayout>
 
 namespace {
@@ -146,9 +147,6 @@ QWidget* TryTab::makeControls()
 
 QWidget* TryTab::makePanels()
 {
-    auto* const panels = new QSplitter(Qt::Vertical);
-    panels->setObjectName("tryPanels");
-    panels->setChildrenCollapsible(false);
     conversation = new Conversation;
     variables = new VariableTable;
     script = new ScriptView;
@@ -161,19 +159,54 @@ QWidget* TryTab::makePanels()
     column->setSpacing(2);
     column->addWidget(state);
     column->addWidget(script, 1);
-    panels->addWidget(conversation);
-    panels->addWidget(variables);
-    panels->addWidget(below);
-    panels->setStretchFactor(0, 3);
-    panels->setStretchFactor(1, 2);
-    panels->setStretchFactor(2, 3);
+    panels = {conversation, variables, below};
+
+    panelTabs = new QTabBar;
+    panelTabs->setObjectName("tryPanelTabs");
+    panelTabs->setAccessibleName(tr("What is shown beside the page"));
+    panelTabs->setStyleSheet("QTabBar::tab { min-height: 20px; }");  // there is little room
+    panelTabs->setDrawBase(false);
+    panelTabs->hide();
+    for (const QString& text : {tr("Said"), tr("Variables"), tr("Script")}) {
+        panelTabs->addTab(text);
+    }
+    connect(panelTabs, &QTabBar::currentChanged, this, &TryTab::arrangePanels);
+    auto* const splitter = new QSplitter(Qt::Vertical);
+    splitter->setObjectName("tryPanels");
+    splitter->setChildrenCollapsible(false);
+    for (size_t i = 0; i < panels.size(); ++i) {
+        splitter->addWidget(panels[i]);
+        splitter->setStretchFactor(static_cast<int>(i), panels[i] == variables ? 2 : 3);
+    }
+    auto* const side = new QWidget;
+    auto* const rows = new QVBoxLayout(side);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(panelTabs);
+    rows->addWidget(splitter, 1);
     connect(variables, &VariableTable::edited, this, [this](const QString& name, int value) {
         book.setVariable(name.toStdString(), static_cast<uint16_t>(value));
     });
     connect(script, &ScriptView::breakpointsChanged, this,
             [this] { book.setBreakpoints(script->breakpoints()); });
     connect(script, &ScriptView::lineAsked, this, &TryTab::lineAsked);
-    return panels;
+    return side;
+}
+
+// On a small screen one below the other they would show next to nothing.
+void TryTab::arrangePanels()
+{
+    const bool isSmall = height() < 16 * fontMetrics().height();
+    panelTabs->setVisible(isSmall);
+    for (size_t i = 0; i < panels.size(); ++i) {
+        panels[i]->setVisible(!isSmall || panelTabs->currentIndex() == static_cast<int>(i));
+    }
+}
+
+void TryTab::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    arrangePanels();
 }
 
 void TryTab::connectBook()
@@ -237,6 +270,9 @@ void TryTab::showMoves()
     if (book.book() != nullptr) {
         conversation->showOutcome(*book.book(), book.state() == TriedBook::State::atRest);
         variables->showValues(book.book()->variables(), book.book()->outcome().variables);
+    }
+    if (book.state() == TriedBook::State::pausing) {
+        panelTabs->setCurrentIndex(panelTabs->count() - 1);  // the script
     }
     script->showLine(book.line(), book.state() == TriedBook::State::pausing);
     showState();

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <vector>
 
 class Conversation;
 class Document;
@@ -14,6 +15,7 @@ class QComboBox;
 class QLabel;
 class QLayout;
 class QPushButton;
+class QTabBar;
 class ReaderPage;
 class ScriptView;
 class VariableTable;
@@ -47,12 +49,14 @@ signals:
     void lineAsked(int line);
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
     QWidget* makeControls();
     QWidget* makePanels();
+    void arrangePanels();
     QPushButton* addButton(QLayout& row, const char* name, const QString& text,
                            const QString& toolTip, const char* key = nullptr);
     void connectBook();
@@ -76,6 +80,8 @@ private:
     Conversation* conversation = nullptr;
     VariableTable* variables = nullptr;
     ScriptView* script = nullptr;
+    QTabBar* panelTabs = nullptr;  // seen where there is room for one panel only
+    std::vector<QWidget*> panels;
     QComboBox* pages = nullptr;
     QLabel* state = nullptr;
     QPushButton* windowButton = nullptr;

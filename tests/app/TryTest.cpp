@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSpinBox>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTextBlock>
@@ -199,6 +200,29 @@ private slots:
         w.tapCow();
         QCOMPARE(w.page->cursor().shape(), Qt::BitmapCursor);
         QCOMPARE(w.page->cursor().hotSpot(), QPoint(1, 1));
+    }
+
+    void onASmallScreenOneOfTheListsIsShownAtATime()
+    {
+        TryFixture w;
+        auto* const said = w.get<QWidget>("tryConversation");
+        auto* const table = w.get<QWidget>("tryVariables");
+        auto* const script = w.get<QWidget>("tryScript");
+        auto* const tabs = w.get<QTabBar>("tryPanelTabs");
+        QVERIFY(said->isVisible() && table->isVisible() && script->isVisible());
+        QVERIFY(!tabs->isVisible());
+        w.window.resize(640, 360);
+        QTRY_VERIFY(tabs->isVisible());
+        QVERIFY(said->isVisible() && !table->isVisible() && !script->isVisible());
+        QTest::mouseClick(tabs, Qt::LeftButton, Qt::NoModifier, tabs->tabRect(1).center());
+        QVERIFY(!said->isVisible() && table->isVisible() && !script->isVisible());
+        w.key(Qt::Key_F10);
+        QTest::qWait(50);  // the page has its size
+        w.tapCow();
+        QVERIFY(!said->isVisible() && !table->isVisible() && script->isVisible());
+        w.window.resize(1000, 700);
+        QTRY_VERIFY(!tabs->isVisible());
+        QVERIFY(said->isVisible() && table->isVisible() && script->isVisible());
     }
 
     void nothingOfTheProjectChanges()
