@@ -30,6 +30,14 @@ struct OnPage
         w.get<QTabWidget>("ribbonTab")->setCurrentWidget(w.get<QWidget>(tab));
         QTest::qWait(50);  // until all have their places
     }
+    // The lists below the page come when problems are found.
+    void waitForRest()
+    {
+        for (int before = -1; before != page().width();) {
+            before = page().width();
+            QTest::qWait(300);
+        }
+    }
     PageScrollArea& area() { return *w.get<PageScrollArea>("pictureScroll"); }
     double percent() { return area().zoom() * 100; }
     PolyEditorWidget& page() { return *w.get<PolyEditorWidget>("polyArea"); }
@@ -54,6 +62,7 @@ private slots:
     void buttonsZoomThePage()
     {
         OnPage p;
+        p.waitForRest();
         const int width = p.page().width();
         p.press("actionZoomIn");
         p.press("actionZoomIn");
