@@ -210,17 +210,19 @@ TEST_F(SoundPlayerTest, ASoundStartsAtOnce)
     player.prepare();
     const QString file = toneFile(0.1);
     qint64 fastest = 1000;
+    qint64 fastestCall = 1000;
     for (int i = 0; i < 10; ++i) {
         told.clear();
         QElapsedTimer time;
         time.start();
         player.play(file);
-        EXPECT_LT(time.elapsed(), 50);
+        fastestCall = std::min(fastestCall, time.elapsed());
         ASSERT_TRUE(isToldSoon("started"));
         fastest = std::min(fastest, time.elapsed());
         ASSERT_TRUE(isToldSoon("ended"));
     }
     EXPECT_LT(fastest, 50);
+    EXPECT_LT(fastestCall, 5);  // nobody waits
 }
 
 TEST_F(SoundPlayerTest, AStoppedSoundHasNoEnd)
