@@ -7,7 +7,9 @@
 #include "hints/Values.h"
 
 #include <algorithm>
+#include <map>
 #include <optional>
+#include <set>
 
 namespace hints {
 
@@ -170,16 +172,129 @@ void findOrder(const Book& book, Report& report)
     }
 }
 
+// The variables that the author has looked at on the way to a statement: in each `if` and `select`
+// around it, and in an `if` before it that goes elsewhere or sets what it looks at.
+class LookedAt
+{
+public:
+    explicit LookedAt(const Outline& outline)
+        : script(outline), isOpen(outline.blocks.size()), variable(outline.variables.begin())
+    {}
+
+    // Not back to one before the last.
+    void goTo(int statement)
+    {
+        for (; next <= statement; ++next) {
+            moveInto(script.statements[next].block);
+            noteWhatIsDone();
+        }
+    }
+
+    // The name is in small letters.
+    bool has(const std::string& name) const { return counts.count(name) > 0; }
+
+private:
+    struct Block
+    {
+        int index;
+        std::set<std::string> names;    // looked at
+        std::set<std::string> settled;  // looked at, and set inside
+        bool isLeft;                    // by a goto
+    };
+
+    void moveInto(int target)
+    {
+        std::vector<int> inner;
+        while (target != Outline::kNone && !isOpen[target]) {
+            inner.push_back(target);
+            target = script.blocks[target].parent;
+        }
+        while (!open.empty() && open.back().index != target) {
+            close();
+        }
+        for (; !inner.empty(); inner.pop_back()) {
+            isOpen[inner.back()] = true;
+            open.push_back({inner.back(), {}, {}, false});
+            look(namesIn(script.blocks[inner.back()].begin));
+        }
+    }
+
+    void close()
+    {
+        const Block block = std::move(open.back());
+        open.pop_back();
+        isOpen[block.index] = false;
+        for (const std::string& name : block.names) {
+            const auto count = counts.find(name);
+            if (--count->second == 0) {
+                counts.erase(count);
+            }
+        }
+        if (script.blocks[block.index].kind == StatementKind::ifBlock && !open.empty()) {
+            look(block.isLeft ? block.names : block.settled);
+        }
+    }
+
+    // In the innermost block.
+    void look(const std::set<std::string>& names)
+    {
+        for (const std::string& name : names) {
+            if (open.back().names.insert(name).second) {
+                ++counts[name];
+            }
+        }
+    }
+
+    std::set<std::string> namesIn(int statement) const
+    {
+        const auto isBefore = [](const Outline::Variable& one, int place) {
+            return one.statement < place;
+        };
+        std::set<std::string> names;
+        for (auto found = std::lower_bound(script.variables.begin(), script.variables.end(),
+                                           statement, isBefore);
+             found != script.variables.end() && found->statement == statement; ++found) {
+            names.insert(toLower(found->name));
+        }
+        return names;
+    }
+
+    void noteWhatIsDone()
+    {
+        for (; variable != script.variables.end() && variable->statement <= next; ++variable) {
+            if (variable->access == Outline::Access::set && !open.empty() &&
+                open.back().names.count(variable->name) > 0) {
+                open.back().settled.insert(variable->name);
+            }
+        }
+        if (script.statements[next].kind == StatementKind::jump && !open.empty()) {
+            open.back().isLeft = true;
+        }
+    }
+
+    const Outline& script;
+    std::vector<Block> open;   // the innermost one at the back
+    std::vector<bool> isOpen;  // of all blocks
+    std::map<std::string, int> counts;
+    std::vector<Outline::Variable>::const_iterator variable;
+    int next = 0;  // in statements
+};
+
 // Looks for differences below comparisons.
 class DifferenceSearch
 {
 public:
     DifferenceSearch(const Book& wholeBook, Report& allFindings)
-        : script(wholeBook.script), report(allFindings), variables(wholeBook.script)
+        : script(wholeBook.script),
+          report(allFindings),
+          variables(wholeBook.script),
+          lookedAt(wholeBook.script)
     {}
 
+    // At each expression of the script in turn.
     void look(const Outline::Expression& expression)
     {
+        lookedAt.goTo(expression.statement);
         const ExpressionTree tree(script, expression);
         const std::vector<Values> values = variables.ofNodes(tree);
         for (const ExpressionTree::Node& node : tree.nodes) {
@@ -203,15 +318,15 @@ private:
                values[node.left].smallest() < values[node.right].largest();
     }
 
-    // The author has looked at what something is taken from before: in the same expression or in an
-    // `if` or `select` around it.
+    // The author has looked at what something is taken from before, there or in the same
+    // expression.
     bool isGuarded(const Outline::Expression& expression, const ExpressionTree::Node& comparison,
                    const ExpressionTree::Node& left) const
     {
         for (int token = left.first; token <= left.last; ++token) {
             const Outline::Token& name = script.tokens[token];
             if (name.kind == TokenKind::name &&
-                (isIn(expression, name.text, comparison) || isAround(expression, name.text))) {
+                (isIn(expression, name.text, comparison) || lookedAt.has(toLower(name.text)))) {
                 return true;
             }
         }
@@ -227,25 +342,6 @@ private:
             const bool isBeside = token < comparison.first || token > comparison.last;
             if (isBeside && isName(script.tokens[token], name)) {
                 return true;
-            }
-        }
-        return false;
-    }
-
-    bool isAround(const Outline::Expression& expression, const std::string& name) const
-    {
-        int block = script.statements[expression.statement].block;
-        for (; block != Outline::kNone; block = script.blocks[block].parent) {
-            const int begin = script.blocks[block].begin;
-            auto variable =
-                std::lower_bound(script.variables.begin(), script.variables.end(), begin,
-                                 [](const Outline::Variable& one, int statement) {
-                                     return one.statement < statement;
-                                 });
-            for (; variable != script.variables.end() && variable->statement == begin; ++variable) {
-                if (toLower(variable->name) == toLower(name)) {
-                    return true;
-                }
             }
         }
         return false;
@@ -292,12 +388,16 @@ private:
     const Outline& script;
     Report& report;
     const VariableValues variables;
+    LookedAt lookedAt;
 };
 
 void findBelow0(const Book& book, Report& report)
 {
     DifferenceSearch search(book, report);
     for (const Outline::Expression& expression : book.script.expressions) {
+        if (report.isCancelled()) {
+            return;
+        }
         search.look(expression);
     }
 }

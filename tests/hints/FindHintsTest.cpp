@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QTranslator>
 
+#include <ctime>
 #include <regex>
 #include <thread>
 
@@ -38,6 +39,22 @@ std::string linesOf(const std::vector<hints::Finding>& findings, const std::stri
     }
     return lines;
 }
+
+// What is found in the script, and the processor's time that it takes.
+struct Timed
+{
+    explicit Timed(const std::string& script)
+    {
+        Oid::OidProject project;
+        project.compiler.source = script;
+        const std::clock_t begin = std::clock();
+        findings = findingsOf(project);
+        seconds = static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+    }
+
+    std::vector<hints::Finding> findings;
+    double seconds;
+};
 
 // The headings "### `name`" of the author's page, in the order of the file.
 std::string sectionNames()
@@ -102,6 +119,19 @@ TEST(Hints, AreNotLookedForWhenNobodyWantsThemAnyMore)
     Oid::OidProject project = projectWith({square("", 40, 40, 1)});
     hints::PagePictures pictures;
     EXPECT_EQ(linesOf(hints::findHints(project, pictures, [] { return true; })), "");
+}
+
+TEST(Hints, BlocksFarInsideEachOtherTakeNoTime)
+{
+    std::string script = "sub cow\nb = rnd\n";
+    for (int i = 0; i < 15000; ++i) {
+        script += "if a - 3 < b\n";
+    }
+    const Timed timed(script);
+    EXPECT_EQ(linesOf(timed.findings, "below-0"),
+              "Hint: line 3: What falls below 0 here goes on down from 65535, so the comparison "
+              "takes it for large\n");
+    EXPECT_LT(timed.seconds, 5);
 }
 
 TEST(Hints, SeveralThreadsCanLookThroughOneBook)
