@@ -106,29 +106,45 @@ public:
         }
     }
 
-    // From the sub on and back to it, the names of all on the way: "a, b, a". Empty when it is no
-    // circle.
-    std::vector<std::string> circleFrom(std::string_view sub) const
+    // The subs that lead back to themselves.
+    std::set<std::string_view> inCircles() const
     {
-        std::vector<std::string> names = {std::string(sub)};
-        for (auto next = jumps.find(sub); next != jumps.end() && names.size() <= jumps.size();
-             next = jumps.find(next->second->target.text)) {
-            names.emplace_back(next->second->target.text);
-            if (names.back() == sub) {
-                return names;
+        std::set<std::string_view> circles;
+        std::map<std::string_view, int> walks;  // the one that came by first
+        int walk = 0;
+        for (auto next = jumps.begin(); next != jumps.end(); ++next) {
+            ++walk;
+            auto place = next;
+            while (place != jumps.end() && walks.emplace(place->first, walk).second) {
+                place = jumps.find(place->second->target.text);
+            }
+            if (place != jumps.end() && walks.at(place->first) == walk) {
+                const std::vector<std::string_view> circle = circleFrom(place->first);
+                circles.insert(circle.begin(), circle.end());
             }
         }
-        return {};
+        return circles;
+    }
+
+    // From the sub, which is in a circle, on and back to it: "a, b, a".
+    std::vector<std::string_view> circleFrom(std::string_view sub) const
+    {
+        std::vector<std::string_view> names = {sub};
+        do {
+            names.push_back(jumps.at(names.back())->target.text);
+        } while (names.back() != sub);
+        return names;
     }
 
     std::map<std::string_view, const Outline::Goto*> jumps;  // by the name of the sub
 };
 
-std::string joined(const std::vector<std::string>& names)
+std::string joined(const std::vector<std::string_view>& names)
 {
     std::string text;
-    for (const std::string& name : names) {
-        text += (text.empty() ? "" : ", ") + name;
+    for (const std::string_view name : names) {
+        text += text.empty() ? "" : ", ";
+        text += name;
     }
     return text;
 }
@@ -137,17 +153,15 @@ std::string joined(const std::vector<std::string>& names)
 void findEndlessLoops(const Book& book, Report& report)
 {
     const SilentJumps silent(book.script);
-    std::set<std::string> told;
+    std::set<std::string_view> untold = silent.inCircles();
     for (const Outline::Sub& sub : book.script.subs) {
-        const auto jump = silent.jumps.find(sub.name.text);
-        if (jump == silent.jumps.end() || told.count(std::string(sub.name.text)) > 0 ||
-            report.isCancelled()) {
+        if (untold.count(sub.name.text) == 0) {
             continue;
         }
-        const std::vector<std::string> circle = silent.circleFrom(sub.name.text);
-        if (!circle.empty()) {
-            report.add(placeInScript(jump->second->target), {joined(circle)});
-            told.insert(circle.begin(), circle.end());
+        const std::vector<std::string_view> circle = silent.circleFrom(sub.name.text);
+        report.add(placeInScript(silent.jumps.at(sub.name.text)->target), {joined(circle)});
+        for (const std::string_view name : circle) {
+            untold.erase(name);
         }
     }
 }

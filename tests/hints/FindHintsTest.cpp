@@ -121,6 +121,20 @@ TEST(Hints, AreNotLookedForWhenNobodyWantsThemAnyMore)
     EXPECT_EQ(linesOf(hints::findHints(project, pictures, [] { return true; })), "");
 }
 
+TEST(Hints, ManySubsThatGoOnToTheNextOneTakeNoTime)
+{
+    std::string script;
+    for (int i = 0; i < 20000; ++i) {
+        script += "sub s" + std::to_string(i) + "\ngoto s" + std::to_string(i + 1) + "\nend sub\n";
+    }
+    script += "sub s20000\ngoto s19999\nend sub\n";
+    const Timed timed(script);
+    EXPECT_EQ(linesOf(timed.findings, "endless-loop"),
+              "Hint: line 59999: The pen goes round for ever and says nothing: s19999, s20000, "
+              "s19999\n");
+    EXPECT_LT(timed.seconds, 5);
+}
+
 TEST(Hints, BlocksFarInsideEachOtherTakeNoTime)
 {
     std::string script = "sub cow\nb = rnd\n";
