@@ -103,17 +103,23 @@ void Contents::restart()
 Contents::Place Contents::placeOf(AreaId area) const
 {
     if (!placesKnown) {
+        placesKnown = true;
         places.clear();
         for (std::size_t page = 0; page < pageOrder.size(); ++page) {
-            const std::vector<AreaId>& onPage = areas.at(pageOrder[page]);
-            for (std::size_t i = 0; i < onPage.size(); ++i) {
-                places[onPage[i]] = {static_cast<int>(page), static_cast<int>(i)};
-            }
+            noteAreasFrom(static_cast<int>(page), 0);
         }
-        placesKnown = true;
     }
     const auto found = places.find(area);
     return found != places.end() ? found->second : Place();
+}
+
+// Those before stay where they are: many areas may come or go one after the other.
+void Contents::noteAreasFrom(int page, std::size_t index) const
+{
+    const std::vector<AreaId>& onPage = areas.at(pageAt(page));
+    for (std::size_t i = index; placesKnown && i < onPage.size(); ++i) {
+        places[onPage[i]] = {page, static_cast<int>(i)};
+    }
 }
 
 PageId Contents::pageAt(int page) const
@@ -203,7 +209,7 @@ AreaId Contents::addArea(int page, std::size_t index, Oid::POLY area)
     std::vector<AreaId>& onPage = areas.at(pageAt(page));
     onPage.insert(at(onPage, index), id);
     areasAt(page).insert(at(areasAt(page), index), std::move(area));
-    placesKnown = false;
+    noteAreasFrom(page, index);
     return id;
 }
 
@@ -216,7 +222,8 @@ void Contents::removeArea(AreaId area)
     parkedAreas[area] = std::move(contents[index]);
     contents.erase(at(contents, index));
     onPage.erase(at(onPage, index));
-    placesKnown = false;
+    places.erase(area);
+    noteAreasFrom(place.page, index);
 }
 
 void Contents::moveArea(AreaId area, std::size_t index)
@@ -225,7 +232,7 @@ void Contents::moveArea(AreaId area, std::size_t index)
     const auto from = static_cast<std::size_t>(place.index);
     moveWithin(areas.at(pageAt(place.page)), from, index);
     moveWithin(areasAt(place.page), from, index);
-    placesKnown = false;
+    noteAreasFrom(place.page, std::min(from, index));
 }
 
 Step Contents::stepOf(const Recording& recording)

@@ -54,6 +54,8 @@ private:
     void applyPages(const Splice<PageId>& change, bool forward);
     void applyOrders(const std::vector<AreaOrderChange>& changes, bool forward);
     void applyValues(const Step& step, bool forward);
+    // Where the page's areas are now, from this one on.
+    void noteAreasFrom(int page, std::size_t index) const;
     Oid::PICTURE& pictureAt(int page) { return project.pictures[static_cast<std::size_t>(page)]; }
     std::vector<Oid::POLY>& areasAt(int page) { return pictureAt(page).polys; }
 
