@@ -229,9 +229,9 @@ bool AreasDock::eventFilter(QObject* watched, QEvent* event)
 
 void AreasDock::removeSelected()
 {
-    const Gesture all = document.newGesture();
+    std::vector<Edit> edits;
     for (const AreaId area : document.selectedAreas()) {
-        document.apply(edit::RemoveArea{area}, all);
+        edits.emplace_back(edit::RemoveArea{area});
     }
-    document.endGesture();
+    document.applyTogether(edits);
 }

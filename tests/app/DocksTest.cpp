@@ -175,6 +175,17 @@ private slots:
         QCOMPARE(w.names(), QString("cow ant hen"));
     }
 
+    void manyAreasAreDeletedAtOnce()
+    {
+        Lists w;
+        w.clickRow(0);
+        QTest::keyClick(&w.table(), Qt::Key_A, Qt::ControlModifier);
+        QSignalSpy removed(w.window.findChild<AreaTableModel*>(), &QAbstractItemModel::rowsRemoved);
+        QTest::keyClick(&w.table(), Qt::Key_Delete);
+        QCOMPARE(removed.count(), 1);
+        QCOMPARE(w.names(), QString("hen"));
+    }
+
     void aDoubleClickGoesToTheCode()
     {
         Lists w;
