@@ -29,6 +29,14 @@ void AreaMaker::move(const PageMouse& mouse)
     pointTo(mouse.at, mouse.view, mouse.modifiers);
 }
 
+void AreaMaker::pageMoved(const PageMouse& mouse)
+{
+    if (pointer && !cross) {
+        pointer = mouse.at;
+        pointTo(mouse.at, mouse.view, mouse.modifiers);
+    }
+}
+
 void AreaMaker::leave()
 {
     pointer = cross;

@@ -37,6 +37,7 @@ public:
     // The cross-hair.
     PageMarks marks(const PageView& view, const QRect& seen) const override;
     void move(const PageMouse& mouse) override;
+    void pageMoved(const PageMouse& mouse) override;
     void leave() override;
     bool key(const QKeyEvent& event, const PageView& view) override;
     std::optional<Oid::PNT> place() const override { return cross; }

@@ -41,6 +41,8 @@ public:
     virtual void press(const PageMouse& /*mouse*/) {}
     // With and without a button.
     virtual void move(const PageMouse& /*mouse*/) {}
+    // The page was scrolled or zoomed under the mouse, which is here now.
+    virtual void pageMoved(const PageMouse& /*mouse*/) {}
     // True when this ends a drag: then no click comes behind it.
     virtual bool release(const PageMouse& /*mouse*/) { return false; }
     // The left button was released here: comes behind each such release, unless that ended a drag

@@ -212,6 +212,13 @@ void PickTool::move(const PageMouse& mouse)
     }
 }
 
+void PickTool::pageMoved(const PageMouse& mouse)
+{
+    if (hover) {
+        hover = mouse;
+    }
+}
+
 bool PickTool::release(const PageMouse& mouse)
 {
     if (mouse.button != Qt::LeftButton) {

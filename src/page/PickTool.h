@@ -27,6 +27,7 @@ public:
     // Selects the first area that lies there, or none. With Shift, as the button was released, that
     // area comes to the selected ones or leaves them.
     void click(const Oid::PNT& at) override;
+    void pageMoved(const PageMouse& mouse) override;
     void leave() override { hover.reset(); }
     bool isDragging() const override { return drag != Drag::none && drag != Drag::over; }
 

@@ -7,6 +7,8 @@
 
 #include <QBackingStore>
 #include <QContextMenuEvent>
+#include <QCursor>
+#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -286,6 +288,30 @@ void PolyEditorWidget::leaveEvent(QEvent* event)
         showTool();
     }
     QWidget::leaveEvent(event);
+}
+
+void PolyEditorWidget::moveEvent(QMoveEvent* event)
+{
+    QWidget::moveEvent(event);
+    tellWhereMouseIs();
+}
+
+void PolyEditorWidget::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    tellWhereMouseIs();
+}
+
+// A page that is scrolled or zoomed under a mouse that rests sends no move of the mouse.
+void PolyEditorWidget::tellWhereMouseIs()
+{
+    if (tool != nullptr) {
+        const QPoint pixel = mapFromGlobal(QCursor::pos());
+        tool->pageMoved({view().toPercent(pixel), view(), Qt::NoButton,
+                         QGuiApplication::mouseButtons(), QGuiApplication::keyboardModifiers(),
+                         pixel});
+        showTool();
+    }
 }
 
 // A button that is released while another window is in front may not be heard of.

@@ -91,6 +91,8 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -99,6 +101,7 @@ protected:
 
 private:
     bool isDragging() const;
+    void tellWhereMouseIs();
     void showTip(const QHelpEvent& event);
     void readImage(const QString& path);
     void readCurrentImage();

@@ -429,6 +429,26 @@ private slots:
         w.compare(Book::book({{10, 10}, {30, 10}, {10, 30}}));
     }
 
+    // The mouse rests, and the page goes on beneath it.
+    void deleteKeepsACornerThatWasScrolledFromUnderTheMouse()
+    {
+        Book w;
+        for (int i = 0; i < 6; ++i) {
+            w.trigger("actionZoomIn");
+        }
+        auto& scroll = *w.get<QScrollArea>("pictureScroll");
+        w.window.move(0, 0);
+        scroll.horizontalScrollBar()->setValue(w.at(30, 30).x() - 50);
+        scroll.verticalScrollBar()->setValue(w.at(30, 30).y() - 50);
+        QTest::mouseMove(&w.page, w.at(30, 30));
+        QVERIFY(w.page.cursor().shape() == Qt::SizeAllCursor);
+        QScrollBar& bar = *scroll.verticalScrollBar();
+        bar.setValue(bar.value() + 40);
+        QVERIFY(w.page.cursor().shape() == Qt::ArrowCursor);
+        w.key(Qt::Key_Delete);
+        w.compare(projectFile({""}));
+    }
+
     void deleteWithoutACornerRemovesTheArea()
     {
         Book w;

@@ -6,6 +6,8 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPainter>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QToolBar>
 #include <QWheelEvent>
@@ -170,6 +172,29 @@ private slots:
         QVERIFY(marked > p.at(20, 0).x() + p.at(20, 0).x());  // also back to the first
         QApplication::sendEvent(&p.page(), &leave);
         QCOMPARE(markedPixels(p, two), 0);
+    }
+
+    void theRubberLineStaysAtAMouseUnderWhichThePageIsScrolled()
+    {
+        Page p;
+        p.w.window.move(0, 0);
+        for (int i = 0; i < 6; ++i) {
+            p.w.trigger("actionZoomIn");
+        }
+        p.w.click("btAddPoly");
+        auto& scroll = *p.w.get<QScrollArea>("pictureScroll");
+        const QPoint begin = p.page().mapFromGlobal(scroll.mapToGlobal({20, 10}));
+        p.w.clickAt(begin);
+        QTest::mouseMove(&p.page(), begin + QPoint(40, 20));
+        scroll.verticalScrollBar()->setValue(scroll.verticalScrollBar()->value() + 20);
+        const QImage scrolled = p.page().grab().toImage();
+        const auto imageWithMouseAt = [&](QPoint way) {
+            QMouseEvent event(QEvent::MouseMove, begin + way, Qt::NoButton, Qt::NoButton, {});
+            QApplication::sendEvent(&p.page(), &event);
+            return p.page().grab().toImage();
+        };
+        QVERIFY(imageWithMouseAt({40, 20}) != scrolled);
+        QVERIFY(imageWithMouseAt({40, 40}) == scrolled);
     }
 
     void enterEndsTheArea()
