@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QEvent>
 #include <QLineEdit>
+#include <QTimer>
 #include <QToolBar>
 
 #include <utility>
@@ -40,7 +41,12 @@ AreaTools::AreaTools(Document& edited, PickTool& pickTool, PolyEditorWidget& pag
     });
     page.setTool(chosen);
     page.installEventFilter(this);
-    connect(&document, &Document::changed, this, &AreaTools::pageShown);
+    connect(&document, &Document::changed, this, [this](const Change& change) {
+        pageShown();
+        if (change.has(Change::areas)) {
+            areasCameOrWent();
+        }
+    });
 }
 
 void AreaTools::addButton(QToolBar& bar, const char* name, const QString& icon, const QString& text,
@@ -116,18 +122,28 @@ void AreaTools::pick()
 int AreaTools::draw()
 {
     const bool isTold = tellUnfinished();
+    growing.reset();
     const int added = drawer.begin();
+    growing = drawer.lastOnPage();
     if (added >= 0) {
         choose(drawer, isTold);
     }
     return added;
 }
 
-void AreaTools::undone()
+// What is drawn may be gone, or another one may be the page's last: to that nobody meant to add
+// corners.
+void AreaTools::areasCameOrWent()
 {
-    if (chosen == &drawer && !drawer.hasArea()) {
-        choose(picker);
+    if (chosen != &drawer || !growing || growing == drawer.lastOnPage()) {
+        return;
     }
+    const bool isUnfinished = drawer.unfinished() != AreaId::none;
+    if (isUnfinished) {  // behind what is told of the command that has done it
+        const QString text = unfinishedText();
+        QTimer::singleShot(0, this, [this, text] { emit told(text); });
+    }
+    choose(picker, isUnfinished);
 }
 
 // It stays: it may be wanted for its name, and can be given corners.
@@ -153,6 +169,7 @@ void AreaTools::pageShown()
     if (std::exchange(lastPage, page) == page) {
         return;
     }
+    growing = drawer.lastOnPage();
     if (chosen == &drawer) {
         tellGoingOn();
     } else {

@@ -9,6 +9,7 @@
 #include <QObject>
 
 #include <map>
+#include <optional>
 
 class PolyEditorWidget;
 class QAction;
@@ -31,8 +32,6 @@ public:
     void pick();
     // Begins an area that is drawn corner by corner. Its index on the page; -1 without a page.
     int draw();
-    // Something was undone: what is being drawn may be gone.
-    void undone();
 
 signals:
     // For the author.
@@ -52,6 +51,7 @@ private:
     void addHint(PageTool& tool, const QString& hint, const QKeySequence& key = {});
     void choose(PageTool& tool, bool silently = false);
     void pageShown();
+    void areasCameOrWent();
     // Whether there was one, and it was told.
     bool tellUnfinished();
     QString unfinishedText() const;
@@ -69,6 +69,7 @@ private:
     MagicTool magic;
     PageTool* chosen;
     PageId lastPage = PageId::none;  // that was shown
+    std::optional<AreaId> growing;   // to which drawing adds corners; none on a page without areas
     std::map<PageTool*, QAction*> buttons;
     std::map<PageTool*, QString> hints;
 };

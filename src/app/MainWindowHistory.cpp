@@ -1,7 +1,6 @@
 // Undo and redo, and what the window shows of a change.
 #include "app/MainWindow.h"
 
-#include "app/AreaTools.h"
 #include "qtsync/KVQtSync.h"
 #include "ui_MainWindow.h"
 
@@ -66,7 +65,6 @@ void MainWindow::undo()
     } else if (document.canUndo() && !document.undo()) {
         warnOfPictures();
     }
-    areaTools->undone();
 }
 
 void MainWindow::redo()

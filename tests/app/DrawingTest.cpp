@@ -412,6 +412,50 @@ private slots:
         p.isUndoneInSteps(2);
     }
 
+    // Clicks would add corners to the pasted area.
+    void whatComesBehindTheDrawnAreaEndsDrawing_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("modifiers");
+        QTest::addColumn<int>("areas");
+        const int ctrl = Qt::ControlModifier;
+        QTest::newRow("paste") << int(Qt::Key_V) << ctrl << 3;
+        QTest::newRow("duplicate") << int(Qt::Key_D) << ctrl << 3;
+        QTest::newRow("bring forward") << int(Qt::Key_PageUp) << ctrl << 2;
+        QTest::newRow("cut") << int(Qt::Key_X) << ctrl << 1;
+    }
+
+    void whatComesBehindTheDrawnAreaEndsDrawing()
+    {
+        QFETCH(int, key);
+        QFETCH(int, modifiers);
+        Page p;
+        p.click(78, 15);
+        p.key(Qt::Key_C, Qt::ControlModifier);
+        p.w.click("btAddPoly");
+        p.click(20, 10);
+        p.click(40, 10);
+        p.click(40, 20);
+        p.key(Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+        QVERIFY(p.isPicking());
+        const std::string after = p.w.saved();
+        p.click(80, 40);
+        QCOMPARE(p.w.saved(), after);
+        QTEST(int(p.areas().size()), "areas");
+    }
+
+    void anAreaOfFewCornersIsToldBehindTheCommandThatEndsDrawing()
+    {
+        Page p;
+        p.w.click("btAddPoly");
+        p.click(50, 10);
+        p.key(Qt::Key_D, Qt::ControlModifier);
+        QVERIFY(p.isPicking());
+        QTRY_COMPARE(p.w.status(),
+                     "The area \"polygon2\" has fewer than three corners. The pen will not find "
+                     "it.");
+    }
+
     void escapeOnAnotherPageEndsDrawingAndKeepsWhatWasDrawn()
     {
         Page p;
