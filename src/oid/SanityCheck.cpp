@@ -1,4 +1,3 @@
-#include <initializer_list>
 #include <string_view>
 #include <unordered_map>
 
@@ -11,61 +10,57 @@ namespace {
 constexpr int kLargestReadableOid = 15000;  // of the pen
 constexpr std::string_view kPrefix = "!!! Warning: ";
 
-// Tells the warnings, of which there may be a hundred thousand: one value serves for all.
-class Warnings
+// Tells warnings that differ in the name and the place, of which there may be a hundred thousand:
+// one value serves for all.
+class Warning
 {
 public:
-    explicit Warnings(const DiagnosticSink& usedSink) : sink(usedSink)
+    // The name stands between these words.
+    Warning(const DiagnosticSink& usedSink, const char* kind, std::string_view before,
+            std::string_view after)
+        : sink(usedSink), wordsBefore(before), wordsAfter(after)
     {
         diagnostic.severity = Severity::warning;
+        diagnostic.kind = kind;
+        diagnostic.text = before;
+        diagnostic.printed = kPrefix;
+        diagnostic.printed += before;
     }
 
-    void ofMissingArea(std::string_view name, const ttbasic::Place& place)
+    void tell(std::string_view name)
+    {
+        diagnostic.subject = name;
+        diagnostic.text.resize(wordsBefore.size());
+        diagnostic.text += name;
+        diagnostic.text += wordsAfter;
+        diagnostic.printed.resize(kPrefix.size() + wordsBefore.size());
+        diagnostic.printed += name;
+        diagnostic.printed += wordsAfter;
+        diagnostic.printed += '\n';
+        sink(diagnostic);
+    }
+
+    void tellOfSub(std::string_view name, const ttbasic::Place& place)
     {
         diagnostic.line = place.line;
         diagnostic.column = place.column;
         diagnostic.length = place.length;
-        tell("area-missing", name, {"Used OID '", name, "' in script, but not in the image"});
+        tell(name);
     }
 
-    void ofMissingSub(std::string_view name, int page, int area)
+    // Page and area count from 1.
+    void tellOfArea(std::string_view name, int page, int area)
     {
         diagnostic.page = page;
         diagnostic.area = area;
-        tell("sub-missing", name, {"Used OID '", name, "' in image, but not in the script"});
-    }
-
-    void ofUnreadableOid(std::string_view name)
-    {
-        tell("oid-unreadable", name, {"OIDs > 15000 are not recognized by the pen!"});
+        tell(name);
     }
 
 private:
-    void tell(const char* kind, std::string_view subject,
-              std::initializer_list<std::string_view> words)
-    {
-        diagnostic.kind = kind;
-        diagnostic.subject = subject;
-        diagnostic.printed = kPrefix;
-        for (const std::string_view word : words) {
-            diagnostic.printed += word;
-        }
-        diagnostic.text.assign(diagnostic.printed, kPrefix.size());
-        diagnostic.printed += '\n';
-        sink(diagnostic);
-        diagnostic.line = diagnostic.column = diagnostic.length = 0;
-        diagnostic.page = diagnostic.area = 0;
-    }
-
     const DiagnosticSink& sink;
+    std::string_view wordsBefore;
+    std::string_view wordsAfter;
     Diagnostic diagnostic;
-};
-
-struct Area
-{
-    const std::string* name;
-    int page;
-    int index;  // both from 1
 };
 
 // The names that the script uses, in its order, and which of them an area bears. The script has to
@@ -111,22 +106,17 @@ private:
     std::unordered_map<std::string_view, size_t> places;
 };
 
-// The areas whose name is none of the script's; of the others it is noted that they are drawn.
-std::vector<Area> areasWithoutSub(const std::vector<PICTURE>& pictures, UsedNames& script)
+// Of all areas in their order, whether the name is none of the script's; of the others it is noted
+// that they are drawn.
+std::vector<bool> lacksOfSubs(const std::vector<PICTURE>& pictures, UsedNames& script)
 {
-    std::vector<Area> areas;
-    int page = 0;
+    std::vector<bool> lacks;
     for (const PICTURE& picture : pictures) {
-        ++page;
-        int index = 0;
         for (const POLY& area : picture.polys) {
-            ++index;
-            if (!script.noteArea(area.name)) {
-                areas.push_back({&area.name, page, index});
-            }
+            lacks.push_back(!script.noteArea(area.name));
         }
     }
-    return areas;
+    return lacks;
 }
 
 // Where each sub is defined first.
@@ -141,6 +131,50 @@ Places placesOfSubs(const ttbasic& script)
     return places;
 }
 
+void tellOfSubs(const DiagnosticSink& sink, const ttbasic& script,
+                const std::vector<std::string_view>& withoutArea)
+{
+    Warning warning(sink, "area-missing", "Used OID '", "' in script, but not in the image");
+    Places places = withoutArea.empty() ? Places() : placesOfSubs(script);
+    for (const std::string_view name : withoutArea) {
+        warning.tellOfSub(name, places[name]);
+    }
+}
+
+void tellOfAreas(const DiagnosticSink& sink, const std::vector<PICTURE>& pictures,
+                 const std::vector<bool>& lacksSub)
+{
+    Warning warning(sink, "sub-missing", "Used OID '", "' in image, but not in the script");
+    auto lacks = lacksSub.begin();
+    int page = 0;
+    for (const PICTURE& picture : pictures) {
+        ++page;
+        int area = 0;
+        for (const POLY& poly : picture.polys) {
+            ++area;
+            if (*lacks++) {
+                warning.tellOfArea(poly.name, page, area);
+            }
+        }
+    }
+}
+
+void tellOfUnreadableOids(const DiagnosticSink& sink,
+                          const std::map<std::string, OidProject::OID>& oids)
+{
+    Diagnostic warning;
+    warning.severity = Severity::warning;
+    warning.kind = "oid-unreadable";
+    warning.text = "OIDs > 15000 are not recognized by the pen!";
+    warning.printed = std::string(kPrefix) + warning.text + "\n";
+    for (const auto& [name, entry] : oids) {
+        if (entry.oid > kLargestReadableOid) {
+            warning.subject = name;
+            sink(warning);
+        }
+    }
+}
+
 }  // namespace
 
 bool OidProject::checkSanity() const
@@ -152,22 +186,11 @@ bool OidProject::checkSanity() const
 bool OidProject::checkSanity(const DiagnosticSink& sink) const
 {
     UsedNames script(compiler);
-    const std::vector<Area> withoutSub = areasWithoutSub(pictures, script);
-    const std::vector<std::string_view> withoutArea = script.notDrawn();
+    const std::vector<bool> lacksSub = lacksOfSubs(pictures, script);
 
-    Warnings warn(sink);
-    Places places = withoutArea.empty() ? Places() : placesOfSubs(compiler);
-    for (const std::string_view name : withoutArea) {
-        warn.ofMissingArea(name, places[name]);
-    }
-    for (const Area& area : withoutSub) {
-        warn.ofMissingSub(*area.name, area.page, area.index);
-    }
-    for (const auto& [name, entry] : oids) {
-        if (entry.oid > kLargestReadableOid) {
-            warn.ofUnreadableOid(name);
-        }
-    }
+    tellOfSubs(sink, compiler, script.notDrawn());
+    tellOfAreas(sink, pictures, lacksSub);
+    tellOfUnreadableOids(sink, oids);
     return true;
 }
 
