@@ -5,10 +5,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "oid/PageBackground.h"
-#include "oid/PictureFile.h"
 #include "oid/PrintImage.h"
 #include "pdf/BookPicture.h"
+#include "pdf/PicturePieces.h"
 
 namespace {
 
@@ -31,23 +30,13 @@ constexpr Ink kStartInk{0.5, 0, 0.6, 0};
 constexpr Ink kReplayInk{0.5, 0.2, 0, 0};
 constexpr Ink kStopInk{0, 0.5, 0.5, 0};
 
-// What an area's bounds hold of the picture, small.
-QImage pieceOf(const QImage& picture, Oid::POLY area)
+// In pixels of a picture of that width.
+QRect boundsOf(Oid::POLY area, int pictureWidth)
 {
     prepareBounds(area);
-    const double pixels = picture.width() / 100.0;
-    const QRect bounds =
-        QRectF(QPointF(area.minX, area.minY) * pixels, QPointF(area.maxX, area.maxY) * pixels)
-            .toAlignedRect()
-            .intersected(picture.rect());
-    if (bounds.isEmpty()) {
-        return {};
-    }
-    const QImage piece = picture.copy(bounds);
-    return std::max(piece.width(), piece.height()) <= kPieceEdge
-               ? piece
-               : piece.scaled(kPieceEdge, kPieceEdge, Qt::KeepAspectRatio,
-                              Qt::SmoothTransformation);
+    const double pixels = pictureWidth / 100.0;
+    return QRectF(QPointF(area.minX, area.minY) * pixels, QPointF(area.maxX, area.maxY) * pixels)
+        .toAlignedRect();
 }
 
 QRectF inMiddle(const QSize& size, const QRectF& box)
@@ -95,10 +84,7 @@ void drawStop(PageDrawing& drawing, const QPointF& middle)
 }  // namespace
 
 SymbolsPages::SymbolsPages(const Oid::OidProject& book, const PdfOptions& wanted)
-    : project(book),
-      options(wanted),
-      dpi(wanted.printer.dpi > 0 ? wanted.printer.dpi : kUsualDpi),
-      penCodes(penCodesOf(book))
+    : project(book), options(wanted), dpi(wanted.printer.dpi > 0 ? wanted.printer.dpi : kUsualDpi), penCodes(penCodesOf(book))
 {
     addSymbol("START", project.productId, Sign::start);
     if (penCodes.replay > 0) {
@@ -123,7 +109,7 @@ bool SymbolsPages::areNeeded(const Oid::OidProject& project)
     return true;
 }
 
-void SymbolsPages::addSymbol(const char* name, int oid, Sign sign)
+void SymbolsPages::addSymbol(const std::string& name, int oid, Sign sign)
 {
     Symbol symbol;
     symbol.name = name;
@@ -136,11 +122,11 @@ bool SymbolsPages::addPicture(int n)
 {
     const Oid::PICTURE& page = project.pictures[static_cast<std::size_t>(n)];
     BookPicture file;
-    QImage picture;
-    if (!file.load(project.pathImageSource(n), n) ||
-        !readBackground(project.pathImageSource(n), picture)) {
+    if (!file.load(project.pathImageSource(n), n)) {
         return false;
     }
+    const std::size_t before = symbols.size();
+    std::vector<QRect> parts;
     for (const Oid::POLY& area : page.polys) {
         const auto entry = project.oids.find(area.name);
         const bool isKnown = std::any_of(symbols.begin(), symbols.end(), [&](const Symbol& symbol) {
@@ -149,14 +135,18 @@ bool SymbolsPages::addPicture(int n)
         if (isKnown || entry == project.oids.end() || area.points.empty()) {
             continue;
         }
-        Symbol symbol;
-        symbol.name = area.name;
-        symbol.oid = entry->second.oid;
-        const QImage piece = onWhitePaper(pieceOf(picture, area));
-        if (!piece.isNull()) {
-            symbol.piece = imageOf(piece, {options.printer.noBlack, options.printer.lighten});
+        addSymbol(area.name, entry->second.oid, Sign::none);
+        parts.push_back(boundsOf(area, file.size().width()));
+    }
+    std::vector<QImage> pieces;
+    if (!readPieces(project.pathImageSource(n), parts, kPieceEdge, pieces)) {
+        return false;
+    }
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
+        if (!pieces[i].isNull()) {
+            symbols[before + i].piece =
+                imageOf(pieces[i], {options.printer.noBlack, options.printer.lighten});
         }
-        symbols.push_back(symbol);
     }
     return true;
 }

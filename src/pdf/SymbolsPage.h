@@ -40,7 +40,7 @@ private:
         PdfImage piece;  // of the picture; without pixels when there is none
     };
 
-    void addSymbol(const char* name, int oid, Sign sign);
+    void addSymbol(const std::string& name, int oid, Sign sign);
     QPointF placeOf(int i) const;  // of a symbol on its page
     int pageOf(int i) const;
     std::vector<DottedBox> boxesOn(int page) const;
