@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "oid/OidPixels.h"
 #include "oid/PrintImage.h"
+#include "oid/PrintJob.h"
 #include "pdf/BookPicture.h"
 #include "pdf/PicturePieces.h"
 
@@ -37,6 +39,18 @@ QRect boundsOf(Oid::POLY area, int pictureWidth)
     const double pixels = pictureWidth / 100.0;
     return QRectF(QPointF(area.minX, area.minY) * pixels, QPointF(area.maxX, area.maxY) * pixels)
         .toAlignedRect();
+}
+
+// That of the first page which is printed, too.
+int resolutionOf(const Oid::OidProject& project, const PdfOptions& options)
+{
+    if (options.printer.dpi > 0) {
+        return options.printer.dpi;
+    }
+    const std::size_t first =
+        options.pages.empty() ? 0 : static_cast<std::size_t>(options.pages.front());
+    const int dpi = first < project.pictures.size() ? project.pictures[first].dpi : 0;
+    return dpi >= kFewestDpi ? dpi : kUsualDpi;
 }
 
 QRectF inMiddle(const QSize& size, const QRectF& box)
@@ -84,7 +98,7 @@ void drawStop(PageDrawing& drawing, const QPointF& middle)
 }  // namespace
 
 SymbolsPages::SymbolsPages(const Oid::OidProject& book, const PdfOptions& wanted)
-    : project(book), options(wanted), dpi(wanted.printer.dpi > 0 ? wanted.printer.dpi : kUsualDpi), penCodes(penCodesOf(book))
+    : project(book), options(wanted), dpi(resolutionOf(book, wanted)), penCodes(penCodesOf(book))
 {
     addSymbol("START", project.productId, Sign::start);
     if (penCodes.replay > 0) {
@@ -157,11 +171,28 @@ bool SymbolsPages::prepare()
     paper.paperWidth = kA4.width;
     paper.paperHeight = kA4.height;
     paper.dpi = dpi;
-    if (!geometry.measure(paper)) {
+    if (!geometry.measure(paper) || !checkDots()) {
         return false;
     }
     if (penCodes.replay <= 0 || penCodes.stop <= 0) {
         mi_printf("Note: REPLAY and STOP get their codes with the first build\n");
+    }
+    return true;
+}
+
+bool SymbolsPages::checkDots() const
+{
+    if (options.dots == PdfOptions::Dots::none) {
+        return true;
+    }
+    const int largest = oidPixels::standardDot(geometry.tileSize);
+    if (options.printer.dotSize > largest) {
+        mi_printf("Error: Symbols: at %d DPI a dot has at most %d pixels, not %d\n", dpi, largest,
+                  options.printer.dotSize);
+        return false;
+    }
+    if (dpi < kFewestDpi) {
+        mi_printf("Warning: Symbols: %d DPI are too few for the dots\n", dpi);
     }
     return true;
 }

@@ -41,6 +41,7 @@ private:
     };
 
     void addSymbol(const std::string& name, int oid, Sign sign);
+    bool checkDots() const;
     QPointF placeOf(int i) const;  // of a symbol on its page
     int pageOf(int i) const;
     std::vector<DottedBox> boxesOn(int page) const;

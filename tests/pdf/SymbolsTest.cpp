@@ -133,3 +133,35 @@ TEST_F(Symbols, AreasThatShareANameShareASymbol)
     ASSERT_TRUE(makeAlone());
     EXPECT_EQ(numbersOn(1), (std::vector<int>{900, 1001, 1002}));
 }
+
+TEST_F(Symbols, HaveTheResolutionOfTheBook)
+{
+    book.project.pictures[0].dpi = 600;
+    PdfOptions options;
+    options.symbols = PdfOptions::Symbols::alone;
+    ASSERT_TRUE(book.makePdf(options));
+    EXPECT_EQ(book.ask("pdfimages", {"-list", "{pdf}"}).find(" 1200 "), std::string::npos);
+    EXPECT_EQ(numbersOn(1), (std::vector<int>{900, 1001, 1002}));
+    book.project.pictures[0].dpi = 300;  // a proof's
+    ASSERT_TRUE(book.makePdf(options));
+    EXPECT_NE(book.ask("pdfimages", {"-list", "{pdf}"}).find(" 1200 "), std::string::npos);
+}
+
+TEST_F(Symbols, DotsThatWouldTouchEachOtherAreRefused)
+{
+    PdfOptions options;
+    options.symbols = PdfOptions::Symbols::alone;
+    options.printer.dotSize = 4;
+    EXPECT_FALSE(book.makePdf(options));
+    EXPECT_EQ(book.messages,
+              "Creating PDF...\nError: Symbols: at 1200 DPI a dot has at most 3 pixels, not 4\n");
+    options.dots = PdfOptions::Dots::none;
+    EXPECT_TRUE(book.makePdf(options));
+}
+
+TEST_F(Symbols, FewDpiAreWarnedOf)
+{
+    ASSERT_TRUE(makeAlone(300));
+    EXPECT_EQ(book.messages, "Creating PDF...\nWarning: Symbols: 300 DPI are too few for the dots\n"
+                             "Note: REPLAY and STOP get their codes with the first build\n");
+}
