@@ -1,3 +1,4 @@
+#include <QImage>
 #include <gtest/gtest.h>
 
 #include "tests/cli/RunCli.h"
@@ -47,8 +48,25 @@ TEST_F(TestPage, TheBestFieldBecomesAProfileThatThePdfTakes)
     writeFile(folder.file("book.oidpro"), "PRODUCT 17 Zoo\nPAPER 20 10\nDPI 600\nIMAGE\n");
     EXPECT_EQ(resultOf(run({"pdf", "book.oidpro", "--profile", "home"})),
               usageError("there is no profile 'home' of a printer; there are: office"));
-    EXPECT_EQ(resultOf(run({"symbols", "book.oidpro", "--profile", "office"})).substr(0, 9),
-              "status 1\n");  // its page has no picture
+    QImage black(200, 100, QImage::Format_RGB32);
+    black.fill(Qt::black);
+    ASSERT_TRUE(black.save(QString::fromStdString(folder.file("17-bkgnd0.jpg")), "JPEG"));
+    ASSERT_TRUE(black.save(QString::fromStdString(folder.file("17-bkgnd1.jpg")), "JPEG"));
+    EXPECT_EQ(resultOf(run({"pdf", "book.oidpro", "--profile", "office", "--no-symbols"})),
+              "status 0\nCreating PDF...\n");
+    const std::string images =
+        runProgram("/usr/bin/pdfimages", {"-list", folder.file("17-Zoo.pdf")}).out;
+    EXPECT_NE(images.find("cmyk    4   8  image"), std::string::npos) << images;
+    EXPECT_NE(images.find(" 1200 "), std::string::npos) << images;
+    EXPECT_EQ(images.find(" 600 "), std::string::npos) << images;
+}
+
+TEST_F(TestPage, AProfileThatCannotBeKeptIsTold)
+{
+    writeFile(settings.file("Plinkett"), "a file where a folder should be");
+    EXPECT_EQ(resultOf(run({"test-page", "--field", "D3", "--profile", "office"})),
+              "status 1\nError: Can't write file '" + settings.file("Plinkett/Plinkett.conf") +
+                  "'\n");
 }
 
 TEST_F(TestPage, WrongValuesAreUsageErrors)
@@ -67,6 +85,10 @@ TEST_F(TestPage, WrongValuesAreUsageErrors)
               usageError("the test page has no field 'Z9'"));
     EXPECT_EQ(resultOf(run({"test-page", "--field", "B3"})),
               usageError("--field and --profile belong together"));
+    for (const char* name : {"", "  "}) {
+        EXPECT_EQ(resultOf(run({"test-page", "--field", "B3", "--profile", name})),
+                  usageError("a profile must have a name"));
+    }
     EXPECT_EQ(resultOf(run({"test-page", "more"})), usageError("unexpected argument 'more'"));
     EXPECT_EQ(folder.listing(), "");
 }

@@ -1,9 +1,11 @@
+#include <QDir>
 #include <QSettings>
 
 #include <algorithm>
 #include <sstream>
 
 #include "app/cli/Commands.h"
+#include "oid/PrintImage.h"
 #include "pdf/PrinterProfiles.h"
 #include "pdf/TestPage.h"
 #include "publish/PrinterTest.h"
@@ -35,10 +37,19 @@ int keepProfile(const Arguments& arguments, const std::vector<int>& resolutions)
     if (!printer) {
         return usageError("the test page has no field '" + field + "'");
     }
+    const std::string& name = arguments.value("--profile");
+    if (name.find_first_not_of(" \t\r\n") == std::string::npos) {
+        return usageError("a profile must have a name");
+    }
     QSettings settings("Plinkett", "Plinkett");
-    PrinterProfiles(settings).keep(arguments.value("--profile"), *printer);
+    PrinterProfiles(settings).keep(name, *printer);
     settings.sync();
-    return settings.status() == QSettings::NoError ? kFine : kFailed;
+    if (settings.status() != QSettings::NoError) {
+        mi_printf("Error: Can't write file '%s'\n",
+                  QDir::toNativeSeparators(settings.fileName()).toUtf8().constData());
+        return kFailed;
+    }
+    return kFine;
 }
 
 int testPage(const Arguments& arguments)
