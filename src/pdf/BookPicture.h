@@ -40,7 +40,6 @@ private:
 
     std::string file;
     QSize uprightSize;
-    QSize storedSize;
     QImageIOHandler::Transformations transformation;
     int components = 0;  // of a JPEG that a PDF can carry; else 0
     bool plainRgb = false;
