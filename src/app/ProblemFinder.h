@@ -59,7 +59,7 @@ public:
     // Something has changed. Costs next to nothing, so that it can be said with each key.
     void lookSoon();
     // What was found last is about what is there now.
-    bool isUpToDate() const { return upToDate; }
+    bool isUpToDate() const { return upToDate && !search.valid(); }
 
 signals:
     void found(const Problems& problems);
@@ -82,7 +82,7 @@ private:
     Source source;
     QTimer pause;
     ScriptNames known;
-    bool upToDate = false;
+    bool upToDate = false;              // nothing has changed since the search began
     bool isWaited = false;              // for the end of a search that nobody wants any more
     std::optional<std::uint64_t> seen;  // the revision that the book has
     std::atomic<bool> isCancelled{false};

@@ -15,6 +15,8 @@
 #include <QToolTip>
 #include <QTreeView>
 
+#include <memory>
+
 // The other thread gets its turn late on a busy machine.
 #define TRY_COMPARE(actual, expected) QTRY_COMPARE_WITH_TIMEOUT(actual, expected, 30000)
 #define TRY_VERIFY(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, 30000)
@@ -385,6 +387,25 @@ private slots:
         TRY_VERIFY(w.rows().startsWith("Hint|5|"));
         w.click(0, ProblemList::fix);
         QVERIFY(w.script().contains("say eve A\r\nsay eve B"));
+    }
+
+    void asLongAsTheyAreLookedForWhatWasFoundBeforeIsOld()
+    {
+        std::unique_ptr<ProblemFinder> finder;
+        bool wasUpToDate = true;
+        const auto script = [&] {  // asked for when the search begins, whose end comes later
+            const auto look = [&] { wasUpToDate = finder->isUpToDate(); };
+            QMetaObject::invokeMethod(finder.get(), look, Qt::QueuedConnection);
+            return QString("foo\n");
+        };
+        finder = std::make_unique<ProblemFinder>(ProblemFinder::Source{
+            [] { return std::uint64_t{1}; }, [] { return Oid::OidProject(); }, script});
+        bool isFound = false;
+        connect(finder.get(), &ProblemFinder::found, this, [&] { isFound = true; });
+        finder->lookSoon();
+        TRY_VERIFY(isFound);
+        QVERIFY(!wasUpToDate);
+        QVERIFY(finder->isUpToDate());
     }
 
     void buildingLeavesTheSameListAndTheConsoleItsWords()
