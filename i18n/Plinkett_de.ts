@@ -1980,8 +1980,8 @@
         <translation>Stellen im Skript: %1</translation>
     </message>
     <message>
-        <source>Areas: %1, on the pages %2</source>
-        <translation>Bereiche: %1, auf den Seiten %2</translation>
+        <source>Areas: %1 (pages: %2)</source>
+        <translation>Bereiche: %1 (Seiten: %2)</translation>
     </message>
     <message>
         <source>The script has a sub of this name already, and can have only one. Choose another name.</source>

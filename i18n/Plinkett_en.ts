@@ -1980,8 +1980,8 @@
         <translation>Places in the script: %1</translation>
     </message>
     <message>
-        <source>Areas: %1, on the pages %2</source>
-        <translation>Areas: %1, on the pages %2</translation>
+        <source>Areas: %1 (pages: %2)</source>
+        <translation>Areas: %1 (pages: %2)</translation>
     </message>
     <message>
         <source>The script has a sub of this name already, and can have only one. Choose another name.</source>

@@ -1980,8 +1980,8 @@
         <translation>Endroits dans le script : %1</translation>
     </message>
     <message>
-        <source>Areas: %1, on the pages %2</source>
-        <translation>Zones : %1, sur les pages %2</translation>
+        <source>Areas: %1 (pages: %2)</source>
+        <translation>Zones : %1 (pages : %2)</translation>
     </message>
     <message>
         <source>The script has a sub of this name already, and can have only one. Choose another name.</source>

@@ -1980,8 +1980,8 @@
         <translation>Plaatsen in het script: %1</translation>
     </message>
     <message>
-        <source>Areas: %1, on the pages %2</source>
-        <translation>Gebieden: %1, op de pagina&apos;s %2</translation>
+        <source>Areas: %1 (pages: %2)</source>
+        <translation>Gebieden: %1 (paginaGebieden: %1, op de pagina&apos;s %2apos;s: %2)</translation>
     </message>
     <message>
         <source>The script has a sub of this name already, and can have only one. Choose another name.</source>

@@ -74,7 +74,7 @@ void RenameEverywhere::give(const QString& before, const QString& name)
     }
 }
 
-// "Areas: 3, on pages 1, 2" and "Places in the script: 2".
+// "Areas: 3 (pages: 1, 2)" and "Places in the script: 2".
 QString RenameEverywhere::placesOf(const std::string& name) const
 {
     const std::vector<AreaId> areas = renames.areasOf(name);
@@ -90,7 +90,7 @@ QString RenameEverywhere::placesOf(const std::string& name) const
     if (areas.empty()) {
         return places;
     }
-    return tr("Areas: %1, on the pages %2").arg(areas.size()).arg(numbers.join(", ")) + '\n' +
+    return tr("Areas: %1 (pages: %2)").arg(areas.size()).arg(numbers.join(", ")) + '\n' +
            places;
 }
 

@@ -185,7 +185,7 @@ private slots:
             QTest::keyClick(&dialog, Qt::Key_Escape);
         });
         w.press(Qt::Key_F2);
-        QCOMPARE(places, "Areas: 2, on the pages 1, 2\nPlaces in the script: 2");
+        QCOMPARE(places, "Areas: 2 (pages: 1, 2)\nPlaces in the script: 2");
         QCOMPARE(w.saved(), w.before);
     }
 
@@ -354,14 +354,14 @@ private slots:
     void areasOfTheNewNameAreJoinedWhenTheAuthorSaysSo()
     {
         Book w("sub cow\r\nend sub\r\n");
-        QCOMPARE(w.notesOn("pig"), "This name is taken already.\nAreas: 1, on the pages 1\n"
+        QCOMPARE(w.notesOn("pig"), "This name is taken already.\nAreas: 1 (pages: 1)\n"
                                    "Places in the script: 0");
         w.typeInDialog("pig");
         w.dialogs.press("No");
         w.press(Qt::Key_F2);
         QCOMPARE(w.dialogs.seen().last(),
                  "Rename everywhere: The name \"pig\" is taken already. The areas would share one "
-                 "number and one sub. Rename?\nAreas: 1, on the pages 1\nPlaces in the script: 0");
+                 "number and one sub. Rename?\nAreas: 1 (pages: 1)\nPlaces in the script: 0");
         QCOMPARE(w.saved(), w.before);
     }
 
