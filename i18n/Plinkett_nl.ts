@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>Areas: %1 (pages: %2)</source>
-        <translation>Gebieden: %1 (paginaGebieden: %1, op de pagina&apos;s %2apos;s: %2)</translation>
+        <translation>Gebieden: %1 (pagina&apos;s: %2)</translation>
     </message>
     <message>
         <source>The script has a sub of this name already, and can have only one. Choose another name.</source>
