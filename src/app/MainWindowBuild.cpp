@@ -6,6 +6,7 @@
 #include "app/Recovery.h"
 #include "app/WorkProgress.h"
 #include "base/FileSystem.h"
+#include "base/PlatformFiles.h"
 #include "document/StartSymbol.h"
 #include "oid/PictureFile.h"
 #include "oid/PrintImage.h"
@@ -122,8 +123,9 @@ void MainWindow::preparePrinting()
 QImage MainWindow::currentPicture() const
 {
     const std::string path = project.pathImageSource(document.currentPage());
-    return ui->polyArea->loadedPath == path ? ui->polyArea->loadedImage()
-                                            : PictureFile(QString::fromStdString(path)).read();
+    return ui->polyArea->loadedPath == path
+               ? ui->polyArea->loadedImage()
+               : PictureFile(QString::fromStdString(Platform::nativePath(path))).read();
 }
 
 std::optional<Oid::PNT> MainWindow::middleOfSelectedArea() const

@@ -1,5 +1,6 @@
 // The button "PDF": its dialog, its menu, what it makes, and the area that starts a book.
 #include "app/Translations.h"
+#include "page/PolyEditorWidget.h"
 #include "tests/app/ProgressCancel.h"
 #include "tests/app/WindowFixture.h"
 
@@ -317,6 +318,20 @@ private slots:
             QCOMPARE(dots(preview(dialog)), 0);
             setNumber(dialog, "printerLighten", 100);
             QCOMPARE(preview(dialog).pixel(5, 5), qRgb(255, 255, 255));
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+    }
+
+    void thePreviewShowsThePictureOfAPageThatWasNotSeenYet()
+    {
+        Printing printing;
+        QCOMPARE(printing.w.get<PolyEditorWidget>("polyArea")->loadedPath, std::string());
+        printing.inDialog([&](QWidget& dialog) {
+            choose(dialog, "pdfDots", "none: a proof");
+            const QColor shown = preview(dialog).pixelColor(200, 200);
+            QVERIFY2(
+                qAbs(shown.red() - 200) + qAbs(shown.green() - 220) + qAbs(shown.blue() - 180) < 10,
+                qPrintable(shown.name()));
             QTest::keyClick(&dialog, Qt::Key_Escape);
         });
     }
