@@ -29,6 +29,16 @@ int baseline_for(const QFont& font, int height)
     return std::min(qRound(metrics.ascent()), height - qCeil(lowest));
 }
 
+// How much lower a character stands whose upper end, as the dots of an Ä, would lie above the line:
+// as far as there is room below it.
+int shift_down(const QFont& font, const QString& text, int baseline, int height)
+{
+    const QRectF ink = QFontMetricsF(font).tightBoundingRect(text);
+    const int above = -(baseline + qFloor(ink.top()));
+    const int below = height - (baseline + qCeil(ink.bottom()));
+    return std::max(std::min(above, below), 0);
+}
+
 QRect covered_part(const QImage& coverage)
 {
     QRect part;
@@ -106,7 +116,8 @@ GlyphCache::Stencil GlyphCache::make_stencil(const QString& text, int shift) con
     QPainter painter(&drawn);
     painter.setFont(font);
     painter.setPen(Qt::white);
-    painter.drawText(QPoint(shift, baseline), text);
+    const int lower = shift_down(font, text, baseline, cell_size.height());
+    painter.drawText(QPoint(shift, baseline + lower), text);
     painter.end();
     const QImage coverage = drawn.convertToFormat(QImage::Format_Alpha8);
     return {coverage, covered_part(coverage)};

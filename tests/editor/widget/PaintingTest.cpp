@@ -386,6 +386,29 @@ private slots:
         }
     }
 
+    // Ä and A are different letters: the dots are there, and stand off from what is below them.
+    void capitalLettersHaveTheirDots()
+    {
+        EditorWindow window(QString::fromUtf8("ÄÖÜ"));
+        window.key(Qt::Key_Down);
+        window.key(Qt::Key_End);
+        const QImage picture = window.picture();
+        for (int column = 0; column < 3; ++column) {
+            const QRect cell = window.cell(0, column);
+            int parts = 0;
+            bool wasInk = false;
+            for (int y = cell.top(); y <= cell.bottom(); ++y) {
+                bool isInk = false;
+                for (int x = cell.left(); x <= cell.right(); ++x) {
+                    isInk = isInk || qGray(picture.pixel(x, y)) < 128;
+                }
+                parts += isInk && !wasInk ? 1 : 0;
+                wasInk = isInk;
+            }
+            QCOMPARE(parts, 2);
+        }
+    }
+
     void cellsAreAsWideAsTheWidestCharacter()
     {
         EditorWindow window;
