@@ -44,16 +44,6 @@ std::optional<uint64_t> wholeNumber(const std::string& text, uint64_t largest)
                                                                       : std::nullopt;
 }
 
-// A number such as "2.5".
-std::optional<double> amountIn(const std::string& text)
-{
-    constexpr size_t kMostCharacters = 9;
-    const bool isNumber = !text.empty() && text.size() <= kMostCharacters && text[0] != '.' &&
-                          text.find_first_not_of("0123456789.") == std::string::npos &&
-                          std::count(text.begin(), text.end(), '.') <= 1;
-    return isNumber ? std::make_optional(toDouble(text.c_str())) : std::nullopt;
-}
-
 class TestReader
 {
 public:
@@ -336,6 +326,15 @@ std::string written(const std::string& text)
 }
 
 }  // namespace
+
+std::optional<double> amountIn(const std::string& text)
+{
+    constexpr size_t kMostCharacters = 9;
+    const bool isNumber = !text.empty() && text.size() <= kMostCharacters && text[0] != '.' &&
+                          text.find_first_not_of("0123456789.") == std::string::npos &&
+                          std::count(text.begin(), text.end(), '.') <= 1;
+    return isNumber ? std::make_optional(toDouble(text.c_str())) : std::nullopt;
+}
 
 std::optional<BookTest> readBookTest(const std::string& text, const Book& book,
                                      std::vector<TestMessage>& mistakes)

@@ -53,6 +53,9 @@ struct BookTest
     std::vector<TestCommand> commands;
 };
 
+// A number such as "20" or "2.5", of at most nine characters.
+std::optional<double> amountIn(const std::string& text);
+
 // Reads the text of a test file. Names are those of the book. None when there are mistakes; all of
 // them are told, in the order of the lines.
 std::optional<BookTest> readBookTest(const std::string& text, const Book& book,

@@ -150,12 +150,14 @@ TEST(Play, TakesAnAreaWithTheNameOfACommandBehindTap)
 
 TEST(Play, NamesWhatItDoesNotKnowAndGoesOn)
 {
-    EXPECT_EQ(playedBook("cwo\nwait long\ntap dog2\n70000\nwait 1\n"),
+    EXPECT_EQ(playedBook("cwo\nwait long\ntap dog2\n70000\nwait 1.2.3\nwait .\nwait 1\n"),
               "status 1\nwait 1\n  until rest: 0 steps, 1.00 s\n"
               "stderr: Error: line 1: there is no area 'cwo'\n"
               "Error: line 2: 'long' is no number of seconds\n"
               "Error: line 3: there is no area 'dog2'\n"
-              "Error: line 4: there is no area '70000'\n");
+              "Error: line 4: there is no area '70000'\n"
+              "Error: line 5: '1.2.3' is no number of seconds\n"
+              "Error: line 6: '.' is no number of seconds\n");
 }
 
 TEST(Play, AnswersInJsonOneObjectALine)

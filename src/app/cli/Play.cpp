@@ -4,8 +4,7 @@
 #include "app/cli/Commands.h"
 #include "app/cli/OutcomeAsText.h"
 #include "app/cli/PlayableBook.h"
-#include "base/TextHelpers.h"
-#include "play/PlayedBook.h"
+#include "play/BookTest.h"
 
 namespace {
 
@@ -62,12 +61,11 @@ std::string Reader::act(const std::string& line)
 
 std::string Reader::wait(const std::string& seconds)
 {
-    const bool isNumber = !seconds.empty() && seconds.size() < 10 &&
-                          seconds.find_first_not_of("0123456789.") == std::string::npos;
-    if (!isNumber) {
+    const std::optional<double> amount = play::amountIn(seconds);
+    if (!amount) {
         return "'" + seconds + "' is no number of seconds";
     }
-    played.wait(toDouble(seconds.c_str()));
+    played.wait(*amount);
     return {};
 }
 
