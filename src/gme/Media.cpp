@@ -13,6 +13,7 @@ namespace {
 
 constexpr size_t kMostFiles = 65536;
 constexpr unsigned char kKey = 0xAD;
+constexpr size_t kMadeByBuild = 2;  // of the candidates: the Ogg file
 
 std::optional<MediaFile> fileAt(const std::string& path)
 {
@@ -118,21 +119,31 @@ MediaFile Media::findFile(const std::string& name, const std::string& user,
     const std::vector<std::string> candidates = mediaPath.candidates(name);
     std::vector<std::string> existing;
     MediaFile file;
+    std::string taken;
     for (const std::string& candidate : candidates) {
-        if (const std::optional<MediaFile> there = lookup.find(candidate)) {
-            existing.push_back(candidate);
+        const std::optional<MediaFile> there = lookup.find(candidate);
+        if (!there) {
+            continue;
+        }
+        existing.push_back(candidate);
+        if (taken.empty() || candidate == candidates[kMadeByBuild]) {
             file = *there;
+            taken = candidate;
         }
     }
-    if (existing.empty() && !lookup.mayBeMissing) {
+    if (existing.empty() && !lookup.isLenient) {
         messages.error({}, "audio-missing",
                        "no audio file for " + name + " of " + user + ": there is none of " +
                            listOf(candidates),
                        name);
     } else if (existing.size() > 1) {
-        messages.error(
-            {}, "audio-ambiguous",
-            "more than one audio file for " + name + " of " + user + ": " + listOf(existing), name);
+        const std::string several =
+            "more than one audio file for " + name + " of " + user + ": " + listOf(existing);
+        if (lookup.isLenient) {
+            messages.warning({}, "audio-ambiguous", several + "; taken is " + taken, name);
+        } else {
+            messages.error({}, "audio-ambiguous", several, name);
+        }
     }
     return file;
 }

@@ -37,7 +37,9 @@ struct MediaLookup
 {
     // The file at a place such as "950-audio/say_adam_Roar.ogg", if there is one.
     std::function<std::optional<MediaFile>(const std::string& place)> find;
-    bool mayBeMissing = false;  // then a name without a file is no error
+    // For a game that is only tried: a name without a file is no error, and of several files the
+    // one that a build makes is taken, with a warning.
+    bool isLenient = false;
 };
 
 // Finds files on the disk; relative places start from the folder.

@@ -185,7 +185,7 @@ std::optional<Book> bookOf(const Oid::OidProject& project, const DiagnosticSink&
     if (!project.projectPath.empty()) {
         audio = gme::mediaIn(FileSystem::getDirectoryOfPath(project.projectPath));
     }
-    audio.mayBeMissing = true;
+    audio.isLenient = true;
     const std::optional<gme::Game> game = gme::compileGame(described->game, audio, sink);
     return game ? std::make_optional(BookMaker(*described, *game, project.compiler.source).make())
                 : std::nullopt;

@@ -110,7 +110,7 @@ TEST(CompiledGame, CanDoWithTheAudioThatIsThere)
 {
     const GameFolder folder;
     gme::MediaLookup media = gme::mediaIn(folder.file(""));
-    media.mayBeMissing = true;
+    media.isLenient = true;
 
     const std::optional<gme::Game> game =
         gme::compileGame(describedGame(), media, [](const Diagnostic&) { FAIL(); });

@@ -91,6 +91,26 @@ TEST(Book, FindsAudioBesideTheProject)
     EXPECT_EQ(book->texts.at(2).audioFile, "");
 }
 
+// A build makes Ogg files by way of WAV files, and may be stopped in between.
+TEST(Book, TakesTheFileOfTheBuildWhereATextHasSeveralAndSaysSo)
+{
+    const TemporaryFolder folder;
+    Oid::OidProject project = projectWith(kCow, {"cow"});
+    project.projectPath = folder.file("zoo.oidpro");
+    std::filesystem::create_directory(folder.file("900-audio"));
+    for (const char* ending : {".wav", ".ogg", ".mp3"}) {
+        writeFile(folder.file("900-audio/say_max_Muh") + ending, "OggS");
+    }
+    std::string told;
+    const std::optional<play::Book> book =
+        play::bookOf(project, [&told](const Diagnostic& finding) { told += consoleLine(finding); });
+    ASSERT_TRUE(book);
+    EXPECT_EQ(book->texts.at(1).audioFile, folder.file("900-audio/say_max_Muh.ogg"));
+    EXPECT_EQ(told, "Warning: more than one audio file for say_max_Muh of script asm8: "
+                    "900-audio/say_max_Muh.wav, 900-audio/say_max_Muh.ogg and "
+                    "900-audio/say_max_Muh.mp3; taken is 900-audio/say_max_Muh.ogg\n");
+}
+
 TEST(Book, GivesATextWithoutAudioTheTimeThatSpeakingTakes)
 {
     play::Book book = bookWith("sub cow\nsay \"fifteen letters\"\nend sub\n", {"cow"});
