@@ -3,6 +3,7 @@
 
 #include "app/FileDialogs.h"
 #include "base/PlatformFiles.h"
+#include "publish/GameFile.h"
 #include "tryout/TryTab.h"
 #include "ui_MainWindow.h"
 
@@ -12,8 +13,12 @@
 
 void MainWindow::prepareTrying()
 {
+    // Audio files come and go without a change of the project.
     const auto revision = [this] {
-        return workFingerprint() ^ (std::hash<std::string>()(project.projectPath) << 1);
+        const auto audio =
+            static_cast<std::uint64_t>(timeOfChange(audioFolder(project)).toMSecsSinceEpoch());
+        return workFingerprint() ^ (std::hash<std::string>()(project.projectPath) << 1) ^
+               (audio << 2);
     };
     const auto current = [this] {
         Oid::OidProject copy = projectToSave();

@@ -525,6 +525,18 @@ private slots:
         QCOMPARE(w.log(), "");
     }
 
+    void anAudioFileThatComesLaterIsHeardAtTheNextTap()
+    {
+        TryFixture w(farm("sub cow\r\n  say \"Moo\"\r\nend sub\r\n"));
+        w.letSpeak("exit 1");
+        w.tapCow();
+        QTRY_VERIFY(w.isAtRest());
+        const std::vector<int16_t> moo = tone(2, 44100, 600, 0.2);
+        QDir(w.path("")).mkdir("900-audio");
+        writeFile(w.folder.file("900-audio/say_adam_Moo.wav"), wavFile(2, 44100, moo));
+        QVERIFY(areHeard(w, moo));
+    }
+
     void withoutASpeechProgramTextsAreShownAndThatIsToldOnce()
     {
         TryFixture w;
