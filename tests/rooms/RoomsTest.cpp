@@ -122,7 +122,7 @@ TEST(Rooms, WithoutQtAreThoseThatAreToHaveNone)
     for (const Room& room : ourRooms()) {
         without += linksQt(room) ? "" : room.name + " ";
     }
-    EXPECT_EQ(without, "editor_core ttbasic gme pen ");
+    EXPECT_EQ(without, "editor_core ttbasic gme quick pen ");
 }
 
 TEST(Rooms, AnIncludeOfARoomThatIsNotLinkedIsFound)

@@ -1,0 +1,107 @@
+// The stack machine puts every number and every variable into a register of its own before it uses
+// it: "stk1 := a, stk2 := 1, stk1 += stk2, a := stk1" is nothing but "a += 1".
+#include "quick/LinePasses.h"
+
+#include <algorithm>
+
+namespace quick {
+
+namespace {
+
+constexpr uint16_t kSmall = 0x4000;  // a summand up to this size is written as one
+
+class ValueCarrier
+{
+public:
+    ValueCarrier(Values start, const std::set<Register>& scratch)
+        : values(std::move(start)), temporaries(scratch)
+    {}
+
+    void carry(Commands& commands);
+
+private:
+    Operand simplest(const Operand& operand) const;
+    std::optional<Command> simplified(Command command) const;
+    std::optional<Command> simplifiedAssignment(const Command& command) const;
+
+    Values values;
+    const std::set<Register>& temporaries;
+};
+
+void ValueCarrier::carry(Commands& commands)
+{
+    Commands result;
+    for (const Command& command : commands) {
+        const std::optional<Command> simple = simplified(command);
+        if (simple) {
+            values.apply(*simple);
+            result.push_back(*simple);
+        }
+    }
+    commands = std::move(result);
+}
+
+// A number, else a register that is no temporary and holds the same.
+Operand ValueCarrier::simplest(const Operand& operand) const
+{
+    const Value value = values.of(operand);
+    if (value.isNumber()) {
+        return {false, static_cast<uint16_t>(value.number)};
+    }
+    if (temporaries.count(operand.value) == 0) {
+        return operand;
+    }
+    if (value.kind == Value::Kind::sum && temporaries.count(value.base) == 0 &&
+        values.of(value.base) == value) {
+        return {true, value.base};
+    }
+    for (const auto& [reg, known] : values.known()) {
+        if (known == value && temporaries.count(reg) == 0) {
+            return {true, reg};
+        }
+    }
+    return operand;
+}
+
+// None when the register holds the result already.
+std::optional<Command> ValueCarrier::simplified(Command command) const
+{
+    command.value = simplest(command.value);
+    if (command.mayFail()) {
+        return command;
+    }
+    Values behind = values;
+    behind.apply(command);
+    const Value result = behind.of(command.target);
+    if (result == values.of(command.target)) {
+        return std::nullopt;
+    }
+    if (result.isNumber()) {
+        return Command{
+            command.target, Arithmetic::kAssign, {false, static_cast<uint16_t>(result.number)}};
+    }
+    return command.opcode == Arithmetic::kAssign ? simplifiedAssignment(command) : command;
+}
+
+// "a := t" where t holds a and a small number more becomes an addition.
+std::optional<Command> ValueCarrier::simplifiedAssignment(const Command& command) const
+{
+    const Value before = values.of(command.target);
+    const Value now = values.of(command.value);
+    if (before.kind != Value::Kind::sum || now.kind != Value::Kind::sum ||
+        before.base != now.base) {
+        return command;
+    }
+    const auto more = static_cast<uint16_t>(now.number - before.number);
+    const bool isSmall = more <= kSmall || more >= 0x10000 - kSmall;
+    return isSmall ? addition(command.target, more) : command;
+}
+
+}  // namespace
+
+void carryValues(Commands& commands, Values start, const std::set<Register>& temporaries)
+{
+    ValueCarrier(std::move(start), temporaries).carry(commands);
+}
+
+}  // namespace quick

@@ -1,0 +1,372 @@
+// The compiler makes a script of each step, joined by jumps, and a pen takes its time for each.
+// What a chain of steps does is known as soon as its branches are chosen, so one line can do it
+// all. A branch is chosen by the conditions of a line where they ask for what registers hold on
+// entry.
+#include "quick/GraphPasses.h"
+#include "quick/LinePasses.h"
+#include "quick/Liveness.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quick {
+
+namespace {
+
+constexpr size_t kMostLines = 32;    // of a script, about
+constexpr size_t kMostSteps = 256;   // that become one line
+constexpr size_t kMostVariants = 4;  // scripts made of one step
+
+// A step, and what numbers temporaries hold when it begins.
+struct Place
+{
+    size_t step = 0;
+    std::map<Register, uint16_t> numbers;
+
+    bool operator<(const Place& other) const
+    {
+        return step != other.step ? step < other.step : numbers < other.numbers;
+    }
+};
+
+// The line of a step that is carried out, or the condition on which that depends.
+struct Choice
+{
+    const Line* line = nullptr;  // null: none fits
+    const Condition* open = nullptr;
+};
+
+Choice chooseLine(const Node& step, const Values& values)
+{
+    for (const Line& line : step.lines) {
+        bool holdsAll = true;
+        for (const Condition& condition : line.conditions) {
+            const std::optional<bool> holds = values.holds(condition);
+            if (!holds) {
+                return {nullptr, &condition};
+            }
+            if (!*holds) {
+                holdsAll = false;
+                break;
+            }
+        }
+        if (holdsAll) {
+            return {&line, nullptr};
+        }
+    }
+    return {};
+}
+
+// Whether a division of the line may be by zero.
+bool mayFail(const Line& line, Values values)
+{
+    for (Command command : line.commands) {
+        const Value value = values.of(command.value);
+        if (value.isNumber()) {
+            command.value = {false, static_cast<uint16_t>(value.number)};
+        }
+        if (command.mayFail()) {
+            return true;
+        }
+        values.apply(command);
+    }
+    return false;
+}
+
+// One way through the steps, from the beginning of a script on.
+struct Path
+{
+    size_t step = 0;  // that comes next
+    std::vector<Condition> conditions;
+    Commands commands;
+    Values start;  // what the conditions tell of the registers
+    Values now;    // with what the commands have made of them
+    std::set<size_t> passed;
+    bool hasJumped = false;
+};
+
+class StepFollower
+{
+public:
+    StepFollower(const Graph& source, const Passes& usedPasses)
+        : plain(source),
+          passes(usedPasses),
+          live(liveAtBeginning(source)),
+          variants(source.nodes.size())
+    {}
+
+    Graph follow();
+
+private:
+    size_t nodeFor(const Place& place);
+    size_t restNode();
+    void makeNode(size_t node, const Place& place);
+    void go(Path path);
+    bool mustStop(const Path& path) const;
+    bool mayBranch(const Path& path) const;
+    void branch(Path& path, const Condition& condition);
+    bool take(Path& path, const Line& line);
+    void end(const Path& path, std::optional<size_t> next, const std::optional<Sound>& sound);
+    Place placeOf(const Path& path, size_t step) const;
+    bool fits(const Path& path, const Line& line) const;
+    Live liveBehind(const std::optional<size_t>& step) const;
+    Commands simplified(Commands commands, const Values& start, const Live& behind) const;
+    void addLine(Line line);
+
+    const Graph& plain;
+    const Passes passes;
+    const std::vector<std::set<Register>> live;  // at each step
+    Graph made;
+    std::map<Place, size_t> nodes;
+    std::vector<size_t> variants;  // of each step
+    std::vector<std::pair<size_t, Place>> waiting;
+    std::optional<size_t> rest;
+    size_t current = 0;   // the node that is being made
+    size_t branches = 0;  // that are still to be followed
+};
+
+Graph StepFollower::follow()
+{
+    made = plain;
+    made.nodes.clear();
+    made.byCode.clear();
+    for (size_t i = 0; i < plain.nodes.size(); ++i) {
+        if (plain.nodes[i].isEntry) {
+            nodeFor({i, {}});
+        }
+    }
+    while (!waiting.empty()) {
+        const auto [node, place] = waiting.back();
+        waiting.pop_back();
+        makeNode(node, place);
+    }
+    return std::move(made);
+}
+
+size_t StepFollower::nodeFor(const Place& place)
+{
+    const auto [entry, isNew] = nodes.emplace(place, made.nodes.size());
+    if (isNew) {
+        const Node& node = plain.nodes[place.step];
+        const bool staysReachable = node.isKept || (node.isEntry && place.numbers.empty());
+        made.nodes.push_back(
+            {staysReachable ? node.code : uint16_t{0}, staysReachable, node.isKept, {}});
+        ++variants[place.step];
+        if (!node.isKept) {
+            waiting.emplace_back(entry->second, place);
+        }
+    }
+    return entry->second;
+}
+
+// A script that does nothing: to jump there ends a sound, and what was to come behind it, as the
+// jumps of the steps did.
+size_t StepFollower::restNode()
+{
+    if (!rest) {
+        rest = made.nodes.size();
+        made.nodes.push_back({0, false, false, {Line()}});
+    }
+    return *rest;
+}
+
+void StepFollower::makeNode(size_t node, const Place& place)
+{
+    current = node;
+    branches = 0;
+    Path path;
+    path.step = place.step;
+    for (const Register reg : plain.constants) {
+        path.start.setNumber(reg, plain.firstValues[reg]);
+    }
+    path.now = path.start;
+    for (const auto& [reg, number] : place.numbers) {
+        path.commands.push_back({reg, Arithmetic::kAssign, {false, number}});
+        path.now.setNumber(reg, number);
+    }
+    go(std::move(path));
+}
+
+void StepFollower::go(Path path)
+{
+    while (!mustStop(path)) {
+        const Choice choice = chooseLine(plain.nodes[path.step], path.now);
+        if (choice.open != nullptr) {
+            const std::optional<Condition> condition = path.now.onEntry(*choice.open);
+            if (!condition || !mayBranch(path)) {
+                break;
+            }
+            branch(path, *condition);
+        } else if (choice.line == nullptr) {
+            end(path, std::nullopt, std::nullopt);
+            return;
+        } else {
+            if (!fits(path, *choice.line)) {
+                break;
+            }
+            if (!take(path, *choice.line)) {
+                return;
+            }
+        }
+    }
+    end(path, path.step, std::nullopt);
+}
+
+bool StepFollower::mustStop(const Path& path) const
+{
+    return plain.nodes[path.step].isKept || path.passed.count(path.step) != 0 ||
+           path.passed.size() >= kMostSteps || (!passes.followsJumps && !path.passed.empty());
+}
+
+// The first step of a script asks whatever it likes.
+bool StepFollower::mayBranch(const Path& path) const
+{
+    return path.passed.empty() ||
+           (passes.testsOnEntry && made.nodes[current].lines.size() + branches < kMostLines);
+}
+
+// The path on which the condition holds is followed first: its lines stand before those of the
+// other, which therefore need not say that it does not hold.
+void StepFollower::branch(Path& path, const Condition& condition)
+{
+    Path other = path;
+    other.conditions.push_back(condition);
+    other.start.learn(condition, true);
+    other.now.learn(condition, true);
+    ++branches;
+    go(std::move(other));
+    --branches;
+    path.start.learn(condition, false);
+    path.now.learn(condition, false);
+}
+
+// Whether the line can be carried out together with what is on the path already.
+bool StepFollower::fits(const Path& path, const Line& line) const
+{
+    if (path.passed.empty()) {
+        return true;
+    }
+    Commands commands = path.commands;
+    commands.insert(commands.end(), line.commands.begin(), line.commands.end());
+    Values values = path.now;
+    for (const Command& command : line.commands) {
+        values.apply(command);
+    }
+    Live behind = liveBehind(line.jump);
+    for (auto reg = behind.alive.begin(); reg != behind.alive.end();) {
+        const bool needsNoCommand = passes.doublesScripts && values.of(*reg).isNumber();
+        reg = needsNoCommand ? behind.alive.erase(reg) : std::next(reg);
+    }
+    return simplified(commands, path.start, behind).size() + 1 + (line.sound ? 1 : 0) <=
+           kMostCommands;
+}
+
+// Carries the line out. False where the path ends with it.
+bool StepFollower::take(Path& path, const Line& line)
+{
+    const bool isLast = line.sound || mayFail(line, path.now) || !line.jump;
+    path.passed.insert(path.step);
+    path.hasJumped = path.hasJumped || line.jump;
+    path.commands.insert(path.commands.end(), line.commands.begin(), line.commands.end());
+    for (const Command& command : line.commands) {
+        path.now.apply(command);
+    }
+    if (isLast) {
+        end(path, line.jump, line.sound);
+        return false;
+    }
+    path.commands = simplified(std::move(path.commands), path.start, liveBehind(line.jump));
+    path.step = *line.jump;
+    return true;
+}
+
+// Writes down the line of the path: what is done, and which step comes next.
+void StepFollower::end(const Path& path, std::optional<size_t> next,
+                       const std::optional<Sound>& sound)
+{
+    Line line;
+    line.conditions = path.conditions;
+    line.sound = sound;
+    Live behind = liveBehind(next);
+    if (next) {
+        const Place place = placeOf(path, *next);
+        line.jump = nodeFor(place);
+        for (const auto& entry : place.numbers) {
+            behind.alive.erase(entry.first);
+        }
+    } else if (path.hasJumped && made.nodes[current].isEntry) {
+        line.jump = restNode();
+    }
+    line.commands = simplified(path.commands, path.start, behind);
+    addLine(std::move(line));
+}
+
+// Numbers that temporaries hold need no register where the next script is made for them. Too many
+// scripts for one step are none the better.
+Place StepFollower::placeOf(const Path& path, size_t step) const
+{
+    Place place{step, {}};
+    if (!passes.doublesScripts || plain.nodes[step].isKept) {
+        return place;
+    }
+    for (const Register reg : live[step]) {
+        const Value value = path.now.of(reg);
+        if (value.isNumber()) {
+            place.numbers[reg] = static_cast<uint16_t>(value.number);
+        }
+    }
+    const bool isThere = nodes.count(place) != 0;
+    return isThere || variants[step] < kMostVariants ? place : Place{step, {}};
+}
+
+Live StepFollower::liveBehind(const std::optional<size_t>& step) const
+{
+    return {plain.temporaries, step ? live[*step] : std::set<Register>()};
+}
+
+Commands StepFollower::simplified(Commands commands, const Values& start, const Live& behind) const
+{
+    if (passes.carriesValues) {
+        carryValues(commands, start, plain.temporaries);
+    }
+    if (passes.writesDirectly) {
+        writeDirectly(commands, behind);
+    }
+    if (passes.sumsAdditions) {
+        sumAdditions(commands);
+    }
+    if (passes.dropsDead) {
+        dropDead(commands, behind);
+    }
+    return commands;
+}
+
+// What is too much for one line goes on in scripts of its own.
+void StepFollower::addLine(Line line)
+{
+    size_t node = current;
+    for (;;) {
+        const size_t others = (line.jump ? 1 : 0) + (line.sound ? 1 : 0);
+        if (line.commands.size() + others <= kMostCommands) {
+            made.nodes[node].lines.push_back(std::move(line));
+            return;
+        }
+        const size_t more = made.nodes.size();
+        made.nodes.emplace_back();
+        const auto cut = line.commands.begin() + static_cast<std::ptrdiff_t>(kMostCommands - 1);
+        Line first{std::move(line.conditions), {line.commands.begin(), cut}, std::nullopt, more};
+        line.conditions.clear();
+        line.commands.erase(line.commands.begin(), cut);
+        made.nodes[node].lines.push_back(std::move(first));
+        node = more;
+    }
+}
+
+}  // namespace
+
+Graph followSteps(const Graph& plain, const Passes& passes)
+{
+    return StepFollower(plain, passes).follow();
+}
+
+}  // namespace quick

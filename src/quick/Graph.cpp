@@ -1,0 +1,397 @@
+#include "quick/Graph.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace quick {
+
+namespace {
+
+bool isArithmetic(const gme::Command& command)
+{
+    return command.hasTarget && command.opcode >= Arithmetic::kAdd &&
+           command.opcode <= Arithmetic::kAssign && command.opcode != gme::Opcode::kNegate;
+}
+
+bool isSound(const gme::Command& command)
+{
+    return (command.opcode == gme::Opcode::kPlay || command.opcode == gme::Opcode::kPlayOneOf) &&
+           !command.value.isRegister;
+}
+
+// "_stk1" or "ifexp1": what the compiler calls its registers.
+bool isNumbered(const std::string& name, const std::string& word)
+{
+    return name.size() > word.size() && name.compare(0, word.size(), word) == 0 &&
+           std::all_of(name.begin() + static_cast<std::ptrdiff_t>(word.size()), name.end(),
+                       [](unsigned char c) { return std::isdigit(c) != 0; });
+}
+
+class GraphReader
+{
+public:
+    GraphReader(const gme::Game& source, const std::set<uint16_t>& innerCodes)
+        : game(source), inner(innerCodes)
+    {}
+
+    std::optional<Graph> read();
+
+private:
+    void addNodes();
+    void noteRegister(const gme::Register& reg);
+    void noteRegisters();
+    void readScript(Node& node, const std::vector<gme::ScriptLine>& lines);
+    bool canBeFollowed(const gme::ScriptLine& line) const;
+    Line lineOf(const gme::ScriptLine& line);
+    Operand operandOf(const gme::Operand& operand) const;
+    uint16_t targetOf(const gme::Command& jump) const;
+    void noteKept(const gme::ScriptLine& line);
+    void chooseTemporaries();
+
+    const gme::Game& game;
+    const std::set<uint16_t>& inner;
+    Graph graph;
+    std::set<Register> changed;
+    std::set<Register> taken;    // on from one command to another
+    std::set<Register> noticed;  // by more than the steps of one script
+    bool hasOpenJump = false;
+};
+
+std::optional<Graph> GraphReader::read()
+{
+    noteRegisters();
+    addNodes();
+    for (Node& node : graph.nodes) {
+        const auto script = game.scripts.find(node.code);
+        if (script != game.scripts.end()) {
+            readScript(node, script->second);
+        }
+    }
+    chooseTemporaries();
+    return hasOpenJump ? std::nullopt : std::make_optional(std::move(graph));
+}
+
+// Also what is jumped to without being there has a node.
+void GraphReader::addNodes()
+{
+    std::set<uint16_t> codes;
+    for (const auto& [code, lines] : game.scripts) {
+        codes.insert(code);
+        for (const gme::ScriptLine& line : lines) {
+            for (const gme::Command& command : line.commands) {
+                if (command.opcode == gme::Opcode::kJump) {
+                    hasOpenJump = hasOpenJump || command.value.isRegister;
+                    codes.insert(targetOf(command));
+                }
+            }
+        }
+    }
+    for (const uint16_t code : codes) {
+        const bool isThere = game.scripts.count(code) != 0;
+        graph.byCode[code] = graph.nodes.size();
+        graph.nodes.push_back({code, inner.count(code) == 0, !isThere, {}});
+    }
+}
+
+void GraphReader::noteRegister(const gme::Register& reg)
+{
+    const uint16_t number = game.registers.numberOf(reg);
+    if (graph.registers.size() <= number) {
+        graph.registers.resize(size_t{number} + 1);
+        graph.firstValues.resize(size_t{number} + 1);
+    }
+    graph.registers[number] = reg;
+}
+
+void GraphReader::noteRegisters()
+{
+    for (const auto& script : game.scripts) {
+        for (const gme::ScriptLine& line : script.second) {
+            for (const gme::Condition& condition : line.conditions) {
+                for (const gme::Operand& operand : {condition.left, condition.right}) {
+                    if (operand.isRegister) {
+                        noteRegister(operand.reg);
+                    }
+                }
+            }
+            for (const gme::Command& command : line.commands) {
+                if (command.hasTarget) {
+                    noteRegister(command.target);
+                    changed.insert(game.registers.numberOf(command.target));
+                }
+                if (command.value.isRegister) {
+                    noteRegister(command.value.reg);
+                }
+            }
+        }
+    }
+    const std::vector<uint16_t> table = game.registers.initialTable();
+    std::copy_n(table.begin(), std::min(table.size(), graph.firstValues.size()),
+                graph.firstValues.begin());
+}
+
+void GraphReader::readScript(Node& node, const std::vector<gme::ScriptLine>& lines)
+{
+    node.isKept = !std::all_of(lines.begin(), lines.end(),
+                               [this](const gme::ScriptLine& line) { return canBeFollowed(line); });
+    for (const gme::ScriptLine& line : lines) {
+        if (node.isKept) {
+            noteKept(line);
+        } else {
+            node.lines.push_back(lineOf(line));
+        }
+    }
+}
+
+// One sound and one jump at most, and nothing but arithmetic besides. A division that may fail
+// stands last, behind the jump, where it makes no difference whether it ends the line.
+bool GraphReader::canBeFollowed(const gme::ScriptLine& line) const
+{
+    const std::vector<gme::Command>& commands = line.commands;
+    size_t sounds = 0;
+    size_t jumps = 0;
+    for (const gme::Command& command : commands) {
+        sounds += isSound(command) ? 1 : 0;
+        jumps += command.opcode == gme::Opcode::kJump ? 1 : 0;
+        const bool isKnown =
+            isSound(command) || isArithmetic(command) || command.opcode == gme::Opcode::kJump;
+        const Command calculation{0, command.opcode, operandOf(command.value)};
+        if (!isKnown || (calculation.mayFail() && &command != &commands.back())) {
+            return false;
+        }
+    }
+    return sounds <= 1 && jumps <= 1 && commands.size() <= kMostCommands;
+}
+
+Line GraphReader::lineOf(const gme::ScriptLine& line)
+{
+    Line result;
+    for (const gme::Condition& condition : line.conditions) {
+        result.conditions.push_back(
+            {operandOf(condition.left), condition.comparison, operandOf(condition.right)});
+    }
+    for (const gme::Command& command : line.commands) {
+        if (command.opcode == gme::Opcode::kJump) {
+            result.jump = graph.byCode.at(targetOf(command));
+        } else if (isSound(command)) {
+            result.sound = Sound{command.opcode, command.value.constant, line.playList};
+        } else {
+            result.commands.push_back({game.registers.numberOf(command.target), command.opcode,
+                                       operandOf(command.value)});
+            if (command.value.isRegister) {
+                taken.insert(game.registers.numberOf(command.value.reg));
+            }
+        }
+    }
+    // What changes a register without a jump may come between a sound and what follows it.
+    for (const Command& command : result.commands) {
+        if (!result.jump) {
+            noticed.insert(command.target);
+        }
+    }
+    return result;
+}
+
+Operand GraphReader::operandOf(const gme::Operand& operand) const
+{
+    return {operand.isRegister,
+            operand.isRegister ? game.registers.numberOf(operand.reg) : operand.constant};
+}
+
+uint16_t GraphReader::targetOf(const gme::Command& jump) const
+{
+    return jump.jumpTarget.empty() ? jump.value.constant : game.codes.scripts.at(jump.jumpTarget);
+}
+
+void GraphReader::noteKept(const gme::ScriptLine& line)
+{
+    for (const gme::Condition& condition : line.conditions) {
+        for (const gme::Operand& operand : {condition.left, condition.right}) {
+            if (operand.isRegister) {
+                noticed.insert(game.registers.numberOf(operand.reg));
+            }
+        }
+    }
+    for (const gme::Command& command : line.commands) {
+        if (command.opcode == gme::Opcode::kJump && !command.value.isRegister) {
+            graph.nodes[graph.byCode.at(targetOf(command))].isEntry = true;
+        }
+        if (command.hasTarget) {
+            noticed.insert(game.registers.numberOf(command.target));
+        }
+        if (command.value.isRegister) {
+            noticed.insert(game.registers.numberOf(command.value.reg));
+        }
+    }
+}
+
+// An author can call a variable "ifexp1", too; the compiler only ever asks for it. What begins with
+// an underscore is never an author's.
+void GraphReader::chooseTemporaries()
+{
+    for (size_t i = 0; i < graph.registers.size(); ++i) {
+        const auto reg = static_cast<Register>(i);
+        const std::string& name = graph.registers[i].name;
+        const bool isTemporary =
+            isNumbered(name, "_stk") || (isNumbered(name, "ifexp") && taken.count(reg) == 0);
+        if (isTemporary && noticed.count(reg) == 0) {
+            graph.temporaries.insert(reg);
+        }
+        if (changed.count(reg) == 0 && !name.empty() && name[0] == '_') {
+            graph.constants.insert(reg);
+        }
+    }
+}
+
+class GraphWriter
+{
+public:
+    GraphWriter(const Graph& source, const std::set<uint16_t>& inner, gme::Game& target);
+
+    bool write();
+
+private:
+    bool assignCodes();
+    gme::ScriptLine lineOf(const Line& line) const;
+    gme::Operand operandOf(const Operand& operand) const;
+    gme::Registers registersOf(const std::map<uint16_t, std::vector<gme::ScriptLine>>& scripts);
+
+    const Graph& graph;
+    gme::Game& game;
+    std::set<uint16_t> free;      // codes
+    std::vector<uint16_t> codes;  // of the nodes
+};
+
+GraphWriter::GraphWriter(const Graph& source, const std::set<uint16_t>& inner, gme::Game& target)
+    : graph(source), game(target), free(inner)
+{}
+
+bool GraphWriter::write()
+{
+    if (!assignCodes()) {
+        return false;
+    }
+    std::map<uint16_t, std::vector<gme::ScriptLine>> scripts;
+    for (size_t i = 0; i < graph.nodes.size(); ++i) {
+        const Node& node = graph.nodes[i];
+        if (node.isKept) {
+            const auto script = game.scripts.find(node.code);
+            if (script != game.scripts.end()) {
+                scripts.insert(*script);
+            }
+            continue;
+        }
+        std::vector<gme::ScriptLine>& lines = scripts[codes[i]];
+        for (const Line& line : node.lines) {
+            lines.push_back(lineOf(line));
+        }
+    }
+    game.registers = registersOf(scripts);
+    game.scripts = std::move(scripts);
+    return true;
+}
+
+bool GraphWriter::assignCodes()
+{
+    for (const Node& node : graph.nodes) {
+        free.erase(node.code);
+    }
+    for (const Node& node : graph.nodes) {
+        if (node.code == 0 && !node.isEntry && free.empty()) {
+            return false;
+        }
+        codes.push_back(node.code != 0 || node.isEntry ? node.code
+                                                       : free.extract(free.begin()).value());
+    }
+    return true;
+}
+
+// The jump comes first, as the compiler writes it.
+gme::ScriptLine GraphWriter::lineOf(const Line& line) const
+{
+    gme::ScriptLine result;
+    for (const Condition& condition : line.conditions) {
+        result.conditions.push_back(
+            {operandOf(condition.left), condition.comparison, operandOf(condition.right)});
+    }
+    if (line.jump) {
+        gme::Command& jump = result.commands.emplace_back();
+        jump.opcode = gme::Opcode::kJump;
+        jump.value.constant = codes[*line.jump];
+    }
+    for (const Command& command : line.commands) {
+        gme::Command& calculation = result.commands.emplace_back();
+        calculation.opcode = command.opcode;
+        calculation.hasTarget = true;
+        calculation.target = graph.registers[command.target];
+        calculation.value = operandOf(command.value);
+    }
+    if (line.sound) {
+        gme::Command& sound = result.commands.emplace_back();
+        sound.opcode = line.sound->opcode;
+        sound.value.constant = line.sound->value;
+        result.playList = line.sound->playList;
+    }
+    return result;
+}
+
+gme::Operand GraphWriter::operandOf(const Operand& operand) const
+{
+    gme::Operand result;
+    result.isRegister = operand.isRegister;
+    if (operand.isRegister) {
+        result.reg = graph.registers[operand.value];
+    } else {
+        result.constant = operand.value;
+    }
+    return result;
+}
+
+// Of all that the lines still name.
+gme::Registers
+GraphWriter::registersOf(const std::map<uint16_t, std::vector<gme::ScriptLine>>& scripts)
+{
+    gme::Registers registers;
+    std::set<std::pair<std::string, uint16_t>> used;
+    const auto note = [&used](const gme::Register& reg) { used.emplace(reg.name, reg.number); };
+    for (const auto& script : scripts) {
+        for (const gme::ScriptLine& line : script.second) {
+            registers.noteUseIn(line);
+            for (const gme::Condition& condition : line.conditions) {
+                for (const gme::Operand& operand : {condition.left, condition.right}) {
+                    if (operand.isRegister) {
+                        note(operand.reg);
+                    }
+                }
+            }
+            for (const gme::Command& command : line.commands) {
+                if (command.hasTarget) {
+                    note(command.target);
+                }
+                if (command.value.isRegister) {
+                    note(command.value.reg);
+                }
+            }
+        }
+    }
+    for (const auto& [name, number] : used) {
+        const gme::Register reg{name, number};
+        registers.noteInitialValue({reg, graph.firstValues[game.registers.numberOf(reg)]});
+    }
+    registers.assignNumbers();
+    return registers;
+}
+
+}  // namespace
+
+std::optional<Graph> graphOf(const gme::Game& game, const std::set<uint16_t>& inner)
+{
+    return GraphReader(game, inner).read();
+}
+
+bool putGraph(const Graph& graph, const std::set<uint16_t>& inner, gme::Game& game)
+{
+    return GraphWriter(graph, inner, game).write();
+}
+
+}  // namespace quick

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "quick/Values.h"
+
+#include <set>
+
+// The passes over the commands of one line.
+namespace quick {
+
+// Which registers are read behind a place: all that are no temporaries, and some of these.
+struct Live
+{
+    const std::set<Register>& temporaries;
+    std::set<Register> alive;             // of the temporaries
+    std::set<Register> overwritten = {};  // nobody reads them before they get another value
+
+    bool has(Register reg) const
+    {
+        return overwritten.count(reg) == 0 &&
+               (temporaries.count(reg) == 0 || alive.count(reg) != 0);
+    }
+};
+
+// Numbers take the place of registers that hold them, an original that of its copy, and what only
+// says again what is so goes. start: what is known before the first command.
+void carryValues(Commands& commands, Values start, const std::set<Register>& temporaries);
+
+// "t := b, t *= 2, a := t" becomes "a := b, a *= 2" where nobody else reads t.
+void writeDirectly(Commands& commands, const Live& behind);
+
+// "a += 3, a += 4" becomes "a += 7".
+void sumAdditions(Commands& commands);
+
+// What calculates something that nobody reads goes, but for divisions that may be by zero.
+void dropDead(Commands& commands, const Live& behind);
+
+// The temporaries that are read from the first command on, when these are read behind the last.
+std::set<Register> liveBefore(const Commands& commands, Live behind);
+
+}  // namespace quick

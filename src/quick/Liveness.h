@@ -1,0 +1,13 @@
+#pragma once
+
+#include "quick/Graph.h"
+
+#include <set>
+#include <vector>
+
+namespace quick {
+
+// For each node of the graph, the temporaries that its lines read before they change them.
+std::vector<std::set<Register>> liveAtBeginning(const Graph& graph);
+
+}  // namespace quick

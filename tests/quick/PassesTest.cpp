@@ -1,0 +1,301 @@
+// What each pass makes of the script lines that it is for.
+#include "quick/Quick.h"
+#include "tests/quick/GameText.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+quick::Passes none()
+{
+    return {false, false, false, false, false, false, false, false};
+}
+
+// A pass with those that make the lines it works on.
+std::string with(std::vector<bool quick::Passes::*> passes, const std::string& scripts)
+{
+    quick::Passes chosen = none();
+    for (bool quick::Passes::*const pass : passes) {
+        chosen.*pass = true;
+    }
+    return optimisedText(scripts, chosen);
+}
+
+std::string withAll(const std::string& scripts)
+{
+    return optimisedText(scripts, {});
+}
+
+using quick::Passes;
+
+}  // namespace
+
+TEST(FollowsJumps, StepsBecomeOneLineThatStillEndsWithAJump)
+{
+    const char* const scripts = "  cow:\n"
+                                "  - J(asm1) $a := 1\n"
+                                "  asm1:\n"
+                                "  - J(asm2) $b := 2\n"
+                                "  asm2:\n"
+                                "  - $c := 3\n";
+    EXPECT_EQ(with({}, scripts), "cow: J(1) $a:=1\n"
+                                 "1: J(2) $b:=2\n"
+                                 "2: $c:=3\n");
+    EXPECT_EQ(with({&Passes::followsJumps}, scripts), "cow: J(1) $a:=1 $b:=2 $c:=3\n"
+                                                      "1:\n");
+}
+
+TEST(FollowsJumps, ALineHasEightCommandsAtMost)
+{
+    std::string scripts = "  cow:\n"
+                          "  - J(asm1) $r0 += $x\n";
+    for (int i = 1; i < 9; ++i) {
+        const std::string number = std::to_string(i);
+        scripts += "  asm" + number + ":\n  - J(asm" + std::to_string(i + 1) + ") $r" + number +
+                   " += $x\n";
+    }
+    scripts += "  asm9:\n  - P(a)\n";
+    EXPECT_EQ(withAll(scripts),
+              "cow: J(1) $r0+=$x $r1+=$x $r2+=$x $r3+=$x $r4+=$x $r5+=$x $r6+=$x\n"
+              "1: P(a) $r7+=$x $r8+=$x\n");
+}
+
+TEST(FollowsJumps, WhatComesBehindASoundIsDoneBehindIt)
+{
+    EXPECT_EQ(withAll("  cow:\n"
+                      "  - J(asm1) $a := 1\n"
+                      "  asm1:\n"
+                      "  - J(asm2) P(a)\n"
+                      "  asm2:\n"
+                      "  - $a := 2\n"),
+              "cow: J(1) P(a) $a:=1\n"
+              "1: $a:=2\n");
+}
+
+TEST(FollowsJumps, WhatHasNoEndHasNone)
+{
+    EXPECT_EQ(withAll("  cow:\n"
+                      "  - J(asm1) $a += 1\n"
+                      "  asm1:\n"
+                      "  - J(cow) $a += 2\n"),
+              "cow: J(cow) $a+=3\n");
+}
+
+TEST(FollowsJumps, NothingStandsBehindADivisionThatMayBeByZero)
+{
+    EXPECT_EQ(withAll("  cow:\n"
+                      "  - J(asm1) $a /= $b\n"
+                      "  asm1:\n"
+                      "  - J(asm2) $c := 1\n"
+                      "  asm2:\n"
+                      "  - J(asm3) $a /= 0\n"
+                      "  asm3:\n"
+                      "  - J(asm4) $a /= 2\n"
+                      "  asm4:\n"
+                      "  - $d := 1\n"),
+              "cow: J(1) $a/=$b\n"
+              "1: J(2) $c:=1 $a/=0\n"
+              "2: $a/=2 $d:=1\n");
+}
+
+TEST(TestsOnEntry, BranchesBecomeLinesOfOneScript)
+{
+    const char* const scripts = "  cow:\n"
+                                "  - J(asm1) $a := 1\n"
+                                "  asm1:\n"
+                                "  - $b < 5 ? J(asm2) $_stk1 := 1\n"
+                                "  - J(asm2) $_stk1 := 0\n"
+                                "  asm2:\n"
+                                "  - $_stk1 == 1 ? J(asm3) P(a)\n"
+                                "  - J(asm3) P(b)\n"
+                                "  asm3:\n"
+                                "  - $c := 1\n";
+    EXPECT_EQ(withAll(scripts), "cow: $b<5? J(1) P(a) $a:=1\n"
+                                "cow: J(1) P(b) $a:=1\n"
+                                "1: $c:=1\n");
+}
+
+TEST(TestsOnEntry, WhatIsCalculatedIsAskedForInTheNextScript)
+{
+    EXPECT_EQ(withAll("  cow:\n"
+                      "  - J(asm1) $a *= 2\n"
+                      "  asm1:\n"
+                      "  - $a < 5 ? P(a)\n"
+                      "  - P(b)\n"),
+              "cow: J(1) $a*=2\n"
+              "1: $a<5? P(a)\n"
+              "1: P(b)\n");
+}
+
+TEST(TestsOnEntry, ASumIsAskedForItsEqual)
+{
+    EXPECT_EQ(withAll("  cow:\n"
+                      "  - J(asm1) $a += 3\n"
+                      "  asm1:\n"
+                      "  - $a == 5 ? P(a)\n"
+                      "  - P(b)\n"),
+              "cow: $a==2? J(1) P(a) $a:=5\n"
+              "cow: J(1) P(b) $a+=3\n"
+              "1:\n");
+}
+
+TEST(TestsOnEntry, WhatFollowsFromOtherConditionsIsNotAsked)
+{
+    EXPECT_EQ(withAll("  cow:\n"
+                      "  - $a > 3 ? J(asm1) $b := 1\n"
+                      "  - J(asm1) $b := 2\n"
+                      "  asm1:\n"
+                      "  - $a != 0 ? $a >= 4 ? P(a)\n"
+                      "  - P(b)\n"),
+              "cow: $a>3? J(1) P(a) $b:=1\n"
+              "cow: J(1) P(b) $b:=2\n"
+              "1:\n");
+}
+
+TEST(DoublesScripts, WhatABranchHasLeftIsNotKeptInARegister)
+{
+    const char* const scripts = "  cow:\n"
+                                "  - $a == 1 ? J(asm1) $ifexp1 := 1\n"
+                                "  - J(asm1) $ifexp1 := 0\n"
+                                "  asm1:\n"
+                                "  - J(asm2) P(a)\n"
+                                "  asm2:\n"
+                                "  - $ifexp1 == 1 ? $b := 1\n"
+                                "  - $b := 2\n";
+    EXPECT_EQ(withAll(scripts), "cow: $a==1? J(1) P(a)\n"
+                                "cow: J(2) P(a)\n"
+                                "1: $b:=1\n"
+                                "2: $b:=2\n");
+    quick::Passes others;
+    others.doublesScripts = false;
+    EXPECT_EQ(optimisedText(scripts, others), "cow: $a==1? J(1) P(a) $ifexp1:=1\n"
+                                              "cow: J(1) P(a) $ifexp1:=0\n"
+                                              "1: $ifexp1==1? $b:=1\n"
+                                              "1: $b:=2\n");
+}
+
+TEST(CarriesValues, NumbersAndOriginalsTakeThePlaceOfCopies)
+{
+    EXPECT_EQ(with({&Passes::followsJumps, &Passes::carriesValues}, "  cow:\n"
+                                                                    "  - J(asm1) $_stk1 := $a\n"
+                                                                    "  asm1:\n"
+                                                                    "  - J(asm2) $_stk2 := 3\n"
+                                                                    "  asm2:\n"
+                                                                    "  - J(asm3) $_stk1 *= $_stk2\n"
+                                                                    "  asm3:\n"
+                                                                    "  - J(asm4) $b := $_stk1\n"
+                                                                    "  asm4:\n"
+                                                                    "  - $c := $_stk1\n"),
+              "cow: J(1) $_stk1:=$a $_stk2:=3 $_stk1*=3 $b:=$_stk1 $c:=$b\n"
+              "1:\n");
+}
+
+TEST(WritesDirectly, AResultIsCalculatedInItsVariable)
+{
+    EXPECT_EQ(with({&Passes::followsJumps, &Passes::writesDirectly}, "  cow:\n"
+                                                                     "  - J(asm1) $_stk1 := $b\n"
+                                                                     "  asm1:\n"
+                                                                     "  - J(asm2) $_stk1 *= 3\n"
+                                                                     "  asm2:\n"
+                                                                     "  - $a := $_stk1\n"),
+              "cow: J(1) $a:=$b $a*=3\n"
+              "1:\n");
+}
+
+TEST(WritesDirectly, AVariableThatIsReadMeanwhileKeepsItsValue)
+{
+    EXPECT_EQ(with({&Passes::followsJumps, &Passes::writesDirectly}, "  cow:\n"
+                                                                     "  - J(asm1) $_stk1 := 1\n"
+                                                                     "  asm1:\n"
+                                                                     "  - J(asm2) $_stk1 -= $a\n"
+                                                                     "  asm2:\n"
+                                                                     "  - $a := $_stk1\n"),
+              "cow: J(1) $_stk1:=1 $_stk1-=$a $a:=$_stk1\n"
+              "1:\n");
+}
+
+TEST(SumsAdditions, OneTakesThePlaceOfSeveral)
+{
+    EXPECT_EQ(with({&Passes::followsJumps, &Passes::sumsAdditions}, "  cow:\n"
+                                                                    "  - J(asm1) $rnd += 5\n"
+                                                                    "  asm1:\n"
+                                                                    "  - J(asm2) $a := 2\n"
+                                                                    "  asm2:\n"
+                                                                    "  - $rnd += 7\n"),
+              "cow: J(1) $a:=2 $rnd+=12\n"
+              "1:\n");
+}
+
+TEST(DropsDead, WhatNobodyReadsIsNotCalculatedButForDivisions)
+{
+    EXPECT_EQ(with({&Passes::followsJumps, &Passes::dropsDead}, "  cow:\n"
+                                                                "  - J(asm1) $_stk1 := 2\n"
+                                                                "  asm1:\n"
+                                                                "  - J(asm2) $_stk2 := 3\n"
+                                                                "  asm2:\n"
+                                                                "  - J(asm3) $_stk1 /= $a\n"
+                                                                "  asm3:\n"
+                                                                "  - $a := 1\n"),
+              "cow: J(1) $_stk1:=2 $_stk1/=$a\n"
+              "1: $a:=1\n");
+}
+
+TEST(SharesScripts, OfScriptsThatDoTheSameOneStays)
+{
+    const char* const scripts = "  cow:\n"
+                                "  - $a == 1 ? J(asm1) P(a)\n"
+                                "  - J(asm2) P(b)\n"
+                                "  asm1:\n"
+                                "  - J(asm3) P(a)\n"
+                                "  asm2:\n"
+                                "  - J(asm4) P(a)\n"
+                                "  asm3:\n"
+                                "  - $a := 2\n"
+                                "  asm4:\n"
+                                "  - $a := 2\n";
+    EXPECT_EQ(with({&Passes::sharesScripts}, scripts), "cow: $a==1? J(1) P(a)\n"
+                                                       "cow: J(1) P(b)\n"
+                                                       "1: J(2) P(a)\n"
+                                                       "2: $a:=2\n");
+}
+
+TEST(Temporaries, WhatTheLastTapLeftThereCounts)
+{
+    const char* const scripts = "  cow:\n"
+                                "  - J(asm1) $_stk1 := 2\n"
+                                "  asm1:\n"
+                                "  - $b := 1\n"
+                                "  hen:\n"
+                                "  - J(asm2) $a := $_stk1\n"
+                                "  asm2:\n"
+                                "  - $b := 2\n";
+    EXPECT_EQ(withAll(scripts), "cow: J(1) $_stk1:=2 $b:=1\n"
+                                "hen: J(1) $a:=$_stk1 $b:=2\n"
+                                "1:\n");
+}
+
+TEST(OtherCommands, LeaveTheirScriptAsItIs)
+{
+    EXPECT_EQ(withAll("  cow:\n"
+                      "  - J(hen) $a := 1 T($b, 5)\n"
+                      "  hen:\n"
+                      "  - J(asm1) $c := 1\n"
+                      "  asm1:\n"
+                      "  - $c += 1\n"),
+              "cow: J(hen) $a:=1 T($b,5)\n"
+              "hen: J(1) $c:=2\n"
+              "1:\n");
+}
+
+TEST(OtherCommands, AJumpToWhatARegisterHoldsLeavesTheGameAsItIs)
+{
+    EXPECT_EQ(withAll("  cow:\n"
+                      "  - J($a) $b := 1\n"
+                      "  hen:\n"
+                      "  - J(asm1) $c := 1\n"
+                      "  asm1:\n"
+                      "  - $c += 1\n"),
+              "cow: J($a) $b:=1\n"
+              "hen: J(1) $c:=1\n"
+              "1: $c+=1\n");
+}
