@@ -42,6 +42,7 @@ private:
     std::optional<Description> description;
     std::optional<Game> game;
     bool withDate;
+    std::function<Game(const Game&, const Description&)> change;
 };
 
 Assembly::Assembly(const AssembleOptions& options, const DiagnosticSink& diagnosticSink)
@@ -53,7 +54,8 @@ Assembly::Assembly(const AssembleOptions& options, const DiagnosticSink& diagnos
       codesMessages(codesPath, sink),
       gameMessages(gameFile, sink),
       codesFile(codesPath),
-      withDate(options.withDate)
+      withDate(options.withDate),
+      change(options.change)
 {}
 
 bool Assembly::run()
@@ -87,6 +89,9 @@ bool Assembly::compile()
     game = compileGame(*description, mediaIn(folderOf(yamlFile)), sink, codesFile.codes());
     if (game && withDate) {
         game->date = today();
+    }
+    if (game && change) {
+        game = change(*game, *description);
     }
     return game.has_value();
 }

@@ -2,7 +2,9 @@
 
 #include "base/Diagnostic.h"
 #include "base/PrintFunction.h"
+#include "gme/Game.h"
 
+#include <functional>
 #include <map>
 #include <string>
 
@@ -14,6 +16,9 @@ struct AssembleOptions
     std::string yamlFile;  // UTF-8 path; audio is looked up from its folder
     std::string gameFile;  // UTF-8 path; empty: beside the YAML file, its extension made ".gme"
     bool withDate = true;  // today's date (UTC) in the header, else the fixed text 19700101
+    // What is to be made of the game before it is written; nothing when there is no function. The
+    // codes file stays what it is without.
+    std::function<Game(const Game&, const Description&)> change = {};
 };
 
 // Writes the game file and brings the codes file beside the YAML file up to date: both, or on an

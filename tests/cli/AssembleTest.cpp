@@ -80,6 +80,20 @@ TEST_F(Assemble, WarningsAreNoFailure)
                                     "3, which is lost\n");
 }
 
+TEST_F(Assemble, QuickAnswersChangeTheGameFileAndNotTheCodesFile)
+{
+    writeFile(folder.file("cow.yaml"), "product-id: 900\n"
+                                       "scripts:\n"
+                                       "  cow: J(asm1) $x := 1\n"
+                                       "  asm1: J(asm2) $y := 2\n"
+                                       "  asm2: $z := 3\n");
+    EXPECT_EQ(result({"cow.yaml", "plain.gme", "--no-date"}), "status 0\n");
+    const std::string codes = readFile(folder.file("cow.codes.yaml"));
+    EXPECT_EQ(result({"cow.yaml", "quick.gme", "--no-date", "--quick"}), "status 0\n");
+    EXPECT_EQ(readFile(folder.file("cow.codes.yaml")), codes);
+    EXPECT_LT(readFile(folder.file("quick.gme")).size(), readFile(folder.file("plain.gme")).size());
+}
+
 TEST_F(Assemble, UsageErrorsHaveStatusOne)
 {
     EXPECT_EQ(result({}), usageError("assemble needs FILE.yaml [OUT.gme]"));

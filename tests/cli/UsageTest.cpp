@@ -24,7 +24,7 @@ TEST(Usage, HelpNamesEveryCommandOnStandardOutput)
          {"\n  check PROJECT [--debug] [--hints] [--json] [--strict]\n",
           "\n  yaml PROJECT [--debug] [-o FILE]\n", "\n  save PROJECT -o FILE\n",
           "\n  print PROJECT [--picture N]\n", "\n  tile OID -o FILE [--size PIXELS]\n",
-          "\n  assemble FILE.yaml [OUT.gme] [-o OUT.gme] [--no-date] [--latin1]\n",
+          "\n  assemble FILE.yaml [OUT.gme] [-o OUT.gme] [--quick] [--no-date] [--latin1]\n",
           "\n  build PROJECT [--debug]\n", "\n  copy PROJECT\n",
           "\n  play FILE.gme|PROJECT [--seed N] [--json]\n",
           "\n  test PROJECT [FILE...] [--coverage] [--explore N] [--seed N]\n"}) {

@@ -1,6 +1,7 @@
 #include "app/cli/Commands.h"
 #include "base/PlatformText.h"
 #include "gme/Assembler.h"
+#include "quick/Quick.h"
 
 #include <QString>
 
@@ -20,11 +21,19 @@ int printInLatin1(const char* format, ...)
     return defaultPrintf()("%s", QString::fromStdString(text).toLatin1().constData());
 }
 
+gme::Game withQuickAnswers(const gme::Game& game, const gme::Description& description)
+{
+    return quick::optimise(game, quick::innerCodes(game, description));
+}
+
 int assemble(const Arguments& arguments)
 {
     gme::AssembleOptions options;
     options.yamlFile = arguments.operands[0];
     options.withDate = !arguments.has("--no-date");
+    if (arguments.has("--quick")) {
+        options.change = withQuickAnswers;
+    }
     if (arguments.operands.size() == kMostOperands) {
         options.gameFile = arguments.operands[1];
     }
@@ -44,13 +53,15 @@ int assemble(const Arguments& arguments)
 // Intended: an assembler knows only success and failure, so that usage errors count as the latter.
 Command assembleCommand()
 {
-    return {"assemble",
-            "FILE.yaml [OUT.gme]",
-            "Makes the pen's game file from a game description, beside it unless OUT is given.",
-            {{"-o", "OUT.gme", "the game file to write"},
-             {"--no-date", nullptr, "the game file holds 19700101 instead of today's date"},
-             {"--latin1", nullptr, "messages come in Latin-1 instead of UTF-8"}},
-            assemble,
-            kMostOperands,
-            kFailed};
+    return {
+        "assemble",
+        "FILE.yaml [OUT.gme]",
+        "Makes the pen's game file from a game description, beside it unless OUT is given.",
+        {{"-o", "OUT.gme", "the game file to write"},
+         {"--quick", nullptr, "the same game with fewer steps, so that the pen answers at once"},
+         {"--no-date", nullptr, "the game file holds 19700101 instead of today's date"},
+         {"--latin1", nullptr, "messages come in Latin-1 instead of UTF-8"}},
+        assemble,
+        kMostOperands,
+        kFailed};
 }
