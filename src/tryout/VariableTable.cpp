@@ -4,7 +4,10 @@
 #include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QSpinBox>
+#include <QStyle>
 #include <QStyledItemDelegate>
+
+#include <algorithm>
 
 namespace {
 
@@ -43,8 +46,6 @@ VariableTable::VariableTable(QWidget* parent) : QTableWidget(0, 3, parent)
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     horizontalHeader()->setSectionResizeMode(name, QHeaderView::Stretch);
-    horizontalHeader()->setSectionResizeMode(value, QHeaderView::ResizeToContents);
-    horizontalHeader()->setSectionResizeMode(before, QHeaderView::ResizeToContents);
     horizontalHeader()->setMinimumSectionSize(30);
     connect(this, &QTableWidget::itemChanged, this, [this](QTableWidgetItem* item) {
         if (!showing && item->column() == value) {
@@ -53,11 +54,26 @@ VariableTable::VariableTable(QWidget* parent) : QTableWidget(0, 3, parent)
     });
 }
 
+// As wide as the header and every number. To look at the cells would cost much at every change of
+// one of them.
+void VariableTable::fitNumbers(int column)
+{
+    QFont bold = font();
+    bold.setBold(true);
+    const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 1;
+    const int number = QFontMetrics(bold).horizontalAdvance(" 65535") + margin;
+    horizontalHeader()->setSectionResizeMode(column, QHeaderView::Fixed);
+    horizontalHeader()->resizeSection(
+        column, std::max(horizontalHeader()->sectionSizeHint(column), number));
+}
+
 void VariableTable::showValues(const std::map<std::string, uint16_t>& values,
                                const std::map<std::string, play::Change>& changes)
 {
     const QScopedValueRollback<bool> filling(showing, true);
     setRowCount(static_cast<int>(values.size()));
+    fitNumbers(value);
+    fitNumbers(before);
     int row = 0;
     for (const auto& [variable, now] : values) {
         const auto change = changes.find(variable);

@@ -25,6 +25,7 @@ signals:
     void edited(const QString& name, int value);
 
 private:
+    void fitNumbers(int column);
     void showRow(int row, const QString& variable, uint16_t now, const play::Change* change);
 
     bool showing = false;

@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSpinBox>
+#include <QStyledItemDelegate>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -42,6 +43,28 @@ std::string farm(const std::string& script = kScript)
 {
     return projectFile({box("cow", 1001, 10) + box("pig", 1002, 50), box("barn", 1003, 10)},
                        script);
+}
+
+// Counts how often a cell is asked for its size.
+class MeasuredCells : public QStyledItemDelegate
+{
+public:
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        ++count;
+        return QStyledItemDelegate::sizeHint(option, index);
+    }
+
+    mutable int count = 0;
+};
+
+// As a table draws its cells.
+QStyleOptionViewItem cellOf(const QTableWidget& table)
+{
+    QStyleOptionViewItem cell;
+    cell.initFrom(&table);
+    cell.font = table.font();
+    return cell;
 }
 
 // Programs, loudspeaker and cache of this test alone: a speech program that speaks in no time, and
@@ -263,6 +286,35 @@ private slots:
         w.tapPig();
         QCOMPARE(w.variables(), QStringList({"count 7"}));
         QVERIFY(!w.get<QTableWidget>("tryVariables")->item(0, 0)->font().bold());
+    }
+
+    // With hundreds of variables that would take longer than all the rest of a tap.
+    void noCellOfTheVariablesIsMeasuredAtATap()
+    {
+        TryFixture w;
+        MeasuredCells cells;
+        auto* const table = w.get<QTableWidget>("tryVariables");
+        table->setItemDelegate(&cells);
+        table->setItemDelegateForColumn(1, &cells);
+        QTest::qWait(1);
+        cells.count = 0;
+        w.tapPig();
+        QTRY_VERIFY(w.isAtRest());
+        QCOMPARE(w.variables(), QStringList({"count 7 (0)"}));
+        QCOMPARE(cells.count, 0);
+        table->setItemDelegate(nullptr);
+        table->setItemDelegateForColumn(1, nullptr);
+    }
+
+    void everyValueFitsIntoItsColumn()
+    {
+        TryFixture w(farm("sub cow\r\n  count = count + 65535\r\nend sub\r\n"));
+        const auto* const table = w.get<QTableWidget>("tryVariables");
+        w.tapCow();
+        QTRY_COMPARE(w.variables(), QStringList({"count 65535 (0)"}));
+        const QModelIndex cell = table->model()->index(0, 1);
+        const int width = table->itemDelegate()->sizeHint(cellOf(*table), cell).width();
+        QVERIFY2(table->columnWidth(1) >= width, qPrintable(QString::number(width)));
     }
 
     void aVariableIsEdited()
