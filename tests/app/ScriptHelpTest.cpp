@@ -51,7 +51,8 @@ struct Writing : WindowFixture
     QListWidget* list() { return get<QListWidget>("completionList"); }
     QString suggested()
     {
-        QTest::qWait(80);  // it comes a moment behind the key
+        QTest::qWait(80);  // it comes a moment behind the key, on a busy machine two
+        (void)QTest::qWaitFor([this] { return list()->isVisible(); }, 300);
         QStringList texts;
         for (int i = 0; list()->isVisible() && i < list()->count(); ++i) {
             texts << list()->item(i)->text();
