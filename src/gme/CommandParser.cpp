@@ -4,9 +4,10 @@ namespace gme {
 
 namespace {
 
-constexpr LineScanner::Operator kAssignments[] = {{":=", 0xFFF9}, {"+=", 0xFFF0}, {"-=", 0xFFF1},
-                                                  {"*=", 0xFFF2}, {"/=", 0xFFF3}, {"%=", 0xFFF4},
-                                                  {"&=", 0xFFF5}, {"|=", 0xFFF6}, {"^=", 0xFFF7}};
+constexpr LineScanner::Operator kAssignments[] = {
+    {":=", Opcode::kAssign},   {"+=", Opcode::kAdd},    {"-=", Opcode::kSubtract},
+    {"*=", Opcode::kMultiply}, {"/=", Opcode::kDivide}, {"%=", Opcode::kRemainder},
+    {"&=", Opcode::kAnd},      {"|=", Opcode::kOr},     {"^=", Opcode::kXor}};
 
 constexpr uint16_t kNoValue = 0xFFFF;  // of the commands that only cancel
 constexpr uint16_t kSoundProfiles = 9;

@@ -6,11 +6,13 @@ namespace gme {
 
 namespace {
 
-constexpr LineScanner::Operator kComparisons[] = {{"==", 0xFFF9}, {">", 0xFFFA},  {"<", 0xFFFB},
-                                                  {">=", 0xFFFD}, {"<=", 0xFFFE}, {"!=", 0xFFFF},
-                                                  {"/=", 0xFFFF}};
+constexpr LineScanner::Operator kComparisons[] = {
+    {"==", Comparison::kEqual},       {">", Comparison::kGreater},
+    {"<", Comparison::kLess},         {">=", Comparison::kGreaterOrEqual},
+    {"<=", Comparison::kLessOrEqual}, {"!=", Comparison::kNotEqual},
+    {"/=", Comparison::kNotEqual}};
 
-constexpr LineScanner::Operator kAssignment[] = {{":=", 0xFFF9}};
+constexpr LineScanner::Operator kAssignment[] = {{":=", Opcode::kAssign}};
 
 // The game file counts the parts of a line in 16 bits.
 constexpr size_t kMostParts = 65535;

@@ -56,7 +56,16 @@ struct ScriptLine
 
 // The numbers of the game file.
 namespace Opcode {
+constexpr uint16_t kAdd = 0xFFF0;
+constexpr uint16_t kSubtract = 0xFFF1;
+constexpr uint16_t kMultiply = 0xFFF2;
+constexpr uint16_t kDivide = 0xFFF3;
+constexpr uint16_t kRemainder = 0xFFF4;
+constexpr uint16_t kAnd = 0xFFF5;
+constexpr uint16_t kOr = 0xFFF6;
+constexpr uint16_t kXor = 0xFFF7;
 constexpr uint16_t kNegate = 0xFFF8;
+constexpr uint16_t kAssign = 0xFFF9;
 constexpr uint16_t kPlay = 0xFFE8;
 constexpr uint16_t kPlayOneOf = 0xFC00;
 constexpr uint16_t kPlayAll = 0xFB00;
@@ -71,5 +80,15 @@ constexpr uint16_t kArmTimer = 0xFE00;
 constexpr uint16_t kCancelTimer = 0xFEFF;
 constexpr uint16_t kSoundProfile = 0xFEE0;
 }  // namespace Opcode
+
+namespace Comparison {
+constexpr uint16_t kEqual = 0xFFF9;
+constexpr uint16_t kGreater = 0xFFFA;
+constexpr uint16_t kLess = 0xFFFB;
+constexpr uint16_t kAlsoEqual = 0xFFFC;  // never written by us
+constexpr uint16_t kGreaterOrEqual = 0xFFFD;
+constexpr uint16_t kLessOrEqual = 0xFFFE;
+constexpr uint16_t kNotEqual = 0xFFFF;
+}  // namespace Comparison
 
 }  // namespace gme

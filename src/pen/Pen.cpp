@@ -185,18 +185,18 @@ bool Pen::holds(const Condition& condition) const
     const uint16_t left = valueOf(condition.left);
     const uint16_t right = valueOf(condition.right);
     switch (condition.comparison) {
-    case 0xFFF9:
-    case 0xFFFC:
+    case gme::Comparison::kEqual:
+    case gme::Comparison::kAlsoEqual:
         return left == right;
-    case 0xFFFA:
+    case gme::Comparison::kGreater:
         return left > right;
-    case 0xFFFB:
+    case gme::Comparison::kLess:
         return left < right;
-    case 0xFFFD:
+    case gme::Comparison::kGreaterOrEqual:
         return left >= right;
-    case 0xFFFE:
+    case gme::Comparison::kLessOrEqual:
         return left <= right;
-    case 0xFFFF:
+    case gme::Comparison::kNotEqual:
         return left != right;
     default:
         return false;
@@ -223,7 +223,7 @@ void Pen::runLine(uint16_t code, size_t index)
 
 bool Pen::divides(const Command& command) const
 {
-    return command.opcode == Arithmetic::kDivide || command.opcode == Arithmetic::kRemainder;
+    return command.opcode == gme::Opcode::kDivide || command.opcode == gme::Opcode::kRemainder;
 }
 
 void Pen::runCommand(const Command& command, const FlatGame::FlatLine& line)
@@ -267,31 +267,31 @@ void Pen::calculate(const Command& command)
     const int64_t value = valueOf(command.value);
     int64_t now = before;
     switch (command.opcode) {
-    case Arithmetic::kAdd:
+    case gme::Opcode::kAdd:
         now = before + value;
         break;
-    case Arithmetic::kSubtract:
+    case gme::Opcode::kSubtract:
         now = before - value;
         break;
-    case Arithmetic::kMultiply:
+    case gme::Opcode::kMultiply:
         now = before * value;
         break;
-    case Arithmetic::kDivide:
+    case gme::Opcode::kDivide:
         now = before / value;
         break;
-    case Arithmetic::kRemainder:
+    case gme::Opcode::kRemainder:
         now = before % value;
         break;
-    case Arithmetic::kAnd:
+    case gme::Opcode::kAnd:
         now = before & value;
         break;
-    case Arithmetic::kOr:
+    case gme::Opcode::kOr:
         now = before | value;
         break;
-    case Arithmetic::kXor:
+    case gme::Opcode::kXor:
         now = before ^ value;
         break;
-    case Arithmetic::kAssign:
+    case gme::Opcode::kAssign:
         now = value;
         break;
     case gme::Opcode::kNegate:

@@ -94,7 +94,7 @@ void completeRegisters(PenGame& game)
 
 bool changesRegister(uint16_t opcode)
 {
-    return (opcode >= Arithmetic::kAdd && opcode <= Arithmetic::kAssign) ||
+    return (opcode >= gme::Opcode::kAdd && opcode <= gme::Opcode::kAssign) ||
            opcode == gme::Opcode::kRandom;
 }
 

@@ -57,19 +57,6 @@ PenGame gameForPen(const gme::Game& game);
 // Gives every register that a script names a place; those beyond the table begin with 0.
 void completeRegisters(PenGame& game);
 
-// The numbers of the commands that change a register; the others are in gme::Opcode.
-namespace Arithmetic {
-constexpr uint16_t kAdd = 0xFFF0;
-constexpr uint16_t kSubtract = 0xFFF1;
-constexpr uint16_t kMultiply = 0xFFF2;
-constexpr uint16_t kDivide = 0xFFF3;
-constexpr uint16_t kRemainder = 0xFFF4;
-constexpr uint16_t kAnd = 0xFFF5;
-constexpr uint16_t kOr = 0xFFF6;
-constexpr uint16_t kXor = 0xFFF7;
-constexpr uint16_t kAssign = 0xFFF9;
-}  // namespace Arithmetic
-
 // Whether the command changes the register that is its target.
 bool changesRegister(uint16_t opcode);
 

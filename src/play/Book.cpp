@@ -137,7 +137,7 @@ bool onlyPasses(const gme::ScriptLine& line, size_t index)
 {
     return index > 0 && line.commands.size() == 2 &&
            line.commands[0].opcode == gme::Opcode::kJump &&
-           line.commands[1].opcode == pen::Arithmetic::kAdd;
+           line.commands[1].opcode == gme::Opcode::kAdd;
 }
 
 std::vector<Origin> BookMaker::originsOf(const gme::ScriptSource& source,
@@ -165,7 +165,7 @@ int BookMaker::conditionOf(const gme::ScriptLine& line, int scriptLine) const
                                  statement->kind == StatementKind::caseBranch ||
                                  statement->kind == StatementKind::defaultBranch);
     for (const gme::Command& command : line.commands) {
-        if (opensBlock && command.opcode == pen::Arithmetic::kAssign && command.value.isRegister &&
+        if (opensBlock && command.opcode == gme::Opcode::kAssign && command.value.isRegister &&
             command.target.name.rfind("ifexp", 0) == 0) {
             return game.registers.numberOf(command.value.reg);
         }

@@ -78,9 +78,9 @@ std::optional<Command> ValueCarrier::simplified(Command command) const
     }
     if (result.isNumber()) {
         return Command{
-            command.target, Arithmetic::kAssign, {false, static_cast<uint16_t>(result.number)}};
+            command.target, gme::Opcode::kAssign, {false, static_cast<uint16_t>(result.number)}};
     }
-    return command.opcode == Arithmetic::kAssign ? simplifiedAssignment(command) : command;
+    return command.opcode == gme::Opcode::kAssign ? simplifiedAssignment(command) : command;
 }
 
 // "a := t" where t holds a and a small number more becomes an addition.

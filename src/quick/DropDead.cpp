@@ -16,7 +16,7 @@ void passBackwards(const Command& command, Live& live)
         live.alive.insert(reg);
         live.overwritten.erase(reg);
     };
-    if (command.opcode == Arithmetic::kAssign) {
+    if (command.opcode == gme::Opcode::kAssign) {
         live.alive.erase(command.target);
         live.overwritten.insert(command.target);
     } else {

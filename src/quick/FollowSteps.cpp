@@ -181,7 +181,7 @@ void StepFollower::makeNode(size_t node, const Place& place)
     }
     path.now = path.start;
     for (const auto& [reg, number] : place.numbers) {
-        path.commands.push_back({reg, Arithmetic::kAssign, {false, number}});
+        path.commands.push_back({reg, gme::Opcode::kAssign, {false, number}});
         path.now.setNumber(reg, number);
     }
     go(std::move(path));

@@ -9,8 +9,8 @@ namespace {
 
 bool isArithmetic(const gme::Command& command)
 {
-    return command.hasTarget && command.opcode >= Arithmetic::kAdd &&
-           command.opcode <= Arithmetic::kAssign && command.opcode != gme::Opcode::kNegate;
+    return command.hasTarget && command.opcode >= gme::Opcode::kAdd &&
+           command.opcode <= gme::Opcode::kAssign && command.opcode != gme::Opcode::kNegate;
 }
 
 bool isSound(const gme::Command& command)

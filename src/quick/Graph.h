@@ -12,19 +12,6 @@
 // The scripts of a game as a graph: lines with conditions, and where they jump to.
 namespace quick {
 
-// The numbers of the commands that calculate; the others are in gme::Opcode.
-namespace Arithmetic {
-constexpr uint16_t kAdd = 0xFFF0;
-constexpr uint16_t kSubtract = 0xFFF1;
-constexpr uint16_t kMultiply = 0xFFF2;
-constexpr uint16_t kDivide = 0xFFF3;
-constexpr uint16_t kRemainder = 0xFFF4;
-constexpr uint16_t kAnd = 0xFFF5;
-constexpr uint16_t kOr = 0xFFF6;
-constexpr uint16_t kXor = 0xFFF7;
-constexpr uint16_t kAssign = 0xFFF9;
-}  // namespace Arithmetic
-
 constexpr size_t kMostCommands = 8;  // that the pen runs in a line
 
 using Register = uint16_t;  // its number in the game that was there first
@@ -61,12 +48,12 @@ struct Command
 
     bool reads(Register reg) const
     {
-        return value.reads(reg) || (opcode != Arithmetic::kAssign && target == reg);
+        return value.reads(reg) || (opcode != gme::Opcode::kAssign && target == reg);
     }
     // It may divide by zero, of which nobody knows what comes of it.
     bool mayFail() const
     {
-        return (opcode == Arithmetic::kDivide || opcode == Arithmetic::kRemainder) &&
+        return (opcode == gme::Opcode::kDivide || opcode == gme::Opcode::kRemainder) &&
                (value.isRegister || value.value == 0);
     }
 };

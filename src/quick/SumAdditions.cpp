@@ -17,9 +17,9 @@ int summandOf(const Command& command)
         return 0;
     }
     switch (command.opcode) {
-    case Arithmetic::kAdd:
+    case gme::Opcode::kAdd:
         return command.value.value;
-    case Arithmetic::kSubtract:
+    case gme::Opcode::kSubtract:
         return -int{command.value.value};
     default:
         return 0;
@@ -53,7 +53,7 @@ void sumAdditions(Commands& commands)
         }
         const int sum = summandOf(commands[*earlier]) + summandOf(commands[i]);
         if (std::abs(sum) <= kLargest) {
-            commands[i].opcode = sum >= 0 ? Arithmetic::kAdd : Arithmetic::kSubtract;
+            commands[i].opcode = sum >= 0 ? gme::Opcode::kAdd : gme::Opcode::kSubtract;
             commands[i].value.value = static_cast<uint16_t>(std::abs(sum));
             commands.erase(commands.begin() + static_cast<std::ptrdiff_t>(*earlier));
             --i;

@@ -16,18 +16,18 @@ Value numberValue(uint32_t number)
 bool compare(uint16_t left, uint16_t comparison, uint16_t right)
 {
     switch (comparison) {
-    case Comparison::kEqual:
-    case Comparison::kAlsoEqual:
+    case gme::Comparison::kEqual:
+    case gme::Comparison::kAlsoEqual:
         return left == right;
-    case Comparison::kGreater:
+    case gme::Comparison::kGreater:
         return left > right;
-    case Comparison::kLess:
+    case gme::Comparison::kLess:
         return left < right;
-    case Comparison::kGreaterOrEqual:
+    case gme::Comparison::kGreaterOrEqual:
         return left >= right;
-    case Comparison::kLessOrEqual:
+    case gme::Comparison::kLessOrEqual:
         return left <= right;
-    case Comparison::kNotEqual:
+    case gme::Comparison::kNotEqual:
         return left != right;
     default:
         return false;
@@ -36,30 +36,30 @@ bool compare(uint16_t left, uint16_t comparison, uint16_t right)
 
 bool isKnown(uint16_t comparison)
 {
-    return comparison == Comparison::kEqual || comparison >= Comparison::kGreater;
+    return comparison == gme::Comparison::kEqual || comparison >= gme::Comparison::kGreater;
 }
 
 bool isEquality(uint16_t comparison)
 {
-    return comparison == Comparison::kEqual || comparison == Comparison::kAlsoEqual ||
-           comparison == Comparison::kNotEqual;
+    return comparison == gme::Comparison::kEqual || comparison == gme::Comparison::kAlsoEqual ||
+           comparison == gme::Comparison::kNotEqual;
 }
 
 uint16_t opposite(uint16_t comparison)
 {
     switch (comparison) {
-    case Comparison::kGreater:
-        return Comparison::kLessOrEqual;
-    case Comparison::kLess:
-        return Comparison::kGreaterOrEqual;
-    case Comparison::kGreaterOrEqual:
-        return Comparison::kLess;
-    case Comparison::kLessOrEqual:
-        return Comparison::kGreater;
-    case Comparison::kNotEqual:
-        return Comparison::kEqual;
+    case gme::Comparison::kGreater:
+        return gme::Comparison::kLessOrEqual;
+    case gme::Comparison::kLess:
+        return gme::Comparison::kGreaterOrEqual;
+    case gme::Comparison::kGreaterOrEqual:
+        return gme::Comparison::kLess;
+    case gme::Comparison::kLessOrEqual:
+        return gme::Comparison::kGreater;
+    case gme::Comparison::kNotEqual:
+        return gme::Comparison::kEqual;
     default:
-        return Comparison::kNotEqual;
+        return gme::Comparison::kNotEqual;
     }
 }
 
@@ -67,14 +67,14 @@ uint16_t opposite(uint16_t comparison)
 uint16_t mirrored(uint16_t comparison)
 {
     switch (comparison) {
-    case Comparison::kGreater:
-        return Comparison::kLess;
-    case Comparison::kLess:
-        return Comparison::kGreater;
-    case Comparison::kGreaterOrEqual:
-        return Comparison::kLessOrEqual;
-    case Comparison::kLessOrEqual:
-        return Comparison::kGreaterOrEqual;
+    case gme::Comparison::kGreater:
+        return gme::Comparison::kLess;
+    case gme::Comparison::kLess:
+        return gme::Comparison::kGreater;
+    case gme::Comparison::kGreaterOrEqual:
+        return gme::Comparison::kLessOrEqual;
+    case gme::Comparison::kLessOrEqual:
+        return gme::Comparison::kGreaterOrEqual;
     default:
         return comparison;
     }
@@ -84,21 +84,21 @@ uint16_t mirrored(uint16_t comparison)
 std::optional<uint32_t> calculate(uint32_t left, uint16_t opcode, uint32_t right)
 {
     switch (opcode) {
-    case Arithmetic::kAdd:
+    case gme::Opcode::kAdd:
         return left + right;
-    case Arithmetic::kSubtract:
+    case gme::Opcode::kSubtract:
         return left - right;
-    case Arithmetic::kMultiply:
+    case gme::Opcode::kMultiply:
         return left * right;
-    case Arithmetic::kDivide:
+    case gme::Opcode::kDivide:
         return right != 0 ? std::make_optional(left / right) : std::nullopt;
-    case Arithmetic::kRemainder:
+    case gme::Opcode::kRemainder:
         return right != 0 ? std::make_optional(left % right) : std::nullopt;
-    case Arithmetic::kAnd:
+    case gme::Opcode::kAnd:
         return left & right;
-    case Arithmetic::kOr:
+    case gme::Opcode::kOr:
         return left | right;
-    case Arithmetic::kXor:
+    case gme::Opcode::kXor:
         return left ^ right;
     default:
         return std::nullopt;
@@ -138,7 +138,7 @@ void Values::apply(const Command& command)
 Value Values::resultOf(const Command& command) const
 {
     const Value right = of(command.value);
-    if (command.opcode == Arithmetic::kAssign) {
+    if (command.opcode == gme::Opcode::kAssign) {
         return right;
     }
     const Value left = of(command.target);
@@ -148,14 +148,14 @@ Value Values::resultOf(const Command& command) const
             return numberValue(*result);
         }
     } else if (left.kind == Value::Kind::sum && right.isNumber()) {
-        if (command.opcode == Arithmetic::kAdd) {
+        if (command.opcode == gme::Opcode::kAdd) {
             return {left.kind, left.base, (left.number + right.number) & kLargest};
         }
-        if (command.opcode == Arithmetic::kSubtract) {
+        if (command.opcode == gme::Opcode::kSubtract) {
             return {left.kind, left.base, (left.number - right.number) & kLargest};
         }
     } else if (left.isNumber() && right.kind == Value::Kind::sum &&
-               command.opcode == Arithmetic::kAdd) {
+               command.opcode == gme::Opcode::kAdd) {
         return {right.kind, right.base, (left.number + right.number) & kLargest};
     }
     return {Value::Kind::other, 0, ++others};
@@ -213,7 +213,7 @@ std::optional<bool> Values::follows(const Condition& condition) const
         const bool ofMost = compare(range.most, condition.comparison, number);
         if (isEquality(condition.comparison)) {
             if (number < range.least || number > range.most) {
-                return condition.comparison == Comparison::kNotEqual;
+                return condition.comparison == gme::Comparison::kNotEqual;
             }
         } else if (ofLeast == ofMost) {
             return ofLeast;
@@ -254,19 +254,19 @@ void Values::limit(Register reg, uint16_t comparison, uint16_t number)
 {
     Range range = rangeOf(reg);
     switch (comparison) {
-    case Comparison::kGreater:
+    case gme::Comparison::kGreater:
         range.least = std::max<uint16_t>(range.least, static_cast<uint16_t>(number + 1));
         break;
-    case Comparison::kLess:
+    case gme::Comparison::kLess:
         range.most = std::min<uint16_t>(range.most, static_cast<uint16_t>(number - 1));
         break;
-    case Comparison::kGreaterOrEqual:
+    case gme::Comparison::kGreaterOrEqual:
         range.least = std::max(range.least, number);
         break;
-    case Comparison::kLessOrEqual:
+    case gme::Comparison::kLessOrEqual:
         range.most = std::min(range.most, number);
         break;
-    case Comparison::kNotEqual:
+    case gme::Comparison::kNotEqual:
         range.least = static_cast<uint16_t>(range.least + (range.least == number ? 1 : 0));
         range.most = static_cast<uint16_t>(range.most - (range.most == number ? 1 : 0));
         break;
@@ -281,8 +281,8 @@ Command addition(Register target, uint16_t summand)
 {
     constexpr uint16_t kHalf = 0x8000;
     return summand < kHalf
-               ? Command{target, Arithmetic::kAdd, {false, summand}}
-               : Command{target, Arithmetic::kSubtract, {false, static_cast<uint16_t>(-summand)}};
+               ? Command{target, gme::Opcode::kAdd, {false, summand}}
+               : Command{target, gme::Opcode::kSubtract, {false, static_cast<uint16_t>(-summand)}};
 }
 
 }  // namespace quick

@@ -65,17 +65,6 @@ private:
     mutable uint32_t others = 0;
 };
 
-// The comparisons of the pen.
-namespace Comparison {
-constexpr uint16_t kEqual = 0xFFF9;
-constexpr uint16_t kGreater = 0xFFFA;
-constexpr uint16_t kLess = 0xFFFB;
-constexpr uint16_t kAlsoEqual = 0xFFFC;
-constexpr uint16_t kGreaterOrEqual = 0xFFFD;
-constexpr uint16_t kLessOrEqual = 0xFFFE;
-constexpr uint16_t kNotEqual = 0xFFFF;
-}  // namespace Comparison
-
 // The summand as a calculation: an addition, or a subtraction where that is smaller.
 Command addition(Register target, uint16_t summand);
 

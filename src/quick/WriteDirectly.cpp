@@ -27,7 +27,7 @@ std::optional<size_t> beginningOf(const Commands& commands, size_t copy)
     const Register variable = commands[copy].target;
     const Register temporary = commands[copy].value.value;
     for (size_t i = copy; i-- > 0;) {
-        if (commands[i].target == temporary && commands[i].opcode == Arithmetic::kAssign) {
+        if (commands[i].target == temporary && commands[i].opcode == gme::Opcode::kAssign) {
             return i;
         }
         if (commands[i].target == variable || commands[i].reads(variable)) {
@@ -47,7 +47,7 @@ bool writeOneDirectly(Commands& commands, const Live& behind)
 {
     for (size_t copy = 1; copy < commands.size(); ++copy) {
         const Command command = commands[copy];
-        if (command.opcode != Arithmetic::kAssign || !command.value.isRegister ||
+        if (command.opcode != gme::Opcode::kAssign || !command.value.isRegister ||
             command.value.value == command.target ||
             isReadBehind(commands, copy, command.value.value, behind)) {
             continue;
@@ -67,7 +67,7 @@ bool writeOneDirectly(Commands& commands, const Live& behind)
 
 bool saysNothing(const Command& command)
 {
-    return command.opcode == Arithmetic::kAssign && command.value.reads(command.target);
+    return command.opcode == gme::Opcode::kAssign && command.value.reads(command.target);
 }
 
 }  // namespace
