@@ -90,8 +90,7 @@ QString RenameEverywhere::placesOf(const std::string& name) const
     if (areas.empty()) {
         return places;
     }
-    return tr("Areas: %1 (pages: %2)").arg(areas.size()).arg(numbers.join(", ")) + '\n' +
-           places;
+    return tr("Areas: %1 (pages: %2)").arg(areas.size()).arg(numbers.join(", ")) + '\n' + places;
 }
 
 // Two subs of one name would be an error of the script.
