@@ -5,8 +5,8 @@
 #include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
+#include "programs/ProcessRunner.h"
 #include "publish/GameFile.h"
-#include "publish/ProcessRunner.h"
 
 namespace {
 

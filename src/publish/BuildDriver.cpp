@@ -8,8 +8,8 @@
 #include "gme/Assembler.h"
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
+#include "programs/ProcessRunner.h"
 #include "publish/Assembling.h"
-#include "publish/ProcessRunner.h"
 #include "publish/YamlFile.h"
 #include "ttbasic/ttbasic.h"
 

@@ -7,8 +7,8 @@
 #include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
 #include "oid/OidProject.h"
+#include "programs/ProcessRunner.h"
 #include "publish/GameFile.h"
-#include "publish/ProcessRunner.h"
 
 namespace fs = std::filesystem;
 

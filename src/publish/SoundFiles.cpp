@@ -6,8 +6,8 @@
 #include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
-#include "publish/ProcessRunner.h"
-#include "publish/SpeechProgram.h"
+#include "programs/ProcessRunner.h"
+#include "speech/SpeechProgram.h"
 
 namespace {
 

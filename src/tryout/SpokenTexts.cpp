@@ -1,7 +1,7 @@
 #include "tryout/SpokenTexts.h"
 
 #include "base/PlatformProcess.h"
-#include "publish/SpeechProgram.h"
+#include "speech/SpeechProgram.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "publish/OutsideProgram.h"
+#include "programs/OutsideProgram.h"
 #include "ttbasic/ttbasic.h"
 
 #include <QObject>

@@ -9,7 +9,7 @@
 #include "oid/PrintImage.h"
 #include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
-#include "tests/publish/RecordingRunner.h"
+#include "tests/programs/RecordingRunner.h"
 
 namespace fs = std::filesystem;
 using testing::Contains;

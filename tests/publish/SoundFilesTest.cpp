@@ -6,9 +6,10 @@
 #include "base/FileSystem.h"
 #include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
+#include "tests/helpers/CoreApplication.h"
 #include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
-#include "tests/publish/RecordingRunner.h"
+#include "tests/programs/RecordingRunner.h"
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;

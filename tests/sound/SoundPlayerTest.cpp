@@ -1,5 +1,6 @@
 #include "sound/SoundPlayer.h"
 
+#include "tests/helpers/CoreApplication.h"
 #include "tests/helpers/Environment.h"
 #include "tests/helpers/RunProgram.h"
 #include "tests/helpers/TemporaryFolder.h"

@@ -3,8 +3,8 @@
 #include "app/cli/Commands.h"
 #include "base/PlatformProcess.h"
 #include "oid/OpenProject.h"
+#include "programs/TerminalRunner.h"
 #include "publish/BuildDriver.h"
-#include "publish/TerminalRunner.h"
 
 namespace {
 

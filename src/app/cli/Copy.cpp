@@ -2,8 +2,8 @@
 
 #include "app/cli/Commands.h"
 #include "oid/OpenProject.h"
+#include "programs/TerminalRunner.h"
 #include "publish/PenCopy.h"
-#include "publish/TerminalRunner.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include "oid/PrintImage.h"
 #include "pdf/PrinterProfiles.h"
 #include "pdf/TestPage.h"
+#include "programs/TerminalRunner.h"
 #include "publish/PrinterTest.h"
-#include "publish/TerminalRunner.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <functional>
 
 #include "base/KVString.h"
-#include "publish/OutsideProgram.h"
+#include "programs/OutsideProgram.h"
 #include "publish/console/GatheredOutput.h"
 
 // The console: shows text line by line, runs one outside program at a time and shows what it

@@ -6,7 +6,7 @@
 
 #include <QProcess>
 
-#include "publish/ProcessRunner.h"
+#include "programs/ProcessRunner.h"
 
 // How the name of a program and its arguments become a running program; console and command line
 // share it. No shell is involved.

@@ -1,8 +1,8 @@
-#include "publish/ProcessRunner.h"
+#include "programs/ProcessRunner.h"
 
 #include <gmock/gmock.h>
 
-#include "tests/publish/RecordingRunner.h"
+#include "tests/programs/RecordingRunner.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;

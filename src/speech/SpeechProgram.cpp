@@ -1,4 +1,4 @@
-#include "publish/SpeechProgram.h"
+#include "speech/SpeechProgram.h"
 
 #include "base/FileSystem.h"
 #include "base/PlatformFiles.h"

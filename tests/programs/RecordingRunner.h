@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "publish/ProcessRunner.h"
+#include "programs/ProcessRunner.h"
 #include "tests/helpers/CapturedMessages.h"
 
 // A runner that starts nothing: it remembers the words of each call and does what the test wants

@@ -1,4 +1,4 @@
-#include "publish/OutsideProgram.h"
+#include "programs/OutsideProgram.h"
 
 #include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"

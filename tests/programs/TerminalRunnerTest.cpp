@@ -1,4 +1,4 @@
-#include "publish/TerminalRunner.h"
+#include "programs/TerminalRunner.h"
 
 #include <gtest/gtest.h>
 

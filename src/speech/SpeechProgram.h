@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "publish/ProcessRunner.h"
+#include "programs/ProcessRunner.h"
 #include "ttbasic/ttbasic.h"
 
 // The outside program that speaks texts, as an installed one is found, and how it is called.

@@ -1,9 +1,13 @@
+#pragma once
+
 #include <QCoreApplication>
 
 #include <gtest/gtest.h>
+#include <memory>
 
-// Outside programs are watched by an event loop, which needs an application object.
-class Application : public testing::Environment
+// For tests of what an event loop brings, such as the end of a program: it needs an application
+// object, and who includes this has one.
+class CoreApplication : public testing::Environment
 {
 public:
     void SetUp() override { application = std::make_unique<QCoreApplication>(count, words); }
@@ -16,5 +20,5 @@ private:
     std::unique_ptr<QCoreApplication> application;
 };
 
-static testing::Environment* const kApplication =
-    testing::AddGlobalTestEnvironment(new Application);
+inline testing::Environment* const kCoreApplication =
+    testing::AddGlobalTestEnvironment(new CoreApplication);

@@ -1,7 +1,8 @@
-#include "publish/OutsideProgram.h"
+#include "programs/OutsideProgram.h"
 
 #include "base/FileSystem.h"
 #include "base/PlatformProcess.h"
+#include "tests/helpers/CoreApplication.h"
 #include "tests/helpers/Environment.h"
 #include "tests/helpers/FakeProgram.h"
 #include "tests/helpers/TemporaryFolder.h"

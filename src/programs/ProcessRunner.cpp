@@ -1,4 +1,4 @@
-#include "publish/ProcessRunner.h"
+#include "programs/ProcessRunner.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include <QProcess>
 
-#include "publish/OutsideProgram.h"
+#include "programs/OutsideProgram.h"
 
 // The command line's way of running programs: everything that the console would show goes to
 // standard output as it arrives.
