@@ -37,6 +37,12 @@ bool UnsavedWork::keep()
     return !failing;
 }
 
+bool UnsavedWork::isWriting() const
+{
+    return writing.valid() &&
+           writing.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
+}
+
 void UnsavedWork::leave()
 {
     finishWriting(true);
@@ -62,7 +68,7 @@ bool UnsavedWork::finishWriting(bool wait)
     if (!writing.valid()) {
         return true;
     }
-    if (!wait && writing.wait_for(std::chrono::seconds(0)) != std::future_status::ready) {
+    if (!wait && isWriting()) {
         return false;
     }
     const Outcome outcome = writing.get();

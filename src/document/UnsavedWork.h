@@ -38,6 +38,8 @@ public:
     // To be called every few seconds. Writes a copy if anything has changed; that goes on while the
     // work does. False while copies cannot be written.
     bool keep();
+    // Whether the copy that keep began is not finished yet.
+    bool isWriting() const;
 
     // To be called before something else takes this work's place: what is not saved stays behind as
     // a copy, for whoever opens the project next.

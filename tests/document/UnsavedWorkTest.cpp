@@ -41,16 +41,20 @@ protected:
 
     void type(const std::string& script) { desk->script = script; }
 
-    // As often as the window does it until the copy is written.
+    // As often as the window does it until what is there now is copied.
     bool keep()
     {
-        constexpr int kMost = 20;
-        bool kept = desk->work.keep();
-        for (int i = 0; i < kMost; ++i) {
-            QThread::msleep(5);
-            kept = desk->work.keep();
+        waitForTheDisk();
+        desk->work.keep();
+        waitForTheDisk();
+        return desk->work.keep();
+    }
+
+    void waitForTheDisk() const
+    {
+        while (desk->work.isWriting()) {
+            QThread::msleep(1);
         }
-        return kept;
     }
 
     QStringList copies() const
