@@ -8,7 +8,6 @@ const char* const kVoiceSyntax = "syntax is: VOICE name_of_voice [LANG de/en/es/
                                  "[PITCH 1..5] [SEX m/f]";
 const char* const kSaySyntax = "Syntax is: SAY \"text\" _or_ SAY voice_name \"text1\" "
                                "[\"text 2\"] [...].";
-const char* const kWelcomeName = "_welcome_message_text";
 
 std::vector<std::string> wordsOf(const std::string& text)
 {
@@ -167,9 +166,14 @@ void ttbasic::asmSay(const std::string& names)
 std::string ttbasic::prepareWelcomeMessage(const std::string& text)
 {
     if (talkTexts.count(kWelcomeName) == 0) {
-        talkTexts[kWelcomeName] = {welcomeVoice(), text + ". Start."};
+        talkTexts[kWelcomeName] = welcomeMessage(text);
     }
     return kWelcomeName;
+}
+
+ttbasic::TALKTEXT ttbasic::welcomeMessage(const std::string& text) const
+{
+    return {welcomeVoice(), text + ". Start."};
 }
 
 // The first voice that speaks something else than English is the language of the book.

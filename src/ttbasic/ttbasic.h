@@ -166,6 +166,9 @@ public:
     static std::string asmDbg();
     // Records the welcome message (once) and returns its audio name.
     std::string prepareWelcomeMessage(const std::string& text);
+    // What would be recorded.
+    TALKTEXT welcomeMessage(const std::string& text) const;
+    static constexpr char kWelcomeName[] = "_welcome_message_text";
 
     // --- Data ------------------------------------------------------------------------------------
     std::string source;

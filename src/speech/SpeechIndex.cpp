@@ -1,0 +1,228 @@
+#include "speech/SpeechIndex.h"
+
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "base/PlatformFiles.h"
+#include "base/TextHelpers.h"
+#include "speech/AudioFile.h"
+
+namespace {
+
+constexpr int kVersion = 1;
+
+QString text(const std::string& utf8)
+{
+    return QString::fromStdString(utf8);
+}
+
+std::string hashOf(const std::string& path)
+{
+    QFile file(text(path));
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    if (!file.open(QIODevice::ReadOnly) || !hash.addData(&file)) {
+        return {};
+    }
+    return hash.result().toHex().toStdString();
+}
+
+std::int64_t timeOf(const QFileInfo& file)
+{
+    return file.lastModified().toMSecsSinceEpoch();
+}
+
+QJsonObject objectOf(const Utterance& spoken)
+{
+    return {{"text", text(spoken.text)},
+            {"voice", text(spoken.voice)},
+            {"language", text(spoken.settings.language)},
+            {"sex", spoken.settings.female ? "f" : "m"},
+            {"age", spoken.settings.age},
+            {"engine", text(spoken.engine)}};
+}
+
+// Reads the members of an object and notes when one is not as it should be.
+class Members
+{
+public:
+    explicit Members(const QJsonValue& value) : object(value.toObject()), fine(value.isObject()) {}
+
+    std::string text(const char* name)
+    {
+        const QJsonValue value = object.value(name);
+        fine = fine && value.isString();
+        return value.toString().toStdString();
+    }
+    std::int64_t number(const char* name)
+    {
+        const QJsonValue value = object.value(name);
+        fine = fine && value.isDouble();
+        return static_cast<std::int64_t>(value.toDouble());
+    }
+    bool areFine() const { return fine; }
+
+private:
+    const QJsonObject object;
+    bool fine;
+};
+
+Utterance readUtterance(Members& members)
+{
+    Utterance spoken;
+    spoken.text = members.text("text");
+    spoken.voice = members.text("voice");
+    spoken.settings.language = members.text("language");
+    spoken.settings.female = members.text("sex") == "f";
+    spoken.settings.age = static_cast<int>(members.number("age"));
+    spoken.engine = members.text("engine");
+    return spoken;
+}
+
+}  // namespace
+
+SpeechIndex::SpeechIndex(std::string audioFolder)
+    : folder(Platform::nativePath(std::move(audioFolder)))
+{
+    read();
+}
+
+std::string SpeechIndex::path() const
+{
+    return folder + "/" + kFileName;
+}
+
+std::string SpeechIndex::problem() const
+{
+    switch (now) {
+    case State::damaged:
+        return "The file '" + path() + "' is damaged: files that were spoken count as your own";
+    case State::unreadable:
+        return "Can't open file '" + path() + "': files that were spoken count as your own";
+    case State::good:
+        break;
+    }
+    return {};
+}
+
+void SpeechIndex::read()
+{
+    QFile file(text(path()));
+    if (!file.exists()) {
+        return;
+    }
+    if (!file.open(QIODevice::ReadOnly)) {
+        now = State::unreadable;
+    } else if (!readEntries(file.readAll().toStdString())) {
+        now = State::damaged;
+        entries.clear();
+    }
+}
+
+bool SpeechIndex::readEntries(const std::string& bytes)
+{
+    const QJsonObject all = QJsonDocument::fromJson(QByteArray::fromStdString(bytes)).object();
+    if (all.value("version").toInt() != kVersion || !all.value("files").isObject()) {
+        return false;
+    }
+    const QJsonObject files = all.value("files").toObject();
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        Members members(file.value());
+        Entry& entry = entries[file.key().toStdString()];
+        entry.spoken = readUtterance(members);
+        entry.size = members.number("size");
+        entry.time = members.number("time");
+        entry.hash = members.text("sha256");
+        if (!members.areFine()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+const Utterance* SpeechIndex::spokenInto(const std::string& audioName)
+{
+    const auto found = entries.find(audioName);
+    if (found == entries.end()) {
+        return nullptr;
+    }
+    Entry& entry = found->second;
+    const std::string path = Platform::nativePath(audioFileIn(folder, audioName));
+    const QFileInfo file(text(path));
+    if (!file.isFile() || file.size() != entry.size) {
+        return nullptr;
+    }
+    const std::int64_t time = timeOf(file);
+    if (time != entry.time) {
+        if (hashOf(path) != entry.hash) {
+            return nullptr;
+        }
+        entry.time = time;
+        changed = true;
+    }
+    return &entry.spoken;
+}
+
+bool SpeechIndex::remember(const std::string& audioName, const Utterance& spoken)
+{
+    const std::string path = Platform::nativePath(audioFileIn(folder, audioName));
+    const QFileInfo file(text(path));
+    Entry entry{spoken, file.size(), timeOf(file), hashOf(path)};
+    if (entry.hash.empty()) {
+        return false;
+    }
+    entries[audioName] = std::move(entry);
+    changed = true;
+    return true;
+}
+
+void SpeechIndex::forget(const std::string& audioName)
+{
+    changed = entries.erase(audioName) != 0 || changed;
+}
+
+std::string SpeechIndex::asText() const
+{
+    QJsonObject files;
+    for (const auto& [name, entry] : entries) {
+        QJsonObject object = objectOf(entry.spoken);
+        object["size"] = static_cast<double>(entry.size);
+        object["time"] = static_cast<double>(entry.time);
+        object["sha256"] = text(entry.hash);
+        files[text(name)] = object;
+    }
+    return QJsonDocument(QJsonObject{{"version", kVersion}, {"files", files}})
+        .toJson()
+        .toStdString();
+}
+
+// What somebody can make sense of is not lost.
+bool SpeechIndex::keepDamagedFile()
+{
+    const std::string kept = path() + ".damaged";
+    for (int number = 1;; ++number) {
+        const std::string name = number == 1 ? kept : kept + itostr(number);
+        if (!Platform::fileExists(name)) {
+            return Platform::renameFile(path(), name);
+        }
+    }
+}
+
+bool SpeechIndex::save()
+{
+    if (now != State::good && !keepDamagedFile()) {
+        return false;
+    }
+    now = State::good;
+    Platform::FileReplacement file(path());
+    const std::string bytes = asText();
+    if (file.file() == nullptr ||
+        fwrite(bytes.data(), 1, bytes.size(), file.file()) != bytes.size() || !file.commit()) {
+        return false;
+    }
+    changed = false;
+    return true;
+}

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+
+#include "speech/Utterance.h"
+
+// What an audio folder remembers of the files that we spoke into it: what they say, and how the
+// files looked. So a file whose text or voice has changed can be told from a good one, and a file
+// of the author's own from ours. A value; nothing is written but by save.
+class SpeechIndex
+{
+public:
+    enum class State {
+        good,       // or not there, as in a folder of before
+        damaged,    // and treated as empty; the next likewise
+        unreadable  // the system does not let us
+    };
+
+    static constexpr char kFileName[] = "speech-index.json";
+
+    // Reads the index of an audio folder, which need not be there.
+    explicit SpeechIndex(std::string audioFolder);
+
+    State state() const { return now; }
+    // The native path of the index.
+    std::string path() const;
+    // What is to be said of an index that is not good, one sentence in English; else empty.
+    std::string problem() const;
+
+    // What we spoke into the audio file of that name; null when there is no such file or when it
+    // is the author's own. A file that was only touched, or copied, is still ours: its new time is
+    // noted then.
+    const Utterance* spokenInto(const std::string& audioName);
+
+    // Notes that the audio file of that name is there and that we have just made it. False when the
+    // file cannot be read.
+    bool remember(const std::string& audioName, const Utterance& spoken);
+    void forget(const std::string& audioName);
+    // True when something is noted that is not saved.
+    bool isChanged() const { return changed; }
+    // Writes the index, whole or not at all; a damaged one is kept beside it under another name. A
+    // folder that is not there is not made. False when it cannot be written.
+    bool save();
+
+private:
+    struct Entry
+    {
+        Utterance spoken;
+        std::int64_t size = 0;  // bytes
+        std::int64_t time = 0;  // of the last change, in milliseconds since 1970
+        std::string hash;       // SHA-256 of the file, in hexadecimal digits
+    };
+
+    void read();
+    bool readEntries(const std::string& text);
+    bool keepDamagedFile();
+    std::string asText() const;
+
+    std::string folder;  // native
+    std::map<std::string, Entry> entries;
+    State now = State::good;
+    bool changed = false;
+};
