@@ -15,6 +15,7 @@ test_packages=(
     libgtest-dev libgmock-dev locales
     imagemagick libtiff-tools qt5-image-formats-plugins
     qpdf poppler-utils mupdf-tools
+    flite
     xvfb xauth openbox xdotool
 )
 

@@ -30,8 +30,9 @@ class Text2Speech : public testing::Test
 {
 protected:
     ProgramRun run(const std::vector<std::string>& words,
-                   const std::vector<std::string>& environment = {}) const
+                   std::vector<std::string> environment = {}) const
     {
+        environment.push_back("XDG_CONFIG_HOME=" + settings.path());  // no other engines
         return runProgram(kProgram, words, environment, folder.path());
     }
 
@@ -50,6 +51,7 @@ protected:
     }
 
     const TemporaryFolder folder;
+    const TemporaryFolder settings;
 };
 
 // The same with a stand-in for espeak-ng.
@@ -280,7 +282,7 @@ TEST_F(WithFakeEspeak, ACrashLeavesTheOldFile)
 
 TEST_F(WithFakeEspeak, WithoutAHeaderThereIsNoSound)
 {
-    EXPECT_EQ(speakWith("print no sound\n"), failure("espeak-ng made no sound"));
+    EXPECT_EQ(speakWith("print no sound\n"), failure("what espeak-ng made is no WAV file"));
     EXPECT_EQ(speakWith(""), failure("espeak-ng made no sound"));
     EXPECT_EQ(folder.listing(), "");
 }

@@ -1,38 +1,84 @@
 #include "tools/text2speech/Espeak.h"
 
-#include <QProcess>
+#include <iterator>
 
-#include "base/PlatformProcess.h"
+#include "base/TextHelpers.h"
+#include "tools/text2speech/Languages.h"
+#include "tools/text2speech/SpeakingProgram.h"
+#include "tools/text2speech/WavFile.h"
 
 namespace {
 
-// What the program said, in one line.
-std::string complaint(QProcess& process)
+// The voice for a language; returns what is wrong with it.
+std::string findVoice(const std::string& language, std::string& voice)
 {
-    const QString said = QString::fromUtf8(process.readAllStandardError()).simplified();
-    const std::string how =
-        process.exitStatus() == QProcess::CrashExit
-            ? "espeak-ng crashed"
-            : "espeak-ng failed with status " + std::to_string(process.exitCode());
-    return said.isEmpty() ? how : how + ": " + said.toStdString();
+    Languages languages;
+    std::string problem = findLanguages(languages);
+    if (!problem.empty()) {
+        return problem;
+    }
+    const auto found = languages.find(toLower(language));
+    if (found == languages.end()) {
+        return "unknown language '" + language + "' (Text2Speech -l lists them)";
+    }
+    voice = found->second.voice;
+    return {};
+}
+
+// How espeak-ng is to sound: one of its voice variants, and a pitch from 0 to 99.
+struct VoiceVariant
+{
+    const char* name;
+    int pitch;
+};
+
+struct AgeGroup
+{
+    int oldest;  // years
+    VoiceVariant female;
+    VoiceVariant male;
+};
+
+constexpr AgeGroup kGroups[] = {
+    {12, {"f3", 99}, {"m2", 99}},  // child
+    {24, {"f5", 65}, {"m2", 68}},  // young
+    {59, {"f2", 55}, {"m3", 50}},  // adult
+    {99, {"f1", 30}, {"m1", 42}},  // old
+};
+
+// Child (up to 12 years), young, adult (from 25) or old (from 60): the eight voices differ in
+// timbre and each in its pitch.
+VoiceVariant variantFor(bool female, int age)
+{
+    const AgeGroup* group = std::begin(kGroups);
+    while (group + 1 != std::end(kGroups) && age > group->oldest) {
+        ++group;
+    }
+    return female ? group->female : group->male;
+}
+
+// The sound comes through a pipe, since espeak-ng itself cuts long paths.
+std::vector<std::string> espeakArguments(const ttbasic::VOICE& speaker, const std::string& voice)
+{
+    const VoiceVariant variant = variantFor(speaker.female, speaker.age);
+    return {"--stdin", "-b",
+            "1",  // UTF-8
+            "-v",      voice + "+" + variant.name,
+            "-p",      itostr(variant.pitch),
+            "--stdout"};
 }
 
 }  // namespace
 
-std::string runEspeak(const QStringList& arguments, const std::string& text,
-                      const std::function<void(const QByteArray&)>& receive)
+std::string speakByEspeak(const Request& request)
 {
-    const std::string program = Platform::findProgram("espeak-ng");
-    QProcess process;
-    QObject::connect(&process, &QProcess::readyReadStandardOutput, &process,
-                     [&] { receive(process.readAllStandardOutput()); });
-    process.start(QString::fromStdString(program), arguments);
-    if (program.empty() || !process.waitForStarted(-1)) {
-        return "espeak-ng is not installed (it is not on PATH)";
+    std::string voice;
+    std::string problem = findVoice(request.voice.language, voice);
+    if (!problem.empty()) {
+        return problem;
     }
-    process.write(text.data(), static_cast<qint64>(text.size()));
-    process.closeWriteChannel();
-    process.waitForFinished(-1);
-    const bool succeeded = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-    return succeeded ? std::string() : complaint(process);
+    return writeWav(request.file, kEspeak, [&](ArrivingSound& sound) {
+        return runSpeakingProgram(kEspeak, espeakArguments(request.voice, voice), request.text,
+                                  [&](const QByteArray& piece) { sound.add(piece); });
+    });
 }

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "base/TextHelpers.h"
-#include "tools/text2speech/Espeak.h"
+#include "tools/text2speech/SpeakingProgram.h"
 
 namespace {
 
@@ -69,8 +69,8 @@ Languages parseLanguages(const std::string& table)
 std::string findLanguages(Languages& languages)
 {
     QByteArray table;
-    std::string problem =
-        runEspeak({"--voices"}, "", [&](const QByteArray& piece) { table += piece; });
+    std::string problem = runSpeakingProgram(kEspeak, {"--voices"}, "",
+                                             [&](const QByteArray& piece) { table += piece; });
     languages = parseLanguages(table.toStdString());
     return problem;
 }

@@ -3,6 +3,8 @@
 #include <map>
 #include <string>
 
+constexpr char kEspeak[] = "espeak-ng";
+
 struct Language
 {
     std::string voice;  // by which espeak-ng speaks it

@@ -12,15 +12,16 @@ constexpr int kOldest = 99;
 
 void readAge(Request& request, const std::string& value)
 {
-    request.age = toInt(value.c_str());
-    if (itostr(request.age) != value || request.age < kYoungest || request.age > kOldest) {
+    request.voice.age = toInt(value.c_str());
+    if (itostr(request.voice.age) != value || request.voice.age < kYoungest ||
+        request.voice.age > kOldest) {
         request.error = "the age must be a number from 1 to 99, not '" + value + "'";
     }
 }
 
 void readSex(Request& request, const std::string& value)
 {
-    request.female = value == "f";
+    request.voice.female = value == "f";
     if (value != "f" && value != "m") {
         request.error = "the sex must be 'f' or 'm', not '" + value + "'";
     }
@@ -29,6 +30,7 @@ void readSex(Request& request, const std::string& value)
 const std::map<std::string, std::function<void(Request&)>>& switches()
 {
     static const std::map<std::string, std::function<void(Request&)>> table = {
+        {"-e", [](Request& request) { request.tellEngine = true; }},
         {"-h", [](Request& request) { request.help = true; }},
         {"--help", [](Request& request) { request.help = true; }},
         {"-l", [](Request& request) { request.list = true; }},
@@ -42,7 +44,7 @@ using ValueReader = std::function<void(Request&, const std::string&)>;
 const std::map<std::string, ValueReader>& options()
 {
     static const std::map<std::string, ValueReader> table = {
-        {"-v", [](Request& request, const std::string& value) { request.language = value; }},
+        {"-v", [](Request& request, const std::string& value) { request.voice.language = value; }},
         {"-a", readAge},
         {"-g", readSex},
         {"-f", [](Request& request, const std::string& value) { request.file = value; }},
@@ -53,7 +55,7 @@ const std::map<std::string, ValueReader>& options()
 
 void checkComplete(Request& request)
 {
-    if (request.help || request.list || !request.error.empty()) {
+    if (request.help || request.list || request.tellEngine || !request.error.empty()) {
         return;
     }
     if (request.file.empty()) {

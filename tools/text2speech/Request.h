@@ -3,15 +3,16 @@
 #include <string>
 #include <vector>
 
+#include "ttbasic/ttbasic.h"
+
 // What the user asked for on the command line.
 struct Request
 {
     bool help = false;
     bool list = false;
+    bool tellEngine = false;
     bool quiet = false;
-    std::string language = "en";
-    int age = 30;  // years, 1 to 99
-    bool female = false;
+    ttbasic::VOICE voice;
     std::string file;   // WAV
     std::string text;   // UTF-8
     std::string error;  // not empty: the words cannot be understood

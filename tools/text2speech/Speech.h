@@ -4,6 +4,9 @@
 
 #include "tools/text2speech/Request.h"
 
-// Speaks the request's text into its file, whole or not at all. Returns what went wrong, in one
+class Engines;
+
+// Speaks the request's text into its file, whole or not at all, by the engine that is named for its
+// language. Returns what went wrong, in one
 // line; empty when nothing did.
-std::string speak(const Request& request);
+std::string speak(const Request& request, const Engines& engines);

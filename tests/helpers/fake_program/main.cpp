@@ -5,6 +5,9 @@
 //   flood BYTES     lines of "y" on standard output longline BYTES   the same without line ends
 //   write N TEXT    TEXT into the file that argument N names (from 1; negative: from the end);
 //                   nothing when there is no such argument
+//   copy N FILE     the FILE into the file that argument N names, as with write
+//   show FILE       the bytes of FILE on standard output
+//   keep N          the file that argument N names into NAME.kept, as with write
 //   keepinput       reads standard input to its end, into NAME.input
 //   await FILE      goes on when FILE exists        hang         never ends
 //   crash           aborts                          exit N       ends with status N
@@ -20,8 +23,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -56,15 +61,30 @@ void await(const std::string& file)
     }
 }
 
-void writeInto(const Words& arguments, const std::string& numberAndText)
+std::string bytesOf(const std::string& file)
+{
+    std::ifstream source(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(source), std::istreambuf_iterator<char>()};
+}
+
+// "2 TEXT": the second argument and the text; negative numbers count from the end. The argument is
+// empty when there is none.
+std::pair<std::string, std::string> argumentAndText(const Words& arguments,
+                                                    const std::string& numberAndText)
 {
     const std::size_t blank = numberAndText.find(' ');
     const int number = std::stoi(numberAndText.substr(0, blank));
     const int count = static_cast<int>(arguments.size());
     const int index = number < 0 ? count + number : number - 1;
-    if (index >= 0 && index < count) {
-        std::ofstream(arguments[static_cast<std::size_t>(index)], std::ios::binary)
-            << numberAndText.substr(blank + 1);
+    const bool isThere = index >= 0 && index < count;
+    return {isThere ? arguments[static_cast<std::size_t>(index)] : std::string(),
+            blank == std::string::npos ? std::string() : numberAndText.substr(blank + 1)};
+}
+
+void writeInto(const std::string& file, const std::string& text)
+{
+    if (!file.empty()) {
+        std::ofstream(file, std::ios::binary) << text;
     }
 }
 
@@ -95,7 +115,16 @@ void carryOut(const std::string& action, const std::string& rest, const std::str
     } else if (action == "longline") {
         flood(std::stoll(rest), "y");
     } else if (action == "write") {
-        writeInto(arguments, rest);
+        const auto [file, text] = argumentAndText(arguments, rest);
+        writeInto(file, text);
+    } else if (action == "copy") {
+        const auto [file, source] = argumentAndText(arguments, rest);
+        writeInto(file, bytesOf(source));
+    } else if (action == "keep") {
+        writeInto(self + ".kept", bytesOf(argumentAndText(arguments, rest).first));
+    } else if (action == "show") {
+        const std::string bytes = bytesOf(rest);
+        fwrite(bytes.data(), 1, bytes.size(), stdout);
     } else if (action == "keepinput") {
         keepInput(self + ".input");
     } else if (action == "await") {
