@@ -1608,6 +1608,29 @@
     </message>
 </context>
 <context>
+    <name>Microphone</name>
+    <message>
+        <source>No microphone can be used (%1)</source>
+        <translation>Kein Mikrofon ist nutzbar (%1)</translation>
+    </message>
+    <message>
+        <source>There is no microphone: plug one in, or allow programs to hear it</source>
+        <translation>Es gibt kein Mikrofon: Schließen Sie eines an, oder erlauben Sie Programmen, es zu hören</translation>
+    </message>
+    <message>
+        <source>The microphone cannot be used (%1)</source>
+        <translation>Das Mikrofon ist nicht nutzbar (%1)</translation>
+    </message>
+    <message>
+        <source>The microphone is gone: is it still plugged in?</source>
+        <translation>Das Mikrofon ist weg: Ist es noch angeschlossen?</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone any more</source>
+        <translation>Vom Mikrofon kommt nichts mehr</translation>
+    </message>
+</context>
+<context>
     <name>Conversation</name>
     <message>
         <source>What was said</source>

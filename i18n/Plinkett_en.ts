@@ -1608,6 +1608,29 @@
     </message>
 </context>
 <context>
+    <name>Microphone</name>
+    <message>
+        <source>No microphone can be used (%1)</source>
+        <translation>No microphone can be used (%1)</translation>
+    </message>
+    <message>
+        <source>There is no microphone: plug one in, or allow programs to hear it</source>
+        <translation>There is no microphone: plug one in, or allow programs to hear it</translation>
+    </message>
+    <message>
+        <source>The microphone cannot be used (%1)</source>
+        <translation>The microphone cannot be used (%1)</translation>
+    </message>
+    <message>
+        <source>The microphone is gone: is it still plugged in?</source>
+        <translation>The microphone is gone: is it still plugged in?</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone any more</source>
+        <translation>Nothing comes from the microphone any more</translation>
+    </message>
+</context>
+<context>
     <name>Conversation</name>
     <message>
         <source>What was said</source>

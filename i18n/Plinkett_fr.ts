@@ -1608,6 +1608,29 @@
     </message>
 </context>
 <context>
+    <name>Microphone</name>
+    <message>
+        <source>No microphone can be used (%1)</source>
+        <translation>Aucun microphone n&apos;est utilisable (%1)</translation>
+    </message>
+    <message>
+        <source>There is no microphone: plug one in, or allow programs to hear it</source>
+        <translation>Il n&apos;y a pas de microphone : branchez-en un, ou autorisez les programmes à l&apos;écouter</translation>
+    </message>
+    <message>
+        <source>The microphone cannot be used (%1)</source>
+        <translation>Le microphone n&apos;est pas utilisable (%1)</translation>
+    </message>
+    <message>
+        <source>The microphone is gone: is it still plugged in?</source>
+        <translation>Le microphone a disparu : est-il encore branché ?</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone any more</source>
+        <translation>Plus rien ne vient du microphone</translation>
+    </message>
+</context>
+<context>
     <name>Conversation</name>
     <message>
         <source>What was said</source>

@@ -1608,6 +1608,29 @@
     </message>
 </context>
 <context>
+    <name>Microphone</name>
+    <message>
+        <source>No microphone can be used (%1)</source>
+        <translation>Er is geen bruikbare microfoon (%1)</translation>
+    </message>
+    <message>
+        <source>There is no microphone: plug one in, or allow programs to hear it</source>
+        <translation>Er is geen microfoon: sluit er een aan, of sta programma&apos;s toe ernaar te luisteren</translation>
+    </message>
+    <message>
+        <source>The microphone cannot be used (%1)</source>
+        <translation>De microfoon is niet bruikbaar (%1)</translation>
+    </message>
+    <message>
+        <source>The microphone is gone: is it still plugged in?</source>
+        <translation>De microfoon is weg: is hij nog aangesloten?</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone any more</source>
+        <translation>Er komt niets meer van de microfoon</translation>
+    </message>
+</context>
+<context>
     <name>Conversation</name>
     <message>
         <source>What was said</source>

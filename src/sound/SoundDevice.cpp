@@ -36,18 +36,17 @@ SoundDevice::~SoundDevice()
         clock.join();
     }
     if (device != 0) {
+        const AudioSystem::Lock lock(AudioSystem::mutex());
         SDL_CloseAudioDevice(device);
     }
-    SDL_QuitSubSystem(SDL_INIT_AUDIO);
 }
 
 bool SoundDevice::open()
 {
-    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");  // they are the program's own business
-    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Plinkett");
-    if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) {
+    if (!system.isThere()) {
         return false;
     }
+    const AudioSystem::Lock lock(AudioSystem::mutex());
     SDL_AudioSpec wanted{};
     wanted.freq = framesPerSecond;
     wanted.format = AUDIO_F32SYS;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sound/AudioSystem.h"
+
 #include <atomic>
 #include <string>
 #include <thread>
@@ -25,6 +27,7 @@ private:
     void keepTime();
 
     Playback& playback;
+    AudioSystem system;
     unsigned device = 0;  // 0: none
     int framesPerSecond = 44100;
     std::string reason;
