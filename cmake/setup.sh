@@ -5,7 +5,7 @@ build_packages=(
     cmake ninja-build g++
     qtbase5-dev qttools5-dev qttools5-dev-tools
     libyaml-dev pkg-config libtiff-dev libisal-dev libqpdf-dev
-    libsdl2-dev libsndfile1-dev
+    libsdl2-dev libsndfile1-dev libebur128-dev
 )
 run_packages=(espeak-ng ffmpeg libqt5svg5 qttranslations5-l10n
     fonts-dejavu-core fonts-noto-color-emoji)

@@ -1631,6 +1631,65 @@
     </message>
 </context>
 <context>
+    <name>Recording</name>
+    <message>
+        <source>%1 cannot be opened: %2</source>
+        <translation>%1 lässt sich nicht öffnen: %2</translation>
+    </message>
+    <message>
+        <source>%1 is longer than an hour</source>
+        <translation>%1 ist länger als eine Stunde</translation>
+    </message>
+    <message>
+        <source>There is no sound in %1</source>
+        <translation>In %1 ist kein Ton</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 lässt sich nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>the program ffmpeg, which would read it, is not there</source>
+        <translation>das Programm ffmpeg, das es lesen würde, ist nicht da</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>the program ffmpeg was stopped</source>
+        <translation>das Programm ffmpeg wurde beendet</translation>
+    </message>
+    <message>
+        <source>the program ffmpeg ended with status %1</source>
+        <translation>das Programm ffmpeg endete mit Status %1</translation>
+    </message>
+    <message>
+        <source>The original of %1 cannot be kept: %2</source>
+        <translation>Das Original von %1 lässt sich nicht aufheben: %2</translation>
+    </message>
+    <message>
+        <source>silent</source>
+        <translation>still</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, before %3</source>
+        <translation>%1: %2, vorher %3</translation>
+    </message>
+    <message>
+        <source>%1: %2, not changed</source>
+        <translation>%1: %2, nicht geändert</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded for %1</source>
+        <translation>Für %1 ist nichts aufgenommen</translation>
+    </message>
+</context>
+<context>
     <name>Conversation</name>
     <message>
         <source>What was said</source>

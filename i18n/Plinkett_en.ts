@@ -1631,6 +1631,65 @@
     </message>
 </context>
 <context>
+    <name>Recording</name>
+    <message>
+        <source>%1 cannot be opened: %2</source>
+        <translation>%1 cannot be opened: %2</translation>
+    </message>
+    <message>
+        <source>%1 is longer than an hour</source>
+        <translation>%1 is longer than an hour</translation>
+    </message>
+    <message>
+        <source>There is no sound in %1</source>
+        <translation>There is no sound in %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>the program ffmpeg, which would read it, is not there</source>
+        <translation>the program ffmpeg, which would read it, is not there</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelled</translation>
+    </message>
+    <message>
+        <source>the program ffmpeg was stopped</source>
+        <translation>the program ffmpeg was stopped</translation>
+    </message>
+    <message>
+        <source>the program ffmpeg ended with status %1</source>
+        <translation>the program ffmpeg ended with status %1</translation>
+    </message>
+    <message>
+        <source>The original of %1 cannot be kept: %2</source>
+        <translation>The original of %1 cannot be kept: %2</translation>
+    </message>
+    <message>
+        <source>silent</source>
+        <translation>silent</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 cannot be written: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, before %3</source>
+        <translation>%1: %2, before %3</translation>
+    </message>
+    <message>
+        <source>%1: %2, not changed</source>
+        <translation>%1: %2, not changed</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded for %1</source>
+        <translation>Nothing is recorded for %1</translation>
+    </message>
+</context>
+<context>
     <name>Conversation</name>
     <message>
         <source>What was said</source>

@@ -1631,6 +1631,65 @@
     </message>
 </context>
 <context>
+    <name>Recording</name>
+    <message>
+        <source>%1 cannot be opened: %2</source>
+        <translation>%1 ne peut pas être ouvert : %2</translation>
+    </message>
+    <message>
+        <source>%1 is longer than an hour</source>
+        <translation>%1 dure plus d&apos;une heure</translation>
+    </message>
+    <message>
+        <source>There is no sound in %1</source>
+        <translation>Il n&apos;y a pas de son dans %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 ne peut pas être lu : %2</translation>
+    </message>
+    <message>
+        <source>the program ffmpeg, which would read it, is not there</source>
+        <translation>le programme ffmpeg, qui le lirait, n&apos;est pas là</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>annulé</translation>
+    </message>
+    <message>
+        <source>the program ffmpeg was stopped</source>
+        <translation>le programme ffmpeg a été arrêté</translation>
+    </message>
+    <message>
+        <source>the program ffmpeg ended with status %1</source>
+        <translation>le programme ffmpeg s&apos;est terminé avec le statut %1</translation>
+    </message>
+    <message>
+        <source>The original of %1 cannot be kept: %2</source>
+        <translation>L&apos;original de %1 ne peut pas être conservé : %2</translation>
+    </message>
+    <message>
+        <source>silent</source>
+        <translation>silencieux</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 ne peut pas être écrit : %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, before %3</source>
+        <translation>%1 : %2, avant %3</translation>
+    </message>
+    <message>
+        <source>%1: %2, not changed</source>
+        <translation>%1 : %2, inchangé</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded for %1</source>
+        <translation>Rien n&apos;est enregistré pour %1</translation>
+    </message>
+</context>
+<context>
     <name>Conversation</name>
     <message>
         <source>What was said</source>

@@ -1631,6 +1631,65 @@
     </message>
 </context>
 <context>
+    <name>Recording</name>
+    <message>
+        <source>%1 cannot be opened: %2</source>
+        <translation>%1 kan niet worden geopend: %2</translation>
+    </message>
+    <message>
+        <source>%1 is longer than an hour</source>
+        <translation>%1 duurt langer dan een uur</translation>
+    </message>
+    <message>
+        <source>There is no sound in %1</source>
+        <translation>Er zit geen geluid in %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kan niet worden gelezen: %2</translation>
+    </message>
+    <message>
+        <source>the program ffmpeg, which would read it, is not there</source>
+        <translation>het programma ffmpeg, dat het zou lezen, is er niet</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>afgebroken</translation>
+    </message>
+    <message>
+        <source>the program ffmpeg was stopped</source>
+        <translation>het programma ffmpeg is gestopt</translation>
+    </message>
+    <message>
+        <source>the program ffmpeg ended with status %1</source>
+        <translation>het programma ffmpeg eindigde met status %1</translation>
+    </message>
+    <message>
+        <source>The original of %1 cannot be kept: %2</source>
+        <translation>Het origineel van %1 kan niet worden bewaard: %2</translation>
+    </message>
+    <message>
+        <source>silent</source>
+        <translation>stil</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kan niet worden geschreven: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, before %3</source>
+        <translation>%1: %2, eerder %3</translation>
+    </message>
+    <message>
+        <source>%1: %2, not changed</source>
+        <translation>%1: %2, niet gewijzigd</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded for %1</source>
+        <translation>Voor %1 is niets opgenomen</translation>
+    </message>
+</context>
+<context>
     <name>Conversation</name>
     <message>
         <source>What was said</source>

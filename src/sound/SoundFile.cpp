@@ -102,6 +102,16 @@ int SoundFile::rate() const
     return handle != nullptr ? handle->info.samplerate : 0;
 }
 
+double SoundFile::seconds() const
+{
+    return rate() > 0 ? static_cast<double>(handle->info.frames) / rate() : 0;
+}
+
+bool SoundFile::isOggVorbis() const
+{
+    return handle != nullptr && handle->info.format == (SF_FORMAT_OGG | SF_FORMAT_VORBIS);
+}
+
 std::vector<float> SoundFile::read(size_t frames)
 {
     if (now != State::good) {

@@ -29,6 +29,8 @@ public:
     // 0 unless the file was opened as a sound; the next likewise.
     int channels() const;
     int rate() const;  // frames a second
+    double seconds() const;
+    bool isOggVorbis() const;
 
     // The next frames, channels interleaved, -1 to 1: at most that many, none at the end.
     std::vector<float> read(size_t frames);
