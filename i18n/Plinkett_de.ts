@@ -1798,7 +1798,7 @@
     </message>
 </context>
 <context>
-    <name>SpokenTexts</name>
+    <name>TriedBook</name>
     <message>
         <source>A text is too long for the speech program and is only shown.</source>
         <translation>Ein Text ist zu lang für das Sprachprogramm und wird nur gezeigt.</translation>
@@ -1811,9 +1811,10 @@
         <source>The speech program could not speak a text, which is only shown.</source>
         <translation>Das Sprachprogramm konnte einen Text nicht sprechen; er wird nur gezeigt.</translation>
     </message>
-</context>
-<context>
-    <name>TriedBook</name>
+    <message>
+        <source>The speech program could not speak a text, which is only shown: %1</source>
+        <translation>Das Sprachprogramm konnte einen Text nicht sprechen; er wird nur gezeigt: %1</translation>
+    </message>
     <message>
         <source>The book cannot be tried as it is now. Line %1: %2</source>
         <translation>Das Buch lässt sich so nicht ausprobieren. Zeile %1: %2</translation>

@@ -2,6 +2,27 @@
 
 #include <QRandomGenerator>
 
+namespace {
+
+QString reasonFor(SpokenTexts::Problem problem, const QString& words)
+{
+    switch (problem) {
+    case SpokenTexts::Problem::tooLong:
+        return TriedBook::tr("A text is too long for the speech program and is only shown.");
+    case SpokenTexts::Problem::noProgram:
+        return TriedBook::tr(
+            "The speech program is not there: texts without an audio file are only shown.");
+    case SpokenTexts::Problem::failed:
+        break;
+    }
+    return words.isEmpty()
+               ? TriedBook::tr("The speech program could not speak a text, which is only shown.")
+               : TriedBook::tr("The speech program could not speak a text, which is only shown: %1")
+                     .arg(words);
+}
+
+}  // namespace
+
 TriedBook::TriedBook(Source used, const QString& speechFolder, QObject* parent)
     : QObject(parent), source(std::move(used)), speech(speechFolder)
 {
@@ -11,7 +32,8 @@ TriedBook::TriedBook(Source used, const QString& speechFolder, QObject* parent)
     connect(&player, &SoundPlayer::problem, this, &TriedBook::told);
     connect(&player, &SoundPlayer::silent, this, &TriedBook::told);
     connect(&speech, &SpokenTexts::ready, this, [this](const QString& file) { player.play(file); });
-    connect(&speech, &SpokenTexts::failed, this, [this](const QString& why) {
+    connect(&speech, &SpokenTexts::failed, this, [this](auto problem, const QString& words) {
+        const QString why = reasonFor(problem, words);
         if (why != reason) {
             reason = why;
             emit told(why);

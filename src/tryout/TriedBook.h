@@ -3,7 +3,7 @@
 #include "oid/OidProject.h"
 #include "play/PlayedBook.h"
 #include "sound/SoundPlayer.h"
-#include "tryout/SpokenTexts.h"
+#include "speech/SpokenTexts.h"
 
 #include <QObject>
 #include <QTimer>

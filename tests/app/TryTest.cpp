@@ -3,6 +3,7 @@
 #include "play/TestRun.h"
 #include "tests/app/WindowFixture.h"
 #include "tests/helpers/Environment.h"
+#include "tests/sound/FakeSpeech.h"
 #include "tests/sound/WavFile.h"
 
 #include <QApplication>
@@ -67,45 +68,7 @@ QStyleOptionViewItem cellOf(const QTableWidget& table)
     return cell;
 }
 
-// Programs, loudspeaker and cache of this test alone: a speech program that speaks in no time, and
-// a loudspeaker that is a file.
-class Surrounding
-{
-public:
-    Surrounding()
-    {
-        writeFile(programs.file("spoken"), wavFile(2, 44100, tone(2, 44100, 440, 0.05)));
-        letSpeak("cp '" + programs.file("spoken") + "' \"$2\"");
-    }
-
-    // What the speech program does; its arguments are noted, and the WAV file is $2 then.
-    void letSpeak(const std::string& command)
-    {
-        writeFile(programs.file("Text2Speech"),
-                  "#!/bin/sh\n"
-                  "for last; do :; done\necho \"$3 $5 $7 $last\" >> '" +
-                      programs.file("log") +
-                      "'\n"
-                      "while [ $# -gt 1 ] && [ \"$1\" != -f ]; do shift; done\n" +
-                      command + "\n");
-        QFile::setPermissions(QString::fromStdString(programs.file("Text2Speech")),
-                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-
-    QString log() const
-    {
-        QFile file(QString::fromStdString(programs.file("log")));
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-    }
-
-    TemporaryFolder programs;
-    ChangedVariable searchPath{"PATH", programs.path() + ":/usr/bin:/bin"};
-    ChangedVariable cache{"XDG_CACHE_HOME", programs.file("cache")};
-    ChangedVariable driver{"SDL_AUDIODRIVER", "disk"};
-    ChangedVariable output{"SDL_DISKAUDIOFILE", programs.file("heard.raw")};
-};
-
-class TryFixture : public Surrounding, public WindowFixture
+class TryFixture : public FakeSpeech, public WindowFixture
 {
 public:
     explicit TryFixture(const std::string& project = farm())
@@ -613,6 +576,30 @@ private slots:
         QTRY_VERIFY(w.isAtRest());
         const QDir cache(QString::fromStdString(w.programs.file("cache")) + "/plinkett/speech");
         QCOMPARE(cache.entryList(QDir::Files), QStringList());
+    }
+
+    void theAuthorIsToldWhatTheSpeechProgramSays()
+    {
+        TryFixture w;
+        w.letSpeak("echo 'Text2Speech: engines.ini, line 2: flite crashed' >&2; exit 1");
+        w.tapCow();
+        QTRY_COMPARE(w.status(), "The speech program could not speak a text, which is only shown: "
+                                 "Text2Speech: engines.ini, line 2: flite crashed");
+    }
+
+    void whatOneEngineSpokeIsNotHeardFromAnother()
+    {
+        TryFixture w(farm("sub cow\r\n  say \"Moo\"\r\nend sub\r\n"));
+        w.tapCow();
+        QTRY_COMPARE(w.log(), "en 30 m Moo\n");
+        QTRY_VERIFY(w.isAtRest());
+        w.setEngines("[en]\ncommand = other {text}\n");
+        w.tapCow();
+        QTRY_COMPARE(w.log(), "en 30 m Moo\nen 30 m Moo\n");
+        QTRY_VERIFY(w.isAtRest());
+        w.tapCow();
+        QTRY_VERIFY(w.isAtRest());
+        QCOMPARE(w.log(), "en 30 m Moo\nen 30 m Moo\n");
     }
 
     void anotherTapCutsOffWhatIsHeard()

@@ -21,6 +21,13 @@ public:
     explicit SpokenTexts(QString folder, QObject* parent = nullptr);
     ~SpokenTexts() override;
 
+    // Why a text is not spoken.
+    enum class Problem {
+        tooLong,    // for the speech program
+        noProgram,  // there is no speech program
+        failed      // the program could not
+    };
+
     // The folder in the user's cache.
     static QString usualFolder();
 
@@ -31,24 +38,25 @@ public:
 
 signals:
     void ready(const QString& file);
-    // Why it is not spoken.
-    void failed(const QString& reason);
+    // With what the program said about it, in one line; it may have said nothing.
+    void failed(SpokenTexts::Problem problem, const QString& words);
 
 private:
     struct Speech
     {
         std::string text;
         ttbasic::VOICE voice;
+        QString file;
     };
 
-    QString fileOf(const Speech& speech) const;
-    QString unfinishedFile() const;
+    QString fileOf(const std::string& text, const ttbasic::VOICE& voice) const;
     void bringOn();
     void speak();
     void takeSpoken();
-    void tell(const QString& reason);
+    void tell(Problem problem, const QString& words = {});
 
     const QString folder;
+    const QString unfinishedFile;
     QProcess process;
     OutsideProgram program{process};
     std::optional<Speech> wanted;

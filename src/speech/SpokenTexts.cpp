@@ -1,6 +1,7 @@
-#include "tryout/SpokenTexts.h"
+#include "speech/SpokenTexts.h"
 
 #include "base/PlatformProcess.h"
+#include "speech/Engines.h"
 #include "speech/SpeechProgram.h"
 
 #include <QCoreApplication>
@@ -27,9 +28,18 @@ void keepWithinBounds(const QString& folder)
     }
 }
 
+// Of this object; another one or another window may be speaking, too.
+QString nextUnfinishedFile()
+{
+    static int count = 0;
+    return '/' + QString::number(QCoreApplication::applicationPid()) + '.' +
+           QString::number(++count) + ".unfinished.wav";
+}
+
 }  // namespace
 
-SpokenTexts::SpokenTexts(QString files, QObject* parent) : QObject(parent), folder(std::move(files))
+SpokenTexts::SpokenTexts(QString files, QObject* parent)
+    : QObject(parent), folder(std::move(files)), unfinishedFile(folder + nextUnfinishedFile())
 {
     connect(&process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
             &SpokenTexts::takeSpoken);
@@ -42,7 +52,7 @@ SpokenTexts::~SpokenTexts()
     if (process.state() != QProcess::NotRunning) {
         process.kill();
         process.waitForFinished();
-        QFile::remove(unfinishedFile());
+        QFile::remove(unfinishedFile);
     }
 }
 
@@ -54,25 +64,19 @@ QString SpokenTexts::usualFolder()
 
 void SpokenTexts::want(const std::string& text, const ttbasic::VOICE& voice)
 {
-    wanted = {text, voice};
+    wanted = {text, voice, fileOf(text, voice)};
     QTimer::singleShot(0, this, &SpokenTexts::bringOn);
 }
 
 // Texts are the same if one hears no difference.
-QString SpokenTexts::fileOf(const Speech& speech) const
+QString SpokenTexts::fileOf(const std::string& text, const ttbasic::VOICE& voice) const
 {
-    const ttbasic::VOICE& voice = speech.voice;
+    const std::string engine = currentEngines().identity(voice);
     const std::string all = voice.language + '\n' + std::to_string(voice.age) +
-                            (voice.female ? "f" : "m") + '\n' + speech.text;
+                            (voice.female ? "f" : "m") + '\n' + text + '\n' + engine;
     const QByteArray hash =
         QCryptographicHash::hash(QByteArray::fromStdString(all), QCryptographicHash::Sha1);
     return folder + '/' + hash.toHex() + ".wav";
-}
-
-// Of this process; another window may be speaking, too.
-QString SpokenTexts::unfinishedFile() const
-{
-    return folder + '/' + QString::number(QCoreApplication::applicationPid()) + ".unfinished.wav";
 }
 
 void SpokenTexts::bringOn()
@@ -80,7 +84,7 @@ void SpokenTexts::bringOn()
     if (!wanted) {
         return;
     }
-    const QString file = fileOf(*wanted);
+    const QString file = wanted->file;
     if (QFileInfo::exists(file)) {
         wanted.reset();
         emit ready(file);
@@ -92,39 +96,39 @@ void SpokenTexts::bringOn()
 void SpokenTexts::speak()
 {
     if (wanted->text.size() > Platform::longestArgument) {
-        tell(tr("A text is too long for the speech program and is only shown."));
+        tell(Problem::tooLong);
         return;
     }
     putToolsOnPath();
     QDir().mkpath(folder);
     spoken = wanted;
     const ProgramCall call =
-        callToSpeak(spoken->text, spoken->voice, unfinishedFile().toStdString(), false);
+        callToSpeak(spoken->text, spoken->voice, unfinishedFile.toStdString(), false);
     if (!program.start(call.program, call.arguments, false, call.surroundings)) {
-        tell(tr("The speech program is not there: texts without an audio file are only shown."));
+        tell(Problem::noProgram);
     }
 }
 
 void SpokenTexts::takeSpoken()
 {
-    const QString file = fileOf(*spoken);
+    const QString file = spoken->file;
     const bool isGood = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0 &&
-                        QFile::rename(unfinishedFile(), file);
-    const bool isWanted = wanted && fileOf(*wanted) == file;
+                        QFile::rename(unfinishedFile, file);
+    const bool isWanted = wanted && wanted->file == file;
     if (isGood) {
         keepWithinBounds(folder);
     } else {
-        QFile::remove(unfinishedFile());
+        QFile::remove(unfinishedFile);
     }
     if (isWanted && !isGood) {
-        tell(tr("The speech program could not speak a text, which is only shown."));
+        tell(Problem::failed, QString::fromUtf8(process.readAllStandardError()).simplified());
     } else {
         bringOn();
     }
 }
 
-void SpokenTexts::tell(const QString& reason)
+void SpokenTexts::tell(Problem problem, const QString& words)
 {
     wanted.reset();
-    emit failed(reason);
+    emit failed(problem, words);
 }
