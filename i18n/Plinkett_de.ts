@@ -1030,6 +1030,30 @@
         <translation>Zeigt oder verbirgt die Liste der Bereiche</translation>
     </message>
     <message>
+        <source>Another window or program has changed the project file since this window opened or saved it.</source>
+        <translation>Ein anderes Fenster oder Programm hat die Projektdatei geändert, seit dieses Fenster sie geöffnet oder gespeichert hat.</translation>
+    </message>
+    <message>
+        <source>Overwriting loses what the file holds now. When you open that, your unsaved work is kept and offered.</source>
+        <translation>Überschreiben verliert, was jetzt in der Datei steht. Wird das geöffnet, bleibt die ungespeicherte Arbeit erhalten und wird angeboten.</translation>
+    </message>
+    <message>
+        <source>Save &amp;as...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Open the o&amp;ther</source>
+        <translation>Das &amp;andere öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>&amp;Überschreiben</translation>
+    </message>
+    <message>
+        <source>Your unsaved work cannot be kept. Save it under another name first.</source>
+        <translation>Die ungespeicherte Arbeit kann nicht aufbewahrt werden. Bitte zuerst unter einem anderen Namen speichern.</translation>
+    </message>
+    <message>
         <source>%1: another window has moved pages and saved that. Open the book again.</source>
         <translation>%1: Ein anderes Fenster hat Seiten verschoben und das gespeichert. Bitte das Buch neu öffnen.</translation>
     </message>
@@ -2285,6 +2309,21 @@
     <message>
         <source>Area %1, number %2, page %3</source>
         <translation>Bereich %1, Nummer %2, Seite %3</translation>
+    </message>
+</context>
+<context>
+    <name>ChangedFileBar</name>
+    <message>
+        <source>Open the other</source>
+        <translation>Das andere öffnen</translation>
+    </message>
+    <message>
+        <source>Shows what the file holds now; your unsaved work is kept and offered</source>
+        <translation>Zeigt, was jetzt in der Datei steht; die ungespeicherte Arbeit bleibt erhalten und wird angeboten</translation>
+    </message>
+    <message>
+        <source>Another window or program has changed the project file since this window opened or saved it.</source>
+        <translation>Ein anderes Fenster oder Programm hat die Projektdatei geändert, seit dieses Fenster sie geöffnet oder gespeichert hat.</translation>
     </message>
 </context>
 <context>

@@ -1030,6 +1030,30 @@
         <translation>Shows or hides the list of the areas</translation>
     </message>
     <message>
+        <source>Another window or program has changed the project file since this window opened or saved it.</source>
+        <translation>Another window or program has changed the project file since this window opened or saved it.</translation>
+    </message>
+    <message>
+        <source>Overwriting loses what the file holds now. When you open that, your unsaved work is kept and offered.</source>
+        <translation>Overwriting loses what the file holds now. When you open that, your unsaved work is kept and offered.</translation>
+    </message>
+    <message>
+        <source>Save &amp;as...</source>
+        <translation>Save &amp;as...</translation>
+    </message>
+    <message>
+        <source>Open the o&amp;ther</source>
+        <translation>Open the o&amp;ther</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>&amp;Overwrite</translation>
+    </message>
+    <message>
+        <source>Your unsaved work cannot be kept. Save it under another name first.</source>
+        <translation>Your unsaved work cannot be kept. Save it under another name first.</translation>
+    </message>
+    <message>
         <source>%1: another window has moved pages and saved that. Open the book again.</source>
         <translation>%1: another window has moved pages and saved that. Open the book again.</translation>
     </message>
@@ -2285,6 +2309,21 @@
     <message>
         <source>Area %1, number %2, page %3</source>
         <translation>Area %1, number %2, page %3</translation>
+    </message>
+</context>
+<context>
+    <name>ChangedFileBar</name>
+    <message>
+        <source>Open the other</source>
+        <translation>Open the other</translation>
+    </message>
+    <message>
+        <source>Shows what the file holds now; your unsaved work is kept and offered</source>
+        <translation>Shows what the file holds now; your unsaved work is kept and offered</translation>
+    </message>
+    <message>
+        <source>Another window or program has changed the project file since this window opened or saved it.</source>
+        <translation>Another window or program has changed the project file since this window opened or saved it.</translation>
     </message>
 </context>
 <context>

@@ -1030,6 +1030,30 @@
         <translation>Affiche ou masque la liste des zones</translation>
     </message>
     <message>
+        <source>Another window or program has changed the project file since this window opened or saved it.</source>
+        <translation>Une autre fenêtre ou un autre programme a modifié le fichier du projet depuis que cette fenêtre l’a ouvert ou enregistré.</translation>
+    </message>
+    <message>
+        <source>Overwriting loses what the file holds now. When you open that, your unsaved work is kept and offered.</source>
+        <translation>Écraser le fichier perd ce qu’il contient maintenant. Si vous l’ouvrez, votre travail non enregistré est conservé et proposé.</translation>
+    </message>
+    <message>
+        <source>Save &amp;as...</source>
+        <translation>Enregistrer &amp;sous...</translation>
+    </message>
+    <message>
+        <source>Open the o&amp;ther</source>
+        <translation>Ouvrir l’&amp;autre</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>&amp;Écraser</translation>
+    </message>
+    <message>
+        <source>Your unsaved work cannot be kept. Save it under another name first.</source>
+        <translation>Votre travail non enregistré ne peut pas être conservé. Enregistrez-le d’abord sous un autre nom.</translation>
+    </message>
+    <message>
         <source>%1: another window has moved pages and saved that. Open the book again.</source>
         <translation>%1 : une autre fenêtre a déplacé des pages et les a enregistrées. Rouvrez le livre.</translation>
     </message>
@@ -2285,6 +2309,21 @@
     <message>
         <source>Area %1, number %2, page %3</source>
         <translation>Zone %1, numéro %2, page %3</translation>
+    </message>
+</context>
+<context>
+    <name>ChangedFileBar</name>
+    <message>
+        <source>Open the other</source>
+        <translation>Ouvrir l’autre</translation>
+    </message>
+    <message>
+        <source>Shows what the file holds now; your unsaved work is kept and offered</source>
+        <translation>Montre ce que le fichier contient maintenant ; votre travail non enregistré est conservé et proposé</translation>
+    </message>
+    <message>
+        <source>Another window or program has changed the project file since this window opened or saved it.</source>
+        <translation>Une autre fenêtre ou un autre programme a modifié le fichier du projet depuis que cette fenêtre l’a ouvert ou enregistré.</translation>
     </message>
 </context>
 <context>

@@ -1030,6 +1030,30 @@
         <translation>Toont of verbergt de lijst van de gebieden</translation>
     </message>
     <message>
+        <source>Another window or program has changed the project file since this window opened or saved it.</source>
+        <translation>Een ander venster of programma heeft het projectbestand gewijzigd sinds dit venster het heeft geopend of opgeslagen.</translation>
+    </message>
+    <message>
+        <source>Overwriting loses what the file holds now. When you open that, your unsaved work is kept and offered.</source>
+        <translation>Overschrijven verliest wat er nu in het bestand staat. Als u dat opent, blijft uw niet-opgeslagen werk bewaard en wordt het aangeboden.</translation>
+    </message>
+    <message>
+        <source>Save &amp;as...</source>
+        <translation>Opslaan &amp;als...</translation>
+    </message>
+    <message>
+        <source>Open the o&amp;ther</source>
+        <translation>Het a&amp;ndere openen</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>&amp;Overschrijven</translation>
+    </message>
+    <message>
+        <source>Your unsaved work cannot be kept. Save it under another name first.</source>
+        <translation>Uw niet-opgeslagen werk kan niet worden bewaard. Sla het eerst onder een andere naam op.</translation>
+    </message>
+    <message>
         <source>%1: another window has moved pages and saved that. Open the book again.</source>
         <translation>%1: een ander venster heeft pagina&apos;s verplaatst en dat opgeslagen. Open het boek opnieuw.</translation>
     </message>
@@ -2285,6 +2309,21 @@
     <message>
         <source>Area %1, number %2, page %3</source>
         <translation>Gebied %1, nummer %2, pagina %3</translation>
+    </message>
+</context>
+<context>
+    <name>ChangedFileBar</name>
+    <message>
+        <source>Open the other</source>
+        <translation>Het andere openen</translation>
+    </message>
+    <message>
+        <source>Shows what the file holds now; your unsaved work is kept and offered</source>
+        <translation>Toont wat er nu in het bestand staat; uw niet-opgeslagen werk blijft bewaard en wordt aangeboden</translation>
+    </message>
+    <message>
+        <source>Another window or program has changed the project file since this window opened or saved it.</source>
+        <translation>Een ander venster of programma heeft het projectbestand gewijzigd sinds dit venster het heeft geopend of opgeslagen.</translation>
     </message>
 </context>
 <context>

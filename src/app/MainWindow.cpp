@@ -4,6 +4,7 @@
 #include "app/AreaTools.h"
 #include "app/AreasDock.h"
 #include "app/BookPrinting.h"
+#include "app/ChangedFileBar.h"
 #include "app/DecimalComma.h"
 #include "app/FileDialogs.h"
 #include "app/NumberBar.h"
@@ -168,6 +169,7 @@ void MainWindow::prepareNotices()
     numberBar = new NumberBar;
     addNotice(numberBar);
     connect(numberBar, &NumberBar::numberTaken, this, &MainWindow::takeNumber);
+    noticeOthers();
 }
 
 void MainWindow::addNotice(NoticeBar* bar)
@@ -345,6 +347,7 @@ void MainWindow::openProject(const QString& path)
     // Creating print images, for one, goes to another folder.
     const std::string file = QFileInfo(path).absoluteFilePath().toStdString();
     const std::string before = project.projectPath;
+    savedFile.isRead(file);
     const bool opened = Oid::openProject(project, file);
     const bool foundMoved = !project.movedPictures.empty();
 
@@ -353,6 +356,7 @@ void MainWindow::openProject(const QString& path)
         ui->codeEditor->forgetHistory();  // undo would lead back into the other book
     }
     noteFiles();
+    changedFileBar->follow();
     recovery->opened(file, opened);
     const QString name = QFileInfo(path).fileName();
     tell(opened ? tr("Opened: %1").arg(name) : tr("Not opened: %1").arg(name));
@@ -389,6 +393,11 @@ void MainWindow::noteFiles()
     companions.areBeside(project);
 }
 
+static QString fileName(const std::string& path)
+{
+    return QFileInfo(QString::fromStdString(path)).fileName();
+}
+
 void MainWindow::on_action_Save_As_triggered()
 {
     const QString path = askForProjectToSave(this);
@@ -402,7 +411,16 @@ void MainWindow::on_action_Save_As_triggered()
 void MainWindow::on_actionSave_triggered()
 {
     ProjectDataWasChanged(true);
-    if (!FileSystem::doesFileExist(project.projectPath) || !saveProject(project.projectPath)) {
+    if (!FileSystem::doesFileExist(project.projectPath)) {
+        on_action_Save_As_triggered();
+        return;
+    }
+    const OtherFile other = othersWouldLose() ? askAboutOther() : OtherFile::overwrite;
+    if (other == OtherFile::leave) {
+        tell(tr("Not saved: %1").arg(fileName(project.projectPath)));
+    } else if (other == OtherFile::open) {
+        openOther();
+    } else if (other == OtherFile::saveAs || !saveProject(project.projectPath)) {
         on_action_Save_As_triggered();
     }
 }
@@ -412,9 +430,11 @@ bool MainWindow::saveProject(const std::string& path)
     followOtherWindows();
     companions.wereMoved(project);
     const bool saved = document.save(path);
-    const QString name = QFileInfo(QString::fromStdString(path)).fileName();
+    const QString name = fileName(path);
     tell(saved ? tr("Saved: %1").arg(name) : tr("Not saved: %1").arg(name));
     if (saved) {
+        savedFile.isWritten(project);
+        changedFileBar->follow();
         numberBar->saved(project);
         recovery->saved(path);
         takeFilesAlong();
@@ -423,17 +443,6 @@ bool MainWindow::saveProject(const std::string& path)
         warnOfPictures();
     }
     return saved;
-}
-
-// Called whenever the author comes back to this window, and before a save.
-void MainWindow::followOtherWindows()
-{
-    const bool knew = document.isOutdated();
-    document.followOthers();
-    if (document.isOutdated() && !knew) {
-        tell(tr("%1: another window has moved pages and saved that. Open the book again.")
-                 .arg(QFileInfo(QString::fromStdString(project.projectPath)).fileName()));
-    }
 }
 
 void MainWindow::tell(const QString& text)

@@ -2,6 +2,7 @@
 
 #include "document/CompanionFiles.h"
 #include "document/Document.h"
+#include "document/SavedFile.h"
 #include "page/PickTool.h"
 #include "publish/SoundFiles.h"
 
@@ -19,6 +20,7 @@ class MainWindow;
 }
 class AreaTools;
 class BookPrinting;
+class ChangedFileBar;
 class NoticeBar;
 class NumberBar;
 class PageScrollArea;
@@ -142,7 +144,17 @@ private:
     void noteFiles();
     // Writes the project, into which the form has been carried, and all that goes with that.
     bool saveProject(const std::string& path);
+
+    // MainWindowOthers.cpp: other windows and programs that work on the same project
+    void noticeOthers();
     void followOtherWindows();
+    // Whether saving would overwrite what another one has saved.
+    bool othersWouldLose();
+    // What the author wants of that.
+    enum class OtherFile { leave, overwrite, open, saveAs };
+    OtherFile askAboutOther();
+    // Shows what the file holds now. Unsaved work stays as a copy, which is offered.
+    void openOther();
 
     // MainWindowHistory.cpp: undo and redo, of the script on its tab, else of pages and areas
     void prepareHistory();
@@ -210,6 +222,7 @@ private:
     Document document;
     Oid::OidProject& project = document.projectRecord();
     CompanionFiles companions;
+    SavedFile savedFile;
     PickTool pickTool{document};
     // What is typed into a field without a pause is one step of the history.
     const Gesture typedName = document.newGesture();
@@ -222,6 +235,7 @@ private:
     PageScrollArea* pictureScroll = nullptr;
     QScrollArea* projectScroll = nullptr;
     NumberBar* numberBar = nullptr;
+    ChangedFileBar* changedFileBar = nullptr;
     BookPrinting* printing = nullptr;
     SideDocks* docks = nullptr;
     TryTab* tryTab = nullptr;

@@ -1,6 +1,7 @@
 // Unsaved work: what it is, and how it comes back.
 #include "app/MainWindow.h"
 
+#include "app/ChangedFileBar.h"
 #include "app/Recovery.h"
 #include "oid/OpenProject.h"
 #include "ui_MainWindow.h"
@@ -61,6 +62,8 @@ bool MainWindow::restore(const QString& file, const RecoveryHead& head)
     if (!sameFile) {
         ui->codeEditor->forgetHistory();
         noteFiles();  // else the work may have another number than its file has
+        savedFile.isUnseen(project.projectPath);
+        changedFileBar->follow();
     }
     return opened;
 }

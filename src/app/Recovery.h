@@ -24,6 +24,8 @@ public:
 
     // Keeps what has changed. Also called before works that let no timer through.
     void keep();
+    // The same, and waits until it is written. False when it could not be.
+    bool keepNow() { return work.keepNow(); }
     // The window is about to show another project.
     void leaving();
     // It shows this one now, or could not open it.

@@ -43,11 +43,17 @@ bool UnsavedWork::isWriting() const
            writing.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
 }
 
-void UnsavedWork::leave()
+bool UnsavedWork::keepNow()
 {
     finishWriting(true);
     keep();
     finishWriting(true);
+    return !failing;
+}
+
+void UnsavedWork::leave()
+{
+    keepNow();
     copy = nullptr;
 }
 

@@ -38,6 +38,8 @@ public:
     // To be called every few seconds. Writes a copy if anything has changed; that goes on while the
     // work does. False while copies cannot be written.
     bool keep();
+    // The same, and waits until it is written.
+    bool keepNow();
     // Whether the copy that keep began is not finished yet.
     bool isWriting() const;
 
