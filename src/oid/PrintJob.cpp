@@ -1,6 +1,7 @@
 #include "oid/PrintJob.h"
 
 #include "oid/OidProject.h"
+#include "oid/OutputLock.h"
 #include "oid/PrintImage.h"
 #include "oid/PrintMessages.h"
 
@@ -45,6 +46,12 @@ PrintJobResult makeImages(int first, int last, Oid::OidProject& project,
     emptyTiles(project);
     const LastMessage lastMessage;
     PrintJobResult result;
+    OutputLock lock(project, "print");
+    if (first <= last && !lock.take([](const char* line) { mi_printf("%s", line); })) {
+        result.firstFailed = first;
+        result.firstError = lastMessage.line();
+        return result;
+    }
     const int total = 100 * (last - first + 1);
     for (int n = first; n <= last && !result.cancelled; ++n) {
         const bool created = makeImage(n, project, [&](int percent) {

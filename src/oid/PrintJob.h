@@ -29,7 +29,7 @@ using PrintJobProgress = std::function<bool(int percent, int total)>;
 
 // Makes the print images of the pictures first to last (indices), also behind one that fails.
 // Before, it says through mi_printf which of them have too few DPI. Areas begin with empty tiles,
-// so that the dots of earlier runs do not show.
+// so that the dots of earlier runs do not show. None are made while another program makes them.
 PrintJobResult makeImages(int first, int last, Oid::OidProject& project,
                           const PrintJobProgress& progress = {});
 // Of all pictures.

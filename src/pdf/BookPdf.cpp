@@ -7,6 +7,7 @@
 #include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
 #include "base/PlatformMachine.h"
+#include "oid/OutputLock.h"
 #include "oid/PreparedPage.h"
 #include "oid/PrintImage.h"
 #include "pdf/BookPage.h"
@@ -153,6 +154,10 @@ bool makePdf(const Oid::OidProject& project, const std::string& path, const PdfO
              const PrintJobProgress& progress)
 {
     mi_printf("Creating PDF...\n");
+    OutputLock lock(path);
+    if (!lock.take([](const char* line) { mi_printf("%s", line); })) {
+        return false;
+    }
     bool written = false;
     try {
         written = BookPdf(project, options, progress).make(path);

@@ -2,11 +2,13 @@
 
 #include <QDir>
 #include <map>
+#include <memory>
 
 #include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
 #include "gme/Assembler.h"
 #include "oid/OidProject.h"
+#include "oid/OutputLock.h"
 #include "oid/PrintImage.h"
 #include "programs/ProcessRunner.h"
 #include "publish/Assembling.h"
@@ -47,6 +49,10 @@ bool makeFiles(Oid::OidProject& project, ProcessRunner& runner, const BuildOptio
 {
     makePathAbsolute(project.projectPath);
     const FileSystem::WorkingFolder folder(FileSystem::getDirectoryOfPath(project.projectPath));
+    const auto lock = std::make_shared<OutputLock>(project, kBuildLock);
+    if (!lock->take([&](const char* line) { runner.echo(line); })) {
+        return stopBuild(mi_printf);
+    }
     if (!makeYAML(project)) {
         return false;
     }
@@ -58,7 +64,9 @@ bool makeFiles(Oid::OidProject& project, ProcessRunner& runner, const BuildOptio
     if (!gme::makeRoomForAreas(project.pathYaml(), drawnAreas(project), printWith(project.print))) {
         return stopBuild(mi_printf);
     }
-    return startAssembler(project, options.assembler, runner) && speech == SpeechOutcome::complete;
+    const bool started = startAssembler(project, options.assembler, runner);
+    runner.whenEnded([lock] { lock->release(); });
+    return started && speech == SpeechOutcome::complete;
 }
 
 }  // namespace

@@ -10,6 +10,9 @@ namespace Oid {
 class OidProject;
 }
 
+// The kind of the OutputLock of game, description and audio files.
+constexpr char kBuildLock[] = "build";
+
 // The first steps of every build: numbers for new areas, the compiled script, and the comparison of
 // script and pictures. False when nothing may be built from the project; the last message then says
 // so. All messages go through the project's print function.
@@ -27,8 +30,9 @@ struct BuildOptions
 
 // One build, from the project in memory to its game file: numbers for new areas, the compiled
 // script, the YAML file, the audio files, no old codes in the way of the areas, and the start of
-// the assembler, which is not waited for. The runner shows all messages and runs the outside
-// programs; on a return after the compilation mi_printf is back at standard output. True when no
-// step failed; whether the assembler succeeds, the runner knows when it has ended.
+// the assembler, which is not waited for. Not while another program builds the same book. The
+// runner shows all messages and runs the outside programs; on a return after the compilation
+// mi_printf is back at standard output. True when no step failed; whether the assembler succeeds,
+// the runner knows when it has ended.
 bool buildGame(Oid::OidProject& project, bool debugMode, ProcessRunner& runner,
                const BuildOptions& options = {});

@@ -7,7 +7,9 @@
 #include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
 #include "oid/OidProject.h"
+#include "oid/OutputLock.h"
 #include "programs/ProcessRunner.h"
+#include "publish/BuildDriver.h"
 #include "publish/GameFile.h"
 
 namespace fs = std::filesystem;
@@ -65,6 +67,11 @@ PenCopy copyGmeToPen(const Oid::OidProject& project, const std::string& script,
     }
     runner.echo("Copy to Pen...\n");
     sayWhenOutdated(project, script, runner);
+    OutputLock lock(project, kBuildLock);  // half a game is no game
+    if (!lock.take([&](const char* line) { runner.echo(line); })) {
+        runner.echo("failed.\n");
+        return PenCopy::failed;
+    }
     const std::string copy =
         *pen + FileSystem::directorySeparator + FileSystem::getFilenameOfPath(gme);
     if (!FileSystem::copyFileContent(gme, copy)) {

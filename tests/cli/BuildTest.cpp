@@ -1,6 +1,8 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 
+#include <unistd.h>
+
 #include "base/PlatformProcess.h"
 #include "tests/cli/RunCli.h"
 #include "tests/helpers/FakeProgram.h"
@@ -243,4 +245,19 @@ TEST(BuildWithRealPrograms, TheAudioHasOneChannelAt22050HzAndSoundInIt)
         EXPECT_GT(sound.seconds(), 0.5);
         EXPECT_GT(sound.loudness(), 0.02);
     }
+}
+
+TEST_F(Build, AnotherProgramThatBuildsTheSameBookIsWaitedForInVain)
+{
+    const std::string process = std::to_string(getpid());
+    writeFile(folder.file("17-build.lock"), process + "\ncli_tests\n");
+    const std::string who = "cli_tests (process " + process + ")";
+    EXPECT_EQ(build(), "status 1\n"
+                       "Waiting: " +
+                           who +
+                           " makes the same files\n"
+                           "Error: " +
+                           who + " makes the same files. Try again when it is done. (" +
+                           folder.file("17-build.lock") + ")\nStopped build process.\n");
+    EXPECT_EQ(folder.listing(), "17-build.lock book.oidpro");
 }

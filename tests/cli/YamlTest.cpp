@@ -1,5 +1,10 @@
 #include <gmock/gmock.h>
 
+#include <filesystem>
+#include <thread>
+
+#include <unistd.h>
+
 #include "tests/cli/RunCli.h"
 #include "tests/helpers/TemporaryFolder.h"
 
@@ -101,4 +106,20 @@ TEST(Yaml, AMissingProjectIsReported)
 {
     EXPECT_EQ(resultOf(cli({"yaml", "no/such.oidpro"})),
               "status 1\nError: Can't open file 'no/such.oidpro'\n");
+}
+
+TEST(Yaml, ABookThatIsBeingBuiltIsWaitedFor)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("book.oidpro"), kBook);
+    const std::string process = std::to_string(getpid());
+    writeFile(folder.file("17-build.lock"), process + "\ncli_tests\n");
+    std::thread build([&] {
+        std::this_thread::sleep_for(std::chrono::seconds(1));
+        std::filesystem::remove(folder.file("17-build.lock"));
+    });
+    EXPECT_EQ(resultOf(cli({"yaml", folder.file("book.oidpro")})),
+              "status 0\nWaiting: cli_tests (process " + process + ") makes the same files\n");
+    build.join();
+    EXPECT_EQ(folder.listing(), "17-Zoo.yaml book.oidpro");
 }

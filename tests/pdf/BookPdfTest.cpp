@@ -1,3 +1,4 @@
+#include "oid/OutputLock.h"
 #include "tests/pdf/PdfBook.h"
 
 #include <QImageReader>
@@ -540,4 +541,14 @@ TEST_F(PosterPdf, APageThatFitsThePaperIsNotTakenApart)
     ASSERT_TRUE(book.makePdf(options));
     EXPECT_EQ(book.ask("mutool", {"show", "{pdf}", "pages/1/MediaBox"}),
               "[ 0 0 841.9181 595.19058 ]\n");
+}
+
+TEST_F(BookPdf, AFileThatAnotherProgramMakesIsNotMade)
+{
+    OutputLock other(book.pdfFile());
+    ASSERT_TRUE(other.take([](const char* /*line*/) {}));
+    EXPECT_FALSE(book.makePdf());
+    EXPECT_FALSE(QFile::exists(QString::fromStdString(book.pdfFile())));
+    const std::string start = "Creating PDF...\nError: pdf_tests (process ";
+    EXPECT_EQ(book.messages.substr(0, start.size()), start);
 }

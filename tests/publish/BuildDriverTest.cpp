@@ -1,11 +1,13 @@
 #include "publish/BuildDriver.h"
 
+#include <QCoreApplication>
 #include <filesystem>
 #include <gmock/gmock.h>
 
 #include "base/FileSystem.h"
 #include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
+#include "oid/OutputLock.h"
 #include "oid/PrintImage.h"
 #include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
@@ -350,4 +352,42 @@ TEST_F(BuildingAGame, ACodesFileThatCannotBeChangedStopsTheBuild)
                 testing::EndsWith("Error: 900-Zoo.codes.yaml: the codes file cannot be written\n"
                                   "Stopped build process.\n"));
     EXPECT_THAT(runner.commands, IsEmpty());
+}
+
+TEST_F(BuildingAGame, ABookThatAnotherProgramBuildsIsNotTouched)
+{
+    OutputLock other(project, kBuildLock);
+    ASSERT_TRUE(other.take([](const char* /*line*/) {}));
+    EXPECT_FALSE(build());
+    EXPECT_THAT(runner.commands, IsEmpty());
+    EXPECT_FALSE(fs::exists(yaml()));
+    const std::string me =
+        "publish_tests (process " + std::to_string(QCoreApplication::applicationPid()) + ")";
+    EXPECT_EQ(runner.shown(), "OID  1001 assigned to 'lion'\n"
+                              "Error: " +
+                                  me + " makes the same files. Try again when it is done. (" +
+                                  folder.file("900-build.lock") + ")\nStopped build process.\n");
+}
+
+TEST_F(BuildingAGame, NoOtherProgramBuildsUntilTheAssemblerHasEnded)
+{
+    bool wasFree = true;
+    runner.program = [&] {
+        OutputLock other(project, kBuildLock);
+        wasFree = other.take([](const char* /*line*/) {});
+        return 0;
+    };
+    EXPECT_TRUE(build());
+    EXPECT_FALSE(wasFree);
+    OutputLock other(project, kBuildLock);
+    EXPECT_TRUE(other.take([](const char* /*line*/) {}));
+}
+
+TEST_F(BuildingAGame, ABuildThatFailedLeavesTheWayFree)
+{
+    runner.program = [] { return -1; };  // no assembler
+    EXPECT_FALSE(build());
+    fs::remove_all(folder.file("900-audio"));
+    EXPECT_FALSE(build());  // no speech
+    EXPECT_FALSE(fs::exists(folder.file("900-build.lock")));
 }

@@ -5,6 +5,7 @@
 
 #include "base/PrintFunction.h"
 #include "oid/OidProject.h"
+#include "oid/OutputLock.h"
 #include "publish/BuildDriver.h"
 #include "publish/YamlFile.h"
 #include "tests/helpers/Environment.h"
@@ -318,4 +319,18 @@ TEST_F(CopyingToThePen, AVanishedDriveFails)
     PullingRunner pulling(folder.file("first"));
     EXPECT_EQ(copyGmeToPen(project, pulling, {folder.file("first")}), PenCopy::failed);
     EXPECT_EQ(pulling.shown(), "Copy to Pen...\nfailed.\n");
+}
+
+TEST_F(CopyingToThePen, AGameThatIsBeingMadeIsNotCopied)
+{
+    markAsPen("first");
+    OutputLock build(project, kBuildLock);
+    ASSERT_TRUE(build.take([](const char* /*line*/) {}));
+    EXPECT_EQ(copy(), PenCopy::failed);
+    const std::string shown = runner.shown();
+    EXPECT_EQ(shown.find("Copy to Pen...\nError: publish_tests (process "), 0U) << shown;
+    EXPECT_EQ(shown.substr(shown.find(") makes")),
+              ") makes the same files. Try again when it is done. (" +
+                  folder.file("900-build.lock") + ")\nfailed.\n");
+    EXPECT_EQ(contentOf("first"), "tiptoi.ico ");
 }

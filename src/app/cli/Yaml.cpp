@@ -1,5 +1,6 @@
 #include "app/cli/Commands.h"
 #include "oid/OpenProject.h"
+#include "oid/OutputLock.h"
 #include "publish/BuildDriver.h"
 #include "publish/YamlFile.h"
 
@@ -12,9 +13,12 @@ int yaml(const Arguments& arguments)
         !compileProject(project, arguments.has("--debug"))) {
         return kFailed;
     }
-    const bool written =
-        arguments.has("-o") ? makeYAML(project, arguments.value("-o")) : makeYAML(project);
-    return written ? kFine : kFailed;
+    if (arguments.has("-o")) {
+        return makeYAML(project, arguments.value("-o")) ? kFine : kFailed;
+    }
+    OutputLock lock(project, kBuildLock);
+    const bool alone = lock.take([&](const char* line) { project.print("%s", line); });
+    return alone && makeYAML(project) ? kFine : kFailed;
 }
 
 }  // namespace

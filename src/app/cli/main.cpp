@@ -4,6 +4,7 @@
 
 #include "app/cli/Commands.h"
 #include "base/PlatformProcess.h"
+#include "oid/OutputLock.h"
 
 namespace {
 
@@ -16,6 +17,7 @@ constexpr char kHeadline[] = "Usage: plinkett-cli COMMAND ARGUMENTS\n"
 constexpr char kFootline[] =
     "Exit status: 0 fine, 1 the project cannot be opened or has errors or\n"
     "a file cannot be written, 2 usage error.\n";
+constexpr int kPatience = 5000;  // ms, with another program that makes the same files
 
 std::vector<Command> commands()
 {
@@ -129,6 +131,7 @@ int main()
     if (!words.empty()) {
         words.erase(words.begin());  // the program
     }
+    OutputLock::patience = kPatience;
     try {
         return runProgram(words);
     } catch (const std::bad_alloc&) {
