@@ -143,8 +143,9 @@ void GraphReader::readScript(Node& node, const std::vector<gme::ScriptLine>& lin
     }
 }
 
-// One sound and one jump at most, and nothing but arithmetic besides. A division that may fail
-// stands last, behind the jump, where it makes no difference whether it ends the line.
+// One sound and one jump at most, and nothing but arithmetic besides, before the sound: nobody
+// knows whether what stands behind it waits for it. A division that may fail stands last, behind
+// the jump, where it makes no difference whether it ends the line.
 bool GraphReader::canBeFollowed(const gme::ScriptLine& line) const
 {
     const std::vector<gme::Command>& commands = line.commands;
@@ -153,8 +154,8 @@ bool GraphReader::canBeFollowed(const gme::ScriptLine& line) const
     for (const gme::Command& command : commands) {
         sounds += isSound(command) ? 1 : 0;
         jumps += command.opcode == gme::Opcode::kJump ? 1 : 0;
-        const bool isKnown =
-            isSound(command) || isArithmetic(command) || command.opcode == gme::Opcode::kJump;
+        const bool isKnown = isSound(command) || command.opcode == gme::Opcode::kJump ||
+                             (isArithmetic(command) && sounds == 0);
         const Command calculation{0, command.opcode, operandOf(command.value)};
         if (!isKnown || (calculation.mayFail() && &command != &commands.back())) {
             return false;
@@ -347,10 +348,28 @@ gme::Operand GraphWriter::operandOf(const Operand& operand) const
     return result;
 }
 
+// "T($a, $b)" takes the number of the register $b for the largest number.
+bool countsOnNumbers(const std::map<uint16_t, std::vector<gme::ScriptLine>>& scripts)
+{
+    for (const auto& script : scripts) {
+        for (const gme::ScriptLine& line : script.second) {
+            for (const gme::Command& command : line.commands) {
+                if (command.opcode == gme::Opcode::kRandom && command.value.isRegister) {
+                    return true;
+                }
+            }
+        }
+    }
+    return false;
+}
+
 // Of all that the lines still name.
 gme::Registers
 GraphWriter::registersOf(const std::map<uint16_t, std::vector<gme::ScriptLine>>& scripts)
 {
+    if (countsOnNumbers(scripts)) {
+        return game.registers;
+    }
     gme::Registers registers;
     std::set<std::pair<std::string, uint16_t>> used;
     const auto note = [&used](const gme::Register& reg) { used.emplace(reg.name, reg.number); };

@@ -287,6 +287,20 @@ TEST(OtherCommands, LeaveTheirScriptAsItIs)
               "1:\n");
 }
 
+// A pen that plays at once would change the variable later.
+TEST(OtherCommands, WhatStandsBehindASoundStaysThere)
+{
+    EXPECT_EQ(withAll("  cow:\n"
+                      "  - P(a) $a := 1 J(asm1)\n"
+                      "  asm1:\n"
+                      "  - J(asm2) $b := 1\n"
+                      "  asm2:\n"
+                      "  - P(b) $b := 2\n"),
+              "cow: J(1) P(a) $a:=1\n"
+              "1: J(2) $b:=1\n"
+              "2: P(b) $b:=2\n");
+}
+
 TEST(OtherCommands, AJumpToWhatARegisterHoldsLeavesTheGameAsItIs)
 {
     EXPECT_EQ(withAll("  cow:\n"
