@@ -45,16 +45,16 @@ void dropDead(Commands& commands, const Live& behind)
 
 void dropDead(Graph& graph)
 {
-    const std::vector<std::set<Register>> live = liveAtBeginning(graph);
+    const std::vector<RegisterSet> live = liveAtBeginning(graph);
     for (Node& node : graph.nodes) {
         for (Line& line : node.lines) {
-            const std::set<Register> behind = line.jump ? live[*line.jump] : std::set<Register>();
+            const RegisterSet behind = line.jump ? live[*line.jump] : RegisterSet();
             dropDead(line.commands, {graph.temporaries, behind});
         }
     }
 }
 
-std::set<Register> liveBefore(const Commands& commands, Live behind)
+RegisterSet liveBefore(const Commands& commands, Live behind)
 {
     for (auto command = commands.rbegin(); command != commands.rend(); ++command) {
         passBackwards(*command, behind);

@@ -2,26 +2,28 @@
 // What a chain of steps does is known as soon as its branches are chosen, so one line can do it
 // all. A branch is chosen by the conditions of a line where they ask for what registers hold on
 // entry.
+#include "quick/AskedSoon.h"
 #include "quick/GraphPasses.h"
 #include "quick/LinePasses.h"
 #include "quick/Liveness.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace quick {
 
 namespace {
 
-constexpr size_t kMostLines = 32;    // of a script, about
-constexpr size_t kMostSteps = 256;   // that become one line
-constexpr size_t kMostVariants = 4;  // scripts made of one step
+constexpr std::array<size_t, 3> kMostLines = {32, 8, 2};  // of a script, about
+constexpr size_t kMostSteps = 256;                        // that become one line
+constexpr size_t kMostVariants = 4;                       // scripts made of one step
 
-// A step, and what numbers temporaries hold when it begins.
+// A step, and what numbers registers hold when it begins.
 struct Place
 {
     size_t step = 0;
-    std::map<Register, uint16_t> numbers;
+    SortedMap<Register, uint16_t> numbers;
 
     bool operator<(const Place& other) const
     {
@@ -81,8 +83,21 @@ struct Path
     Commands commands;
     Values start;  // what the conditions tell of the registers
     Values now;    // with what the commands have made of them
-    std::set<size_t> passed;
+    std::vector<size_t> passed;
     bool hasJumped = false;
+
+    bool hasPassed(size_t place) const
+    {
+        return std::find(passed.begin(), passed.end(), place) != passed.end();
+    }
+};
+
+// What becomes a line: a path, and what comes at its end.
+struct Draft
+{
+    Path path;
+    std::optional<size_t> next;  // step
+    std::optional<Sound> sound;
 };
 
 class StepFollower
@@ -92,7 +107,9 @@ public:
         : plain(source),
           passes(usedPasses),
           live(liveAtBeginning(source)),
-          variants(source.nodes.size())
+          variants(source.nodes.size()),
+          uses(source.nodes.size()),
+          passedIn(source.nodes.size())
     {}
 
     Graph follow();
@@ -101,13 +118,20 @@ private:
     size_t nodeFor(const Place& place);
     size_t restNode();
     void makeNode(size_t node, const Place& place);
+    Path beginningOf(const Place& place) const;
+    void tryNode(const Path& beginning, size_t mostLines);
+    bool isTooLarge() const;
+    void copyLines(const Path& beginning);
     void go(Path path);
     bool mustStop(const Path& path) const;
     bool mayBranch(const Path& path) const;
     void branch(Path& path, const Condition& condition);
     bool take(Path& path, const Line& line);
-    void end(const Path& path, std::optional<size_t> next, const std::optional<Sound>& sound);
-    Place placeOf(const Path& path, size_t step) const;
+    void notePassed(size_t step);
+    void end(Path path, std::optional<size_t> next, const std::optional<Sound>& sound);
+    void write(const Draft& draft);
+    Place placeOf(const Path& path, size_t step);
+    bool isWorthKnowing(size_t step, Register reg);
     bool fits(const Path& path, const Line& line) const;
     Live liveBehind(const std::optional<size_t>& step) const;
     Commands simplified(Commands commands, const Values& start, const Live& behind) const;
@@ -115,14 +139,24 @@ private:
 
     const Graph& plain;
     const Passes passes;
-    const std::vector<std::set<Register>> live;  // at each step
+    const std::vector<RegisterSet> live;  // at each step
     Graph made;
     std::map<Place, size_t> nodes;
-    std::vector<size_t> variants;  // of each step
+    std::vector<size_t> variants;                       // of each step
+    std::vector<size_t> uses;                           // of each step, in nodes
+    std::map<std::pair<size_t, Register>, bool> asked;  // soon, at the step
     std::vector<std::pair<size_t, Place>> waiting;
     std::optional<size_t> rest;
-    size_t current = 0;   // the node that is being made
-    size_t branches = 0;  // that are still to be followed
+    // The node that is being made, as one of several tries.
+    size_t current = 0;
+    std::vector<Draft> drafts;
+    size_t branches = 0;           // that are still to be followed
+    size_t most = 0;               // lines
+    size_t attempt = 0;            // counts all tries
+    std::vector<size_t> passedIn;  // each step, the last try that passed it
+    std::vector<size_t> passed;    // the steps
+    size_t bytesPassed = 0;        // of the steps that are passed
+    size_t bytesMade = 0;          // of the drafts
 };
 
 Graph StepFollower::follow()
@@ -170,10 +204,31 @@ size_t StepFollower::restNode()
     return *rest;
 }
 
+// The more branches are followed at once, the fewer steps, but the lines become more than the steps
+// whose place they take: each branch doubles those behind it.
 void StepFollower::makeNode(size_t node, const Place& place)
 {
     current = node;
-    branches = 0;
+    const Path beginning = beginningOf(place);
+    for (const size_t lines : kMostLines) {
+        tryNode(beginning, lines);
+        if (!isTooLarge()) {
+            break;
+        }
+    }
+    if (isTooLarge()) {
+        copyLines(beginning);
+    }
+    for (const size_t step : passed) {
+        ++uses[step];
+    }
+    for (const Draft& draft : std::exchange(drafts, {})) {
+        write(draft);
+    }
+}
+
+Path StepFollower::beginningOf(const Place& place) const
+{
     Path path;
     path.step = place.step;
     for (const Register reg : plain.constants) {
@@ -181,10 +236,52 @@ void StepFollower::makeNode(size_t node, const Place& place)
     }
     path.now = path.start;
     for (const auto& [reg, number] : place.numbers) {
-        path.commands.push_back({reg, gme::Opcode::kAssign, {false, number}});
+        if (plain.temporaries.count(reg) != 0) {
+            path.commands.push_back({reg, gme::Opcode::kAssign, {false, number}});
+        } else {
+            path.start.setNumber(reg, number);
+        }
         path.now.setNumber(reg, number);
     }
-    go(std::move(path));
+    return path;
+}
+
+void StepFollower::tryNode(const Path& beginning, size_t mostLines)
+{
+    drafts.clear();
+    branches = 0;
+    passed.clear();
+    bytesPassed = 0;
+    bytesMade = 0;
+    most = mostLines;
+    ++attempt;
+    go(beginning);
+}
+
+bool StepFollower::isTooLarge() const
+{
+    return most > kMostLines.back() ? drafts.size() > kMostLines.back() && bytesMade > bytesPassed
+                                    : drafts.size() > kMostLines.front();
+}
+
+// The lines of a step as they are, which ask more than can be answered for all of them at once.
+void StepFollower::copyLines(const Path& beginning)
+{
+    drafts.clear();
+    for (const Line& line : plain.nodes[beginning.step].lines) {
+        Path path = beginning;
+        bool isPossible = true;
+        for (const Condition& condition : line.conditions) {
+            const std::optional<bool> holds = path.now.holds(condition);
+            isPossible = isPossible && holds.value_or(true);
+            if (!holds) {
+                path.conditions.push_back(*path.now.onEntry(condition));
+            }
+        }
+        if (isPossible && take(path, line)) {
+            end(path, path.step, std::nullopt);
+        }
+    }
 }
 
 void StepFollower::go(Path path)
@@ -197,6 +294,9 @@ void StepFollower::go(Path path)
                 break;
             }
             branch(path, *condition);
+            if (isTooLarge()) {
+                return;
+            }
         } else if (choice.line == nullptr) {
             end(path, std::nullopt, std::nullopt);
             return;
@@ -214,15 +314,14 @@ void StepFollower::go(Path path)
 
 bool StepFollower::mustStop(const Path& path) const
 {
-    return plain.nodes[path.step].isKept || path.passed.count(path.step) != 0 ||
+    return plain.nodes[path.step].isKept || path.hasPassed(path.step) ||
            path.passed.size() >= kMostSteps || (!passes.followsJumps && !path.passed.empty());
 }
 
 // The first step of a script asks whatever it likes.
 bool StepFollower::mayBranch(const Path& path) const
 {
-    return path.passed.empty() ||
-           (passes.testsOnEntry && made.nodes[current].lines.size() + branches < kMostLines);
+    return path.passed.empty() || (passes.testsOnEntry && drafts.size() + branches < most);
 }
 
 // The path on which the condition holds is followed first: its lines stand before those of the
@@ -253,9 +352,10 @@ bool StepFollower::fits(const Path& path, const Line& line) const
         values.apply(command);
     }
     Live behind = liveBehind(line.jump);
-    for (auto reg = behind.alive.begin(); reg != behind.alive.end();) {
-        const bool needsNoCommand = passes.doublesScripts && values.of(*reg).isNumber();
-        reg = needsNoCommand ? behind.alive.erase(reg) : std::next(reg);
+    for (const Register reg : RegisterSet(behind.alive)) {
+        if (passes.doublesScripts && values.of(reg).isNumber()) {
+            behind.alive.erase(reg);
+        }
     }
     return simplified(commands, path.start, behind).size() + 1 + (line.sound ? 1 : 0) <=
            kMostCommands;
@@ -265,7 +365,8 @@ bool StepFollower::fits(const Path& path, const Line& line) const
 bool StepFollower::take(Path& path, const Line& line)
 {
     const bool isLast = line.sound || mayFail(line, path.now) || !line.jump;
-    path.passed.insert(path.step);
+    notePassed(path.step);
+    path.passed.push_back(path.step);
     path.hasJumped = path.hasJumped || line.jump;
     path.commands.insert(path.commands.end(), line.commands.begin(), line.commands.end());
     for (const Command& command : line.commands) {
@@ -280,48 +381,85 @@ bool StepFollower::take(Path& path, const Line& line)
     return true;
 }
 
+void StepFollower::notePassed(size_t step)
+{
+    if (passedIn[step] != attempt) {
+        passedIn[step] = attempt;
+        passed.push_back(step);
+        for (const Line& line : plain.nodes[step].lines) {
+            bytesPassed += bytesOf(line) / (1 + uses[step]);
+        }
+    }
+}
+
+void StepFollower::end(Path path, std::optional<size_t> next, const std::optional<Sound>& sound)
+{
+    bytesMade += bytesOf({path.conditions, path.commands, sound, next});
+    drafts.push_back({std::move(path), next, sound});
+}
+
 // Writes down the line of the path: what is done, and which step comes next.
-void StepFollower::end(const Path& path, std::optional<size_t> next,
-                       const std::optional<Sound>& sound)
+void StepFollower::write(const Draft& draft)
 {
     Line line;
-    line.conditions = path.conditions;
-    line.sound = sound;
-    Live behind = liveBehind(next);
-    if (next) {
-        const Place place = placeOf(path, *next);
+    line.conditions = draft.path.conditions;
+    line.sound = draft.sound;
+    Live behind = liveBehind(draft.next);
+    if (draft.next) {
+        const Place place = placeOf(draft.path, *draft.next);
         line.jump = nodeFor(place);
         for (const auto& entry : place.numbers) {
             behind.alive.erase(entry.first);
         }
-    } else if (path.hasJumped && made.nodes[current].isEntry) {
+    } else if (draft.path.hasJumped && made.nodes[current].isEntry) {
         line.jump = restNode();
     }
-    line.commands = simplified(path.commands, path.start, behind);
+    line.commands = simplified(draft.path.commands, draft.path.start, behind);
     addLine(std::move(line));
 }
 
-// Numbers that temporaries hold need no register where the next script is made for them. Too many
-// scripts for one step are none the better.
-Place StepFollower::placeOf(const Path& path, size_t step) const
+// Numbers that temporaries hold need no register where the next script is made for them, and what
+// is known of variables that are asked for next need not be asked. Too many scripts for one step
+// are none the better.
+Place StepFollower::placeOf(const Path& path, size_t step)
 {
     Place place{step, {}};
     if (!passes.doublesScripts || plain.nodes[step].isKept) {
         return place;
     }
-    for (const Register reg : live[step]) {
-        const Value value = path.now.of(reg);
-        if (value.isNumber()) {
-            place.numbers[reg] = static_cast<uint16_t>(value.number);
+    Place withVariables = place;
+    for (const auto& [reg, number] : path.now.numbers()) {
+        if (live[step].has(reg)) {
+            place.numbers.set(reg, number);
+            withVariables.numbers.set(reg, number);
+        } else if (isWorthKnowing(step, reg)) {
+            withVariables.numbers.set(reg, number);
         }
     }
-    const bool isThere = nodes.count(place) != 0;
-    return isThere || variants[step] < kMostVariants ? place : Place{step, {}};
+    for (const Place& wanted : {withVariables, place}) {
+        if (nodes.count(wanted) != 0 || variants[step] < kMostVariants) {
+            return wanted;
+        }
+    }
+    return {step, {}};
+}
+
+bool StepFollower::isWorthKnowing(size_t step, Register reg)
+{
+    if (plain.temporaries.count(reg) != 0 || plain.constants.count(reg) != 0 ||
+        plain.unsteady.count(reg) != 0) {
+        return false;
+    }
+    const auto [entry, isNew] = asked.emplace(std::make_pair(step, reg), false);
+    if (isNew) {
+        entry->second = isAskedSoon(plain, step, reg);
+    }
+    return entry->second;
 }
 
 Live StepFollower::liveBehind(const std::optional<size_t>& step) const
 {
-    return {plain.temporaries, step ? live[*step] : std::set<Register>()};
+    return {plain.temporaries, step ? live[*step] : RegisterSet()};
 }
 
 Commands StepFollower::simplified(Commands commands, const Values& start, const Live& behind) const

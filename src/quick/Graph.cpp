@@ -242,6 +242,7 @@ void GraphReader::chooseTemporaries()
             graph.constants.insert(reg);
         }
     }
+    graph.unsteady = noticed;
 }
 
 class GraphWriter
@@ -402,6 +403,17 @@ GraphWriter::registersOf(const std::map<uint16_t, std::vector<gme::ScriptLine>>&
 }
 
 }  // namespace
+
+size_t bytesOf(const Line& line)
+{
+    constexpr size_t kOfALine = 10;
+    constexpr size_t kOfACondition = 8;
+    constexpr size_t kOfACommand = 7;
+    constexpr size_t kOfAPlayed = 2;
+    const size_t commands = line.commands.size() + (line.jump ? 1 : 0) + (line.sound ? 1 : 0);
+    return kOfALine + kOfACondition * line.conditions.size() + kOfACommand * commands +
+           kOfAPlayed * (line.sound ? line.sound->playList.size() : 0);
+}
 
 std::optional<Graph> graphOf(const gme::Game& game, const std::set<uint16_t>& inner)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gme/Game.h"
+#include "quick/SortedMap.h"
 
 #include <cstdint>
 #include <map>
@@ -15,6 +16,7 @@ namespace quick {
 constexpr size_t kMostCommands = 8;  // that the pen runs in a line
 
 using Register = uint16_t;  // its number in the game that was there first
+using RegisterSet = SortedSet<Register>;
 
 struct Operand
 {
@@ -92,7 +94,11 @@ struct Graph
     std::vector<uint16_t> firstValues;     // of the registers
     std::set<Register> constants;          // the compiler's own that nothing changes
     std::set<Register> temporaries;        // nobody but the scripts themselves reads them
+    std::set<Register> unsteady;           // they may change between a line and where it jumps to
 };
+
+// What the line takes of a game file.
+size_t bytesOf(const Line& line);
 
 // None when the game has a jump of which nobody knows where it leads.
 std::optional<Graph> graphOf(const gme::Game& game, const std::set<uint16_t>& inner);

@@ -11,13 +11,12 @@ namespace quick {
 struct Live
 {
     const std::set<Register>& temporaries;
-    std::set<Register> alive;             // of the temporaries
-    std::set<Register> overwritten = {};  // nobody reads them before they get another value
+    RegisterSet alive;             // of the temporaries
+    RegisterSet overwritten = {};  // nobody reads them before they get another value
 
     bool has(Register reg) const
     {
-        return overwritten.count(reg) == 0 &&
-               (temporaries.count(reg) == 0 || alive.count(reg) != 0);
+        return !overwritten.has(reg) && (temporaries.count(reg) == 0 || alive.has(reg));
     }
 };
 
@@ -35,6 +34,6 @@ void sumAdditions(Commands& commands);
 void dropDead(Commands& commands, const Live& behind);
 
 // The temporaries that are read from the first command on, when these are read behind the last.
-std::set<Register> liveBefore(const Commands& commands, Live behind);
+RegisterSet liveBefore(const Commands& commands, Live behind);
 
 }  // namespace quick

@@ -8,11 +8,11 @@ namespace quick {
 
 namespace {
 
-using LiveSets = std::vector<std::set<Register>>;
+using LiveSets = std::vector<RegisterSet>;
 
-std::set<Register> liveAt(const Node& node, const LiveSets& sets, const Graph& graph)
+RegisterSet liveAt(const Node& node, const LiveSets& sets, const Graph& graph)
 {
-    std::set<Register> result;
+    RegisterSet result;
     const auto read = [&](const Operand& operand) {
         if (operand.isRegister && graph.temporaries.count(operand.value) != 0) {
             result.insert(operand.value);
@@ -23,7 +23,7 @@ std::set<Register> liveAt(const Node& node, const LiveSets& sets, const Graph& g
             read(condition.left);
             read(condition.right);
         }
-        const std::set<Register> behind = line.jump ? sets[*line.jump] : std::set<Register>();
+        const RegisterSet behind = line.jump ? sets[*line.jump] : RegisterSet();
         for (const Register reg : liveBefore(line.commands, {graph.temporaries, behind})) {
             read({true, reg});
         }
@@ -34,7 +34,7 @@ std::set<Register> liveAt(const Node& node, const LiveSets& sets, const Graph& g
 }  // namespace
 
 // Whoever jumps to a node that turns out to read more is looked at again.
-std::vector<std::set<Register>> liveAtBeginning(const Graph& graph)
+std::vector<RegisterSet> liveAtBeginning(const Graph& graph)
 {
     std::vector<std::vector<size_t>> jumpers(graph.nodes.size());
     std::deque<size_t> waiting;
@@ -50,7 +50,7 @@ std::vector<std::set<Register>> liveAtBeginning(const Graph& graph)
     while (!waiting.empty()) {
         const size_t node = waiting.front();
         waiting.pop_front();
-        std::set<Register> live = liveAt(graph.nodes[node], sets, graph);
+        RegisterSet live = liveAt(graph.nodes[node], sets, graph);
         if (live != sets[node]) {
             sets[node] = std::move(live);
             waiting.insert(waiting.end(), jumpers[node].begin(), jumpers[node].end());

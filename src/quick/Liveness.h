@@ -8,6 +8,6 @@
 namespace quick {
 
 // For each node of the graph, the temporaries that its lines read before they change them.
-std::vector<std::set<Register>> liveAtBeginning(const Graph& graph);
+std::vector<RegisterSet> liveAtBeginning(const Graph& graph);
 
 }  // namespace quick

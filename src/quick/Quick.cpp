@@ -1,5 +1,6 @@
 #include "quick/Quick.h"
 
+#include "gme/GameFile.h"
 #include "quick/GraphPasses.h"
 #include "quick/LinePasses.h"
 #include "quick/Liveness.h"
@@ -36,7 +37,7 @@ Graph changed(const Graph& plain, const Passes& passes)
 // Temporaries that are read before anything was put into them: what the last tap left there counts.
 std::set<Register> readAtOnce(const Graph& graph)
 {
-    const std::vector<std::set<Register>> live = liveAtBeginning(graph);
+    const std::vector<RegisterSet> live = liveAtBeginning(graph);
     std::set<Register> result;
     for (size_t i = 0; i < graph.nodes.size(); ++i) {
         if (graph.nodes[i].isEntry) {
@@ -67,7 +68,10 @@ std::set<uint16_t> innerCodes(const gme::Game& game, const gme::Description& des
     return inner;
 }
 
-gme::Game optimise(const gme::Game& game, const std::set<uint16_t>& inner, const Passes& passes)
+namespace {
+
+gme::Game optimisedOnce(const gme::Game& game, const std::set<uint16_t>& inner,
+                        const Passes& passes)
 {
     std::optional<Graph> plain = graphOf(game, inner);
     if (!plain) {
@@ -83,6 +87,24 @@ gme::Game optimise(const gme::Game& game, const std::set<uint16_t>& inner, const
     gme::Game result = game;
     putGraph(graph, inner, result);
     return result;
+}
+
+}  // namespace
+
+// Where branches are doubled so often that the game file grows, they are left as they are.
+gme::Game optimise(const gme::Game& game, const std::set<uint16_t>& inner, const Passes& passes)
+{
+    const uint64_t most = gme::layOut(game).size;
+    Passes sparing = passes;
+    sparing.testsOnEntry = false;
+    sparing.doublesScripts = false;
+    for (const Passes& some : {passes, sparing}) {
+        gme::Game result = optimisedOnce(game, inner, some);
+        if (gme::layOut(result).size <= most) {
+            return result;
+        }
+    }
+    return game;
 }
 
 }  // namespace quick

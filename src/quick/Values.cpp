@@ -109,8 +109,8 @@ std::optional<uint32_t> calculate(uint32_t left, uint16_t opcode, uint32_t right
 
 Value Values::of(Register reg) const
 {
-    const auto found = values.find(reg);
-    const Value value = found != values.end() ? found->second : Value{Value::Kind::sum, reg, 0};
+    const Value* const found = values.find(reg);
+    const Value value = found != nullptr ? *found : Value{Value::Kind::sum, reg, 0};
     if (value.kind == Value::Kind::sum) {
         const Range range = rangeOf(value.base);
         if (range.least == range.most) {
@@ -127,12 +127,30 @@ Value Values::of(const Operand& operand) const
 
 void Values::setNumber(Register reg, uint16_t number)
 {
-    values[reg] = numberValue(number);
+    values.set(reg, numberValue(number));
+}
+
+SortedMap<Register, uint16_t> Values::numbers() const
+{
+    SortedMap<Register, uint16_t> result;
+    const auto note = [&](Register reg) {
+        const Value value = of(reg);
+        if (value.isNumber()) {
+            result.set(reg, static_cast<uint16_t>(value.number));
+        }
+    };
+    for (const auto& entry : values) {
+        note(entry.first);
+    }
+    for (const auto& entry : ranges) {
+        note(entry.first);
+    }
+    return result;
 }
 
 void Values::apply(const Command& command)
 {
-    values[command.target] = resultOf(command);
+    values.set(command.target, resultOf(command));
 }
 
 Value Values::resultOf(const Command& command) const
@@ -234,8 +252,8 @@ std::optional<bool> Values::follows(const Condition& condition) const
 
 Values::Range Values::rangeOf(Register reg) const
 {
-    const auto found = ranges.find(reg);
-    return found != ranges.end() ? found->second : Range{};
+    const Range* const found = ranges.find(reg);
+    return found != nullptr ? *found : Range{};
 }
 
 void Values::learn(const Condition& condition, bool itHolds)
@@ -274,7 +292,7 @@ void Values::limit(Register reg, uint16_t comparison, uint16_t number)
         range = {number, number};
         break;
     }
-    ranges[reg] = range;
+    ranges.set(reg, range);
 }
 
 Command addition(Register target, uint16_t summand)

@@ -2,7 +2,6 @@
 
 #include "quick/Graph.h"
 
-#include <map>
 #include <optional>
 #include <vector>
 
@@ -32,7 +31,6 @@ class Values
 public:
     Value of(Register reg) const;
     Value of(const Operand& operand) const;
-    void set(Register reg, const Value& value) { values[reg] = value; }
     void setNumber(Register reg, uint16_t number);
     // The command has been carried out.
     void apply(const Command& command);
@@ -45,7 +43,9 @@ public:
     // A condition on what registers held when the line began does hold, or does not.
     void learn(const Condition& condition, bool itHolds);
 
-    const std::map<Register, Value>& known() const { return values; }
+    const SortedMap<Register, Value>& known() const { return values; }
+    // The registers of which is known what number they hold.
+    SortedMap<Register, uint16_t> numbers() const;
 
 private:
     struct Range
@@ -59,8 +59,8 @@ private:
     void limit(Register reg, uint16_t comparison, uint16_t number);
     Value resultOf(const Command& command) const;
 
-    std::map<Register, Value> values;
-    std::map<Register, Range> ranges;   // of what they held when the line began
+    SortedMap<Register, Value> values;
+    SortedMap<Register, Range> ranges;  // of what they held when the line began
     std::vector<Condition> conditions;  // that are known to hold
     mutable uint32_t others = 0;
 };

@@ -2,6 +2,7 @@
 #include "quick/Quick.h"
 #include "tests/quick/GameText.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -130,13 +131,45 @@ TEST(TestsOnEntry, WhatIsCalculatedIsAskedForInTheNextScript)
 TEST(TestsOnEntry, ASumIsAskedForItsEqual)
 {
     EXPECT_EQ(withAll("  cow:\n"
-                      "  - J(asm1) $a += 3\n"
+                      "  - J(asm1) $_stk1 := 3\n"
                       "  asm1:\n"
+                      "  - J(asm2) $a += $_stk1\n"
+                      "  asm2:\n"
+                      "  - J(asm3) $b := 1\n"
+                      "  asm3:\n"
                       "  - $a == 5 ? P(a)\n"
                       "  - P(b)\n"),
-              "cow: $a==2? J(1) P(a) $a:=5\n"
-              "cow: J(1) P(b) $a+=3\n"
+              "cow: $a==2? J(1) P(a) $a:=5 $b:=1\n"
+              "cow: J(1) P(b) $a+=3 $b:=1\n"
               "1:\n");
+}
+
+// Each line more that asks for two things could double the lines.
+TEST(TestsOnEntry, WhatAsksForManyThingsIsCopied)
+{
+    std::string scripts = "  cow:\n";
+    std::string copied;
+    for (int i = 0; i < 60; ++i) {
+        const std::string number = std::to_string(i);
+        scripts += "  - $a" + number + " == 1 ? $b" + number + " == 2 ? P(s" + number + ")\n";
+        copied += "cow: $a" + number + "==1? $b" + number + "==2? P(s" + number + ")\n";
+    }
+    EXPECT_EQ(withAll(scripts), copied);
+}
+
+TEST(TestsOnEntry, WhatWouldMakeTheGameFileLargerIsNotDone)
+{
+    std::string scripts = "  cow:\n"
+                          "  - J(asm0) $x := 1\n";
+    for (int i = 0; i < 12; ++i) {
+        const std::string number = std::to_string(i);
+        const std::string next = std::to_string(i + 1);
+        scripts += "  asm" + number + ":\n  - $a" + number + " == 1 ? J(asm" + next + ") $x += $a" +
+                   number + "\n  - J(asm" + next + ") $x += $b" + number + "\n";
+    }
+    scripts += "  asm12:\n  - P(a)\n";
+    const std::string text = withAll(scripts);
+    EXPECT_LT(std::count(text.begin(), text.end(), '\n'), 60) << text;
 }
 
 TEST(TestsOnEntry, WhatFollowsFromOtherConditionsIsNotAsked)
@@ -172,6 +205,40 @@ TEST(DoublesScripts, WhatABranchHasLeftIsNotKeptInARegister)
                                               "cow: J(1) P(a) $ifexp1:=0\n"
                                               "1: $ifexp1==1? $b:=1\n"
                                               "1: $b:=2\n");
+}
+
+TEST(DoublesScripts, WhatIsKnownOfAVariableIsNotAskedAgainBehindASound)
+{
+    EXPECT_EQ(withAll("  cow:\n"
+                      "  - $a == 1 ? J(asm1) P(a)\n"
+                      "  - J(asm1) $b := 1\n"
+                      "  asm1:\n"
+                      "  - J(asm2) $_stk1 := $a\n"
+                      "  asm2:\n"
+                      "  - $_stk1 == 2 ? J(asm3) P(b)\n"
+                      "  - J(asm3) $b := 2\n"
+                      "  asm3:\n"
+                      "  - $c := 1\n"),
+              "cow: $a==1? J(1) P(a)\n"
+              "cow: $a==2? J(2) P(b) $b:=1\n"
+              "cow: J(3) $b:=2 $c:=1\n"
+              "1: $b:=2 $c:=1\n"
+              "2: $c:=1\n"
+              "3:\n");
+}
+
+// A tap on the hen comes between the sound and what follows it, and does not end it.
+TEST(DoublesScripts, WhatOthersMayChangeMeanwhileIsAskedAgain)
+{
+    EXPECT_EQ(withAll("  cow:\n"
+                      "  - $a == 1 ? J(asm1) P(a)\n"
+                      "  asm1:\n"
+                      "  - $a == 2 ? P(b)\n"
+                      "  hen:\n"
+                      "  - $a := 2\n"),
+              "cow: $a==1? J(1) P(a)\n"
+              "hen: $a:=2\n"
+              "1: $a==2? P(b)\n");
 }
 
 TEST(CarriesValues, NumbersAndOriginalsTakeThePlaceOfCopies)
