@@ -10,6 +10,14 @@ constexpr const char* kDescription = "product-id: 900\n"
                                      "scripts:\n"
                                      "  cow: $x := 1\n";
 
+// Four steps up to a sound.
+constexpr const char* kChain = "product-id: 900\n"
+                               "scripts:\n"
+                               "  cow: J(asm1) $x := 1\n"
+                               "  asm1: J(asm2) $y := 2\n"
+                               "  asm2: J(asm3) $z := 3\n"
+                               "  asm3: P(moo)\n";
+
 // A folder with the description of a game, in which the command runs.
 class Assemble : public testing::Test
 {
@@ -20,6 +28,12 @@ protected:
     {
         words.insert(words.begin(), "assemble");
         return resultOf(cli(words, {}, folder.path()));
+    }
+
+    void writeChain(const std::string& name) const
+    {
+        writeFile(folder.file(name), kChain);
+        writeFile(folder.file("moo.ogg"), "moo");
     }
 
     TemporaryFolder folder;
@@ -80,18 +94,36 @@ TEST_F(Assemble, WarningsAreNoFailure)
                                     "3, which is lost\n");
 }
 
-TEST_F(Assemble, QuickAnswersChangeTheGameFileAndNotTheCodesFile)
+TEST_F(Assemble, QuickAnswersChangeTheGameFileAndSayWhatTheySave)
 {
-    writeFile(folder.file("cow.yaml"), "product-id: 900\n"
-                                       "scripts:\n"
-                                       "  cow: J(asm1) $x := 1\n"
-                                       "  asm1: J(asm2) $y := 2\n"
-                                       "  asm2: $z := 3\n");
+    writeChain("cow.yaml");
     EXPECT_EQ(result({"cow.yaml", "plain.gme", "--no-date"}), "status 0\n");
-    const std::string codes = readFile(folder.file("cow.codes.yaml"));
-    EXPECT_EQ(result({"cow.yaml", "quick.gme", "--no-date", "--quick"}), "status 0\n");
-    EXPECT_EQ(readFile(folder.file("cow.codes.yaml")), codes);
+    EXPECT_EQ(result({"cow.yaml", "quick.gme", "--no-date", "--quick"}),
+              "status 0\n"
+              "Quick answers: 4 steps became 2; the slowest answer takes 1 step instead of 4\n");
     EXPECT_LT(readFile(folder.file("quick.gme")).size(), readFile(folder.file("plain.gme")).size());
+}
+
+TEST_F(Assemble, WhereQuickAnswersSaveNothingNothingIsSaid)
+{
+    EXPECT_EQ(result({"900-v1.2.yaml", "--quick"}), "status 0\n");
+}
+
+TEST_F(Assemble, WhatCannotBeAssembledIsNotSaidToBeQuick)
+{
+    writeChain("cow.yaml");
+    EXPECT_EQ(result({"cow.yaml", "--quick", "-o", "nowhere/cow.gme"}),
+              "status 1\nError: cow.gme: the game file cannot be written\n");
+}
+
+TEST_F(Assemble, TheCodesFileIsTheSameWithQuickAnswersByteForByte)
+{
+    writeChain("plain.yaml");
+    writeChain("quick.yaml");
+    EXPECT_EQ(result({"plain.yaml"}), "status 0\n");
+    result({"quick.yaml", "--quick"});
+    EXPECT_EQ(readFile(folder.file("quick.codes.yaml")), readFile(folder.file("plain.codes.yaml")));
+    EXPECT_NE(readFile(folder.file("quick.codes.yaml")).find("asm3"), std::string::npos);
 }
 
 TEST_F(Assemble, UsageErrorsHaveStatusOne)

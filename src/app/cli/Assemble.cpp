@@ -2,6 +2,7 @@
 #include "base/PlatformText.h"
 #include "gme/Assembler.h"
 #include "quick/Quick.h"
+#include "quick/Saving.h"
 
 #include <QString>
 
@@ -21,9 +22,13 @@ int printInLatin1(const char* format, ...)
     return defaultPrintf()("%s", QString::fromStdString(text).toLatin1().constData());
 }
 
-gme::Game withQuickAnswers(const gme::Game& game, const gme::Description& description)
+gme::Game withQuickAnswers(const gme::Game& game, const gme::Description& description,
+                           std::string& saving)
 {
-    return quick::optimise(game, quick::innerCodes(game, description));
+    const std::set<uint16_t> inner = quick::innerCodes(game, description);
+    gme::Game result = quick::optimise(game, inner);
+    saving = quick::savingInWords(quick::stepsOf(game, inner), quick::stepsOf(result, inner));
+    return result;
 }
 
 int assemble(const Arguments& arguments)
@@ -31,8 +36,11 @@ int assemble(const Arguments& arguments)
     gme::AssembleOptions options;
     options.yamlFile = arguments.operands[0];
     options.withDate = !arguments.has("--no-date");
+    std::string saving;
     if (arguments.has("--quick")) {
-        options.change = withQuickAnswers;
+        options.change = [&saving](const gme::Game& game, const gme::Description& description) {
+            return withQuickAnswers(game, description, saving);
+        };
     }
     if (arguments.operands.size() == kMostOperands) {
         options.gameFile = arguments.operands[1];
@@ -45,7 +53,13 @@ int assemble(const Arguments& arguments)
         options.gameFile = arguments.value("-o");
     }
     const PrintFunction print = arguments.has("--latin1") ? printInLatin1 : defaultPrintf();
-    return gme::assemble(options, print) ? kFine : kFailed;
+    if (!gme::assemble(options, print)) {
+        return kFailed;
+    }
+    if (!saving.empty()) {
+        print("%s\n", saving.c_str());
+    }
+    return kFine;
 }
 
 }  // namespace
