@@ -21,13 +21,13 @@ struct Compiled
 };
 
 // Throws what is wrong with the script.
-inline Compiled compiled(const Oid::OidProject& project)
+inline Compiled compiled(const Oid::OidProject& project, bool debugMode = false)
 {
     std::string errors;
     const DiagnosticSink sink = [&errors](const Diagnostic& finding) {
         errors += finding.severity == Severity::error ? consoleLine(finding) : std::string();
     };
-    const std::optional<gme::Description> description = describeGame(project, sink);
+    const std::optional<gme::Description> description = describeGame(project, sink, debugMode);
     gme::MediaLookup silence;
     std::optional<gme::Game> game;
     if (description) {
