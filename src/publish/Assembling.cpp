@@ -30,12 +30,11 @@ private:
     std::string before;
 };
 
-std::string findToolFolder()
+// Empty when there is none.
+std::string toolFolder()
 {
-    if (Platform::environmentVariable(kToolFolder).empty()) {
-        Platform::setEnvironmentVariable(kToolFolder, Platform::installedToolFolder("tttool"));
-    }
-    return Platform::environmentVariable(kToolFolder);
+    const std::string named = Platform::environmentVariable(kToolFolder);
+    return named.empty() ? Platform::installedToolFolder("tttool") : named;
 }
 
 // Intended: to standard output, not into the console.
@@ -85,21 +84,39 @@ bool startProgram(const std::string& program, std::vector<std::string> arguments
     return true;
 }
 
+bool startOurs(const std::string& program, bool quick, const Oid::OidProject& project,
+               ProcessRunner& runner)
+{
+    std::vector<std::string> arguments{"assemble"};
+    if (quick) {
+        arguments.emplace_back("--quick");
+    }
+    if (runner.readsLatin1()) {
+        arguments.emplace_back("--latin1");
+    }
+    return startProgram(program, arguments, project, "Execution of the assembler failed\n", runner);
+}
+
 }  // namespace
 
-bool startAssembler(const Oid::OidProject& project, const std::string& builtIn,
+bool isTttoolThere()
+{
+    return !toolFolder().empty();
+}
+
+bool startAssembler(const Oid::OidProject& project, const std::string& builtIn, Answers answers,
                     ProcessRunner& runner)
 {
-    const std::string toolFolder = findToolFolder();
-    if (toolFolder.empty()) {
+    const std::string folder = toolFolder();
+    if (folder.empty()) {
         explainInstallation();
-        std::vector<std::string> arguments{"assemble"};
-        if (runner.readsLatin1()) {
-            arguments.emplace_back("--latin1");
-        }
-        return startProgram(builtIn, arguments, project, "Execution of the assembler failed\n",
-                            runner);
+        const bool quick = answers != Answers::plain;
+        return startOurs(builtIn, quick, project, runner);
     }
-    const LongerPath withTool(toolFolder);
+    Platform::setEnvironmentVariable(kToolFolder, folder);
+    if (answers == Answers::quick) {
+        return startOurs(builtIn, true, project, runner);
+    }
+    const LongerPath withTool(folder);
     return startProgram("tttool", {"assemble"}, project, "Execution of tttool failed\n", runner);
 }

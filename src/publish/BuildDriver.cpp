@@ -64,7 +64,7 @@ bool makeFiles(Oid::OidProject& project, ProcessRunner& runner, const BuildOptio
     if (!gme::makeRoomForAreas(project.pathYaml(), drawnAreas(project), printWith(project.print))) {
         return stopBuild(mi_printf);
     }
-    const bool started = startAssembler(project, options.assembler, runner);
+    const bool started = startAssembler(project, options.assembler, options.answers, runner);
     runner.whenEnded([lock] { lock->release(); });
     return started && speech == SpeechOutcome::complete;
 }

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "publish/Assembling.h"
 #include "publish/SoundFiles.h"
 
 class ProcessRunner;
@@ -25,7 +26,9 @@ struct BuildOptions
 {
     // The speech step; without one the audio files are made with no progress shown.
     std::function<SpeechOutcome()> createSoundFiles;
-    std::string assembler = builtInAssembler();  // path of a program that knows "assemble FILE"
+    // Path of a program that knows "assemble [--quick] FILE".
+    std::string assembler = builtInAssembler();
+    Answers answers = Answers::asInstalled;
 };
 
 // One build, from the project in memory to its game file: numbers for new areas, the compiled

@@ -19,6 +19,13 @@ namespace {
 const std::string kBook = "PRODUCT 17, \"Zoo\"\r\n"
                           "OID 1234\r\nBOX lion 1.5 2.5 10 10\r\n"
                           "SCRIPT\r\nsub lion\r\nsay eve \"Roar, \\o/ roar\"\r\nend sub\r\n";
+// Nine steps lead to its only sound.
+const std::string kSlowBook = "PRODUCT 17, \"Zoo\"\r\n"
+                              "OID 1234\r\nBOX lion 1.5 2.5 10 10\r\n"
+                              "SCRIPT\r\nsub lion\r\na = a + 1\r\nb = a * 2\r\nsay Roar\r\n"
+                              "end sub\r\n";
+const std::string kSaving =
+    "Quick answers: 10 steps became 2; the slowest answer takes 1 step instead of 9\n";
 const std::string kSpeechFolder = PLINKETT_BIN_DIR "/tools/text2speech_win";
 const std::string kAssembling = "Compiling yaml to gme...\ndone.\n";
 const std::string kNotMade = "The game file was not made. There is no older one.\n";
@@ -197,6 +204,80 @@ TEST_F(Build, OnATerminalNewTextsAreCounted)
         {"TIPTOITOOL=", "PATH=" + tools.path() + ":" + kSpeechFolder + ":/usr/bin:/bin"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out, "1/2\r2/2\r   \rCompiling yaml to gme...\r\ndone.\r\nassembled\r\n");
+}
+
+namespace {
+
+class QuickBuild : public Build
+{
+protected:
+    QuickBuild() { writeFile(folder.file("book.oidpro"), kSlowBook); }
+
+    // The game that assemble makes of the description, and its codes file, in a folder of their
+    // own.
+    void assembleInto(const TemporaryFolder& other, const std::vector<std::string>& options) const
+    {
+        fs::copy(folder.path(), other.path(), fs::copy_options::recursive);
+        fs::remove(other.file("17-Zoo.gme"));
+        fs::remove(other.file("17-Zoo.codes.yaml"));
+        std::vector<std::string> words = {"assemble", other.file("17-Zoo.yaml")};
+        words.insert(words.end(), options.begin(), options.end());
+        EXPECT_EQ(cli(words).status, 0);
+    }
+
+    bool builtAsAssembled(const std::vector<std::string>& options) const
+    {
+        const TemporaryFolder other;
+        assembleInto(other, options);
+        return readFile(folder.file("17-Zoo.gme")) == readFile(other.file("17-Zoo.gme"));
+    }
+};
+
+}  // namespace
+
+TEST_F(QuickBuild, IsMadeWhereThereIsNoTttool)
+{
+    fs::remove(tttool.path());
+    EXPECT_THAT(build(), AllOf(StartsWith("status 0\n"), EndsWith(kAssembling + kSaving)));
+    EXPECT_TRUE(builtAsAssembled({"--quick"}));
+    EXPECT_FALSE(builtAsAssembled({}));
+}
+
+TEST_F(QuickBuild, IsNotMadeWithPlain)
+{
+    fs::remove(tttool.path());
+    EXPECT_THAT(build({"--plain"}), AllOf(StartsWith("status 0\n"), EndsWith(kAssembling)));
+    EXPECT_TRUE(builtAsAssembled({}));
+}
+
+TEST_F(QuickBuild, IsNotMadeWhereTttoolIsInstalled)
+{
+    EXPECT_EQ(build(), "status 0\n" + kAssembling + "assembled\n");
+    EXPECT_EQ(build({"--plain"}), "status 0\n" + kAssembling + "assembled\n");
+    EXPECT_EQ(tttool.callCount(), 2);
+}
+
+TEST_F(QuickBuild, TakesThePlaceOfAnInstalledTttoolWithQuick)
+{
+    EXPECT_EQ(build({"--quick"}), "status 0\n" + kAssembling + kSaving);
+    EXPECT_EQ(tttool.callCount(), 0);
+    EXPECT_TRUE(builtAsAssembled({"--quick"}));
+}
+
+TEST_F(QuickBuild, HasTheCodesFileOfThePlainGameByteForByte)
+{
+    build({"--quick"});
+    const TemporaryFolder plain;
+    assembleInto(plain, {});
+    EXPECT_THAT(readFile(plain.file("17-Zoo.codes.yaml")), HasSubstr("asm9: "));
+    EXPECT_EQ(readFile(folder.file("17-Zoo.codes.yaml")),
+              readFile(plain.file("17-Zoo.codes.yaml")));
+}
+
+TEST_F(QuickBuild, OfADebugGameSaysWhatItSaves)
+{
+    EXPECT_EQ(build({"--quick", "--debug"}),
+              "status 0\n" + kAssembling + "Quick answers: 14 steps became 6\n");
 }
 
 TEST(BuildWithRealPrograms, MakesSpeechAndAGameOnAMachineWithoutTttool)

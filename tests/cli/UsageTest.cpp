@@ -25,7 +25,7 @@ TEST(Usage, HelpNamesEveryCommandOnStandardOutput)
           "\n  yaml PROJECT [--debug] [-o FILE]\n", "\n  save PROJECT -o FILE\n",
           "\n  print PROJECT [--picture N]\n", "\n  tile OID -o FILE [--size PIXELS]\n",
           "\n  assemble FILE.yaml [OUT.gme] [-o OUT.gme] [--quick] [--no-date] [--latin1]\n",
-          "\n  build PROJECT [--debug]\n", "\n  copy PROJECT\n",
+          "\n  build PROJECT [--debug] [--quick] [--plain]\n", "\n  copy PROJECT\n",
           "\n  play FILE.gme|PROJECT [--seed N] [--json]\n",
           "\n  test PROJECT [FILE...] [--coverage] [--explore N] [--seed N]\n"}) {
         EXPECT_THAT(run.out, HasSubstr(usage));
@@ -41,6 +41,27 @@ TEST(Usage, HelpOfOneCommandNeedsNothingElse)
               "      Reads the project and writes it again, as the window saves it.\n"
               "      -o FILE         the file to write\n"
               "\n");
+}
+
+TEST(Usage, HelpOfBuildTellsWhenAnswersAreQuick)
+{
+    EXPECT_EQ(resultOf(cli({"build", "--help"})),
+              "status 0\n"
+              "Usage: plinkett-cli\n"
+              "  build PROJECT [--debug] [--quick] [--plain]\n"
+              "      Makes the game file: compiles, writes the description, speaks the texts, "
+              "assembles.\n"
+              "      --debug         the game says its line numbers\n"
+              "      --quick         the same game with fewer steps, as it is made anyway without "
+              "tttool\n"
+              "      --plain         the game with all its steps, also without tttool\n"
+              "\n");
+}
+
+TEST(Usage, AGameIsNotQuickAndPlain)
+{
+    EXPECT_EQ(resultOf(cli({"build", "none.oidpro", "--quick", "--plain"})),
+              usageError("--quick and --plain exclude each other"));
 }
 
 TEST(Usage, VersionNamesProgramAndNumber)

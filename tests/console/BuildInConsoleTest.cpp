@@ -256,7 +256,7 @@ private slots:
         waitForEnd();
         QCOMPARE(shown(), QString() + kWarning + kAssembling + "made by us\n");
         QCOMPARE(ours.calls(),
-                 "assemble\n--latin1\n" + bench->folder.file("900-Zoo.yaml") + "\n\n");
+                 "assemble\n--quick\n--latin1\n" + bench->folder.file("900-Zoo.yaml") + "\n\n");
     }
 
 private:

@@ -189,7 +189,7 @@ TEST_F(BuildingAGame, AProjectThatWasNeverSavedIsBuiltInTheCurrentFolder)
     project.projectPath = "";
     EXPECT_TRUE(build());
     EXPECT_TRUE(fs::exists(yaml()));
-    EXPECT_THAT(runner.commands, ElementsAre(ours("assemble ./900-Zoo.yaml &")));
+    EXPECT_THAT(runner.commands, ElementsAre(ours("assemble --quick ./900-Zoo.yaml &")));
 }
 
 TEST_F(BuildingAGame, ADescriptionThatCannotBeWrittenStopsTheBuild)
@@ -241,7 +241,7 @@ TEST_F(BuildingAGame, AnInstalledTttoolHasPrecedence)
 TEST_F(BuildingAGame, WithoutTttoolOurAssemblerTakesItsPlace)
 {
     EXPECT_EQ(standardOutputOf([&] { EXPECT_TRUE(build()); }), kInstructions);
-    EXPECT_THAT(runner.commands, ElementsAre(ours("assemble \"" + yaml() + "\" &")));
+    EXPECT_THAT(runner.commands, ElementsAre(ours("assemble --quick \"" + yaml() + "\" &")));
     EXPECT_THAT(runner.shown(), testing::EndsWith("Compiling yaml to gme...\ndone.\n"));
 }
 
@@ -249,7 +249,56 @@ TEST_F(BuildingAGame, OurAssemblerPrintsWhatTheRunnerReads)
 {
     runner.latin1 = true;
     build();
-    EXPECT_THAT(runner.commands, ElementsAre(ours("assemble --latin1 \"" + yaml() + "\" &")));
+    EXPECT_THAT(runner.commands,
+                ElementsAre(ours("assemble --quick --latin1 \"" + yaml() + "\" &")));
+}
+
+TEST_F(BuildingAGame, APlainGameIsMadeOfAllSteps)
+{
+    options.answers = Answers::plain;
+    EXPECT_EQ(standardOutputOf([&] { EXPECT_TRUE(build()); }), kInstructions);
+    EXPECT_THAT(runner.commands, ElementsAre(ours("assemble \"" + yaml() + "\" &")));
+}
+
+TEST_F(BuildingAGame, WithoutTttoolQuickAnswersAreWhatIsMadeAnyway)
+{
+    options.answers = Answers::quick;
+    EXPECT_EQ(standardOutputOf([&] { EXPECT_TRUE(build()); }), kInstructions);
+    EXPECT_THAT(runner.commands, ElementsAre(ours("assemble --quick \"" + yaml() + "\" &")));
+}
+
+TEST_F(BuildingAGame, ForQuickAnswersOurAssemblerTakesThePlaceOfTttool)
+{
+    Platform::setEnvironmentVariable("TIPTOITOOL", "/opt/tttool");
+    options.answers = Answers::quick;
+    EXPECT_EQ(standardOutputOf([&] { EXPECT_TRUE(build()); }), "");
+    EXPECT_THAT(runner.commands, ElementsAre(ours("assemble --quick \"" + yaml() + "\" &")));
+    EXPECT_EQ(runner.shown(), "OID  1001 assigned to 'lion'\n"
+                              "Compiling yaml to gme...\n"
+                              "done.\n");
+}
+
+TEST_F(BuildingAGame, APlainGameIsMadeByTttoolWhereItIsThere)
+{
+    Platform::setEnvironmentVariable("TIPTOITOOL", "/opt/tttool");
+    options.answers = Answers::plain;
+    EXPECT_TRUE(build());
+    EXPECT_THAT(runner.commands, ElementsAre(commandWords("tttool assemble \"" + yaml() + "\" &")));
+}
+
+TEST_F(BuildingAGame, TttoolIsThereWhereTheVariableTellsOrOnPath)
+{
+    EXPECT_FALSE(isTttoolThere());
+    {
+        const ChangedVariable folderOfTool("TIPTOITOOL", "/opt/tttool");
+        EXPECT_TRUE(isTttoolThere());
+    }
+    const TemporaryFolder tools;
+    writeFile(tools.file("tttool"), "");
+    fs::permissions(tools.file("tttool"), fs::perms::owner_all);
+    const ChangedVariable pathWithTool("PATH", tools.path());
+    EXPECT_TRUE(isTttoolThere());
+    EXPECT_EQ(Platform::environmentVariable("TIPTOITOOL"), "");
 }
 
 TEST_F(BuildingAGame, TheInstructionsNameTheFolderOfPrograms)
