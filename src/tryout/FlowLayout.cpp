@@ -46,19 +46,34 @@ void FlowLayout::setGeometry(const QRect& place)
 // The height of all rows.
 int FlowLayout::arrange(const QRect& place, bool really) const
 {
-    QPoint at = place.topLeft();
-    int rowHeight = 0;
-    for (QLayoutItem* const item : items) {
-        const QSize size = item->sizeHint();
-        if (at.x() > place.left() && at.x() + size.width() > place.right() + 1) {
-            at = {place.left(), at.y() + rowHeight + spacing()};
-            rowHeight = 0;
+    int y = place.y();
+    for (int first = 0; first < items.size();) {
+        const Row row = rowFrom(first, place.width());
+        QPoint at(place.x(), y);
+        for (; first < row.end; ++first) {
+            const QSize size = items[first]->sizeHint();
+            at.setY(y + (row.height - size.height()) / 2);
+            if (really) {
+                items[first]->setGeometry({at, size});
+            }
+            at.rx() += size.width() + spacing();
         }
-        if (really) {
-            item->setGeometry({at, size});
-        }
-        at.rx() += size.width() + spacing();
-        rowHeight = std::max(rowHeight, size.height());
+        y += row.height + spacing();
     }
-    return at.y() + rowHeight - place.y();
+    return items.isEmpty() ? 0 : y - spacing() - place.y();
+}
+
+// One item at least.
+FlowLayout::Row FlowLayout::rowFrom(int first, int width) const
+{
+    Row row{first, 0};
+    for (int used = 0; row.end < items.size(); ++row.end) {
+        const QSize size = items[row.end]->sizeHint();
+        if (row.end > first && used + size.width() > width) {
+            break;
+        }
+        used += size.width() + spacing();
+        row.height = std::max(row.height, size.height());
+    }
+    return row;
 }

@@ -3,7 +3,7 @@
 #include <QLayout>
 #include <QList>
 
-// Controls beside each other, in as many rows as the width asks for.
+// Controls beside each other, in as many rows as the width asks for, each in the middle of its row.
 class FlowLayout : public QLayout
 {
 public:
@@ -22,6 +22,13 @@ public:
     void setGeometry(const QRect& place) override;
 
 private:
+    struct Row
+    {
+        int end;  // the first item behind it
+        int height;
+    };
+
+    Row rowFrom(int first, int width) const;
     int arrange(const QRect& place, bool really) const;
 
     QList<QLayoutItem*> items;
