@@ -886,6 +886,18 @@
         <translation>Kopiert das Spiel auf das angeschlossene USB-Gerät</translation>
     </message>
     <message>
+        <source>&amp;Quick answers</source>
+        <translation>S&amp;chnelle Antworten</translation>
+    </message>
+    <message>
+        <source>The same game in fewer steps, so that the pen answers at once</source>
+        <translation>Dasselbe Spiel in weniger Schritten, damit der Stift sofort antwortet</translation>
+    </message>
+    <message>
+        <source>The pen takes its time for every step of the script. With quick answers the game does the same in few of them. They are made by Plinkett&apos;s own assembler, also where tttool is installed.</source>
+        <translation>Der Stift braucht für jeden Schritt des Skripts seine Zeit. Mit schnellen Antworten tut das Spiel dasselbe in wenigen Schritten. Sie macht der eigene Assembler von Plinkett, auch wo tttool installiert ist.</translation>
+    </message>
+    <message>
         <source>Console</source>
         <translation>Konsole</translation>
     </message>

@@ -886,6 +886,18 @@
         <translation>Copies the binary to the attached USB device</translation>
     </message>
     <message>
+        <source>&amp;Quick answers</source>
+        <translation>&amp;Quick answers</translation>
+    </message>
+    <message>
+        <source>The same game in fewer steps, so that the pen answers at once</source>
+        <translation>The same game in fewer steps, so that the pen answers at once</translation>
+    </message>
+    <message>
+        <source>The pen takes its time for every step of the script. With quick answers the game does the same in few of them. They are made by Plinkett&apos;s own assembler, also where tttool is installed.</source>
+        <translation>The pen takes its time for every step of the script. With quick answers the game does the same in few of them. They are made by Plinkett&apos;s own assembler, also where tttool is installed.</translation>
+    </message>
+    <message>
         <source>Console</source>
         <translation>Console</translation>
     </message>

@@ -886,6 +886,18 @@
         <translation>Copie le jeu sur l&apos;appareil USB connecté</translation>
     </message>
     <message>
+        <source>&amp;Quick answers</source>
+        <translation>Réponses rapi&amp;des</translation>
+    </message>
+    <message>
+        <source>The same game in fewer steps, so that the pen answers at once</source>
+        <translation>Le même jeu en moins d&apos;étapes, pour que le stylo réponde aussitôt</translation>
+    </message>
+    <message>
+        <source>The pen takes its time for every step of the script. With quick answers the game does the same in few of them. They are made by Plinkett&apos;s own assembler, also where tttool is installed.</source>
+        <translation>Le stylo met du temps pour chaque étape du script. Avec les réponses rapides, le jeu fait la même chose en peu d&apos;étapes. C&apos;est l&apos;assembleur de Plinkett lui-même qui les produit, même si tttool est installé.</translation>
+    </message>
+    <message>
         <source>Console</source>
         <translation>Console</translation>
     </message>

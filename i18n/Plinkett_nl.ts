@@ -886,6 +886,18 @@
         <translation>Kopieert het spel naar het aangesloten USB-apparaat</translation>
     </message>
     <message>
+        <source>&amp;Quick answers</source>
+        <translation>Sn&amp;elle antwoorden</translation>
+    </message>
+    <message>
+        <source>The same game in fewer steps, so that the pen answers at once</source>
+        <translation>Hetzelfde spel in minder stappen, zodat de pen meteen antwoordt</translation>
+    </message>
+    <message>
+        <source>The pen takes its time for every step of the script. With quick answers the game does the same in few of them. They are made by Plinkett&apos;s own assembler, also where tttool is installed.</source>
+        <translation>De pen heeft voor elke stap van het script tijd nodig. Met snelle antwoorden doet het spel hetzelfde in weinig stappen. Ze worden gemaakt door de eigen assembler van Plinkett, ook als tttool geïnstalleerd is.</translation>
+    </message>
+    <message>
         <source>Console</source>
         <translation>Console</translation>
     </message>

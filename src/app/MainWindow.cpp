@@ -88,6 +88,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     prepareDocks();
     prepareTrying();
     preparePrinting();
+    prepareBuilding();
     new ProblemsGuide(*this, *ui, document);
     new ToolBarFit(this);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
@@ -266,6 +267,7 @@ void MainWindow::keepSettingsIn(QSettings& settings)
     findChild<CaretStatus*>()->keepSettingsIn(settings);
     docks->keepSettingsIn(settings);
     printing->keepSettingsIn(settings);
+    keepQuickAnswersIn(settings);
     constexpr char kLetterSize[] = "script/letterSize";  // points
     KVQtHighlightEditCtrlInlay& script = ui->codeEditor->surface();
     bool isNumber = false;

@@ -212,6 +212,9 @@ private:
     void giveSizeToAllPictures();
     // One line for each picture whose resolution is too low; empty if none is.
     QString tooFewDpi() const;
+    // Quick answers, until the author chooses, are there where tttool is not.
+    void prepareBuilding();
+    void keepQuickAnswersIn(QSettings& settings);
     // Greys out Build and Copy until the assembler that Build has left running is done.
     void waitForAssembler(const std::function<void()>& done);
 

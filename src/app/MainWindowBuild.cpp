@@ -11,11 +11,14 @@
 #include "oid/PictureFile.h"
 #include "oid/PrintImage.h"
 #include "oid/PrintJob.h"
+#include "publish/Assembling.h"
 #include "publish/BuildDriver.h"
 #include "publish/PenCopy.h"
+#include "tryout/FlowLayout.h"
 #include "ui_MainWindow.h"
 
 #include <QPointer>
+#include <QSettings>
 
 void MainWindow::giveSizeToAllPictures()
 {
@@ -166,6 +169,30 @@ void MainWindow::addStartSymbol()
     }
 }
 
+// On a small screen the controls need two rows.
+void MainWindow::prepareBuilding()
+{
+    auto* const controls = new FlowLayout;
+    for (QWidget* const control :
+         {static_cast<QWidget*>(ui->btBuild), static_cast<QWidget*>(ui->chDebugMode),
+          static_cast<QWidget*>(ui->btCopyToPen), static_cast<QWidget*>(ui->chQuickAnswers)}) {
+        controls->addWidget(control);
+    }
+    ui->horizontalLayout_6->insertLayout(0, controls);
+    ui->chQuickAnswers->setChecked(!isTttoolThere());
+}
+
+void MainWindow::keepQuickAnswersIn(QSettings& settings)
+{
+    constexpr char kQuickAnswers[] = "build/quickAnswers";
+    const QString kept = settings.value(kQuickAnswers).toString();
+    if (kept == "true" || kept == "false") {
+        ui->chQuickAnswers->setChecked(kept == "true");
+    }
+    connect(ui->chQuickAnswers, &QCheckBox::clicked, this,
+            [&settings, kQuickAnswers](bool on) { settings.setValue(kQuickAnswers, on); });
+}
+
 void MainWindow::on_btBuild_clicked()
 {
     KVQtStdoutWidget& console = *ui->txConsole;
@@ -176,6 +203,7 @@ void MainWindow::on_btBuild_clicked()
     const bool debugMode = ui->chDebugMode->checkState() == Qt::Checked;
     BuildOptions options;
     options.createSoundFiles = [this] { return createSoundFiles(); };
+    options.answers = ui->chQuickAnswers->isChecked() ? Answers::quick : Answers::plain;
     tell(*ui->lbBuildResult, tr("Building..."));
     const bool complete = buildGame(project, debugMode, console, options);
     const QString game = QString::fromStdString(FileSystem::getFilenameOfPath(project.pathGme()));

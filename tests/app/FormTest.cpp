@@ -97,6 +97,8 @@ private slots:
             "Tells (says) the code line number, when running on the device");
         row("btCopyToPen", "QPushButton", "Copy to Device",
             "Copies the binary to the attached USB device");
+        row("chQuickAnswers", "QCheckBox", "&Quick answers",
+            "The same game in fewer steps, so that the pen answers at once");
         row("lbBuildResult", "QLabel");
         row("txConsole", "KVQtStdoutWidget");
         row("tabTry", "QWidget");
@@ -291,8 +293,8 @@ private slots:
                                               "txOidOfArea", "btEditPolyCode",    "polyArea",
                                               tabs};
         QTest::newRow("Script") << QStringList{tabs, "inlay"};
-        QTest::newRow("Build") << QStringList{tabs,          "btBuild",   "chDebugMode",
-                                              "btCopyToPen", "txConsole", tabs};
+        QTest::newRow("Build") << QStringList{
+            tabs, "btBuild", "chDebugMode", "btCopyToPen", "chQuickAnswers", "txConsole", tabs};
         QTest::newRow("Try") << QStringList{
             tabs,          "btStart",   "btTryAgain",      "btTryStop",    "btTryFresh",
             "btTryStep",   "btTryGoOn", "btTryBreakpoint", "btTryRecord",  "btTryWindow",
@@ -371,6 +373,82 @@ private slots:
             }
         }
         QCOMPARE(without, QStringList());
+    }
+
+    void quickAnswersHaveAKeyOfTheirOwn_data() { fitsOnASmallScreen_data(); }
+
+    void quickAnswersHaveAKeyOfTheirOwn()
+    {
+        QFETCH(QString, language);
+        QTranslator translator;
+        QVERIFY(loadTranslation(translator, {language}));
+        QCoreApplication::installTranslator(&translator);
+        WindowFixture w;
+        const QCheckBox* const box = w.get<QCheckBox>("chQuickAnswers");
+        const QKeySequence key = QKeySequence::mnemonic(box->text());
+        QVERIFY(!key.isEmpty());
+        QStringList others;
+        const auto compare = [&](const QObject* other, const char* property) {
+            const QString text = other->property(property).toString();
+            if (other != box && QKeySequence::mnemonic(text) == key) {
+                others << text;
+            }
+        };
+        for (const QObject* const object : w.window.findChildren<QObject*>()) {
+            for (const char* const property : {"text", "title"}) {
+                compare(object, property);
+            }
+        }
+        const QTabWidget* const tabs = w.get<QTabWidget>("ribbonTab");
+        for (int i = 0; i < tabs->count(); ++i) {
+            QVERIFY(QKeySequence::mnemonic(tabs->tabText(i)).isEmpty());
+        }
+        QCOMPARE(others, QStringList());
+    }
+
+    void quickAnswersExplainThemselves()
+    {
+        WindowFixture w;
+        QCOMPARE(w.get<QCheckBox>("chQuickAnswers")->whatsThis(),
+                 "The pen takes its time for every step of the script. With quick answers the game "
+                 "does the same in few of them. They are made by Plinkett's own assembler, also "
+                 "where tttool is installed.");
+    }
+
+    void quickAnswersStandBehindCopyToDevice()
+    {
+        WindowFixture w;
+        w.get<QTabWidget>("ribbonTab")->setCurrentWidget(w.get<QWidget>("tabBuild"));
+        const QRect copy = w.get<QPushButton>("btCopyToPen")->geometry();
+        const QRect box = w.get<QCheckBox>("chQuickAnswers")->geometry();
+        QVERIFY(box.left() > copy.right());
+        QVERIFY(std::abs(box.center().y() - copy.center().y()) <= 1);
+    }
+
+    void theControlsOfTheBuildAreSeenAtEveryWidth_data() { fitsOnASmallScreen_data(); }
+
+    void theControlsOfTheBuildAreSeenAtEveryWidth()
+    {
+        QFETCH(QString, language);
+        QTranslator translator;
+        QVERIFY(loadTranslation(translator, {language}));
+        QCoreApplication::installTranslator(&translator);
+        WindowFixture w;
+        w.get<QTabWidget>("ribbonTab")->setCurrentWidget(w.get<QWidget>("tabBuild"));
+        for (const int width : {640, 1400}) {
+            w.window.resize(width, 360);
+            QCoreApplication::processEvents();
+            QRect before;
+            for (const char* const name :
+                 {"btBuild", "chDebugMode", "btCopyToPen", "chQuickAnswers"}) {
+                const QWidget* const control = w.get<QWidget>(name);
+                const QWidget* const row = control->parentWidget();
+                QVERIFY2(row->rect().contains(control->geometry()), name);
+                QVERIFY2(control->width() >= control->sizeHint().width(), name);
+                QVERIFY2(!control->geometry().intersects(before), name);
+                before = control->geometry();
+            }
+        }
     }
 
     void controlsThatShowASymbolHaveAName()

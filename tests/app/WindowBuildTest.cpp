@@ -16,6 +16,11 @@
 namespace {
 
 const std::string kScript = "sub cow\r\nsay \"Moo\"\r\nend sub\r\n";
+// Nine steps lead to its only sound.
+const std::string kSlowScript = "sub cow\r\na = a + 1\r\nb = a * 2\r\nsay \"Moo\"\r\nend sub\r\n";
+constexpr char kAssembling[] = "Compiling yaml to gme...\ndone.";
+constexpr char kSaving[] =
+    "Quick answers: 10 steps became 2; the slowest answer takes 1 step instead of 9";
 const std::string kCow = "OID 1001\r\nPOLY cow\r\nEND\r\n\r\n";
 
 // Programs that stand in for the outside ones, in front of PATH. Each notes its arguments.
@@ -40,6 +45,10 @@ public:
         writeFile(folder.file(name), "#!/bin/sh\n" + script);
         QFile::setPermissions(QString::fromStdString(folder.file(name)),
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    void remove(const std::string& name)
+    {
+        QVERIFY(QFile::remove(QString::fromStdString(folder.file(name))));
     }
     QString log(const char* name)
     {
@@ -144,6 +153,59 @@ private slots:
         w.click("btBuild");
         QVERIFY(QString::fromStdString(readFile(w.folder.file("900-Zoo.yaml")))
                     .contains("P(say_adam_line_2)"));
+    }
+
+    void quickAnswersAreOnWhereThereIsNoTttool()
+    {
+        StandIns programs;
+        QVERIFY(!WindowFixture().get<QCheckBox>("chQuickAnswers")->isChecked());
+        qputenv("TIPTOITOOL", "/opt/tttool");
+        programs.remove("tttool");
+        QVERIFY(!WindowFixture().get<QCheckBox>("chQuickAnswers")->isChecked());
+        qunsetenv("TIPTOITOOL");
+        QVERIFY(WindowFixture().get<QCheckBox>("chQuickAnswers")->isChecked());
+    }
+
+    void withoutTttoolTheGameAnswersQuicklyAndTheConsoleSaysWhatThatSaves()
+    {
+        StandIns programs;
+        programs.remove("tttool");
+        WindowFixture w;
+        w.open(projectFile({kCow}, kSlowScript), 1);
+        w.click("btBuild");
+        QTRY_COMPARE(w.status(), "The game was built: 900-Zoo.gme");
+        QCOMPARE(w.console(), QString("%1\n%2\n").arg(kAssembling, kSaving));
+        QVERIFY(QFile::exists(w.path("900-Zoo.gme")));
+    }
+
+    void quickAnswersTakeThePlaceOfTttoolWhereTheyAreTicked()
+    {
+        StandIns programs;
+        WindowFixture w;
+        w.open(projectFile({kCow}, kSlowScript), 1);
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(3);
+        QTest::mouseClick(w.get<QCheckBox>("chQuickAnswers"), Qt::LeftButton, {}, {8, 8});
+        QVERIFY(w.get<QCheckBox>("chQuickAnswers")->isChecked());
+        w.click("btBuild");
+        QTRY_COMPARE(w.status(), "The game was built: 900-Zoo.gme");
+        QCOMPARE(w.console(), QString("%1\n%2\n").arg(kAssembling, kSaving));
+        QCOMPARE(programs.log("tttool"), "");
+    }
+
+    void withoutQuickAnswersAllStepsAreMade()
+    {
+        StandIns programs;
+        programs.remove("tttool");
+        WindowFixture w;
+        w.open(projectFile({kCow}, kSlowScript), 1);
+        w.get<QTabWidget>("ribbonTab")->setCurrentIndex(3);
+        w.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&w.window));
+        QTest::keyClick(&w.window, Qt::Key_Q, Qt::AltModifier);
+        QTRY_VERIFY(!w.get<QCheckBox>("chQuickAnswers")->isChecked());
+        w.click("btBuild");
+        QTRY_COMPARE(w.status(), "The game was built: 900-Zoo.gme");
+        QCOMPARE(w.console(), QString(kAssembling));
     }
 
     // The box has two states; a third would not count.
