@@ -2023,6 +2023,208 @@
     </message>
 </context>
 <context>
+    <name>TryVoicesDialog</name>
+    <message>
+        <source>The sentence is too long for the speech program.</source>
+        <translation>Der Satz ist zu lang für das Sprachprogramm.</translation>
+    </message>
+    <message>
+        <source>The speech program is not there.</source>
+        <translation>Das Sprachprogramm fehlt.</translation>
+    </message>
+    <message>
+        <source>The speech program could not speak the sentence.</source>
+        <translation>Das Sprachprogramm konnte den Satz nicht sprechen.</translation>
+    </message>
+    <message>
+        <source>The sentence was not spoken: %1</source>
+        <translation>Der Satz wurde nicht gesprochen: %1</translation>
+    </message>
+    <message>
+        <source>Try voices</source>
+        <translation>Stimmen ausprobieren</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation>Stimmen</translation>
+    </message>
+    <message>
+        <source>What all voices of this language say</source>
+        <translation>Was alle Stimmen dieser Sprache sagen</translation>
+    </message>
+    <message>
+        <source>Sentence</source>
+        <translation>Satz</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>The language of the other voices</source>
+        <translation>Die Sprache der anderen Stimmen</translation>
+    </message>
+    <message>
+        <source>&amp;Sentence:</source>
+        <translation>&amp;Satz:</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>S&amp;prache:</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Abspielen</translation>
+    </message>
+    <message>
+        <source>Lets the chosen voice say the sentence</source>
+        <translation>Lässt die gewählte Stimme den Satz sagen</translation>
+    </message>
+    <message>
+        <source>Play &amp;all</source>
+        <translation>A&amp;lle abspielen</translation>
+    </message>
+    <message>
+        <source>Lets one voice after the other say the sentence</source>
+        <translation>Lässt eine Stimme nach der anderen den Satz sagen</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>S&amp;topp</translation>
+    </message>
+    <message>
+        <source>Ends the sound</source>
+        <translation>Beendet den Ton</translation>
+    </message>
+    <message>
+        <source>The name of the voice in the script</source>
+        <translation>Der Name der Stimme im Skript</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>&amp;Insert into the script</source>
+        <translation>In das Skript &amp;einfügen</translation>
+    </message>
+    <message>
+        <source>Declares the voice in the script</source>
+        <translation>Deklariert die Stimme im Skript</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>The speech program does not tell its languages.</source>
+        <translation>Das Sprachprogramm nennt seine Sprachen nicht.</translation>
+    </message>
+    <message>
+        <source>The speech program does not tell its languages: %1</source>
+        <translation>Das Sprachprogramm nennt seine Sprachen nicht: %1</translation>
+    </message>
+    <message>
+        <source>%1 speaks.</source>
+        <translation>%1 spricht.</translation>
+    </message>
+    <message>
+        <source>The script has this voice.</source>
+        <translation>Das Skript hat diese Stimme.</translation>
+    </message>
+    <message>
+        <source>A name has small letters from a to z, and digits behind them.</source>
+        <translation>Ein Name hat Kleinbuchstaben von a bis z und dahinter Ziffern.</translation>
+    </message>
+    <message>
+        <source>The script has a voice of this name.</source>
+        <translation>Das Skript hat eine Stimme mit diesem Namen.</translation>
+    </message>
+    <message>
+        <source>%1 takes a breath ...</source>
+        <translation>%1 holt Luft ...</translation>
+    </message>
+</context>
+<context>
+    <name>VoiceTable</name>
+    <message>
+        <source>girl</source>
+        <translation>maedchen</translation>
+    </message>
+    <message>
+        <source>boy</source>
+        <translation>junge</translation>
+    </message>
+    <message>
+        <source>sister</source>
+        <translation>schwester</translation>
+    </message>
+    <message>
+        <source>brother</source>
+        <translation>bruder</translation>
+    </message>
+    <message>
+        <source>mother</source>
+        <translation>mutter</translation>
+    </message>
+    <message>
+        <source>father</source>
+        <translation>vater</translation>
+    </message>
+    <message>
+        <source>grandma</source>
+        <translation>oma</translation>
+    </message>
+    <message>
+        <source>grandpa</source>
+        <translation>opa</translation>
+    </message>
+    <message>
+        <source>Girl</source>
+        <translation>Mädchen</translation>
+    </message>
+    <message>
+        <source>Boy</source>
+        <translation>Junge</translation>
+    </message>
+    <message>
+        <source>Woman</source>
+        <translation>Frau</translation>
+    </message>
+    <message>
+        <source>Man</source>
+        <translation>Mann</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Stimme</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Speaker</source>
+        <translation>Sprecher</translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation>Alter</translation>
+    </message>
+    <message>
+        <source>Engine</source>
+        <translation>Sprachprogramm</translation>
+    </message>
+    <message>
+        <source>Voices of the script</source>
+        <translation>Stimmen des Skripts</translation>
+    </message>
+    <message>
+        <source>Other voices</source>
+        <translation>Andere Stimmen</translation>
+    </message>
+</context>
+<context>
     <name>SubNameNote</name>
     <message>
         <source>No area is selected, so this names none. Click one, then type its name.</source>

@@ -2023,6 +2023,208 @@
     </message>
 </context>
 <context>
+    <name>TryVoicesDialog</name>
+    <message>
+        <source>The sentence is too long for the speech program.</source>
+        <translation>The sentence is too long for the speech program.</translation>
+    </message>
+    <message>
+        <source>The speech program is not there.</source>
+        <translation>The speech program is not there.</translation>
+    </message>
+    <message>
+        <source>The speech program could not speak the sentence.</source>
+        <translation>The speech program could not speak the sentence.</translation>
+    </message>
+    <message>
+        <source>The sentence was not spoken: %1</source>
+        <translation>The sentence was not spoken: %1</translation>
+    </message>
+    <message>
+        <source>Try voices</source>
+        <translation>Try voices</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation>Voices</translation>
+    </message>
+    <message>
+        <source>What all voices of this language say</source>
+        <translation>What all voices of this language say</translation>
+    </message>
+    <message>
+        <source>Sentence</source>
+        <translation>Sentence</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>The language of the other voices</source>
+        <translation>The language of the other voices</translation>
+    </message>
+    <message>
+        <source>&amp;Sentence:</source>
+        <translation>&amp;Sentence:</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Language:</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Play</translation>
+    </message>
+    <message>
+        <source>Lets the chosen voice say the sentence</source>
+        <translation>Lets the chosen voice say the sentence</translation>
+    </message>
+    <message>
+        <source>Play &amp;all</source>
+        <translation>Play &amp;all</translation>
+    </message>
+    <message>
+        <source>Lets one voice after the other say the sentence</source>
+        <translation>Lets one voice after the other say the sentence</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>S&amp;top</translation>
+    </message>
+    <message>
+        <source>Ends the sound</source>
+        <translation>Ends the sound</translation>
+    </message>
+    <message>
+        <source>The name of the voice in the script</source>
+        <translation>The name of the voice in the script</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>&amp;Insert into the script</source>
+        <translation>&amp;Insert into the script</translation>
+    </message>
+    <message>
+        <source>Declares the voice in the script</source>
+        <translation>Declares the voice in the script</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>The speech program does not tell its languages.</source>
+        <translation>The speech program does not tell its languages.</translation>
+    </message>
+    <message>
+        <source>The speech program does not tell its languages: %1</source>
+        <translation>The speech program does not tell its languages: %1</translation>
+    </message>
+    <message>
+        <source>%1 speaks.</source>
+        <translation>%1 speaks.</translation>
+    </message>
+    <message>
+        <source>The script has this voice.</source>
+        <translation>The script has this voice.</translation>
+    </message>
+    <message>
+        <source>A name has small letters from a to z, and digits behind them.</source>
+        <translation>A name has small letters from a to z, and digits behind them.</translation>
+    </message>
+    <message>
+        <source>The script has a voice of this name.</source>
+        <translation>The script has a voice of this name.</translation>
+    </message>
+    <message>
+        <source>%1 takes a breath ...</source>
+        <translation>%1 takes a breath ...</translation>
+    </message>
+</context>
+<context>
+    <name>VoiceTable</name>
+    <message>
+        <source>girl</source>
+        <translation>girl</translation>
+    </message>
+    <message>
+        <source>boy</source>
+        <translation>boy</translation>
+    </message>
+    <message>
+        <source>sister</source>
+        <translation>sister</translation>
+    </message>
+    <message>
+        <source>brother</source>
+        <translation>brother</translation>
+    </message>
+    <message>
+        <source>mother</source>
+        <translation>mother</translation>
+    </message>
+    <message>
+        <source>father</source>
+        <translation>father</translation>
+    </message>
+    <message>
+        <source>grandma</source>
+        <translation>grandma</translation>
+    </message>
+    <message>
+        <source>grandpa</source>
+        <translation>grandpa</translation>
+    </message>
+    <message>
+        <source>Girl</source>
+        <translation>Girl</translation>
+    </message>
+    <message>
+        <source>Boy</source>
+        <translation>Boy</translation>
+    </message>
+    <message>
+        <source>Woman</source>
+        <translation>Woman</translation>
+    </message>
+    <message>
+        <source>Man</source>
+        <translation>Man</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Voice</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>Speaker</source>
+        <translation>Speaker</translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation>Age</translation>
+    </message>
+    <message>
+        <source>Engine</source>
+        <translation>Engine</translation>
+    </message>
+    <message>
+        <source>Voices of the script</source>
+        <translation>Voices of the script</translation>
+    </message>
+    <message>
+        <source>Other voices</source>
+        <translation>Other voices</translation>
+    </message>
+</context>
+<context>
     <name>SubNameNote</name>
     <message>
         <source>No area is selected, so this names none. Click one, then type its name.</source>

@@ -2023,6 +2023,208 @@
     </message>
 </context>
 <context>
+    <name>TryVoicesDialog</name>
+    <message>
+        <source>The sentence is too long for the speech program.</source>
+        <translation>La phrase est trop longue pour le programme de parole.</translation>
+    </message>
+    <message>
+        <source>The speech program is not there.</source>
+        <translation>Le programme de parole manque.</translation>
+    </message>
+    <message>
+        <source>The speech program could not speak the sentence.</source>
+        <translation>Le programme de parole n’a pas pu dire la phrase.</translation>
+    </message>
+    <message>
+        <source>The sentence was not spoken: %1</source>
+        <translation>La phrase n’a pas été dite : %1</translation>
+    </message>
+    <message>
+        <source>Try voices</source>
+        <translation>Essayer des voix</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation>Voix</translation>
+    </message>
+    <message>
+        <source>What all voices of this language say</source>
+        <translation>Ce que disent toutes les voix de cette langue</translation>
+    </message>
+    <message>
+        <source>Sentence</source>
+        <translation>Phrase</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>The language of the other voices</source>
+        <translation>La langue des autres voix</translation>
+    </message>
+    <message>
+        <source>&amp;Sentence:</source>
+        <translation>&amp;Phrase :</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Langue :</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>É&amp;couter</translation>
+    </message>
+    <message>
+        <source>Lets the chosen voice say the sentence</source>
+        <translation>Fait dire la phrase par la voix choisie</translation>
+    </message>
+    <message>
+        <source>Play &amp;all</source>
+        <translation>&amp;Tout écouter</translation>
+    </message>
+    <message>
+        <source>Lets one voice after the other say the sentence</source>
+        <translation>Fait dire la phrase par une voix après l’autre</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>&amp;Arrêter</translation>
+    </message>
+    <message>
+        <source>Ends the sound</source>
+        <translation>Termine le son</translation>
+    </message>
+    <message>
+        <source>The name of the voice in the script</source>
+        <translation>Le nom de la voix dans le script</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>&amp;Insert into the script</source>
+        <translation>&amp;Insérer dans le script</translation>
+    </message>
+    <message>
+        <source>Declares the voice in the script</source>
+        <translation>Déclare la voix dans le script</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>The speech program does not tell its languages.</source>
+        <translation>Le programme de parole ne dit pas ses langues.</translation>
+    </message>
+    <message>
+        <source>The speech program does not tell its languages: %1</source>
+        <translation>Le programme de parole ne dit pas ses langues : %1</translation>
+    </message>
+    <message>
+        <source>%1 speaks.</source>
+        <translation>%1 parle.</translation>
+    </message>
+    <message>
+        <source>The script has this voice.</source>
+        <translation>Le script a cette voix.</translation>
+    </message>
+    <message>
+        <source>A name has small letters from a to z, and digits behind them.</source>
+        <translation>Un nom a des minuscules de a à z, et des chiffres derrière.</translation>
+    </message>
+    <message>
+        <source>The script has a voice of this name.</source>
+        <translation>Le script a une voix de ce nom.</translation>
+    </message>
+    <message>
+        <source>%1 takes a breath ...</source>
+        <translation>%1 prend son souffle ...</translation>
+    </message>
+</context>
+<context>
+    <name>VoiceTable</name>
+    <message>
+        <source>girl</source>
+        <translation>fille</translation>
+    </message>
+    <message>
+        <source>boy</source>
+        <translation>garcon</translation>
+    </message>
+    <message>
+        <source>sister</source>
+        <translation>soeur</translation>
+    </message>
+    <message>
+        <source>brother</source>
+        <translation>frere</translation>
+    </message>
+    <message>
+        <source>mother</source>
+        <translation>mere</translation>
+    </message>
+    <message>
+        <source>father</source>
+        <translation>pere</translation>
+    </message>
+    <message>
+        <source>grandma</source>
+        <translation>mamie</translation>
+    </message>
+    <message>
+        <source>grandpa</source>
+        <translation>papi</translation>
+    </message>
+    <message>
+        <source>Girl</source>
+        <translation>Fille</translation>
+    </message>
+    <message>
+        <source>Boy</source>
+        <translation>Garçon</translation>
+    </message>
+    <message>
+        <source>Woman</source>
+        <translation>Femme</translation>
+    </message>
+    <message>
+        <source>Man</source>
+        <translation>Homme</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Voix</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Speaker</source>
+        <translation>Locuteur</translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation>Âge</translation>
+    </message>
+    <message>
+        <source>Engine</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Voices of the script</source>
+        <translation>Voix du script</translation>
+    </message>
+    <message>
+        <source>Other voices</source>
+        <translation>Autres voix</translation>
+    </message>
+</context>
+<context>
     <name>SubNameNote</name>
     <message>
         <source>No area is selected, so this names none. Click one, then type its name.</source>

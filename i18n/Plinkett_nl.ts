@@ -2023,6 +2023,208 @@
     </message>
 </context>
 <context>
+    <name>TryVoicesDialog</name>
+    <message>
+        <source>The sentence is too long for the speech program.</source>
+        <translation>De zin is te lang voor het spraakprogramma.</translation>
+    </message>
+    <message>
+        <source>The speech program is not there.</source>
+        <translation>Het spraakprogramma ontbreekt.</translation>
+    </message>
+    <message>
+        <source>The speech program could not speak the sentence.</source>
+        <translation>Het spraakprogramma kon de zin niet uitspreken.</translation>
+    </message>
+    <message>
+        <source>The sentence was not spoken: %1</source>
+        <translation>De zin is niet uitgesproken: %1</translation>
+    </message>
+    <message>
+        <source>Try voices</source>
+        <translation>Stemmen uitproberen</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation>Stemmen</translation>
+    </message>
+    <message>
+        <source>What all voices of this language say</source>
+        <translation>Wat alle stemmen van deze taal zeggen</translation>
+    </message>
+    <message>
+        <source>Sentence</source>
+        <translation>Zin</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Taal</translation>
+    </message>
+    <message>
+        <source>The language of the other voices</source>
+        <translation>De taal van de andere stemmen</translation>
+    </message>
+    <message>
+        <source>&amp;Sentence:</source>
+        <translation>&amp;Zin:</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Taal:</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Afspelen</translation>
+    </message>
+    <message>
+        <source>Lets the chosen voice say the sentence</source>
+        <translation>Laat de gekozen stem de zin zeggen</translation>
+    </message>
+    <message>
+        <source>Play &amp;all</source>
+        <translation>A&amp;lles afspelen</translation>
+    </message>
+    <message>
+        <source>Lets one voice after the other say the sentence</source>
+        <translation>Laat de ene stem na de andere de zin zeggen</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>&amp;Stoppen</translation>
+    </message>
+    <message>
+        <source>Ends the sound</source>
+        <translation>Beëindigt het geluid</translation>
+    </message>
+    <message>
+        <source>The name of the voice in the script</source>
+        <translation>De naam van de stem in het script</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>&amp;Insert into the script</source>
+        <translation>In het script &amp;invoegen</translation>
+    </message>
+    <message>
+        <source>Declares the voice in the script</source>
+        <translation>Declareert de stem in het script</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Naam:</translation>
+    </message>
+    <message>
+        <source>The speech program does not tell its languages.</source>
+        <translation>Het spraakprogramma noemt zijn talen niet.</translation>
+    </message>
+    <message>
+        <source>The speech program does not tell its languages: %1</source>
+        <translation>Het spraakprogramma noemt zijn talen niet: %1</translation>
+    </message>
+    <message>
+        <source>%1 speaks.</source>
+        <translation>%1 spreekt.</translation>
+    </message>
+    <message>
+        <source>The script has this voice.</source>
+        <translation>Het script heeft deze stem.</translation>
+    </message>
+    <message>
+        <source>A name has small letters from a to z, and digits behind them.</source>
+        <translation>Een naam heeft kleine letters van a tot z, en cijfers erachter.</translation>
+    </message>
+    <message>
+        <source>The script has a voice of this name.</source>
+        <translation>Het script heeft een stem met deze naam.</translation>
+    </message>
+    <message>
+        <source>%1 takes a breath ...</source>
+        <translation>%1 haalt adem ...</translation>
+    </message>
+</context>
+<context>
+    <name>VoiceTable</name>
+    <message>
+        <source>girl</source>
+        <translation>meisje</translation>
+    </message>
+    <message>
+        <source>boy</source>
+        <translation>jongen</translation>
+    </message>
+    <message>
+        <source>sister</source>
+        <translation>zus</translation>
+    </message>
+    <message>
+        <source>brother</source>
+        <translation>broer</translation>
+    </message>
+    <message>
+        <source>mother</source>
+        <translation>moeder</translation>
+    </message>
+    <message>
+        <source>father</source>
+        <translation>vader</translation>
+    </message>
+    <message>
+        <source>grandma</source>
+        <translation>oma</translation>
+    </message>
+    <message>
+        <source>grandpa</source>
+        <translation>opa</translation>
+    </message>
+    <message>
+        <source>Girl</source>
+        <translation>Meisje</translation>
+    </message>
+    <message>
+        <source>Boy</source>
+        <translation>Jongen</translation>
+    </message>
+    <message>
+        <source>Woman</source>
+        <translation>Vrouw</translation>
+    </message>
+    <message>
+        <source>Man</source>
+        <translation>Man</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Stem</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Taal</translation>
+    </message>
+    <message>
+        <source>Speaker</source>
+        <translation>Spreker</translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation>Leeftijd</translation>
+    </message>
+    <message>
+        <source>Engine</source>
+        <translation>Spraakprogramma</translation>
+    </message>
+    <message>
+        <source>Voices of the script</source>
+        <translation>Stemmen van het script</translation>
+    </message>
+    <message>
+        <source>Other voices</source>
+        <translation>Andere stemmen</translation>
+    </message>
+</context>
+<context>
     <name>SubNameNote</name>
     <message>
         <source>No area is selected, so this names none. Click one, then type its name.</source>

@@ -8,6 +8,10 @@
 FakeSpeech::FakeSpeech()
 {
     writeFile(programs.file("spoken"), wavFile(2, 44100, tone(2, 44100, 440, 0.05)));
+    writeFile(programs.file("languages"), "*                    by talker\n"
+                                          "de                   German\n"
+                                          "en-us                English (America), by talker\n"
+                                          "es                   Spanish (Spain)\n");
     letSpeak("cp '" + programs.file("spoken") + "' \"$2\"");
 }
 
@@ -15,7 +19,10 @@ void FakeSpeech::letSpeak(const std::string& command) const
 {
     const std::string program = programs.file("Text2Speech");
     writeFile(program, "#!/bin/sh\n"
-                       "for last; do :; done\necho \"$3 $5 $7 $last\" >> '" +
+                       "if [ \"$1\" = -l ]; then cat '" +
+                           programs.file("languages") +
+                           "'; exit; fi\n"
+                           "for last; do :; done\necho \"$3 $5 $7 $last\" >> '" +
                            programs.file("log") +
                            "'\n"
                            "while [ $# -gt 1 ] && [ \"$1\" != -f ]; do shift; done\n" +

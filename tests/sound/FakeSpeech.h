@@ -14,8 +14,8 @@ class FakeSpeech
 public:
     FakeSpeech();
 
-    // What the speech program does, by the shell; its arguments are noted, and the WAV file is $2
-    // then.
+    // What the speech program does instead of speaking, by the shell; its arguments are noted, and
+    // the WAV file is $2 then.
     void letSpeak(const std::string& command) const;
     // Language, age, sex and text of what it was asked for, one to a line.
     QString log() const;
