@@ -1,6 +1,7 @@
 #include "programs/ProcessRunner.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/TextHelpers.h"
 
@@ -34,6 +35,32 @@ bool ProcessRunner::exec(const KVString& commandLine, bool wait)
         return run("", {}, wait);
     }
     return run(words.front(), {words.begin() + 1, words.end()}, wait);
+}
+
+void ProcessRunner::runAll(const std::vector<ProgramWork>& works,
+                           const std::function<bool()>& mayBegin)
+{
+    if (isRunning() || works.size() < kMany) {  // each start is refused while a program is running
+        ProcessRunner::doAll(works, mayBegin);
+    } else {
+        doAll(works, mayBegin);
+    }
+}
+
+void ProcessRunner::doAll(const std::vector<ProgramWork>& works,
+                          const std::function<bool()>& mayBegin)
+{
+    for (const ProgramWork& work : works) {
+        if (!mayBegin()) {
+            return;
+        }
+        int code = 0;
+        while (const std::optional<ProgramCall> call = work.next(code)) {
+            const bool started = run(call->program, call->arguments, true, call->surroundings);
+            code = started ? exitCode() : -1;
+        }
+        work.shown();
+    }
 }
 
 void ProcessRunner::whenEnded(std::function<void()> step)

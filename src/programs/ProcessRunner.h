@@ -1,20 +1,12 @@
 #pragma once
 
 #include <functional>
-#include <map>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "base/KVString.h"
 #include "base/PrintFunction.h"
-
-// What a program finds around it: our own folder and environment, but for what is said here.
-struct Surroundings
-{
-    std::string folder;                            // in which it works
-    std::map<std::string, std::string> variables;  // an empty value removes one of ours
-};
+#include "programs/ProgramWork.h"
 
 // The words of a command line, the program first. They are separated by white space outside double
 // quotes, and a word in quotes loses them; nothing else is special. The program is the first word
@@ -36,6 +28,12 @@ public:
     // The same with a command line (commandWords); one without words is a program without a name,
     // which is not there.
     bool exec(const KVString& commandLine, bool wait);
+    // Does the works; what their programs print is shown as if one work had been done after the
+    // other. So they are where there are less than kMany, where nobody would notice; else as many
+    // at a time as the runner can. Before each work is begun mayBegin is asked: once it says no,
+    // the works that were begun are finished, and no other. Returns when they are.
+    void runAll(const std::vector<ProgramWork>& works, const std::function<bool()>& mayBegin);
+    static constexpr size_t kMany = 8;
     // True while a program is there that was started.
     virtual bool isRunning() const = 0;
     // Of the last program that has ended; -1 when it crashed or did not start.
@@ -57,6 +55,9 @@ protected:
     // For runners: the work of run, while no program is running.
     virtual bool start(const std::string& program, const std::vector<std::string>& arguments,
                        bool wait, const Surroundings& surroundings) = 0;
+    // For runners: the work of runAll, while no program is running; one after the other.
+    virtual void doAll(const std::vector<ProgramWork>& works,
+                       const std::function<bool()>& mayBegin);
     // For runners: a program has ended.
     void takeSteps();
 

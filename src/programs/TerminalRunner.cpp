@@ -9,6 +9,9 @@ static void show(const QByteArray& bytes)
 }
 
 TerminalRunner::TerminalRunner()
+    : sideBySide(
+          {show, [this](QProcess::ProcessError error) { failed(error); },
+           [this](int exitCode, QProcess::ExitStatus status) { finished(exitCode, status); }})
 {
     QObject::connect(&process, &QProcess::readyReadStandardOutput, &process,
                      [this] { show(process.readAllStandardOutput()); });
@@ -16,14 +19,22 @@ TerminalRunner::TerminalRunner()
                      [this] { show(process.readAllStandardError()); });
     QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished),
                      &process, [this](int exitCode, QProcess::ExitStatus status) {
-                         lastExitCode = status == QProcess::NormalExit ? exitCode : -1;
+                         finished(exitCode, status);
                          takeSteps();
                      });
     QObject::connect(&process, &QProcess::errorOccurred, &process,
-                     [this](QProcess::ProcessError error) {
-                         echo(OutsideProgram::errorText(error));
-                         lastExitCode = -1;
-                     });
+                     [this](QProcess::ProcessError error) { failed(error); });
+}
+
+void TerminalRunner::failed(QProcess::ProcessError error)
+{
+    echo(OutsideProgram::errorText(error));
+    lastExitCode = -1;
+}
+
+void TerminalRunner::finished(int exitCode, QProcess::ExitStatus status)
+{
+    lastExitCode = status == QProcess::NormalExit ? exitCode : -1;
 }
 
 bool TerminalRunner::start(const std::string& program, const std::vector<std::string>& arguments,
@@ -31,6 +42,14 @@ bool TerminalRunner::start(const std::string& program, const std::vector<std::st
 {
     fflush(stdout);  // what was printed so far stands in front of the program's output
     return outside.start(program, arguments, wait, surroundings);
+}
+
+void TerminalRunner::doAll(const std::vector<ProgramWork>& works,
+                           const std::function<bool()>& mayBegin)
+{
+    fflush(stdout);
+    sideBySide.run(works, mayBegin);
+    takeSteps();
 }
 
 void TerminalRunner::echo(const char* text)

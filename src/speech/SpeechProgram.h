@@ -1,20 +1,11 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
-#include "programs/ProcessRunner.h"
+#include "programs/ProgramWork.h"
 #include "ttbasic/ttbasic.h"
 
 // The outside program that speaks texts, as an installed one is found, and how it is called.
-
-// A program to start, for a ProcessRunner or an OutsideProgram.
-struct ProgramCall
-{
-    std::string program;
-    std::vector<std::string> arguments;
-    Surroundings surroundings;
-};
 
 // Has the text spoken into a WAV file. The text is handed over as it stands; only the path takes
 // its native form. What the program prints is Latin-1 if the reader wants that, else UTF-8. Speed

@@ -61,3 +61,24 @@ TEST(ProcessRunner, StartsACommandLineAsAListOfWords)
     EXPECT_THAT(runner.commands, ElementsAre(ElementsAre("show", "a b", ""),
                                              ElementsAre("show", "&"), ElementsAre("")));
 }
+
+TEST(ProcessRunner, DoesWorksOneAfterTheOther)
+{
+    RecordingRunner runner;
+    runner.program = [&] { return static_cast<int>(runner.commands.size()); };
+    std::string codes;
+    const auto workOf = [&](const char* program) {
+        return ProgramWork{
+            [&codes, program, step = 0](int code) mutable {
+                codes += std::to_string(code) + " ";
+                return ++step > 2 ? std::nullopt : std::make_optional(ProgramCall{program, {}, {}});
+            },
+            [&runner, program] { runner.echo(program); }};
+    };
+    int begun = 0;
+    runner.runAll({workOf("a"), workOf("b"), workOf("c")}, [&] { return ++begun < 3; });
+    EXPECT_THAT(runner.commands, ElementsAre(ElementsAre("a"), ElementsAre("a"), ElementsAre("b"),
+                                             ElementsAre("b")));
+    EXPECT_EQ(codes, "0 1 2 0 3 4 ");
+    EXPECT_EQ(runner.shown(), "ab");
+}

@@ -103,3 +103,47 @@ TEST_F(Terminal, WithoutAProgramAStepComesAtOnce)
     runner.whenEnded([this] { runner.echo("at once\n"); });
     EXPECT_EQ(output(), "at once\n");
 }
+
+TEST_F(Terminal, WorksAreShownInTheirOrderAndNoOtherProgramRunsMeanwhile)
+{
+    const FakeProgram slow(folder.path(), "slow",
+                           "await " + folder.file("signal") + "\nprint slow\nexit 2\n");
+    tool.plan("print out\n");
+    const auto workOf = [](const char* program) {
+        return ProgramWork{
+            [program, step = 0](int /*code*/) mutable {
+                return step++ > 0 ? std::nullopt : std::make_optional(ProgramCall{program, {}, {}});
+            },
+            [] {}};
+    };
+    std::vector<ProgramWork> works = {workOf("slow"), workOf("tool"), workOf("nothing")};
+    works.resize(ProcessRunner::kMany, workOf("tool"));
+    int begun = 0;
+    runner.runAll(works, [&] {
+        if (begun++ > 0) {
+            EXPECT_FALSE(runner.run("tool", {}, true));
+            writeFile(folder.file("signal"), "");
+        }
+        return true;
+    });
+    EXPECT_EQ(output(), "slow\nout\nERROR: File not Found\nout\nout\nout\nout\nout\n");
+    EXPECT_FALSE(runner.isRunning());
+    EXPECT_EQ(runner.exitCode(), 0);
+}
+
+TEST_F(Terminal, FewWorksAreDoneOneAfterTheOther)
+{
+    const FakeProgram slow(folder.path(), "slow", "await " + folder.file("go") + "\n");
+    int running = 0;
+    const auto step = [&, starts = 0](int /*code*/) mutable -> std::optional<ProgramCall> {
+        if (starts++ > 0) {
+            --running;
+            return std::nullopt;
+        }
+        EXPECT_EQ(++running, 1);
+        writeFile(folder.file("go"), "");
+        return ProgramCall{"slow", {}, {}};
+    };
+    runner.runAll({{step, [] {}}, {step, [] {}}}, [] { return true; });
+    EXPECT_EQ(slow.callCount(), 2);
+}

@@ -9,19 +9,18 @@
 
 KVQtStdoutWidget* KVQtStdoutWidget::m_pRedirectPrintf = nullptr;
 
-KVQtStdoutWidget::KVQtStdoutWidget(QWidget* parent) : QPlainTextEdit(parent)
+KVQtStdoutWidget::KVQtStdoutWidget(QWidget* parent)
+    : QPlainTextEdit(parent),
+      m_sideBySide({[this](const QByteArray& chunk) { receiveOutput(chunk); },
+                    [this](QProcess::ProcessError error) { processFailed(error); },
+                    [this](int code, QProcess::ExitStatus status) { processEnded(code, status); }})
 {
     setReadOnly(true);
     setMaximumBlockCount(GatheredOutput::kMostLines);
     m_pRedirectPrintf = this;
     m_showLater.setSingleShot(true);
     connect(&m_showLater, &QTimer::timeout, this, &KVQtStdoutWidget::showOutputWhenDue);
-    m_program.setWhileWaiting([this] {
-        showOutputWhenDue();
-        if (m_whileWaiting) {
-            m_whileWaiting();
-        }
-    });
+    m_program.setWhileWaiting([this] { whileWaiting(); });
     connectProcess();
     chooseFont();
 }
@@ -44,7 +43,10 @@ void KVQtStdoutWidget::connectProcess()
     connect(&m_process, &QProcess::readyReadStandardError, &m_process,
             [this] { receiveOutput(m_process.readAllStandardError()); });
     connect(&m_process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
-            &KVQtStdoutWidget::processFinished);
+            [this](int exitCode, QProcess::ExitStatus status) {
+                processEnded(exitCode, status);
+                takeSteps();
+            });
     connect(&m_process, &QProcess::errorOccurred, this, &KVQtStdoutWidget::processFailed);
 }
 
@@ -69,11 +71,27 @@ bool KVQtStdoutWidget::start(const std::string& program, const std::vector<std::
     return m_program.start(program, arguments, wait, surroundings);
 }
 
+void KVQtStdoutWidget::doAll(const std::vector<ProgramWork>& works,
+                             const std::function<bool()>& mayBegin)
+{
+    m_sideBySide.run(works, mayBegin, [this] { whileWaiting(); });
+    takeSteps();
+}
+
+void KVQtStdoutWidget::whileWaiting()
+{
+    showOutputWhenDue();
+    if (m_whileWaiting) {
+        m_whileWaiting();
+    }
+}
+
 bool KVQtStdoutWidget::stopExecution()
 {
     if (m_running) {
         m_process.kill();
     }
+    m_sideBySide.kill();
     return true;
 }
 
@@ -113,10 +131,9 @@ void KVQtStdoutWidget::showOutput()
     m_output.shown();
 }
 
-void KVQtStdoutWidget::processFinished(int exitCode, QProcess::ExitStatus status)
+void KVQtStdoutWidget::processEnded(int exitCode, QProcess::ExitStatus status)
 {
     endWith(status == QProcess::NormalExit ? exitCode : -1);
-    takeSteps();
 }
 
 void KVQtStdoutWidget::processFailed(QProcess::ProcessError error)

@@ -9,6 +9,8 @@
 
 #include "base/KVString.h"
 #include "programs/OutsideProgram.h"
+#include "programs/ProcessRunner.h"
+#include "programs/SideBySide.h"
 #include "publish/console/GatheredOutput.h"
 
 // The console: shows text line by line, runs one outside program at a time and shows what it
@@ -24,13 +26,13 @@ public:
     ~KVQtStdoutWidget() override;
 
     // --- Outside programs: run and exec start one ---
-    // Kills the running program, if any; its end is then reported as that of any other. Always
+    // Kills the running programs, if any; their end is then reported as that of any other. Always
     // true.
     bool stopExecution();
     // After a read or write error the program may still be there.
     bool isRunning() const override
     {
-        return m_running || m_process.state() != QProcess::NotRunning;
+        return m_running || m_process.state() != QProcess::NotRunning || m_sideBySide.isRunning();
     }
     int exitCode() const override { return m_exitCode; }
     bool readsLatin1() const override { return true; }
@@ -67,13 +69,16 @@ public slots:
 private:
     bool start(const std::string& program, const std::vector<std::string>& arguments, bool wait,
                const Surroundings& surroundings) override;
+    void doAll(const std::vector<ProgramWork>& works,
+               const std::function<bool()>& mayBegin) override;
     void connectProcess();
     void chooseFont();
     void receiveOutput(const QByteArray& chunk);
     void showOutputWhenDue();
     void showOutput();
-    void processFinished(int exitCode, QProcess::ExitStatus status);
+    void whileWaiting();
     void processFailed(QProcess::ProcessError error);
+    void processEnded(int exitCode, QProcess::ExitStatus status);
     void endWith(int exitCode);
     void forgetOldText();
 
@@ -83,6 +88,7 @@ private:
     bool m_running = false;  // from its start until the end or an error
 
     OutsideProgram m_program{m_process};
+    SideBySide m_sideBySide;
     std::function<void()> m_whileWaiting;
     GatheredOutput m_output;
     QTimer m_showLater;
