@@ -1,42 +1,22 @@
 #include "publish/SoundFiles.h"
 
+#include <list>
+#include <optional>
 #include <vector>
 
 #include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
-#include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
 #include "programs/ProcessRunner.h"
+#include "speech/AudioFile.h"
+#include "speech/Engines.h"
+#include "speech/SpeechIndex.h"
 #include "speech/SpeechProgram.h"
+#include "speech/Utterance.h"
 
 namespace {
 
-using Voices = std::map<std::string, ttbasic::VOICE>;
-
-constexpr char kSound[] = ".ogg";
-constexpr char kSpeech[] = ".wav";  // for a while only
-constexpr int kStopped = -1;        // exit code of a program that crashed or was stopped
-
-// A text that has no audio file yet.
-struct NewText
-{
-    std::string audioName;
-    ttbasic::TALKTEXT said;
-};
-
-std::vector<NewText> newTexts(const Oid::OidProject& project, const std::string& folder)
-{
-    std::vector<NewText> texts;
-    const std::string start = folder + FileSystem::directorySeparator;
-    for (const auto& [audioName, said] : project.compiler.talkTexts) {
-        std::string file = start;
-        file += audioName + kSound;
-        if (!FileSystem::doesFileExist(file)) {
-            texts.push_back({audioName, said});
-        }
-    }
-    return texts;
-}
+constexpr int kStopped = -1;  // exit code of a program that crashed, was stopped or did not start
 
 // A text as a message shows it: long ones are cut, between two characters.
 std::string shown(const std::string& text)
@@ -52,61 +32,236 @@ std::string shown(const std::string& text)
     return text.substr(0, end) + "...";
 }
 
-bool refuse(const std::string& text, const std::string& reason, ProcessRunner& runner)
+// What a build knows while it speaks: the audio folder, what is remembered of it, and where the
+// author is told.
+class AudioMaker
 {
-    runner.echo(("Error: The text '" + shown(text) + "' " + reason + "\n").c_str());
-    return false;
+public:
+    AudioMaker(const Oid::OidProject& usedProject, ProcessRunner& usedRunner)
+        : project(usedProject),
+          runner(usedRunner),
+          folder(audioFolder(project)),
+          index(folder),
+          engines(currentEngines())
+    {}
+
+    // Removes the files that we spoke when text or voice were others.
+    void removeStale();
+    // Makes what is missing.
+    SpeechOutcome makeMissing(const SpeechProgress& progress);
+    // Files that were only touched since need not be looked into again.
+    void keepWhatIsNoted();
+
+private:
+    // A text whose audio file is being made: first by the speech program, then by the converter.
+    struct Making
+    {
+        std::string audioName;
+        Utterance said;
+        std::string speech;  // files
+        std::string sound;
+        enum class Step { speak, convert, finish } step = Step::speak;
+        std::string refused;  // why it has no file
+    };
+
+    std::list<Making> missing() const;
+    std::optional<ProgramCall> next(Making& text, int exitCode);
+    std::optional<ProgramCall> speak(Making& text) const;
+    std::optional<ProgramCall> convert(Making& text, int exitCode) const;
+    void finish(Making& text, int exitCode);
+
+    bool isStale(const std::string& audioName, const Utterance& now);
+    void removeStale(const std::string& audioName, const Utterance& now);
+    void remember(const Making& text);
+    void tell(const std::string& message) { runner.echo((message + "\n").c_str()); }
+    void tellRefused(const Making& text)
+    {
+        tell("Error: The text '" + shown(text.said.text) + "' " + text.refused);
+    }
+
+    const Oid::OidProject& project;
+    ProcessRunner& runner;
+    const std::string folder;
+    SpeechIndex index;
+    const Engines engines;
+    bool indexFails = false;  // which was told
+    bool complete = true;
+};
+
+// --- What is out of date -------------------------------------------------------------------------
+
+void AudioMaker::removeStale()
+{
+    if (!index.problem().empty()) {
+        tell("Warning: " + index.problem());
+    }
+    std::vector<std::pair<std::string, Utterance>> stale;
+    for (const auto& [audioName, said] : project.compiler.talkTexts) {
+        const Utterance now = utteranceOf(said, project.compiler.voices.at(said.voice), engines);
+        if (isStale(audioName, now)) {
+            stale.emplace_back(audioName, now);
+        }
+    }
+    // What could not be noted as ours afterwards is not made anew.
+    if (!stale.empty() && !index.save()) {
+        tell("Error: Can't write file '" + index.path() +
+             "', so audio files that are out of date stay");
+        indexFails = true;
+        return;
+    }
+    for (const auto& [audioName, now] : stale) {
+        removeStale(audioName, now);
+    }
 }
 
-bool canBeMade(const NewText& text, ProcessRunner& runner)
+bool AudioMaker::isStale(const std::string& audioName, const Utterance& now)
 {
-    constexpr size_t kLongestName = 255;  // bytes, on every usual file system
-    if (text.audioName.size() + sizeof kSound - 1 > kLongestName) {
-        return refuse(text.said.text, "is too long for the name of an audio file", runner);
-    }
-    if (text.said.text.size() > Platform::longestArgument) {
-        return refuse(text.said.text, "is too long for the speech program", runner);
-    }
-    return true;
+    const Utterance* const spoken = index.spokenInto(audioName);
+    return spoken != nullptr && !soundAlike(*spoken, now);
 }
 
-bool speak(const std::string& text, const ttbasic::VOICE& voice, const std::string& speech,
-           ProcessRunner& runner)
+void AudioMaker::removeStale(const std::string& audioName, const Utterance& now)
 {
-    const ProgramCall call = callToSpeak(text, voice, speech, runner.readsLatin1());
-    return runner.run(call.program, call.arguments, true, call.surroundings);
+    const Utterance before = *index.spokenInto(audioName);
+    const std::string file = audioFileIn(folder, audioName);
+    if (!FileSystem::deleteFile(file)) {
+        tell("Error: Can't remove file '" + Platform::nativePath(file) + "', which is out of date");
+        return;
+    }
+    index.forget(audioName);
+    const std::string text = "The audio file of '" + shown(now.text) + "' ";
+    tell(before.text != now.text ? text + "says '" + shown(before.text) + "' and is made again"
+                                 : text + "has another voice and is made again");
 }
 
-bool convert(const std::string& speech, const std::string& sound, ProcessRunner& runner)
+// --- What is missing -----------------------------------------------------------------------------
+
+std::list<AudioMaker::Making> AudioMaker::missing() const
 {
-    return runner.run("ffmpeg.exe",
-                      {"-hide_banner", "-loglevel", "error", "-i", Platform::nativePath(speech),
-                       "-ar", "22050", "-ac", "1", Platform::nativePath(sound)},
-                      true);
+    std::list<Making> texts;
+    for (const auto& [audioName, said] : project.compiler.talkTexts) {
+        const std::string file = audioFileIn(folder, audioName);
+        if (!FileSystem::doesFileExist(file)) {
+            Making& text = texts.emplace_back();
+            text.audioName = audioName;
+            text.said = utteranceOf(said, project.compiler.voices.at(said.voice), engines);
+            text.speech = folder + FileSystem::directorySeparator + audioName + ".wav";
+            text.sound = file;
+        }
+    }
+    return texts;
 }
 
-// The end of the speech program is not looked at: without its file the conversion fails.
-bool makeSoundFile(const NewText& text, const Voices& voices, const std::string& folder,
-                   ProcessRunner& runner)
+SpeechOutcome AudioMaker::makeMissing(const SpeechProgress& progress)
 {
-    const ttbasic::VOICE& voice = voices.at(text.said.voice);
-    if (!canBeMade(text, runner)) {
-        return false;
+    std::list<Making> texts = missing();
+    if (texts.empty()) {
+        return SpeechOutcome::complete;
     }
-    const std::string base = folder + FileSystem::directorySeparator + text.audioName;
-    const std::string speech = base + kSpeech;
-    const std::string sound = base + kSound;
-    if (speak(text.said.text, voice, speech, runner) && runner.exitCode() == kStopped) {
-        FileSystem::deleteFile(speech);  // half a text, too
+    FileSystem::createDirectory(folder);
+    std::vector<ProgramWork> works;
+    for (Making& text : texts) {
+        works.push_back({[&](int exitCode) { return next(text, exitCode); },
+                         [&] {
+                             if (!text.refused.empty()) {
+                                 tellRefused(text);
+                             }
+                         }});
     }
-    if (!convert(speech, sound, runner) || runner.exitCode() != 0) {
-        FileSystem::deleteFile(sound);  // half a file would pass for a whole one ever after
+    const int total = static_cast<int>(texts.size());
+    int begun = 0;
+    bool cancelled = false;
+    runner.runAll(works, [&] {
+        cancelled = progress && !progress(begun++, total);
+        return !cancelled;
+    });
+    if (!cancelled && progress && !progress(total, total)) {
+        cancelled = !complete;  // stopped in the middle of the last ones
     }
-    if (!FileSystem::doesFileExist(sound)) {
-        return refuse(text.said.text, "has no audio file", runner);
+    if (cancelled) {
+        return SpeechOutcome::cancelled;
     }
-    FileSystem::deleteFile(speech);
-    return true;
+    return complete ? SpeechOutcome::complete : SpeechOutcome::incomplete;
+}
+
+std::optional<ProgramCall> AudioMaker::next(Making& text, int exitCode)
+{
+    std::optional<ProgramCall> call;
+    if (text.step == Making::Step::speak) {
+        call = speak(text);
+    } else if (text.step == Making::Step::convert) {
+        call = convert(text, exitCode);
+    } else {
+        finish(text, exitCode);
+    }
+    complete = complete && text.refused.empty();
+    return call;
+}
+
+std::optional<ProgramCall> AudioMaker::speak(Making& text) const
+{
+    switch (refusalOf(text.audioName, text.said.text)) {
+    case Refusal::longName:
+        text.refused = "is too long for the name of an audio file";
+        return std::nullopt;
+    case Refusal::longText:
+        text.refused = "is too long for the speech program";
+        return std::nullopt;
+    case Refusal::sharedName:
+    case Refusal::none:
+        break;
+    }
+    text.step = Making::Step::convert;
+    return callToSpeak(text.said.text, text.said.settings, text.speech, runner.readsLatin1());
+}
+
+// How the speech program ended is not looked at: without its file the conversion fails.
+std::optional<ProgramCall> AudioMaker::convert(Making& text, int exitCode) const
+{
+    if (exitCode == kStopped) {
+        FileSystem::deleteFile(text.speech);  // half a text, too
+    }
+    if (FileSystem::doesFileExist(text.sound)) {
+        FileSystem::deleteFile(text.speech);  // the author has put a file there in the meantime
+        return std::nullopt;
+    }
+    text.step = Making::Step::finish;
+    return ProgramCall{"ffmpeg.exe",
+                       {"-hide_banner", "-loglevel", "error", "-i",
+                        Platform::nativePath(text.speech), "-ar", "22050", "-ac", "1",
+                        Platform::nativePath(text.sound)},
+                       {}};
+}
+
+void AudioMaker::finish(Making& text, int exitCode)
+{
+    if (exitCode != 0) {
+        FileSystem::deleteFile(text.sound);  // half a file would pass for a whole one ever after
+    }
+    if (!FileSystem::doesFileExist(text.sound)) {
+        text.refused = "has no audio file";
+        return;
+    }
+    FileSystem::deleteFile(text.speech);
+    remember(text);
+}
+
+// At once, so that also what was made before a cancelled build ends is known as ours.
+void AudioMaker::remember(const Making& text)
+{
+    const bool saved = index.remember(text.audioName, text.said) && index.save();
+    if (!saved && !indexFails) {
+        tell("Error: Can't write file '" + index.path() +
+             "', so the files that are spoken now count as your own");
+        indexFails = true;
+    }
+}
+
+void AudioMaker::keepWhatIsNoted()
+{
+    if (index.isChanged()) {
+        index.save();
+    }
 }
 
 }  // namespace
@@ -114,28 +269,11 @@ bool makeSoundFile(const NewText& text, const Voices& voices, const std::string&
 SpeechOutcome createSoundFiles(const Oid::OidProject& project, ProcessRunner& runner,
                                const SpeechProgress& progress)
 {
-    const std::string folder = audioFolder(project);
     const FileSystem::WorkingFolder sameAfterwards;
     putToolsOnPath();
-    const std::vector<NewText> texts = newTexts(project, folder);
-    if (texts.empty()) {
-        return SpeechOutcome::complete;
-    }
-    FileSystem::createDirectory(folder);
-
-    SpeechOutcome outcome = SpeechOutcome::complete;
-    const int total = static_cast<int>(texts.size());
-    for (int done = 0; done < total; ++done) {
-        if (progress && !progress(done, total)) {
-            return SpeechOutcome::cancelled;
-        }
-        if (!makeSoundFile(texts[static_cast<size_t>(done)], project.compiler.voices, folder,
-                           runner)) {
-            outcome = SpeechOutcome::incomplete;
-        }
-    }
-    if (progress) {
-        progress(total, total);
-    }
+    AudioMaker maker(project, runner);
+    maker.removeStale();
+    const SpeechOutcome outcome = maker.makeMissing(progress);
+    maker.keepWhatIsNoted();
     return outcome;
 }

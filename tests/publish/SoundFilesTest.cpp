@@ -135,17 +135,243 @@ TEST_F(SoundFiles, ASecondBuildStartsNothing)
     EXPECT_THAT(runner.commands, IsEmpty());
 }
 
-TEST_F(SoundFiles, AChangedTextUnderTheSameNameKeepsItsOldAudio)
+TEST_F(SoundFiles, AFileOfTheAuthorStaysWhateverTheTextIs)
+{
+    fs::create_directory(folder.file("900-audio"));
+    writeFile(audio("say_eve_Hi_.ogg"), "my voice");
+    say("say_eve_Hi_", "eve", "Hi!");
+    create();
+    say("say_eve_Hi_", "eve", "Hi?");
+    create();
+    EXPECT_THAT(runner.commands, IsEmpty());
+    EXPECT_EQ(readFile(audio("say_eve_Hi_.ogg")), "my voice");
+    fs::remove(audio("say_eve_Hi_.ogg"));
+    create();
+    EXPECT_EQ(runner.commands.size(), 2U);
+}
+
+TEST_F(SoundFiles, AChangedTextUnderTheSameNameIsSpokenAgain)
 {
     say("say_eve_Hi_", "eve", "Hi!");
     create();
     say("say_eve_Hi_", "eve", "Hi?");
     runner.commands.clear();
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_EQ(runner.commands.size(), 2U);
+    EXPECT_EQ(runner.commands.front().back(), "Hi?");
+    EXPECT_EQ(runner.shown(), "The audio file of 'Hi?' says 'Hi!' and is made again\n");
+    runner.commands.clear();
     create();
     EXPECT_THAT(runner.commands, IsEmpty());
-    fs::remove(audio("say_eve_Hi_.ogg"));
+}
+
+TEST_F(SoundFiles, WhatIsOutOfDateIsRemovedBeforeAnythingIsSpoken)
+{
+    say("b", "eve", "B");
+    say("c", "eve", "C");
     create();
-    EXPECT_EQ(runner.commands.size(), 2U);
+    say("a", "eve", "A");
+    say("b", "eve", "B!");
+    say("c", "eve", "C!");
+    bool wereThere = false;
+    runner.program = [&] {
+        wereThere = wereThere || (runner.commands.size() == 5 && fs::exists(audio("c.ogg")));
+        return run();
+    };
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_FALSE(wereThere);
+    EXPECT_EQ(runner.shown(), "The audio file of 'B!' says 'B' and is made again\n"
+                              "The audio file of 'C!' says 'C' and is made again\n");
+    EXPECT_EQ(runner.commands.size(), 10U);
+}
+
+TEST_F(SoundFiles, AVoiceWithAnotherLanguageSexOrAgeSpeaksAgain)
+{
+    project.compiler.voices["max"] = {"en", false, 40, 3, 3};
+    say("say_max_Hi", "max", "Hi");
+    create();
+    const std::vector<ttbasic::VOICE> changes = {
+        {"de", false, 40, 3, 3}, {"de", true, 40, 3, 3}, {"de", true, 41, 3, 3}};
+    std::string expected;
+    for (const ttbasic::VOICE& voice : changes) {
+        project.compiler.voices["max"] = voice;
+        runner.commands.clear();
+        create();
+        EXPECT_EQ(runner.commands.size(), 2U);
+        expected += "The audio file of 'Hi' has another voice and is made again\n";
+        EXPECT_EQ(runner.shown(), expected);
+    }
+}
+
+TEST_F(SoundFiles, SpeedAndPitchThatNobodyHearsMakeNothingAnew)
+{
+    project.compiler.voices["max"] = {"en", false, 40, 3, 3};
+    say("say_max_Hi", "max", "Hi");
+    create();
+    project.compiler.voices["max"] = {"en", false, 40, 5, 1};
+    runner.commands.clear();
+    create();
+    EXPECT_THAT(runner.commands, IsEmpty());
+}
+
+TEST_F(SoundFiles, AProductWithAnotherNameIsWelcomedAgain)
+{
+    project.productName = "Zoo";
+    project.compiler.prepareWelcomeMessage(project.productName);
+    create();
+    project.productName = "Farm";
+    compileScript(project.compiler, false);
+    project.compiler.prepareWelcomeMessage(project.productName);
+    create();
+    EXPECT_EQ(runner.shown(),
+              "The audio file of 'Farm. Start.' says 'Zoo. Start.' and is made again\n");
+    EXPECT_EQ(runner.commands.at(2).back(), "Farm. Start.");
+}
+
+TEST_F(SoundFiles, ARecordingInThePlaceOfASpokenFileStays)
+{
+    say("say_eve_Hi_", "eve", "Hi!");
+    create();
+    writeFile(audio("say_eve_Hi_.ogg"), "my own voice");
+    say("say_eve_Hi_", "eve", "Hi?");
+    runner.commands.clear();
+    create();
+    EXPECT_THAT(runner.commands, IsEmpty());
+    EXPECT_EQ(readFile(audio("say_eve_Hi_.ogg")), "my own voice");
+    EXPECT_EQ(runner.shown(), "");
+}
+
+TEST_F(SoundFiles, ARecordingOfTheSameSizeStays)
+{
+    say("say_eve_Hi_", "eve", "Hi!");
+    create();
+    writeFile(audio("say_eve_Hi_.ogg"), "SOUND");
+    setTime(audio("say_eve_Hi_.ogg"), "2024-05-31 14:05:40");
+    say("say_eve_Hi_", "eve", "Hi?");
+    create();
+    EXPECT_EQ(readFile(audio("say_eve_Hi_.ogg")), "SOUND");
+}
+
+TEST_F(SoundFiles, ASpokenFileThatWasTouchedIsStillMadeAgain)
+{
+    say("say_eve_Hi_", "eve", "Hi!");
+    create();
+    setTime(audio("say_eve_Hi_.ogg"), "2024-05-31 14:05:40");
+    say("say_eve_Hi_", "eve", "Hi?");
+    create();
+    EXPECT_EQ(runner.shown(), "The audio file of 'Hi?' says 'Hi!' and is made again\n");
+}
+
+TEST_F(SoundFiles, AFileThatAppearsMeanwhileIsNotOverwritten)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    runner.program = [&] {
+        writeFile(audio("say_eve_Hi.ogg"), "my voice");
+        return run();
+    };
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_EQ(runner.commands.size(), 1U);
+    EXPECT_EQ(readFile(audio("say_eve_Hi.ogg")), "my voice");
+    EXPECT_FALSE(fs::exists(audio("say_eve_Hi.wav")));
+}
+
+TEST_F(SoundFiles, WithADamagedIndexNothingIsRemoved)
+{
+    const std::string index = audio("speech-index.json");
+    say("say_eve_Hi_", "eve", "Hi!");
+    create();
+    writeFile(index, "oops");
+    say("say_eve_Hi_", "eve", "Hi?");
+    runner.commands.clear();
+    const std::string warning =
+        "Warning: The file '" + index + "' is damaged: files that were spoken count as your own\n";
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_THAT(runner.commands, IsEmpty());
+    EXPECT_EQ(runner.shown(), warning);
+    EXPECT_EQ(readFile(index), "oops");
+
+    say("say_eve_Ho", "eve", "Ho");
+    create();
+    EXPECT_EQ(runner.shown(), warning + warning);
+    EXPECT_EQ(readFile(index + ".damaged"), "oops");
+    create();
+    EXPECT_EQ(runner.shown(), warning + warning);
+}
+
+namespace {
+
+// Until its end a file can be read, and nothing can be put into its place: it leads into a folder
+// that is gone.
+class Unwritable
+{
+public:
+    explicit Unwritable(const std::string& path)
+    {
+        const TemporaryFolder gone;
+        fs::copy_file(path, gone.file("file"));
+        file = fopen(gone.file("file").c_str(), "r");
+        fs::remove(path);
+        fs::create_symlink("/proc/self/fd/" + std::to_string(fileno(file)), path);
+    }
+    ~Unwritable() { fclose(file); }
+    Unwritable(const Unwritable&) = delete;
+    Unwritable& operator=(const Unwritable&) = delete;
+
+private:
+    FILE* file;
+};
+
+}  // namespace
+
+TEST_F(SoundFiles, WithAnIndexThatCannotBeWrittenNothingIsRemoved)
+{
+    const std::string index = audio("speech-index.json");
+    say("a", "eve", "A");
+    say("b", "eve", "B");
+    create();
+    const Unwritable unwritable(index);
+    say("a", "eve", "A!");
+    say("b", "eve", "B!");
+    runner.commands.clear();
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_EQ(readFile(audio("a.ogg")), "sound");
+    EXPECT_THAT(runner.commands, IsEmpty());
+    EXPECT_EQ(runner.shown(), "Error: Can't write file '" + index +
+                                  "', so audio files that are out of date stay\n");
+}
+
+TEST_F(SoundFiles, ThatTheIndexCannotBeWrittenIsToldOnce)
+{
+    const std::string index = audio("speech-index.json");
+    say("a", "eve", "A");
+    create();
+    const Unwritable unwritable(index);
+    say("c", "eve", "C");
+    say("d", "eve", "D");
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_EQ(runner.shown(), "Error: Can't write file '" + index +
+                                  "', so the files that are spoken now count as your own\n");
+    EXPECT_TRUE(fs::exists(audio("d.ogg")));
+}
+
+TEST_F(SoundFiles, TheLastTextsThatAreStoppedAreCancelled)
+{
+    say("say_eve_A", "eve", "A");
+    speechStatus = soundStatus = 1;
+    const auto isEnough = [](int done, int total) { return done < total; };
+    EXPECT_EQ(createSoundFiles(project, runner, isEnough), SpeechOutcome::cancelled);
+    speechStatus = soundStatus = 0;
+    EXPECT_EQ(createSoundFiles(project, runner, isEnough), SpeechOutcome::complete);
+}
+
+TEST_F(SoundFiles, WhatWasMadeBeforeACancelIsOurs)
+{
+    say("say_eve_A_", "eve", "A");
+    say("say_eve_B", "eve", "B");
+    createSoundFiles(project, runner, [](int done, int) { return done < 1; });
+    say("say_eve_A_", "eve", "A!");
+    create();
+    EXPECT_EQ(runner.shown(), "The audio file of 'A!' says 'A' and is made again\n");
 }
 
 TEST_F(SoundFiles, AfterAFailedConversionTheSpeechStaysAndIsMadeAgain)
