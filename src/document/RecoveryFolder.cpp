@@ -143,7 +143,9 @@ void RecoveryFolder::forgetOld() const
             if (const auto copy = RecoveryFile::take(file.filePath())) {
                 copy->remove();
             }
-        } else if (!isCopy && !file.fileName().endsWith(kLockSuffix) && age >= kDaysOfLeftovers) {
+        } else if (file.fileName().endsWith(kLockSuffix)) {
+            RecoveryFile::take(file.path() + '/' + file.completeBaseName());  // lets go of it again
+        } else if (!isCopy && age >= kDaysOfLeftovers) {
             QFile::remove(file.filePath());
         }
     }

@@ -57,8 +57,8 @@ public:
     // The newest copy of work that never had a file, or whose file is there no more.
     std::optional<FoundCopy> newestWithoutFile() const;
 
-    // Removes copies that were written 90 days ago or earlier, and what a process left half-written
-    // when it was killed.
+    // Removes copies that were written 90 days ago or earlier, and what a process left when it was
+    // killed: half-written copies, and locks.
     void forgetOld() const;
 
 private:

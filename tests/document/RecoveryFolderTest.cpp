@@ -191,3 +191,18 @@ TEST_F(RecoveryFolderTest, WhatAKilledProcessLeftHalfWrittenGoes)
     EXPECT_FALSE(QFile::exists(half));
     EXPECT_TRUE(QFile::exists(path));
 }
+
+TEST_F(RecoveryFolderTest, TheLockOfAKilledProcessGoesThatOfALivingOneStays)
+{
+    const QString path = leave(books.file("zoo.oidpro"), "Zoo");
+    writeFile(path.toStdString() + ".lock", "999999999\nplinkett\n");
+    writeFile(folder.path().toStdString() + "/0123-abcd.oidpro.lock", "999999999\nplinkett\n");
+    const auto window = RecoveryFile::create(folder.path(), books.file("farm.oidpro"));
+    folder.forgetOld();
+    const QStringList expected = {QFileInfo(path).fileName(),
+                                  QFileInfo(window->path()).fileName() + ".lock"};
+    EXPECT_EQ(files().size(), 2);
+    for (const QString& file : expected) {
+        EXPECT_TRUE(files().contains(file)) << file.toStdString();
+    }
+}
