@@ -24,7 +24,7 @@ class Words
 
 QString nameOf(const std::string& path)
 {
-    return QFileInfo(QString::fromStdString(path)).fileName();
+    return QFileInfo(QString::fromStdString(Platform::nativePath(path))).fileName();
 }
 
 FoundSound noSound(const QString& problem)

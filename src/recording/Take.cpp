@@ -28,15 +28,21 @@ void Take::add(State state)
     isTrimming = false;
 }
 
-void Take::load(MonoSound sound)
+Take::State Take::wholeOf(MonoSound sound)
 {
     const size_t end = sound.samples.size();
-    add({std::make_shared<MonoSound>(std::move(sound)), {0, end}});
+    return {std::make_shared<MonoSound>(std::move(sound)), {0, end}};
+}
+
+void Take::load(MonoSound sound)
+{
+    clear();
+    steps.front() = wholeOf(std::move(sound));
 }
 
 void Take::record(MonoSound sound)
 {
-    load(std::move(sound));
+    add(wholeOf(std::move(sound)));
     const Span voice = withoutSilence(this->sound());
     if (!(voice == kept())) {
         add({now().sound, voice});

@@ -26,7 +26,7 @@ public:
     // Another sound; the silence at its ends is cut. Undone once, all of it is kept; undone twice,
     // the sound before is there.
     void record(MonoSound sound);
-    // Another sound of which all is kept.
+    // Begins anew, with a sound of which all is kept.
     void load(MonoSound sound);
     // Other ends, which are brought into the sound and apart. A change that goes on is one step
     // with those before it.
@@ -36,6 +36,7 @@ public:
 
     // Empty until there is one.
     const MonoSound& sound() const { return *now().sound; }
+    std::shared_ptr<const MonoSound> sharedSound() const { return now().sound; }
     Span kept() const { return now().kept; }
     bool isEmpty() const { return sound().samples.empty(); }
     // The samples that are kept, faded at both ends.
@@ -55,6 +56,8 @@ private:
         std::shared_ptr<const MonoSound> sound;
         Span kept;
     };
+
+    static State wholeOf(MonoSound sound);
 
     const State& now() const { return steps[step]; }
     void add(State state);
