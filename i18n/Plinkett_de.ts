@@ -1726,6 +1726,237 @@
     </message>
 </context>
 <context>
+    <name>LevelMeter</name>
+    <message>
+        <source>Level of the microphone</source>
+        <translation>Pegel des Mikrofons</translation>
+    </message>
+    <message>
+        <source>Quiet</source>
+        <translation>Leise</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Gut</translation>
+    </message>
+    <message>
+        <source>Too loud</source>
+        <translation>Zu laut</translation>
+    </message>
+    <message>
+        <source>Nothing is heard</source>
+        <translation>Nichts zu hören</translation>
+    </message>
+</context>
+<context>
+    <name>RecordCard</name>
+    <message>
+        <source>Text to read aloud</source>
+        <translation>Text zum Vorlesen</translation>
+    </message>
+</context>
+<context>
+    <name>RecordDialog</name>
+    <message>
+        <source>Record</source>
+        <translation>Aufnehmen</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Mikrofon</translation>
+    </message>
+    <message>
+        <source>The microphone that is recorded from</source>
+        <translation>Das Mikrofon, von dem aufgenommen wird</translation>
+    </message>
+    <message>
+        <source>Usual microphone</source>
+        <translation>Übliches Mikrofon</translation>
+    </message>
+    <message>
+        <source>Count &amp;in</source>
+        <translation>&amp;Einzählen</translation>
+    </message>
+    <message>
+        <source>Counts 3, 2, 1 before a recording begins</source>
+        <translation>Zählt 3, 2, 1, bevor eine Aufnahme beginnt</translation>
+    </message>
+    <message>
+        <source>Begins and ends a recording (Space)</source>
+        <translation>Beginnt und beendet eine Aufnahme (Leertaste)</translation>
+    </message>
+    <message>
+        <source>&amp;Listen</source>
+        <translation>An&amp;hören</translation>
+    </message>
+    <message>
+        <source>Plays it as the pen will (Ctrl+L)</source>
+        <translation>Spielt es ab, wie der Stift es tun wird (Strg+L)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Takes back the last change (Ctrl+Z)</source>
+        <translation>Nimmt die letzte Änderung zurück (Strg+Z)</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Makes it again (Ctrl+Shift+Z)</source>
+        <translation>Macht sie wieder (Strg+Umschalt+Z)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>The text before this one (Page Up)</source>
+        <translation>Der Text vor diesem (Bild auf)</translation>
+    </message>
+    <message>
+        <source>S&amp;kip</source>
+        <translation>Ü&amp;berspringen</translation>
+    </message>
+    <message>
+        <source>The text after this one (Page Down)</source>
+        <translation>Der Text nach diesem (Bild ab)</translation>
+    </message>
+    <message>
+        <source>Keep, &amp;next</source>
+        <translation>Behalten, &amp;weiter</translation>
+    </message>
+    <message>
+        <source>Keeps the recording and goes to the next text that is missing (Enter)</source>
+        <translation>Behält die Aufnahme und geht zum nächsten fehlenden Text (Eingabe)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Ends recording (Escape)</source>
+        <translation>Beendet das Aufnehmen (Esc)</translation>
+    </message>
+    <message>
+        <source>&amp;Microphone:</source>
+        <translation>&amp;Mikrofon:</translation>
+    </message>
+    <message>
+        <source>Looking for the microphone ...</source>
+        <translation>Das Mikrofon wird gesucht ...</translation>
+    </message>
+    <message>
+        <source>The recording ended by itself: it cannot be longer than ten minutes</source>
+        <translation>Die Aufnahme endete von selbst: Länger als zehn Minuten kann sie nicht sein</translation>
+    </message>
+    <message>
+        <source>Not recorded</source>
+        <translation>Nicht aufgenommen</translation>
+    </message>
+    <message>
+        <source>Nothing was heard: is the microphone muted?</source>
+        <translation>Es war nichts zu hören: Ist das Mikrofon stumm?</translation>
+    </message>
+    <message>
+        <source>It was too loud and is distorted: speak more softly, or from farther away</source>
+        <translation>Es war zu laut und ist verzerrt: Sprechen Sie leiser oder aus größerer Entfernung</translation>
+    </message>
+    <message>
+        <source>Recorded: %1 s</source>
+        <translation>Aufgenommen: %1 s</translation>
+    </message>
+    <message>
+        <source>All texts are recorded</source>
+        <translation>Alle Texte sind aufgenommen</translation>
+    </message>
+    <message>
+        <source>Nothing was heard, so there is nothing to keep</source>
+        <translation>Es war nichts zu hören, also gibt es nichts zu behalten</translation>
+    </message>
+    <message>
+        <source>Saving ...</source>
+        <translation>Wird gespeichert ...</translation>
+    </message>
+    <message>
+        <source>This recording is not kept yet. Keep it?</source>
+        <translation>Diese Aufnahme ist noch nicht behalten. Behalten?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Behalten</translation>
+    </message>
+    <message>
+        <source>&amp;Throw away</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>It cannot be played: %1</source>
+        <translation>Es lässt sich nicht abspielen: %1</translation>
+    </message>
+    <message>
+        <source>Text %1 of %2, %3 missing</source>
+        <translation>Text %1 von %2, %3 fehlen</translation>
+    </message>
+    <message>
+        <source>&amp;Stop (Space)</source>
+        <translation>&amp;Stopp (Leertaste)</translation>
+    </message>
+    <message>
+        <source>&amp;Record (Space)</source>
+        <translation>&amp;Aufnehmen (Leertaste)</translation>
+    </message>
+    <message>
+        <source>Stop &amp;listening</source>
+        <translation>Nicht mehr an&amp;hören</translation>
+    </message>
+    <message>
+        <source>Keep, &amp;next (Enter)</source>
+        <translation>Behalten, &amp;weiter (Eingabe)</translation>
+    </message>
+    <message>
+        <source>&amp;Next (Enter)</source>
+        <translation>&amp;Weiter (Eingabe)</translation>
+    </message>
+</context>
+<context>
+    <name>WaveHandle</name>
+    <message>
+        <source>Beginning of what is kept, in milliseconds</source>
+        <translation>Anfang dessen, was bleibt, in Millisekunden</translation>
+    </message>
+    <message>
+        <source>End of what is kept, in milliseconds</source>
+        <translation>Ende dessen, was bleibt, in Millisekunden</translation>
+    </message>
+    <message>
+        <source>Drag this to where the voice begins, or move it with the arrow keys</source>
+        <translation>Ziehen Sie dies dorthin, wo die Stimme beginnt, oder bewegen Sie es mit den Pfeiltasten</translation>
+    </message>
+    <message>
+        <source>Drag this to where the voice ends, or move it with the arrow keys</source>
+        <translation>Ziehen Sie dies dorthin, wo die Stimme endet, oder bewegen Sie es mit den Pfeiltasten</translation>
+    </message>
+</context>
+<context>
+    <name>WaveView</name>
+    <message>
+        <source>Recording</source>
+        <translation>Aufnahme</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded yet</source>
+        <translation>Noch nichts aufgenommen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 s are kept</source>
+        <translation>%1 von %2 s bleiben</translation>
+    </message>
+</context>
+<context>
     <name>Conversation</name>
     <message>
         <source>What was said</source>

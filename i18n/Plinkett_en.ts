@@ -1726,6 +1726,237 @@
     </message>
 </context>
 <context>
+    <name>LevelMeter</name>
+    <message>
+        <source>Level of the microphone</source>
+        <translation>Level of the microphone</translation>
+    </message>
+    <message>
+        <source>Quiet</source>
+        <translation>Quiet</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Good</translation>
+    </message>
+    <message>
+        <source>Too loud</source>
+        <translation>Too loud</translation>
+    </message>
+    <message>
+        <source>Nothing is heard</source>
+        <translation>Nothing is heard</translation>
+    </message>
+</context>
+<context>
+    <name>RecordCard</name>
+    <message>
+        <source>Text to read aloud</source>
+        <translation>Text to read aloud</translation>
+    </message>
+</context>
+<context>
+    <name>RecordDialog</name>
+    <message>
+        <source>Record</source>
+        <translation>Record</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
+    </message>
+    <message>
+        <source>The microphone that is recorded from</source>
+        <translation>The microphone that is recorded from</translation>
+    </message>
+    <message>
+        <source>Usual microphone</source>
+        <translation>Usual microphone</translation>
+    </message>
+    <message>
+        <source>Count &amp;in</source>
+        <translation>Count &amp;in</translation>
+    </message>
+    <message>
+        <source>Counts 3, 2, 1 before a recording begins</source>
+        <translation>Counts 3, 2, 1 before a recording begins</translation>
+    </message>
+    <message>
+        <source>Begins and ends a recording (Space)</source>
+        <translation>Begins and ends a recording (Space)</translation>
+    </message>
+    <message>
+        <source>&amp;Listen</source>
+        <translation>&amp;Listen</translation>
+    </message>
+    <message>
+        <source>Plays it as the pen will (Ctrl+L)</source>
+        <translation>Plays it as the pen will (Ctrl+L)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>Takes back the last change (Ctrl+Z)</source>
+        <translation>Takes back the last change (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>Re&amp;do</translation>
+    </message>
+    <message>
+        <source>Makes it again (Ctrl+Shift+Z)</source>
+        <translation>Makes it again (Ctrl+Shift+Z)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Back</translation>
+    </message>
+    <message>
+        <source>The text before this one (Page Up)</source>
+        <translation>The text before this one (Page Up)</translation>
+    </message>
+    <message>
+        <source>S&amp;kip</source>
+        <translation>S&amp;kip</translation>
+    </message>
+    <message>
+        <source>The text after this one (Page Down)</source>
+        <translation>The text after this one (Page Down)</translation>
+    </message>
+    <message>
+        <source>Keep, &amp;next</source>
+        <translation>Keep, &amp;next</translation>
+    </message>
+    <message>
+        <source>Keeps the recording and goes to the next text that is missing (Enter)</source>
+        <translation>Keeps the recording and goes to the next text that is missing (Enter)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>Ends recording (Escape)</source>
+        <translation>Ends recording (Escape)</translation>
+    </message>
+    <message>
+        <source>&amp;Microphone:</source>
+        <translation>&amp;Microphone:</translation>
+    </message>
+    <message>
+        <source>Looking for the microphone ...</source>
+        <translation>Looking for the microphone ...</translation>
+    </message>
+    <message>
+        <source>The recording ended by itself: it cannot be longer than ten minutes</source>
+        <translation>The recording ended by itself: it cannot be longer than ten minutes</translation>
+    </message>
+    <message>
+        <source>Not recorded</source>
+        <translation>Not recorded</translation>
+    </message>
+    <message>
+        <source>Nothing was heard: is the microphone muted?</source>
+        <translation>Nothing was heard: is the microphone muted?</translation>
+    </message>
+    <message>
+        <source>It was too loud and is distorted: speak more softly, or from farther away</source>
+        <translation>It was too loud and is distorted: speak more softly, or from farther away</translation>
+    </message>
+    <message>
+        <source>Recorded: %1 s</source>
+        <translation>Recorded: %1 s</translation>
+    </message>
+    <message>
+        <source>All texts are recorded</source>
+        <translation>All texts are recorded</translation>
+    </message>
+    <message>
+        <source>Nothing was heard, so there is nothing to keep</source>
+        <translation>Nothing was heard, so there is nothing to keep</translation>
+    </message>
+    <message>
+        <source>Saving ...</source>
+        <translation>Saving ...</translation>
+    </message>
+    <message>
+        <source>This recording is not kept yet. Keep it?</source>
+        <translation>This recording is not kept yet. Keep it?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Keep</translation>
+    </message>
+    <message>
+        <source>&amp;Throw away</source>
+        <translation>&amp;Throw away</translation>
+    </message>
+    <message>
+        <source>It cannot be played: %1</source>
+        <translation>It cannot be played: %1</translation>
+    </message>
+    <message>
+        <source>Text %1 of %2, %3 missing</source>
+        <translation>Text %1 of %2, %3 missing</translation>
+    </message>
+    <message>
+        <source>&amp;Stop (Space)</source>
+        <translation>&amp;Stop (Space)</translation>
+    </message>
+    <message>
+        <source>&amp;Record (Space)</source>
+        <translation>&amp;Record (Space)</translation>
+    </message>
+    <message>
+        <source>Stop &amp;listening</source>
+        <translation>Stop &amp;listening</translation>
+    </message>
+    <message>
+        <source>Keep, &amp;next (Enter)</source>
+        <translation>Keep, &amp;next (Enter)</translation>
+    </message>
+    <message>
+        <source>&amp;Next (Enter)</source>
+        <translation>&amp;Next (Enter)</translation>
+    </message>
+</context>
+<context>
+    <name>WaveHandle</name>
+    <message>
+        <source>Beginning of what is kept, in milliseconds</source>
+        <translation>Beginning of what is kept, in milliseconds</translation>
+    </message>
+    <message>
+        <source>End of what is kept, in milliseconds</source>
+        <translation>End of what is kept, in milliseconds</translation>
+    </message>
+    <message>
+        <source>Drag this to where the voice begins, or move it with the arrow keys</source>
+        <translation>Drag this to where the voice begins, or move it with the arrow keys</translation>
+    </message>
+    <message>
+        <source>Drag this to where the voice ends, or move it with the arrow keys</source>
+        <translation>Drag this to where the voice ends, or move it with the arrow keys</translation>
+    </message>
+</context>
+<context>
+    <name>WaveView</name>
+    <message>
+        <source>Recording</source>
+        <translation>Recording</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded yet</source>
+        <translation>Nothing is recorded yet</translation>
+    </message>
+    <message>
+        <source>%1 of %2 s are kept</source>
+        <translation>%1 of %2 s are kept</translation>
+    </message>
+</context>
+<context>
     <name>Conversation</name>
     <message>
         <source>What was said</source>

@@ -1726,6 +1726,237 @@
     </message>
 </context>
 <context>
+    <name>LevelMeter</name>
+    <message>
+        <source>Level of the microphone</source>
+        <translation>Niveau du microphone</translation>
+    </message>
+    <message>
+        <source>Quiet</source>
+        <translation>Faible</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Bon</translation>
+    </message>
+    <message>
+        <source>Too loud</source>
+        <translation>Trop fort</translation>
+    </message>
+    <message>
+        <source>Nothing is heard</source>
+        <translation>Rien n&apos;est entendu</translation>
+    </message>
+</context>
+<context>
+    <name>RecordCard</name>
+    <message>
+        <source>Text to read aloud</source>
+        <translation>Texte à lire à voix haute</translation>
+    </message>
+</context>
+<context>
+    <name>RecordDialog</name>
+    <message>
+        <source>Record</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
+    </message>
+    <message>
+        <source>The microphone that is recorded from</source>
+        <translation>Le microphone avec lequel on enregistre</translation>
+    </message>
+    <message>
+        <source>Usual microphone</source>
+        <translation>Microphone habituel</translation>
+    </message>
+    <message>
+        <source>Count &amp;in</source>
+        <translation>&amp;Décompte</translation>
+    </message>
+    <message>
+        <source>Counts 3, 2, 1 before a recording begins</source>
+        <translation>Compte 3, 2, 1 avant le début d&apos;un enregistrement</translation>
+    </message>
+    <message>
+        <source>Begins and ends a recording (Space)</source>
+        <translation>Commence et termine un enregistrement (Espace)</translation>
+    </message>
+    <message>
+        <source>&amp;Listen</source>
+        <translation>É&amp;couter</translation>
+    </message>
+    <message>
+        <source>Plays it as the pen will (Ctrl+L)</source>
+        <translation>Le joue comme le fera le stylo (Ctrl+L)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>Ann&amp;uler</translation>
+    </message>
+    <message>
+        <source>Takes back the last change (Ctrl+Z)</source>
+        <translation>Annule la dernière modification (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>Réta&amp;blir</translation>
+    </message>
+    <message>
+        <source>Makes it again (Ctrl+Shift+Z)</source>
+        <translation>La refait (Ctrl+Maj+Z)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>P&amp;récédent</translation>
+    </message>
+    <message>
+        <source>The text before this one (Page Up)</source>
+        <translation>Le texte précédent (Page préc.)</translation>
+    </message>
+    <message>
+        <source>S&amp;kip</source>
+        <translation>&amp;Passer</translation>
+    </message>
+    <message>
+        <source>The text after this one (Page Down)</source>
+        <translation>Le texte suivant (Page suiv.)</translation>
+    </message>
+    <message>
+        <source>Keep, &amp;next</source>
+        <translation>Garder, &amp;suivant</translation>
+    </message>
+    <message>
+        <source>Keeps the recording and goes to the next text that is missing (Enter)</source>
+        <translation>Garde l&apos;enregistrement et passe au prochain texte manquant (Entrée)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Ends recording (Escape)</source>
+        <translation>Termine l&apos;enregistrement (Échap)</translation>
+    </message>
+    <message>
+        <source>&amp;Microphone:</source>
+        <translation>&amp;Microphone :</translation>
+    </message>
+    <message>
+        <source>Looking for the microphone ...</source>
+        <translation>Recherche du microphone ...</translation>
+    </message>
+    <message>
+        <source>The recording ended by itself: it cannot be longer than ten minutes</source>
+        <translation>L&apos;enregistrement s&apos;est terminé de lui-même : il ne peut pas dépasser dix minutes</translation>
+    </message>
+    <message>
+        <source>Not recorded</source>
+        <translation>Pas enregistré</translation>
+    </message>
+    <message>
+        <source>Nothing was heard: is the microphone muted?</source>
+        <translation>Rien n&apos;a été entendu : le microphone est-il coupé ?</translation>
+    </message>
+    <message>
+        <source>It was too loud and is distorted: speak more softly, or from farther away</source>
+        <translation>C&apos;était trop fort et le son est saturé : parlez moins fort, ou de plus loin</translation>
+    </message>
+    <message>
+        <source>Recorded: %1 s</source>
+        <translation>Enregistré : %1 s</translation>
+    </message>
+    <message>
+        <source>All texts are recorded</source>
+        <translation>Tous les textes sont enregistrés</translation>
+    </message>
+    <message>
+        <source>Nothing was heard, so there is nothing to keep</source>
+        <translation>Rien n&apos;a été entendu, il n&apos;y a donc rien à garder</translation>
+    </message>
+    <message>
+        <source>Saving ...</source>
+        <translation>Enregistrement du fichier ...</translation>
+    </message>
+    <message>
+        <source>This recording is not kept yet. Keep it?</source>
+        <translation>Cet enregistrement n&apos;est pas encore gardé. Le garder ?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Garder</translation>
+    </message>
+    <message>
+        <source>&amp;Throw away</source>
+        <translation>&amp;Jeter</translation>
+    </message>
+    <message>
+        <source>It cannot be played: %1</source>
+        <translation>Il ne peut pas être joué : %1</translation>
+    </message>
+    <message>
+        <source>Text %1 of %2, %3 missing</source>
+        <translation>Texte %1 sur %2, %3 manquent</translation>
+    </message>
+    <message>
+        <source>&amp;Stop (Space)</source>
+        <translation>&amp;Arrêter (Espace)</translation>
+    </message>
+    <message>
+        <source>&amp;Record (Space)</source>
+        <translation>&amp;Enregistrer (Espace)</translation>
+    </message>
+    <message>
+        <source>Stop &amp;listening</source>
+        <translation>Ne plus é&amp;couter</translation>
+    </message>
+    <message>
+        <source>Keep, &amp;next (Enter)</source>
+        <translation>Garder, &amp;suivant (Entrée)</translation>
+    </message>
+    <message>
+        <source>&amp;Next (Enter)</source>
+        <translation>&amp;Suivant (Entrée)</translation>
+    </message>
+</context>
+<context>
+    <name>WaveHandle</name>
+    <message>
+        <source>Beginning of what is kept, in milliseconds</source>
+        <translation>Début de ce qui est gardé, en millisecondes</translation>
+    </message>
+    <message>
+        <source>End of what is kept, in milliseconds</source>
+        <translation>Fin de ce qui est gardé, en millisecondes</translation>
+    </message>
+    <message>
+        <source>Drag this to where the voice begins, or move it with the arrow keys</source>
+        <translation>Faites glisser ceci là où la voix commence, ou déplacez-le avec les flèches</translation>
+    </message>
+    <message>
+        <source>Drag this to where the voice ends, or move it with the arrow keys</source>
+        <translation>Faites glisser ceci là où la voix se termine, ou déplacez-le avec les flèches</translation>
+    </message>
+</context>
+<context>
+    <name>WaveView</name>
+    <message>
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded yet</source>
+        <translation>Rien n&apos;est encore enregistré</translation>
+    </message>
+    <message>
+        <source>%1 of %2 s are kept</source>
+        <translation>%1 s sur %2 sont gardées</translation>
+    </message>
+</context>
+<context>
     <name>Conversation</name>
     <message>
         <source>What was said</source>

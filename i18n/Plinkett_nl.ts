@@ -1726,6 +1726,237 @@
     </message>
 </context>
 <context>
+    <name>LevelMeter</name>
+    <message>
+        <source>Level of the microphone</source>
+        <translation>Niveau van de microfoon</translation>
+    </message>
+    <message>
+        <source>Quiet</source>
+        <translation>Zacht</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Goed</translation>
+    </message>
+    <message>
+        <source>Too loud</source>
+        <translation>Te hard</translation>
+    </message>
+    <message>
+        <source>Nothing is heard</source>
+        <translation>Niets te horen</translation>
+    </message>
+</context>
+<context>
+    <name>RecordCard</name>
+    <message>
+        <source>Text to read aloud</source>
+        <translation>Tekst om voor te lezen</translation>
+    </message>
+</context>
+<context>
+    <name>RecordDialog</name>
+    <message>
+        <source>Record</source>
+        <translation>Opnemen</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microfoon</translation>
+    </message>
+    <message>
+        <source>The microphone that is recorded from</source>
+        <translation>De microfoon waarmee wordt opgenomen</translation>
+    </message>
+    <message>
+        <source>Usual microphone</source>
+        <translation>Gewone microfoon</translation>
+    </message>
+    <message>
+        <source>Count &amp;in</source>
+        <translation>&amp;Aftellen</translation>
+    </message>
+    <message>
+        <source>Counts 3, 2, 1 before a recording begins</source>
+        <translation>Telt 3, 2, 1 voordat een opname begint</translation>
+    </message>
+    <message>
+        <source>Begins and ends a recording (Space)</source>
+        <translation>Begint en beëindigt een opname (spatie)</translation>
+    </message>
+    <message>
+        <source>&amp;Listen</source>
+        <translation>Be&amp;luisteren</translation>
+    </message>
+    <message>
+        <source>Plays it as the pen will (Ctrl+L)</source>
+        <translation>Speelt het af zoals de pen dat zal doen (Ctrl+L)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Takes back the last change (Ctrl+Z)</source>
+        <translation>Maakt de laatste wijziging ongedaan (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>Opnie&amp;uw</translation>
+    </message>
+    <message>
+        <source>Makes it again (Ctrl+Shift+Z)</source>
+        <translation>Voert haar weer uit (Ctrl+Shift+Z)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Terug</translation>
+    </message>
+    <message>
+        <source>The text before this one (Page Up)</source>
+        <translation>De tekst vóór deze (Page Up)</translation>
+    </message>
+    <message>
+        <source>S&amp;kip</source>
+        <translation>Over&amp;slaan</translation>
+    </message>
+    <message>
+        <source>The text after this one (Page Down)</source>
+        <translation>De tekst na deze (Page Down)</translation>
+    </message>
+    <message>
+        <source>Keep, &amp;next</source>
+        <translation>Bewaren, &amp;verder</translation>
+    </message>
+    <message>
+        <source>Keeps the recording and goes to the next text that is missing (Enter)</source>
+        <translation>Bewaart de opname en gaat naar de volgende ontbrekende tekst (Enter)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>Slu&amp;iten</translation>
+    </message>
+    <message>
+        <source>Ends recording (Escape)</source>
+        <translation>Beëindigt het opnemen (Esc)</translation>
+    </message>
+    <message>
+        <source>&amp;Microphone:</source>
+        <translation>&amp;Microfoon:</translation>
+    </message>
+    <message>
+        <source>Looking for the microphone ...</source>
+        <translation>De microfoon wordt gezocht ...</translation>
+    </message>
+    <message>
+        <source>The recording ended by itself: it cannot be longer than ten minutes</source>
+        <translation>De opname eindigde vanzelf: langer dan tien minuten kan ze niet zijn</translation>
+    </message>
+    <message>
+        <source>Not recorded</source>
+        <translation>Niet opgenomen</translation>
+    </message>
+    <message>
+        <source>Nothing was heard: is the microphone muted?</source>
+        <translation>Er was niets te horen: staat de microfoon uit?</translation>
+    </message>
+    <message>
+        <source>It was too loud and is distorted: speak more softly, or from farther away</source>
+        <translation>Het was te hard en is vervormd: spreek zachter, of van verder weg</translation>
+    </message>
+    <message>
+        <source>Recorded: %1 s</source>
+        <translation>Opgenomen: %1 s</translation>
+    </message>
+    <message>
+        <source>All texts are recorded</source>
+        <translation>Alle teksten zijn opgenomen</translation>
+    </message>
+    <message>
+        <source>Nothing was heard, so there is nothing to keep</source>
+        <translation>Er was niets te horen, dus er is niets te bewaren</translation>
+    </message>
+    <message>
+        <source>Saving ...</source>
+        <translation>Wordt opgeslagen ...</translation>
+    </message>
+    <message>
+        <source>This recording is not kept yet. Keep it?</source>
+        <translation>Deze opname is nog niet bewaard. Bewaren?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Bewaren</translation>
+    </message>
+    <message>
+        <source>&amp;Throw away</source>
+        <translation>&amp;Weggooien</translation>
+    </message>
+    <message>
+        <source>It cannot be played: %1</source>
+        <translation>Het kan niet worden afgespeeld: %1</translation>
+    </message>
+    <message>
+        <source>Text %1 of %2, %3 missing</source>
+        <translation>Tekst %1 van %2, %3 ontbreken</translation>
+    </message>
+    <message>
+        <source>&amp;Stop (Space)</source>
+        <translation>&amp;Stop (spatie)</translation>
+    </message>
+    <message>
+        <source>&amp;Record (Space)</source>
+        <translation>O&amp;pnemen (spatie)</translation>
+    </message>
+    <message>
+        <source>Stop &amp;listening</source>
+        <translation>Niet meer be&amp;luisteren</translation>
+    </message>
+    <message>
+        <source>Keep, &amp;next (Enter)</source>
+        <translation>Bewaren, &amp;verder (Enter)</translation>
+    </message>
+    <message>
+        <source>&amp;Next (Enter)</source>
+        <translation>&amp;Verder (Enter)</translation>
+    </message>
+</context>
+<context>
+    <name>WaveHandle</name>
+    <message>
+        <source>Beginning of what is kept, in milliseconds</source>
+        <translation>Begin van wat blijft, in milliseconden</translation>
+    </message>
+    <message>
+        <source>End of what is kept, in milliseconds</source>
+        <translation>Einde van wat blijft, in milliseconden</translation>
+    </message>
+    <message>
+        <source>Drag this to where the voice begins, or move it with the arrow keys</source>
+        <translation>Sleep dit naar waar de stem begint, of verplaats het met de pijltjestoetsen</translation>
+    </message>
+    <message>
+        <source>Drag this to where the voice ends, or move it with the arrow keys</source>
+        <translation>Sleep dit naar waar de stem eindigt, of verplaats het met de pijltjestoetsen</translation>
+    </message>
+</context>
+<context>
+    <name>WaveView</name>
+    <message>
+        <source>Recording</source>
+        <translation>Opname</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded yet</source>
+        <translation>Er is nog niets opgenomen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 s are kept</source>
+        <translation>%1 van %2 s blijven</translation>
+    </message>
+</context>
+<context>
     <name>Conversation</name>
     <message>
         <source>What was said</source>
