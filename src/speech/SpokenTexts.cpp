@@ -68,6 +68,16 @@ void SpokenTexts::want(const std::string& text, const ttbasic::VOICE& voice)
     QTimer::singleShot(0, this, &SpokenTexts::bringOn);
 }
 
+// The program's end arrives before this returns, and nobody waits for its text.
+void SpokenTexts::cancel()
+{
+    giveUp();
+    if (process.state() != QProcess::NotRunning) {
+        process.kill();
+        process.waitForFinished();
+    }
+}
+
 // Texts are the same if one hears no difference.
 QString SpokenTexts::fileOf(const std::string& text, const ttbasic::VOICE& voice) const
 {

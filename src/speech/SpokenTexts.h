@@ -35,6 +35,8 @@ public:
     void want(const std::string& text, const ttbasic::VOICE& voice);
     // None is wanted any more.
     void giveUp() { wanted.reset(); }
+    // Nor is the one that is being spoken to be finished for another time.
+    void cancel();
 
 signals:
     void ready(const QString& file);

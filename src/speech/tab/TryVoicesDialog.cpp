@@ -305,7 +305,7 @@ void TryVoicesDialog::playNext()
 void TryVoicesDialog::stop()
 {
     waiting.clear();
-    speech.giveUp();
+    speech.cancel();
     player.stop();
     say({});
     setBusy(false);

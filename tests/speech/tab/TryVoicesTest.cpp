@@ -311,6 +311,18 @@ private slots:
         QTRY_VERIFY(w.isAtRest());
     }
 
+    void anEngineThatHangsCanBeStoppedAndTriedAgain()
+    {
+        const TryingVoices w("echo half > \"$2\"; exec sleep 1000");
+        w.press("btPlayVoice");
+        QTRY_COMPARE(w.log(), QString("en 30 m %1\n").arg(kEnglish));
+        w.press("btStopVoice");
+        QVERIFY(w.isAtRest());
+        w.letSpeak("cp \"${0%/*}/spoken\" \"$2\"");
+        w.press("btPlayVoice");
+        QTRY_COMPARE(w.message(), "adam speaks.");
+    }
+
     void closingEndsTheSpeechProgram()
     {
         TryingVoices w("echo half > \"$2\"; exec sleep 1000");
