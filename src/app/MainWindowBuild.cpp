@@ -14,7 +14,7 @@
 #include "publish/Assembling.h"
 #include "publish/BuildDriver.h"
 #include "publish/PenCopy.h"
-#include "tryout/FlowLayout.h"
+#include "qtsync/FlowLayout.h"
 #include "ui_MainWindow.h"
 
 #include <QPointer>

@@ -2,8 +2,8 @@
 
 #include "document/Document.h"
 #include "page/PolyEditorWidget.h"
+#include "qtsync/FlowLayout.h"
 #include "tryout/Conversation.h"
-#include "tryout/FlowLayout.h"
 #include "tryout/PageWindow.h"
 #include "tryout/ReaderPage.h"
 #include "tryout/ScriptView.h"

@@ -1,4 +1,4 @@
-#include "tryout/FlowLayout.h"
+#include "qtsync/FlowLayout.h"
 
 #include <algorithm>
 
