@@ -2,14 +2,9 @@
 
 #include <algorithm>
 #include <map>
-#include <memory>
-#include <new>
 #include <tuple>
 
 namespace {
-
-// After the last key; with the search it has to stay below the 300 ms in which the list is there.
-constexpr int kPause = 100;  // ms
 
 Problem problemOf(const Diagnostic& message)
 {
@@ -120,67 +115,27 @@ Problems ProblemSearch::find(const std::string& script, const hints::Cancelled& 
     return problems;
 }
 
-ProblemFinder::ProblemFinder(Source usedSource, QObject* parent)
-    : QObject(parent), source(std::move(usedSource))
-{
-    pause.setSingleShot(true);
-    pause.setInterval(kPause);
-    connect(&pause, &QTimer::timeout, this, &ProblemFinder::start);
-}
+ProblemFinder::ProblemFinder(BookSource source, QObject* parent)
+    : QObject(parent),
+      watch(
+          std::move(source),
+          [this](BookState& state, const std::atomic<bool>& isCancelled) {
+              return look(state, isCancelled);
+          },
+          [this](const Problems& problems) { emit found(problems); })
+{}
 
-ProblemFinder::~ProblemFinder()
+Problems ProblemFinder::look(BookState& state, const std::atomic<bool>& isCancelled)
 {
-    isCancelled = true;
-    if (search.valid()) {
-        search.wait();
-    }
-}
-
-void ProblemFinder::lookSoon()
-{
-    upToDate = false;
-    isCancelled = true;
-    pause.start();
-}
-
-// A search that has just been cancelled is waited for without keeping anyone.
-void ProblemFinder::start()
-{
-    isWaited = search.valid();
-    if (isWaited) {
-        return;
-    }
-    upToDate = true;
-    isCancelled = false;
-    auto request = std::make_shared<Request>();
-    if (seen != source.revision()) {
-        seen = source.revision();
-        request->project = source.project();
-    }
-    request->script = source.script();
-    search = std::async(std::launch::async, [this, request] {
-        Problems problems;
-        try {
-            problems = look(*request);
-        } catch (const std::bad_alloc&) {
-            // the next search may have room again
-        }
-        QMetaObject::invokeMethod(this, &ProblemFinder::finish, Qt::QueuedConnection);
-        return problems;
-    });
-}
-
-Problems ProblemFinder::look(Request& request)
-{
-    if (request.project) {
-        book.setProject(std::move(*request.project));
+    if (state.project) {
+        book.setProject(std::move(*state.project));
     }
     const auto tellNames = [this](ScriptNames names) {
         QMetaObject::invokeMethod(
             this, [this, names = std::move(names)] { takeNames(names); }, Qt::QueuedConnection);
     };
     return book.find(
-        request.script.toStdString(), [this] { return isCancelled.load(); }, tellNames);
+        state.script.toStdString(), [&] { return isCancelled.load(); }, tellNames);
 }
 
 void ProblemFinder::takeNames(const ScriptNames& names)
@@ -188,15 +143,5 @@ void ProblemFinder::takeNames(const ScriptNames& names)
     if (names != known) {
         known = names;
         emit scriptNamesFound(known);
-    }
-}
-
-void ProblemFinder::finish()
-{
-    const Problems problems = search.get();
-    if (isWaited) {
-        start();
-    } else if (upToDate) {
-        emit found(problems);
     }
 }

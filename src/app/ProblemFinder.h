@@ -1,17 +1,15 @@
 #pragma once
 
 #include <QObject>
-#include <QTimer>
 
 #include <atomic>
-#include <cstdint>
 #include <functional>
-#include <future>
 #include <optional>
 #include <string>
 #include <unordered_set>
 
 #include "app/Problem.h"
+#include "document/BookWatch.h"
 #include "hints/FindHints.h"
 #include "oid/OidProject.h"
 
@@ -36,30 +34,18 @@ private:
     std::optional<std::vector<hints::Finding>> hintsOnPages;  // of the project
 };
 
-// Looks for problems while the author works: on another thread, in a copy, as soon as there was no
-// change for a moment.
+// Looks for problems while the author works.
 class ProblemFinder : public QObject
 {
     Q_OBJECT
 
 public:
-    struct Source
-    {
-        // Another number once anything but the script has changed.
-        std::function<std::uint64_t()> revision;
-        // The project as it is now, the script excepted; asked when there is another revision.
-        std::function<Oid::OidProject()> project;
-        std::function<QString()> script;
-    };
-
-    explicit ProblemFinder(Source source, QObject* parent = nullptr);
-    // Waits for the other thread, which gives up soon.
-    ~ProblemFinder() override;
+    explicit ProblemFinder(BookSource source, QObject* parent = nullptr);
 
     // Something has changed. Costs next to nothing, so that it can be said with each key.
-    void lookSoon();
+    void lookSoon() { watch.lookSoon(); }
     // What was found last is about what is there now.
-    bool isUpToDate() const { return upToDate && !search.valid(); }
+    bool isUpToDate() const { return watch.isUpToDate(); }
 
 signals:
     void found(const Problems& problems);
@@ -67,26 +53,10 @@ signals:
     void scriptNamesFound(const ScriptNames& names);
 
 private:
-    // What the other thread needs to know.
-    struct Request
-    {
-        std::optional<Oid::OidProject> project;  // none: as before
-        QString script;
-    };
-
-    void start();
-    void finish();
-    Problems look(Request& request);
+    Problems look(BookState& state, const std::atomic<bool>& isCancelled);
     void takeNames(const ScriptNames& names);
 
-    Source source;
-    QTimer pause;
     ScriptNames known;
-    bool upToDate = false;              // nothing has changed since the search began
-    bool isWaited = false;              // for the end of a search that nobody wants any more
-    std::optional<std::uint64_t> seen;  // the revision that the book has
-    std::atomic<bool> isCancelled{false};
-    std::future<Problems> search;
-    // Those of the other thread, while there is one.
-    ProblemSearch book;
+    ProblemSearch book;  // of the other thread
+    BookWatch<Problems> watch;
 };

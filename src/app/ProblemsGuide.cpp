@@ -24,7 +24,7 @@ TextMark::Kind kindOf(Severity severity)
     }
 }
 
-ProblemFinder::Source sourceOf(Document& document, KVQtHighlightEditCtrl& editor)
+BookSource sourceOf(Document& document, KVQtHighlightEditCtrl& editor)
 {
     const auto revision = [&document] {
         const std::string path = document.project().projectPath;

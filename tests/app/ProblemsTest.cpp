@@ -398,8 +398,8 @@ private slots:
             QMetaObject::invokeMethod(finder.get(), look, Qt::QueuedConnection);
             return QString("foo\n");
         };
-        finder = std::make_unique<ProblemFinder>(ProblemFinder::Source{
-            [] { return std::uint64_t{1}; }, [] { return Oid::OidProject(); }, script});
+        finder = std::make_unique<ProblemFinder>(
+            BookSource{[] { return std::uint64_t{1}; }, [] { return Oid::OidProject(); }, script});
         bool isFound = false;
         connect(finder.get(), &ProblemFinder::found, this, [&] { isFound = true; });
         finder->lookSoon();
