@@ -862,6 +862,10 @@
         <translation>Ausprobieren</translation>
     </message>
     <message>
+        <source>Speech</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
         <source>👷 Build</source>
         <translation>👷 Bauen</translation>
     </message>
@@ -2089,6 +2093,207 @@
     <message>
         <source>The book cannot be tried as it is now: %1</source>
         <translation>Das Buch lässt sich so nicht ausprobieren: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechModel</name>
+    <message>
+        <source>missing</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>spoken</source>
+        <translation>gesprochen</translation>
+    </message>
+    <message>
+        <source>recorded</source>
+        <translation>aufgenommen</translation>
+    </message>
+    <message>
+        <source>out of date</source>
+        <translation>veraltet</translation>
+    </message>
+    <message>
+        <source>impossible</source>
+        <translation>unmöglich</translation>
+    </message>
+    <message>
+        <source>too long a name</source>
+        <translation>zu langer Name</translation>
+    </message>
+    <message>
+        <source>too long a text</source>
+        <translation>zu langer Text</translation>
+    </message>
+    <message>
+        <source>name of line %1</source>
+        <translation>Name von Zeile %1</translation>
+    </message>
+    <message>
+        <source>welcome</source>
+        <translation>Begrüßung</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3, %4</source>
+        <translation>%1, Zeile %2: %3, %4</translation>
+    </message>
+    <message>
+        <source>%1, welcome: %2, %3</source>
+        <translation>%1, Begrüßung: %2, %3</translation>
+    </message>
+    <message>
+        <source>Goes to the line in the script</source>
+        <translation>Geht zur Zeile im Skript</translation>
+    </message>
+    <message>
+        <source>Goes to the name of the product</source>
+        <translation>Geht zum Namen des Produkts</translation>
+    </message>
+    <message>
+        <source>Plays this text, or stops it</source>
+        <translation>Spielt diesen Text ab oder beendet ihn</translation>
+    </message>
+    <message>
+        <source>There is no audio file yet; the next build speaks the text</source>
+        <translation>Es gibt noch keine Audiodatei; beim nächsten Erstellen wird der Text gesprochen</translation>
+    </message>
+    <message>
+        <source>The audio file was spoken by the speech program</source>
+        <translation>Die Audiodatei wurde vom Sprachprogramm gesprochen</translation>
+    </message>
+    <message>
+        <source>The audio file is your own; a build leaves it as it is</source>
+        <translation>Die Audiodatei ist Ihre eigene; das Erstellen lässt sie, wie sie ist</translation>
+    </message>
+    <message>
+        <source>The text or its voice has changed since it was spoken; the next build speaks it again</source>
+        <translation>Der Text oder seine Stimme hat sich geändert, seit er gesprochen wurde; beim nächsten Erstellen wird er neu gesprochen</translation>
+    </message>
+    <message>
+        <source>The text is too long for the name of an audio file; say it in several parts</source>
+        <translation>Der Text ist zu lang für den Namen einer Audiodatei; sagen Sie ihn in mehreren Teilen</translation>
+    </message>
+    <message>
+        <source>The text is too long for the speech program; it can be recorded</source>
+        <translation>Der Text ist zu lang für das Sprachprogramm; er kann aufgenommen werden</translation>
+    </message>
+    <message>
+        <source>The pen says the text of line %1 here: both have one audio name, in which all but letters and digits is the same</source>
+        <translation>Der Stift sagt hier den Text von Zeile %1: Beide haben denselben Audionamen, in dem alles außer Buchstaben und Ziffern gleich ist</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Stimme</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechTab</name>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search in the texts</source>
+        <translation>In den Texten suchen</translation>
+    </message>
+    <message>
+        <source>Shows only texts that hold these words</source>
+        <translation>Zeigt nur Texte, die diese Wörter enthalten</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Shows only texts of this state</source>
+        <translation>Zeigt nur Texte in diesem Zustand</translation>
+    </message>
+    <message>
+        <source>All states</source>
+        <translation>Alle Zustände</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Stimme</translation>
+    </message>
+    <message>
+        <source>Shows only texts of this voice</source>
+        <translation>Zeigt nur Texte dieser Stimme</translation>
+    </message>
+    <message>
+        <source>All voices</source>
+        <translation>Alle Stimmen</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>Abs&amp;pielen</translation>
+    </message>
+    <message>
+        <source>Plays the selected texts, one after the other, or stops</source>
+        <translation>Spielt die ausgewählten Texte nacheinander ab oder hört damit auf</translation>
+    </message>
+    <message>
+        <source>Save the project first: its audio files lie in a folder beside it.</source>
+        <translation>Speichern Sie zuerst das Projekt: Seine Audiodateien liegen in einem Ordner daneben.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>1 text</source>
+        <translation>1 Text</translation>
+    </message>
+    <message>
+        <source>%1 texts</source>
+        <translation>%1 Texte</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>Sto&amp;pp</translation>
+    </message>
+    <message>
+        <source>This text has no audio file yet.</source>
+        <translation>Dieser Text hat noch keine Audiodatei.</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechView</name>
+    <message>
+        <source>Texts of the book</source>
+        <translation>Texte des Buches</translation>
+    </message>
+    <message>
+        <source>Space plays a text, Enter goes to its line in the script</source>
+        <translation>Die Leertaste spielt einen Text ab, die Eingabetaste geht zu seiner Zeile im Skript</translation>
     </message>
 </context>
 <context>

@@ -862,6 +862,10 @@
         <translation>Try</translation>
     </message>
     <message>
+        <source>Speech</source>
+        <translation>Speech</translation>
+    </message>
+    <message>
         <source>👷 Build</source>
         <translation>👷 Build</translation>
     </message>
@@ -2089,6 +2093,207 @@
     <message>
         <source>The book cannot be tried as it is now: %1</source>
         <translation>The book cannot be tried as it is now: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechModel</name>
+    <message>
+        <source>missing</source>
+        <translation>missing</translation>
+    </message>
+    <message>
+        <source>spoken</source>
+        <translation>spoken</translation>
+    </message>
+    <message>
+        <source>recorded</source>
+        <translation>recorded</translation>
+    </message>
+    <message>
+        <source>out of date</source>
+        <translation>out of date</translation>
+    </message>
+    <message>
+        <source>impossible</source>
+        <translation>impossible</translation>
+    </message>
+    <message>
+        <source>too long a name</source>
+        <translation>too long a name</translation>
+    </message>
+    <message>
+        <source>too long a text</source>
+        <translation>too long a text</translation>
+    </message>
+    <message>
+        <source>name of line %1</source>
+        <translation>name of line %1</translation>
+    </message>
+    <message>
+        <source>welcome</source>
+        <translation>welcome</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3, %4</source>
+        <translation>%1, line %2: %3, %4</translation>
+    </message>
+    <message>
+        <source>%1, welcome: %2, %3</source>
+        <translation>%1, welcome: %2, %3</translation>
+    </message>
+    <message>
+        <source>Goes to the line in the script</source>
+        <translation>Goes to the line in the script</translation>
+    </message>
+    <message>
+        <source>Goes to the name of the product</source>
+        <translation>Goes to the name of the product</translation>
+    </message>
+    <message>
+        <source>Plays this text, or stops it</source>
+        <translation>Plays this text, or stops it</translation>
+    </message>
+    <message>
+        <source>There is no audio file yet; the next build speaks the text</source>
+        <translation>There is no audio file yet; the next build speaks the text</translation>
+    </message>
+    <message>
+        <source>The audio file was spoken by the speech program</source>
+        <translation>The audio file was spoken by the speech program</translation>
+    </message>
+    <message>
+        <source>The audio file is your own; a build leaves it as it is</source>
+        <translation>The audio file is your own; a build leaves it as it is</translation>
+    </message>
+    <message>
+        <source>The text or its voice has changed since it was spoken; the next build speaks it again</source>
+        <translation>The text or its voice has changed since it was spoken; the next build speaks it again</translation>
+    </message>
+    <message>
+        <source>The text is too long for the name of an audio file; say it in several parts</source>
+        <translation>The text is too long for the name of an audio file; say it in several parts</translation>
+    </message>
+    <message>
+        <source>The text is too long for the speech program; it can be recorded</source>
+        <translation>The text is too long for the speech program; it can be recorded</translation>
+    </message>
+    <message>
+        <source>The pen says the text of line %1 here: both have one audio name, in which all but letters and digits is the same</source>
+        <translation>The pen says the text of line %1 here: both have one audio name, in which all but letters and digits is the same</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Voice</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Length</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Play</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechTab</name>
+    <message>
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Search in the texts</source>
+        <translation>Search in the texts</translation>
+    </message>
+    <message>
+        <source>Shows only texts that hold these words</source>
+        <translation>Shows only texts that hold these words</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>Shows only texts of this state</source>
+        <translation>Shows only texts of this state</translation>
+    </message>
+    <message>
+        <source>All states</source>
+        <translation>All states</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Voice</translation>
+    </message>
+    <message>
+        <source>Shows only texts of this voice</source>
+        <translation>Shows only texts of this voice</translation>
+    </message>
+    <message>
+        <source>All voices</source>
+        <translation>All voices</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Play</translation>
+    </message>
+    <message>
+        <source>Plays the selected texts, one after the other, or stops</source>
+        <translation>Plays the selected texts, one after the other, or stops</translation>
+    </message>
+    <message>
+        <source>Save the project first: its audio files lie in a folder beside it.</source>
+        <translation>Save the project first: its audio files lie in a folder beside it.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>1 text</source>
+        <translation>1 text</translation>
+    </message>
+    <message>
+        <source>%1 texts</source>
+        <translation>%1 texts</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>Sto&amp;p</translation>
+    </message>
+    <message>
+        <source>This text has no audio file yet.</source>
+        <translation>This text has no audio file yet.</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechView</name>
+    <message>
+        <source>Texts of the book</source>
+        <translation>Texts of the book</translation>
+    </message>
+    <message>
+        <source>Space plays a text, Enter goes to its line in the script</source>
+        <translation>Space plays a text, Enter goes to its line in the script</translation>
     </message>
 </context>
 <context>

@@ -862,6 +862,10 @@
         <translation>Essayer</translation>
     </message>
     <message>
+        <source>Speech</source>
+        <translation>Voix</translation>
+    </message>
+    <message>
         <source>👷 Build</source>
         <translation>👷 Générer</translation>
     </message>
@@ -2089,6 +2093,207 @@
     <message>
         <source>The book cannot be tried as it is now: %1</source>
         <translation>Le livre ne peut pas être essayé ainsi : %1</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechModel</name>
+    <message>
+        <source>missing</source>
+        <translation>manque</translation>
+    </message>
+    <message>
+        <source>spoken</source>
+        <translation>lu</translation>
+    </message>
+    <message>
+        <source>recorded</source>
+        <translation>enregistré</translation>
+    </message>
+    <message>
+        <source>out of date</source>
+        <translation>périmé</translation>
+    </message>
+    <message>
+        <source>impossible</source>
+        <translation>impossible</translation>
+    </message>
+    <message>
+        <source>too long a name</source>
+        <translation>nom trop long</translation>
+    </message>
+    <message>
+        <source>too long a text</source>
+        <translation>texte trop long</translation>
+    </message>
+    <message>
+        <source>name of line %1</source>
+        <translation>nom de la ligne %1</translation>
+    </message>
+    <message>
+        <source>welcome</source>
+        <translation>accueil</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3, %4</source>
+        <translation>%1, ligne %2 : %3, %4</translation>
+    </message>
+    <message>
+        <source>%1, welcome: %2, %3</source>
+        <translation>%1, accueil : %2, %3</translation>
+    </message>
+    <message>
+        <source>Goes to the line in the script</source>
+        <translation>Va à la ligne du script</translation>
+    </message>
+    <message>
+        <source>Goes to the name of the product</source>
+        <translation>Va au nom du produit</translation>
+    </message>
+    <message>
+        <source>Plays this text, or stops it</source>
+        <translation>Lit ce texte ou l&apos;arrête</translation>
+    </message>
+    <message>
+        <source>There is no audio file yet; the next build speaks the text</source>
+        <translation>Il n&apos;y a pas encore de fichier audio ; la prochaine génération lit le texte</translation>
+    </message>
+    <message>
+        <source>The audio file was spoken by the speech program</source>
+        <translation>Le fichier audio a été lu par le programme de synthèse vocale</translation>
+    </message>
+    <message>
+        <source>The audio file is your own; a build leaves it as it is</source>
+        <translation>Le fichier audio est le vôtre ; la génération le laisse tel quel</translation>
+    </message>
+    <message>
+        <source>The text or its voice has changed since it was spoken; the next build speaks it again</source>
+        <translation>Le texte ou sa voix a changé depuis qu&apos;il a été lu ; la prochaine génération le relit</translation>
+    </message>
+    <message>
+        <source>The text is too long for the name of an audio file; say it in several parts</source>
+        <translation>Le texte est trop long pour le nom d&apos;un fichier audio ; dites-le en plusieurs parties</translation>
+    </message>
+    <message>
+        <source>The text is too long for the speech program; it can be recorded</source>
+        <translation>Le texte est trop long pour le programme de synthèse vocale ; il peut être enregistré</translation>
+    </message>
+    <message>
+        <source>The pen says the text of line %1 here: both have one audio name, in which all but letters and digits is the same</source>
+        <translation>Le stylo dit ici le texte de la ligne %1 : tous deux ont le même nom audio, dans lequel tout se confond sauf lettres et chiffres</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Voix</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechTab</name>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Search in the texts</source>
+        <translation>Rechercher dans les textes</translation>
+    </message>
+    <message>
+        <source>Shows only texts that hold these words</source>
+        <translation>N&apos;affiche que les textes qui contiennent ces mots</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Shows only texts of this state</source>
+        <translation>N&apos;affiche que les textes dans cet état</translation>
+    </message>
+    <message>
+        <source>All states</source>
+        <translation>Tous les états</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Voix</translation>
+    </message>
+    <message>
+        <source>Shows only texts of this voice</source>
+        <translation>N&apos;affiche que les textes de cette voix</translation>
+    </message>
+    <message>
+        <source>All voices</source>
+        <translation>Toutes les voix</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Lire</translation>
+    </message>
+    <message>
+        <source>Plays the selected texts, one after the other, or stops</source>
+        <translation>Lit les textes sélectionnés l&apos;un après l&apos;autre, ou arrête</translation>
+    </message>
+    <message>
+        <source>Save the project first: its audio files lie in a folder beside it.</source>
+        <translation>Enregistrez d&apos;abord le projet : ses fichiers audio sont dans un dossier à côté de lui.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>1 text</source>
+        <translation>1 texte</translation>
+    </message>
+    <message>
+        <source>%1 texts</source>
+        <translation>%1 textes</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>&amp;Arrêter</translation>
+    </message>
+    <message>
+        <source>This text has no audio file yet.</source>
+        <translation>Ce texte n&apos;a pas encore de fichier audio.</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechView</name>
+    <message>
+        <source>Texts of the book</source>
+        <translation>Textes du livre</translation>
+    </message>
+    <message>
+        <source>Space plays a text, Enter goes to its line in the script</source>
+        <translation>Espace lit un texte, Entrée va à sa ligne dans le script</translation>
     </message>
 </context>
 <context>

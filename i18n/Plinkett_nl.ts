@@ -862,6 +862,10 @@
         <translation>Proberen</translation>
     </message>
     <message>
+        <source>Speech</source>
+        <translation>Spraak</translation>
+    </message>
+    <message>
         <source>👷 Build</source>
         <translation>👷 Bouwen</translation>
     </message>
@@ -2089,6 +2093,207 @@
     <message>
         <source>The book cannot be tried as it is now: %1</source>
         <translation>Het boek kan zo niet worden geprobeerd: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechModel</name>
+    <message>
+        <source>missing</source>
+        <translation>ontbreekt</translation>
+    </message>
+    <message>
+        <source>spoken</source>
+        <translation>gesproken</translation>
+    </message>
+    <message>
+        <source>recorded</source>
+        <translation>opgenomen</translation>
+    </message>
+    <message>
+        <source>out of date</source>
+        <translation>verouderd</translation>
+    </message>
+    <message>
+        <source>impossible</source>
+        <translation>onmogelijk</translation>
+    </message>
+    <message>
+        <source>too long a name</source>
+        <translation>te lange naam</translation>
+    </message>
+    <message>
+        <source>too long a text</source>
+        <translation>te lange tekst</translation>
+    </message>
+    <message>
+        <source>name of line %1</source>
+        <translation>naam van regel %1</translation>
+    </message>
+    <message>
+        <source>welcome</source>
+        <translation>welkom</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3, %4</source>
+        <translation>%1, regel %2: %3, %4</translation>
+    </message>
+    <message>
+        <source>%1, welcome: %2, %3</source>
+        <translation>%1, welkom: %2, %3</translation>
+    </message>
+    <message>
+        <source>Goes to the line in the script</source>
+        <translation>Gaat naar de regel in het script</translation>
+    </message>
+    <message>
+        <source>Goes to the name of the product</source>
+        <translation>Gaat naar de naam van het product</translation>
+    </message>
+    <message>
+        <source>Plays this text, or stops it</source>
+        <translation>Speelt deze tekst af of stopt hem</translation>
+    </message>
+    <message>
+        <source>There is no audio file yet; the next build speaks the text</source>
+        <translation>Er is nog geen audiobestand; bij het volgende bouwen wordt de tekst gesproken</translation>
+    </message>
+    <message>
+        <source>The audio file was spoken by the speech program</source>
+        <translation>Het audiobestand is door het spraakprogramma gesproken</translation>
+    </message>
+    <message>
+        <source>The audio file is your own; a build leaves it as it is</source>
+        <translation>Het audiobestand is van uzelf; bouwen laat het zoals het is</translation>
+    </message>
+    <message>
+        <source>The text or its voice has changed since it was spoken; the next build speaks it again</source>
+        <translation>De tekst of zijn stem is veranderd sinds hij werd gesproken; bij het volgende bouwen wordt hij opnieuw gesproken</translation>
+    </message>
+    <message>
+        <source>The text is too long for the name of an audio file; say it in several parts</source>
+        <translation>De tekst is te lang voor de naam van een audiobestand; zeg hem in meerdere delen</translation>
+    </message>
+    <message>
+        <source>The text is too long for the speech program; it can be recorded</source>
+        <translation>De tekst is te lang voor het spraakprogramma; hij kan worden opgenomen</translation>
+    </message>
+    <message>
+        <source>The pen says the text of line %1 here: both have one audio name, in which all but letters and digits is the same</source>
+        <translation>De pen zegt hier de tekst van regel %1: beide hebben dezelfde audionaam, waarin alles behalve letters en cijfers gelijk is</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Stem</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Lengte</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Toestand</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Afspelen</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechTab</name>
+    <message>
+        <source>Search</source>
+        <translation>Zoeken</translation>
+    </message>
+    <message>
+        <source>Search in the texts</source>
+        <translation>In de teksten zoeken</translation>
+    </message>
+    <message>
+        <source>Shows only texts that hold these words</source>
+        <translation>Toont alleen teksten die deze woorden bevatten</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Toestand</translation>
+    </message>
+    <message>
+        <source>Shows only texts of this state</source>
+        <translation>Toont alleen teksten in deze toestand</translation>
+    </message>
+    <message>
+        <source>All states</source>
+        <translation>Alle toestanden</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Stem</translation>
+    </message>
+    <message>
+        <source>Shows only texts of this voice</source>
+        <translation>Toont alleen teksten van deze stem</translation>
+    </message>
+    <message>
+        <source>All voices</source>
+        <translation>Alle stemmen</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>Afs&amp;pelen</translation>
+    </message>
+    <message>
+        <source>Plays the selected texts, one after the other, or stops</source>
+        <translation>Speelt de geselecteerde teksten na elkaar af, of stopt</translation>
+    </message>
+    <message>
+        <source>Save the project first: its audio files lie in a folder beside it.</source>
+        <translation>Sla eerst het project op: de audiobestanden staan in een map ernaast.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>1 text</source>
+        <translation>1 tekst</translation>
+    </message>
+    <message>
+        <source>%1 texts</source>
+        <translation>%1 teksten</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>Sto&amp;p</translation>
+    </message>
+    <message>
+        <source>This text has no audio file yet.</source>
+        <translation>Deze tekst heeft nog geen audiobestand.</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechView</name>
+    <message>
+        <source>Texts of the book</source>
+        <translation>Teksten van het boek</translation>
+    </message>
+    <message>
+        <source>Space plays a text, Enter goes to its line in the script</source>
+        <translation>De spatiebalk speelt een tekst af, Enter gaat naar zijn regel in het script</translation>
     </message>
 </context>
 <context>

@@ -87,6 +87,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     prepareRecovery();
     prepareDocks();
     prepareTrying();
+    prepareSpeech();
     preparePrinting();
     prepareBuilding();
     new ProblemsGuide(*this, *ui, document);

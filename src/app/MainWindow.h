@@ -31,6 +31,7 @@ class QSettings;
 class Recovery;
 class RenameEverywhere;
 class SideDocks;
+class SpeechTab;
 class TryTab;
 struct RecoveryHead;
 
@@ -123,6 +124,8 @@ private:
     void showScriptLine(int line);
     // Asks where; false when it was not written.
     bool saveBookTest(const std::string& test);
+    // MainWindowSpeech.cpp: the tab with the audio files of the texts
+    void prepareSpeech();
 
     // Points all messages of the project at the console.
     void printIntoConsole();
@@ -242,5 +245,6 @@ private:
     BookPrinting* printing = nullptr;
     SideDocks* docks = nullptr;
     TryTab* tryTab = nullptr;
+    SpeechTab* speechTab = nullptr;
     std::unique_ptr<Recovery> recovery;  // ends first: it reads the form
 };

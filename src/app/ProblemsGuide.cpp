@@ -1,6 +1,7 @@
 #include "app/ProblemsGuide.h"
 
 #include "app/AreasDock.h"
+#include "app/BookSourceOf.h"
 #include "app/ProblemsDock.h"
 #include "document/Document.h"
 #include "ui_MainWindow.h"
@@ -22,20 +23,6 @@ TextMark::Kind kindOf(Severity severity)
     default:
         return TextMark::hint;
     }
-}
-
-BookSource sourceOf(Document& document, KVQtHighlightEditCtrl& editor)
-{
-    const auto revision = [&document] {
-        const std::string path = document.project().projectPath;
-        return document.revision() ^ (std::hash<std::string>()(path) << 1);
-    };
-    const auto project = [&document] {
-        Oid::OidProject copy = document.projectToSave();
-        copy.projectPath = document.project().projectPath;
-        return copy;
-    };
-    return {revision, project, [&editor] { return editor.text(); }};
 }
 
 // Carries a fix out; false when its place is not there any more.
@@ -83,7 +70,7 @@ ProblemsGuide::ProblemsGuide(QMainWindow& mainWindow, Ui::MainWindow& mainForm,
       window(mainWindow),
       form(mainForm),
       document(mainDocument),
-      finder(sourceOf(mainDocument, *mainForm.codeEditor)),
+      finder(bookSourceOf(mainDocument, *mainForm.codeEditor)),
       dock(new ProblemsDock(&mainWindow)),
       number(new QLabel(&mainWindow))
 {

@@ -103,6 +103,8 @@ private slots:
         row("txConsole", "KVQtStdoutWidget");
         row("tabTry", "QWidget");
         row("btStart", "QPushButton", "Start", "Switches the book on: plays the welcome");
+        row("tabSpeech", "QWidget");
+        row("speechTable", "SpeechView");
     }
 
     void hasItsObjects()
@@ -139,12 +141,13 @@ private slots:
     {
         WindowFixture w;
         const QTabWidget* const tabs = w.get<QTabWidget>("ribbonTab");
-        QCOMPARE(tabs->count(), 5);
+        QCOMPARE(tabs->count(), 6);
         QCOMPARE(tabs->tabText(0), "Project");
         QCOMPARE(tabs->tabText(1), "Areas");
         QCOMPARE(tabs->tabText(2), "Script");
         QCOMPARE(tabs->tabText(3), "Build");
         QCOMPARE(tabs->tabText(4), "Try");
+        QCOMPARE(tabs->tabText(5), "Speech");
         QCOMPARE(tabs->currentIndex(), 1);
         QCOMPARE(tabs->styleSheet(), "QTabBar::tab {\nmin-height:32px;\n}");
     }
@@ -300,6 +303,8 @@ private slots:
             "btTryStep",   "btTryGoOn", "btTryBreakpoint", "btTryRecord",  "btTryWindow",
             "slTryVolume", "tryPage",   "tryConversation", "tryVariables", "tryScript",
             tabs};
+        QTest::newRow("Speech") << QStringList{
+            tabs, "txSpeechSearch", "cbSpeechState", "cbSpeechVoice", "speechTable", tabs};
     }
 
     void everyControlIsReachedByTab()

@@ -1,0 +1,73 @@
+#include "speech/tab/SpeechFinder.h"
+
+#include "base/PrintFunction.h"
+#include "speech/Engines.h"
+#include "speech/SpeechIndex.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+
+#include <tuple>
+
+bool isSameText(const SpeechRow& one, const SpeechRow& other)
+{
+    const auto text = [](const SpeechRow& row) {
+        return std::tie(row.text.audioName, row.text.said.voice, row.text.said.text);
+    };
+    return text(one) == text(other);
+}
+
+bool looksAlike(const SpeechRow& one, const SpeechRow& other)
+{
+    const auto looks = [](const SpeechRow& row) {
+        return std::tie(row.text.place.line, row.text.inItsPlace.line, row.text.state,
+                        row.text.refusal, row.text.file, row.seconds);
+    };
+    return isSameText(one, other) && looks(one) == looks(other);
+}
+
+SpeechFindings SpeechSearch::find(BookState& state, const std::atomic<bool>& isCancelled)
+{
+    if (state.project) {
+        book = std::move(*state.project);
+        book.print = printNothing;
+    }
+    book.compiler = ttbasic();
+    book.compiler.source = state.script.toStdString();
+    book.compiler.reportTo([](const Diagnostic&) {});
+    compileScript(book.compiler, false);
+
+    SpeechFindings findings;
+    std::vector<SpeechText> texts = speechTexts(book, currentEngines());
+    if (!book.projectPath.empty()) {
+        const std::string folder = audioFolder(book);
+        SpeechIndex index(folder);
+        lookUp(texts, folder, index);
+        findings.problem = QString::fromStdString(index.problem());
+        findings.audioFolder = QFileInfo(QString::fromStdString(index.path())).path();
+    }
+    findings.rows.reserve(texts.size());
+    for (SpeechText& text : texts) {
+        if (isCancelled) {
+            break;
+        }
+        const double seconds = secondsOfFile(text.file);
+        findings.rows.push_back({std::move(text), seconds});
+    }
+    return findings;
+}
+
+// Every file is read once only.
+double SpeechSearch::secondsOfFile(const std::string& path)
+{
+    const QFileInfo file(QString::fromStdString(path));
+    if (path.empty() || !file.exists()) {
+        return 0;
+    }
+    const qint64 time = file.lastModified().toMSecsSinceEpoch();
+    Length& length = lengths[file.filePath()];
+    if (length.size != file.size() || length.time != time) {
+        length = {file.size(), time, secondsOf(path)};
+    }
+    return length.seconds;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QTableView>
+
+class SpeechFilter;
+
+// The table of the texts: its rows can be played, lead to the script, and take files.
+class SpeechView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit SpeechView(SpeechFilter& shown, QWidget* parent = nullptr);
+
+signals:
+    // The rows are those of the filter.
+    void playAsked(int row);
+    // The author wants to see the row's line in the script, or, by a mere click, only to have the
+    // script stand there.
+    void lineAsked(int row);
+    void rowClicked(int row);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void fitColumns();
+    void takeClick(const QModelIndex& index);
+};

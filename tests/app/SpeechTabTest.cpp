@@ -1,0 +1,395 @@
+// The tab "Speech": every text of the book with its audio file.
+#include "oid/OpenProject.h"
+#include "speech/Engines.h"
+#include "speech/SpeechIndex.h"
+#include "speech/SpeechTexts.h"
+#include "tests/app/WindowFixture.h"
+#include "tests/helpers/Environment.h"
+#include "tests/sound/WavFile.h"
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableView>
+
+namespace {
+
+constexpr int kPatience = 20000;  // ms
+
+const std::string kScript = "sub cow\r\n"
+                            "  say \"Moo\"\r\n"
+                            "  say eve \"Mooo!\"\r\n"
+                            "end sub\r\n"
+                            "sub pig\r\n"
+                            "  say \"Oink\"\r\n"
+                            "end sub\r\n";
+
+std::string farm(const std::string& script = kScript)
+{
+    return projectFile({""}, script, "PRODUCT 900, \"Farm\"");
+}
+
+enum Column { voice, text, line, length, state, play };
+
+// A loudspeaker that is a file.
+class Loudspeaker
+{
+public:
+    TemporaryFolder files;
+    ChangedVariable driver{"SDL_AUDIODRIVER", "disk"};
+    ChangedVariable output{"SDL_DISKAUDIOFILE", files.file("heard.raw")};
+
+    bool isHeard() const
+    {
+        return QFileInfo(QString::fromStdString(files.file("heard.raw"))).size() > 0;
+    }
+};
+
+class SpeechWindow : public Loudspeaker, public WindowFixture
+{
+public:
+    explicit SpeechWindow(const std::string& project = farm())
+    {
+        if (!project.empty()) {
+            open(project, 1);
+        }
+        showTab();
+        window.activateWindow();
+    }
+
+    void showTab() { get<QTabWidget>("ribbonTab")->setCurrentWidget(get<QWidget>("tabSpeech")); }
+    QTableView& table() { return *get<QTableView>("speechTable"); }
+    void setScript(const QString& script)
+    {
+        get<KVQtHighlightEditCtrl>("codeEditor")->setText(script);
+    }
+
+    // "adam|Moo|2||missing", a row each.
+    QStringList rows()
+    {
+        QStringList rows;
+        const QAbstractItemModel& model = *table().model();
+        for (int row = 0; row < model.rowCount(); ++row) {
+            QStringList cells;
+            for (int column = voice; column <= state; ++column) {
+                cells << model.index(row, column).data().toString();
+            }
+            rows << cells.join('|');
+        }
+        return rows;
+    }
+
+    QString audio(const char* name) { return path("900-audio/") + name + ".ogg"; }
+    // A sound of that length in the place of an audio file; what it is in is known by its
+    // beginning.
+    void putAudio(const char* name, double seconds = 0.5)
+    {
+        QDir().mkpath(path("900-audio"));
+        writeFile(audio(name).toStdString(), wavFile(1, 22050, tone(1, 22050, 440, seconds)));
+    }
+    // As if it had just been spoken so.
+    void noteSpoken(const char* name, const std::string& words, const std::string& speaker = "adam")
+    {
+        SpeechIndex index(path("900-audio").toStdString());
+        ttbasic script;
+        Utterance said = utteranceOf({speaker, words}, script.voices.at(speaker), Engines());
+        QVERIFY(index.remember(name, said));
+        QVERIFY(index.save());
+    }
+
+    QPoint cell(int row, int column)
+    {
+        return table().visualRect(table().model()->index(row, column)).center();
+    }
+    void clickCell(int row, int column, Qt::KeyboardModifiers keys = {})
+    {
+        QTest::mouseClick(table().viewport(), Qt::LeftButton, keys, cell(row, column));
+    }
+    int caretLine()
+    {
+        return get<KVQtHighlightEditCtrl>("codeEditor")->surface().editor.selection.end.line + 1;
+    }
+    void choose(const char* comboBox, const QString& entry)
+    {
+        auto* const box = get<QComboBox>(comboBox);
+        QVERIFY(box->findText(entry) >= 0);
+        box->setFocus();
+        QTest::keyClick(box, Qt::Key_Home);
+        for (int i = 0; i < box->count() && box->currentText() != entry; ++i) {
+            QTest::keyClick(box, Qt::Key_Down);
+        }
+        QCOMPARE(box->currentText(), entry);
+    }
+};
+
+const QStringList kNothingSpoken = {"adam|Moo|2||missing", "eve|Mooo!|3||missing",
+                                    "adam|Oink|6||missing", "adam|Farm. Start.|welcome||missing"};
+
+}  // namespace
+
+class SpeechTabTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyTextIsListedInTheOrderOfUseAndTheWelcomeLast()
+    {
+        SpeechWindow w;
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        QCOMPARE(w.text("lbSpeechSummary"), "4 texts: 4 missing");
+    }
+
+    void theListFollowsTheScript()
+    {
+        SpeechWindow w;
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        w.setScript("sub pig\nsay \"Grunt\"\nend sub\n");
+        QTRY_COMPARE_WITH_TIMEOUT(
+            w.rows(), QStringList({"adam|Grunt|2||missing", "adam|Farm. Start.|welcome||missing"}),
+            kPatience);
+    }
+
+    void theWelcomeFollowsTheNameOfTheProduct()
+    {
+        SpeechWindow w;
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        w.type("txProjectName", "Zoo");
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows().last(), "adam|Zoo. Start.|welcome||missing", kPatience);
+    }
+
+    void everyStateIsTold()
+    {
+        SpeechWindow w;
+        w.putAudio("say_adam_Moo", 1.5);
+        w.putAudio("say_eve_Mooo_");
+        w.noteSpoken("say_eve_Mooo_", "Mooo!", "eve");
+        w.putAudio("say_adam_Oink");
+        w.noteSpoken("say_adam_Oink", "Grunt");
+        w.setScript(QString::fromStdString(kScript) + "sub x\nsay \"" + QString(300, 'x') +
+                    "\"\nsay \"Moo.\"\nsay \"Moo?\"\nend sub\n");
+        w.window.activateWindow();
+        const QStringList expected = {"adam|Moo|2|1.5 s|recorded",
+                                      "eve|Mooo!|3|0.5 s|spoken",
+                                      "adam|Oink|6|0.5 s|out of date",
+                                      "adam|" + QString(300, 'x') + "|9||too long a name",
+                                      "adam|Moo.|10||name of line 11",
+                                      "adam|Moo?|11||missing",
+                                      "adam|Farm. Start.|welcome||missing"};
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), expected, kPatience);
+        QCOMPARE(w.text("lbSpeechSummary"),
+                 "7 texts: 2 missing, 1 spoken, 1 recorded, 1 out of date, 2 impossible");
+    }
+
+    void filesThatComeAndGoAreNoticed()
+    {
+        SpeechWindow w;
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        w.putAudio("say_adam_Moo");  // and its folder
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows().first(), "adam|Moo|2|0.5 s|recorded", kPatience);
+        w.putAudio("say_adam_Oink");
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows()[2], "adam|Oink|6|0.5 s|recorded", kPatience);
+        QVERIFY(QFile::remove(w.audio("say_adam_Moo")));
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows().first(), "adam|Moo|2||missing", kPatience);
+    }
+
+    void withoutAFileTheBookIsToBeSavedFirst()
+    {
+        SpeechWindow w("");
+        w.setScript("sub a\nsay \"Moo\"\nend sub\n");
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows().value(0), "adam|Moo|2||missing", kPatience);
+        QCOMPARE(w.text("lbSpeechSummary"),
+                 "Save the project first: its audio files lie in a folder beside it.");
+        w.dialogs.chooseFile(w.path("new.oidpro"));
+        w.trigger("action_Save_As");
+        QTRY_COMPARE_WITH_TIMEOUT(w.text("lbSpeechSummary"), "2 texts: 2 missing", kPatience);
+    }
+
+    void aDamagedIndexIsTold()
+    {
+        SpeechWindow w;
+        QDir().mkpath(w.path("900-audio"));
+        writeFile(w.path("900-audio/speech-index.json").toStdString(), "{");
+        w.showTab();
+        QTRY_VERIFY_WITH_TIMEOUT(w.text("lbSpeechSummary").contains("speech-index.json"),
+                                 kPatience);
+    }
+
+    void theFilterShowsAStateAVoiceAndWords()
+    {
+        SpeechWindow w;
+        w.putAudio("say_adam_Moo");
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows().value(0), "adam|Moo|2|0.5 s|recorded", kPatience);
+        w.choose("cbSpeechState", "missing");
+        QCOMPARE(w.rows(), kNothingSpoken.mid(1));
+        w.choose("cbSpeechVoice", "eve");
+        QCOMPARE(w.rows(), kNothingSpoken.mid(1, 1));
+        w.choose("cbSpeechState", "All states");
+        w.choose("cbSpeechVoice", "All voices");
+        w.type("txSpeechSearch", "moo");
+        QCOMPARE(w.rows(), QStringList({"adam|Moo|2|0.5 s|recorded", kNothingSpoken[1]}));
+        w.choose("cbSpeechVoice", "eve");
+        QCOMPARE(w.rows(), kNothingSpoken.mid(1, 1));
+    }
+
+    void theVoiceThatIsShownStaysWhileTheScriptIsWritten()
+    {
+        SpeechWindow w;
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        w.choose("cbSpeechVoice", "eve");
+        w.setScript("sub a\nsay eve \"A\"\nsay \"B\"\nend sub\n");
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), QStringList("eve|A|2||missing"), kPatience);
+        w.setScript("sub a\nsay \"B\"\nend sub\n");
+        QTRY_COMPARE_WITH_TIMEOUT(
+            w.rows(), QStringList({"adam|B|2||missing", "adam|Farm. Start.|welcome||missing"}),
+            kPatience);
+    }
+
+    void aClickOnAHeadingSorts()
+    {
+        SpeechWindow w;
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        QHeaderView* const header = w.table().horizontalHeader();
+        const auto click = [&](int column) {
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier,
+                              {header->sectionViewportPosition(column) + 5, header->height() / 2});
+        };
+        click(text);
+        QCOMPARE(w.rows().first(), "adam|Farm. Start.|welcome||missing");
+        click(line);
+        QCOMPARE(w.rows(), kNothingSpoken);
+        click(line);
+        QCOMPARE(w.rows().first(), "adam|Farm. Start.|welcome||missing");
+    }
+
+    void theSelectedTextsStaySelectedWhenLinesComeAboveThem()
+    {
+        SpeechWindow w;
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        w.clickCell(0, text);
+        w.clickCell(2, text, Qt::ControlModifier);
+        w.setScript("sub x\nsay \"New\"\nend sub\n" + QString::fromStdString(kScript));
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows().size(), 5, kPatience);
+        QStringList selected;
+        for (const QModelIndex& index : w.table().selectionModel()->selectedRows(text)) {
+            selected << index.data().toString();
+        }
+        selected.sort();
+        QCOMPARE(selected, QStringList({"Moo", "Oink"}));
+        QCOMPARE(w.rows()[1], "adam|Moo|5||missing");
+    }
+
+    // So one can go on choosing; the script is where it is wanted when one comes to it.
+    void aClickOnATextHasTheScriptStandAtItsLine()
+    {
+        SpeechWindow w;
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        w.clickCell(2, text);
+        QCOMPARE(w.tab(), "Speech");
+        QCOMPARE(w.caretLine(), 6);
+    }
+
+    void theLineLeadsToTheScript()
+    {
+        SpeechWindow w;
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        w.clickCell(1, line);
+        QCOMPARE(w.tab(), "Script");
+        QCOMPARE(w.caretLine(), 3);
+        w.showTab();
+        w.clickCell(2, text);
+        QTest::mouseDClick(w.table().viewport(), Qt::LeftButton, {}, w.cell(2, text));
+        QCOMPARE(w.tab(), "Script");
+        QCOMPARE(w.caretLine(), 6);
+        w.showTab();
+        w.table().setFocus();
+        w.table().setCurrentIndex(w.table().model()->index(0, 0));
+        QTest::keyClick(&w.table(), Qt::Key_Return);
+        QCOMPARE(w.tab(), "Script");
+        QCOMPARE(w.caretLine(), 2);
+    }
+
+    void theWelcomeLeadsToTheNameOfTheProduct()
+    {
+        SpeechWindow w;
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        w.clickCell(3, line);
+        QCOMPARE(w.tab(), "Project");
+        QCOMPARE(QApplication::focusWidget(), w.get<QWidget>("txProjectName"));
+    }
+
+    void theSignInTheRowPlaysAndStops()
+    {
+        SpeechWindow w;
+        w.putAudio("say_adam_Moo", 60);
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows().value(0), "adam|Moo|2|60.0 s|recorded", kPatience);
+        QVERIFY(!w.get<QPushButton>("btSpeechPlay")->isEnabled());
+        w.clickCell(0, play);
+        QCOMPARE(w.get<QPushButton>("btSpeechPlay")->text(), "Sto&p");
+        QTRY_VERIFY_WITH_TIMEOUT(w.isHeard(), kPatience);
+        w.clickCell(0, play);
+        QCOMPARE(w.get<QPushButton>("btSpeechPlay")->text(), "&Play");
+        w.clickCell(1, play);
+        QCOMPARE(w.status(), "This text has no audio file yet.");
+    }
+
+    void theSelectedTextsArePlayedOneAfterTheOther()
+    {
+        SpeechWindow w;
+        w.putAudio("say_adam_Moo", 0.1);
+        w.putAudio("say_adam_Oink", 0.1);
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows().value(0), "adam|Moo|2|0.1 s|recorded", kPatience);
+        w.table().setFocus();
+        w.table().selectAll();
+        const QAbstractItemModel& model = *w.table().model();
+        const auto sign = [&](int row) {
+            return model.index(row, play).data(Qt::DecorationRole).value<QIcon>().cacheKey();
+        };
+        QCOMPARE(sign(0), sign(2));
+        const qint64 atRest = sign(0);
+        QStringList played;
+        connect(&model, &QAbstractItemModel::dataChanged, this, [&] {
+            for (const int row : {0, 2}) {
+                const QString words = model.index(row, text).data().toString();
+                if (sign(row) != atRest && !played.contains(words)) {
+                    played << words;
+                }
+            }
+        });
+        w.click("btSpeechPlay");
+        QTRY_COMPARE_WITH_TIMEOUT(w.get<QPushButton>("btSpeechPlay")->text(), "&Play", kPatience);
+        QCOMPARE(played, QStringList({"Moo", "Oink"}));
+    }
+
+    void tenThousandTextsHaveNoWidgetsOfTheirOwn()
+    {
+        SpeechWindow w;
+        QString script = "sub cow\n";
+        for (int i = 0; i < 10000; ++i) {
+            script += QString("say \"Text number %1\"\n").arg(i);
+        }
+        w.setScript(script + "end sub\n");
+        QTRY_COMPARE_WITH_TIMEOUT(w.table().model()->rowCount(), 10001, kPatience);
+        QVERIFY(w.table().findChildren<QWidget*>().size() < 20);
+        w.table().scrollToBottom();
+        QVERIFY(w.table().indexAt({5, w.table().viewport()->height() / 2}).row() > 9900);
+    }
+
+    void aRowIsReadToThoseWhoDoNotSeeIt()
+    {
+        SpeechWindow w;
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        const QAbstractItemModel& model = *w.table().model();
+        QCOMPARE(model.index(1, voice).data(Qt::AccessibleTextRole).toString(),
+                 "eve, line 3: Mooo!, missing");
+        QCOMPARE(model.index(3, voice).data(Qt::AccessibleTextRole).toString(),
+                 "adam, welcome: Farm. Start., missing");
+    }
+};
+
+QTEST_MAIN(SpeechTabTest)
+#include "SpeechTabTest.moc"
