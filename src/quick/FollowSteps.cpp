@@ -100,6 +100,15 @@ struct Draft
     std::optional<Sound> sound;
 };
 
+// A last line that does nothing: nothing happens without it, too.
+void dropIdleLine(std::vector<Line>& lines)
+{
+    if (lines.size() > 1 && lines.back().commands.empty() && !lines.back().sound &&
+        !lines.back().jump) {
+        lines.pop_back();
+    }
+}
+
 class StepFollower
 {
 public:
@@ -225,6 +234,7 @@ void StepFollower::makeNode(size_t node, const Place& place)
     for (const Draft& draft : std::exchange(drafts, {})) {
         write(draft);
     }
+    dropIdleLine(made.nodes[node].lines);
 }
 
 Path StepFollower::beginningOf(const Place& place) const

@@ -70,8 +70,9 @@ std::set<uint16_t> innerCodes(const gme::Game& game, const gme::Description& des
 
 namespace {
 
-gme::Game optimisedOnce(const gme::Game& game, const std::set<uint16_t>& inner,
-                        const Passes& passes)
+// None when it needs more codes than there are.
+std::optional<gme::Game> optimisedOnce(const gme::Game& game, const std::set<uint16_t>& inner,
+                                       const Passes& passes)
 {
     std::optional<Graph> plain = graphOf(game, inner);
     if (!plain) {
@@ -85,13 +86,13 @@ gme::Game optimisedOnce(const gme::Game& game, const std::set<uint16_t>& inner,
         graph = changed(*plain, passes);
     }
     gme::Game result = game;
-    putGraph(graph, inner, result);
-    return result;
+    return putGraph(graph, inner, result) ? std::make_optional(std::move(result)) : std::nullopt;
 }
 
 }  // namespace
 
-// Where branches are doubled so often that the game file grows, they are left as they are.
+// Where branches are doubled so often that the game file grows, or that there are not enough codes,
+// they are left as they are.
 gme::Game optimise(const gme::Game& game, const std::set<uint16_t>& inner, const Passes& passes)
 {
     const uint64_t most = gme::layOut(game).size;
@@ -99,9 +100,9 @@ gme::Game optimise(const gme::Game& game, const std::set<uint16_t>& inner, const
     sparing.testsOnEntry = false;
     sparing.doublesScripts = false;
     for (const Passes& some : {passes, sparing}) {
-        gme::Game result = optimisedOnce(game, inner, some);
-        if (gme::layOut(result).size <= most) {
-            return result;
+        std::optional<gme::Game> result = optimisedOnce(game, inner, some);
+        if (result && (!passes.staysSmall || gme::layOut(*result).size <= most)) {
+            return *std::move(result);
         }
     }
     return game;

@@ -19,6 +19,7 @@ struct Passes
     bool sumsAdditions = true;   // of the same register
     bool dropsDead = true;       // commands whose result nobody reads
     bool sharesScripts = true;   // scripts that do the same become one
+    bool staysSmall = true;      // less is done where the game file would become larger
 };
 
 // The codes of the scripts that nobody can tap: those that the script compiler names ("asm1") and

@@ -1,6 +1,9 @@
 // Games that say their line numbers: all of them are still said, in fewer steps.
 #include "oid/OpenProject.h"
+#include "quick/Quick.h"
+#include "tests/play/Books.h"
 #include "tests/play/RandomScript.h"
+#include "tests/quick/Compiled.h"
 #include "tests/quick/NoticedPen.h"
 
 #include <algorithm>
@@ -35,8 +38,9 @@ Tally tapBoth(const Compiled& book, int taps)
     }
     pen::PenOptions options;
     options.mostSteps = kMostSteps;
-    NoticedPen before(book.game, options);
-    NoticedPen now(optimised(book), options);
+    const gme::Game game = optimised(book);
+    NoticedPen before(pen::gameForPen(book.game), noticedIn(book.game, book.game), options);
+    NoticedPen now(pen::gameForPen(game), noticedIn(game, book.game), options);
     std::mt19937_64 random(1);
     Tally tally;
     for (int i = 0; i < taps && !before.isEndless; ++i) {

@@ -9,7 +9,7 @@ namespace {
 
 quick::Passes none()
 {
-    return {false, false, false, false, false, false, false, false};
+    return {false, false, false, false, false, false, false, false, false};
 }
 
 // A pass with those that make the lines it works on.
@@ -22,12 +22,14 @@ std::string with(std::vector<bool quick::Passes::*> passes, const std::string& s
     return optimisedText(scripts, chosen);
 }
 
+using quick::Passes;
+
 std::string withAll(const std::string& scripts)
 {
-    return optimisedText(scripts, {});
+    Passes passes;
+    passes.staysSmall = false;  // games of a few lines
+    return optimisedText(scripts, passes);
 }
-
-using quick::Passes;
 
 }  // namespace
 
@@ -168,7 +170,7 @@ TEST(TestsOnEntry, WhatWouldMakeTheGameFileLargerIsNotDone)
                    number + "\n  - J(asm" + next + ") $x += $b" + number + "\n";
     }
     scripts += "  asm12:\n  - P(a)\n";
-    const std::string text = withAll(scripts);
+    const std::string text = optimisedText(scripts, {});
     EXPECT_LT(std::count(text.begin(), text.end(), '\n'), 60) << text;
 }
 
@@ -269,6 +271,44 @@ TEST(WritesDirectly, AResultIsCalculatedInItsVariable)
               "1:\n");
 }
 
+TEST(CarriesValues, ADifferenceIsWrittenAsOne)
+{
+    EXPECT_EQ(with({&Passes::followsJumps, &Passes::carriesValues}, "  cow:\n"
+                                                                    "  - J(asm1) $_stk1 := $a\n"
+                                                                    "  asm1:\n"
+                                                                    "  - J(asm2) $_stk1 -= 3\n"
+                                                                    "  asm2:\n"
+                                                                    "  - $a := $_stk1\n"),
+              "cow: J(1) $_stk1:=$a $_stk1-=3 $a-=3\n"
+              "1:\n");
+}
+
+TEST(WritesDirectly, AVariableThatIsChangedMeanwhileKeepsItsValue)
+{
+    EXPECT_EQ(with({&Passes::followsJumps, &Passes::writesDirectly}, "  cow:\n"
+                                                                     "  - J(asm1) $_stk1 := $b\n"
+                                                                     "  asm1:\n"
+                                                                     "  - J(asm2) $a := 4\n"
+                                                                     "  asm2:\n"
+                                                                     "  - J(asm3) $_stk1 *= 3\n"
+                                                                     "  asm3:\n"
+                                                                     "  - $a := $_stk1\n"),
+              "cow: J(1) $_stk1:=$b $a:=4 $_stk1*=3 $a:=$_stk1\n"
+              "1:\n");
+}
+
+TEST(WritesDirectly, WhoReadsTheRegisterReadsTheVariable)
+{
+    EXPECT_EQ(with({&Passes::followsJumps, &Passes::writesDirectly}, "  cow:\n"
+                                                                     "  - J(asm1) $_stk1 := $b\n"
+                                                                     "  asm1:\n"
+                                                                     "  - J(asm2) $c += $_stk1\n"
+                                                                     "  asm2:\n"
+                                                                     "  - $a := $_stk1\n"),
+              "cow: J(1) $a:=$b $c+=$a\n"
+              "1:\n");
+}
+
 TEST(WritesDirectly, AVariableThatIsReadMeanwhileKeepsItsValue)
 {
     EXPECT_EQ(with({&Passes::followsJumps, &Passes::writesDirectly}, "  cow:\n"
@@ -290,6 +330,18 @@ TEST(SumsAdditions, OneTakesThePlaceOfSeveral)
                                                                     "  asm2:\n"
                                                                     "  - $rnd += 7\n"),
               "cow: J(1) $a:=2 $rnd+=12\n"
+              "1:\n");
+}
+
+TEST(SumsAdditions, WhoReadsInBetweenReadsTheFirstSum)
+{
+    EXPECT_EQ(with({&Passes::followsJumps, &Passes::sumsAdditions}, "  cow:\n"
+                                                                    "  - J(asm1) $a += 5\n"
+                                                                    "  asm1:\n"
+                                                                    "  - J(asm2) $b := $a\n"
+                                                                    "  asm2:\n"
+                                                                    "  - $a += 7\n"),
+              "cow: J(1) $a+=5 $b:=$a $a+=7\n"
               "1:\n");
 }
 

@@ -1,5 +1,7 @@
 // How long a child waits for the sounds of the farm.
 #include "oid/OpenProject.h"
+#include "quick/Quick.h"
+#include "tests/quick/Compiled.h"
 #include "tests/quick/NoticedPen.h"
 
 #include <algorithm>
@@ -17,7 +19,7 @@ std::map<std::string, uint64_t> slowest(const Compiled& book, const gme::Game& g
     for (const auto& entry : book.areas) {
         areas.push_back(entry.first);
     }
-    NoticedPen pen(game, {});
+    NoticedPen pen(pen::gameForPen(game), {}, {});
     std::mt19937_64 random(1);
     std::map<std::string, uint64_t> steps;
     for (int i = 0; i < kTaps; ++i) {

@@ -2,7 +2,8 @@
 #include "quick/Saving.h"
 #include "gme/DescriptionReader.h"
 #include "oid/OpenProject.h"
-#include "tests/quick/NoticedPen.h"
+#include "quick/Quick.h"
+#include "tests/quick/Compiled.h"
 
 #include <gtest/gtest.h>
 
