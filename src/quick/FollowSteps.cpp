@@ -100,11 +100,11 @@ struct Draft
     std::optional<Sound> sound;
 };
 
-// A last line that does nothing: nothing happens without it, too.
-void dropIdleLine(std::vector<Line>& lines)
+// Last lines that do nothing: nothing happens without them, too.
+void dropIdleLines(std::vector<Line>& lines)
 {
-    if (lines.size() > 1 && lines.back().commands.empty() && !lines.back().sound &&
-        !lines.back().jump) {
+    while (lines.size() > 1 && lines.back().commands.empty() && !lines.back().sound &&
+           !lines.back().jump) {
         lines.pop_back();
     }
 }
@@ -234,7 +234,7 @@ void StepFollower::makeNode(size_t node, const Place& place)
     for (const Draft& draft : std::exchange(drafts, {})) {
         write(draft);
     }
-    dropIdleLine(made.nodes[node].lines);
+    dropIdleLines(made.nodes[node].lines);
 }
 
 Path StepFollower::beginningOf(const Place& place) const

@@ -243,6 +243,28 @@ TEST(DoublesScripts, WhatOthersMayChangeMeanwhileIsAskedAgain)
               "1: $a==2? P(b)\n");
 }
 
+// Nine registers get their numbers again in the script that is made for them.
+TEST(DoublesScripts, WhatIsTooMuchForALineGoesOnInTheNextScript)
+{
+    std::string scripts = "  cow:\n"
+                          "  - J(asm1) $_stk1 := 1\n";
+    std::string conditions = "$_stk1 == 1 ? ";
+    for (int i = 2; i <= 9; ++i) {
+        const std::string number = std::to_string(i);
+        scripts += "  asm" + std::to_string(i - 1) + ":\n  - J(asm" + number + ") $_stk" + number +
+                   " := " + number + "\n";
+        conditions += "$_stk" + number + " == " + number + " ? ";
+    }
+    const std::string text =
+        with({&Passes::doublesScripts},
+             scripts + "  asm9:\n  - " + conditions +
+                 "P(a)\n  asm10:\n  - $b := 1\n  asm11:\n  - $b := 1\n  asm12:\n  - $b := 1\n");
+    const std::string end = "11: J(12) $_stk1:=1 $_stk2:=2 $_stk3:=3 $_stk4:=4 $_stk5:=5 $_stk6:=6 "
+                            "$_stk7:=7\n"
+                            "12: P(a) $_stk8:=8 $_stk9:=9\n";
+    EXPECT_EQ(text.substr(text.size() - std::min(text.size(), end.size())), end) << text;
+}
+
 TEST(CarriesValues, NumbersAndOriginalsTakeThePlaceOfCopies)
 {
     EXPECT_EQ(with({&Passes::followsJumps, &Passes::carriesValues}, "  cow:\n"
