@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <vector>
 
@@ -11,5 +12,5 @@ struct MonoSound
 
     double seconds() const { return static_cast<double>(samples.size()) / rate; }
     // How many samples take that long.
-    size_t samplesIn(double time) const { return static_cast<size_t>(time * rate + 0.5); }
+    size_t samplesIn(double time) const { return static_cast<size_t>(std::lround(time * rate)); }
 };
