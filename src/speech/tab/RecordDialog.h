@@ -74,6 +74,7 @@ private:
     void connectMicrophone();
     void showMicrophones(const QStringList& names);
     void takeMicrophone(int index);
+    void openMicrophone();
 
     void goTo(size_t text);
     void goToNeighbour(int step);
