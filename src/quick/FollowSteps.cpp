@@ -144,7 +144,6 @@ private:
     bool fits(const Path& path, const Line& line) const;
     Live liveBehind(const std::optional<size_t>& step) const;
     Commands simplified(Commands commands, const Values& start, const Live& behind) const;
-    void addLine(Line line);
 
     const Graph& plain;
     const Passes passes;
@@ -155,7 +154,6 @@ private:
     std::vector<size_t> uses;                           // of each step, in nodes
     std::map<std::pair<size_t, Register>, bool> asked;  // soon, at the step
     std::vector<std::pair<size_t, Place>> waiting;
-    std::optional<size_t> rest;
     // The node that is being made, as one of several tries.
     size_t current = 0;
     std::vector<Draft> drafts;
@@ -206,11 +204,11 @@ size_t StepFollower::nodeFor(const Place& place)
 // jumps of the steps did.
 size_t StepFollower::restNode()
 {
-    if (!rest) {
-        rest = made.nodes.size();
+    if (!made.rest) {
+        made.rest = made.nodes.size();
         made.nodes.push_back({0, false, false, {Line()}});
     }
-    return *rest;
+    return *made.rest;
 }
 
 // The more branches are followed at once, the fewer steps, but the lines become more than the steps
@@ -367,7 +365,8 @@ bool StepFollower::fits(const Path& path, const Line& line) const
             behind.alive.erase(reg);
         }
     }
-    return simplified(commands, path.start, behind).size() + 1 + (line.sound ? 1 : 0) <=
+    return simplified(commands, path.start, behind).size() + (line.jump ? 1 : 0) +
+               (line.sound ? 1 : 0) <=
            kMostCommands;
 }
 
@@ -425,7 +424,7 @@ void StepFollower::write(const Draft& draft)
         line.jump = restNode();
     }
     line.commands = simplified(draft.path.commands, draft.path.start, behind);
-    addLine(std::move(line));
+    made.nodes[current].lines.push_back(std::move(line));
 }
 
 // Numbers that temporaries hold need no register where the next script is made for them, and what
@@ -487,27 +486,6 @@ Commands StepFollower::simplified(Commands commands, const Values& start, const 
         dropDead(commands, behind);
     }
     return commands;
-}
-
-// What is too much for one line goes on in scripts of its own.
-void StepFollower::addLine(Line line)
-{
-    size_t node = current;
-    for (;;) {
-        const size_t others = (line.jump ? 1 : 0) + (line.sound ? 1 : 0);
-        if (line.commands.size() + others <= kMostCommands) {
-            made.nodes[node].lines.push_back(std::move(line));
-            return;
-        }
-        const size_t more = made.nodes.size();
-        made.nodes.emplace_back();
-        const auto cut = line.commands.begin() + static_cast<std::ptrdiff_t>(kMostCommands - 1);
-        Line first{std::move(line.conditions), {line.commands.begin(), cut}, std::nullopt, more};
-        line.conditions.clear();
-        line.commands.erase(line.commands.begin(), cut);
-        made.nodes[node].lines.push_back(std::move(first));
-        node = more;
-    }
 }
 
 }  // namespace

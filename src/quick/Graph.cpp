@@ -394,9 +394,12 @@ GraphWriter::registersOf(const std::map<uint16_t, std::vector<gme::ScriptLine>>&
             }
         }
     }
-    for (const auto& [name, number] : used) {
-        const gme::Register reg{name, number};
-        registers.noteInitialValue({reg, graph.firstValues[game.registers.numberOf(reg)]});
+    for (size_t i = 0; i < graph.registers.size(); ++i) {
+        const gme::Register& reg = graph.registers[i];
+        const bool isThere = !reg.name.empty() || reg.number == i;
+        if (isThere && used.count({reg.name, reg.number}) != 0) {
+            registers.noteInitialValue({reg, graph.firstValues[i]});
+        }
     }
     registers.assignNumbers();
     return registers;

@@ -94,6 +94,7 @@ struct Graph
     std::vector<uint16_t> firstValues;     // of the registers
     std::set<Register> constants;          // the compiler's own that nothing changes
     std::set<Register> temporaries;        // nobody but the scripts themselves reads them
+    std::optional<size_t> rest;            // a node without commands, to end what is going on
     std::set<Register> unsteady;           // they may change between a line and where it jumps to
 };
 

@@ -11,6 +11,13 @@ namespace quick {
 // become one line. Commands are simplified on the way by the passes over lines.
 Graph followSteps(const Graph& plain, const Passes& passes);
 
+// What is tapped and only calculates ends in its line, without a jump to the node that does
+// nothing, where nothing is going on.
+void endAtOnce(Graph& graph);
+
+// A line with more than the pen carries out becomes several.
+void splitLines(Graph& graph);
+
 // Lines whose commands nobody needs lose them.
 void dropDead(Graph& graph);
 

@@ -24,6 +24,10 @@ bool isLabel(const std::string& name)
 Graph changed(const Graph& plain, const Passes& passes)
 {
     Graph graph = followSteps(plain, passes);
+    if (passes.endsAtOnce) {
+        endAtOnce(graph);
+    }
+    splitLines(graph);
     if (passes.dropsDead) {
         dropDead(graph);
     }

@@ -4,12 +4,13 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace {
 
 quick::Passes none()
 {
-    return {false, false, false, false, false, false, false, false, false};
+    return {false, false, false, false, false, false, false, false, false, false};
 }
 
 // A pass with those that make the lines it works on.
@@ -28,6 +29,7 @@ std::string withAll(const std::string& scripts)
 {
     Passes passes;
     passes.staysSmall = false;  // games of a few lines
+    passes.endsAtOnce = false;
     return optimisedText(scripts, passes);
 }
 
@@ -398,6 +400,113 @@ TEST(SharesScripts, OfScriptsThatDoTheSameOneStays)
                                                        "cow: J(1) P(b)\n"
                                                        "1: J(2) P(a)\n"
                                                        "2: $a:=2\n");
+}
+
+namespace {
+
+// A sub that only calculates: so many additions, each a step.
+std::string calculations(int count)
+{
+    std::string scripts = "  cow:\n";
+    for (int i = 1; i <= count; ++i) {
+        const std::string number = std::to_string(i);
+        const std::string jump = i < count ? "J(asm" + number + ") " : std::string();
+        scripts += "  - " + jump + "$r" + number + " += $x\n";
+        scripts += i < count ? "  asm" + number + ":\n" : std::string();
+    }
+    return scripts;
+}
+
+std::string withEnds(const std::string& scripts)
+{
+    Passes passes;
+    passes.staysSmall = false;
+    return optimisedText(scripts, passes);
+}
+
+}  // namespace
+
+TEST(EndsAtOnce, WhatOnlyCalculatesTakesAStepForEightCommands)
+{
+    const std::map<int, std::ptrdiff_t> steps = {{1, 1}, {7, 1}, {8, 1}, {9, 2}, {16, 3}, {17, 3}};
+    for (const auto& [count, expected] : steps) {
+        const std::string text = withEnds(calculations(count));
+        EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), expected) << text;
+    }
+}
+
+TEST(EndsAtOnce, ASoundAndWhatComesBehindItAreStillEnded)
+{
+    EXPECT_EQ(withEnds("  cow:\n"
+                       "  - J(asm1) $a := 1\n"
+                       "  asm1:\n"
+                       "  - $b := 2\n"
+                       "  hen:\n"
+                       "  - J(asm2) P(a)\n"
+                       "  asm2:\n"
+                       "  - $c := 1\n"),
+              "cow: $_busy==1? J(1) $_busy:=0 $a:=1 $b:=2\n"
+              "cow: $a:=1 $b:=2\n"
+              "hen: J(2) P(a) $_busy:=1\n"
+              "1:\n"
+              "2: $_busy:=0 $c:=1\n");
+}
+
+// What was to come behind another sound is ended.
+TEST(EndsAtOnce, WhatPlaysWithoutAJumpStillEndsWithOne)
+{
+    EXPECT_EQ(withEnds("  cow:\n"
+                       "  - J(asm1) $a := 1\n"
+                       "  asm1:\n"
+                       "  - P(a)\n"),
+              "cow: J(1) P(a) $_busy:=1 $a:=1\n"
+              "1: $_busy:=0\n");
+}
+
+// A tap on the pig does not end what is to come.
+TEST(EndsAtOnce, WhatHasNoJumpLeavesWhatGoesOn)
+{
+    EXPECT_EQ(withEnds("  cow:\n"
+                       "  - J(asm1) $a := 1\n"
+                       "  asm1:\n"
+                       "  - $b := 2\n"
+                       "  hen:\n"
+                       "  - J(pig) P(a)\n"
+                       "  pig:\n"
+                       "  - $c := 1\n"),
+              "cow: $_busy==1? J(1) $_busy:=0 $a:=1 $b:=2\n"
+              "cow: $a:=1 $b:=2\n"
+              "hen: J(pig) P(a) $_busy:=1\n"
+              "pig: $c:=1\n"
+              "1:\n");
+}
+
+TEST(EndsAtOnce, ACircleWithoutSoundIsStillEnded)
+{
+    EXPECT_EQ(withEnds("  cow:\n"
+                       "  - J(asm1) $a := 1\n"
+                       "  asm1:\n"
+                       "  - $b := 2\n"
+                       "  hen:\n"
+                       "  - J(asm2) $c += 1\n"
+                       "  asm2:\n"
+                       "  - J(hen) $c += $a\n"),
+              "cow: J(1) $a:=1 $b:=2\n"
+              "hen: J(hen) $c+=1 $c+=$a\n"
+              "1:\n");
+}
+
+TEST(EndsAtOnce, WhatIsKeptMayPlayAnything)
+{
+    EXPECT_EQ(withEnds("  cow:\n"
+                       "  - J(asm1) $a := 1\n"
+                       "  asm1:\n"
+                       "  - $b := 2\n"
+                       "  hen:\n"
+                       "  - T($c, 5) P(a) J(cow)\n"),
+              "cow: J(1) $a:=1 $b:=2\n"
+              "hen: J(cow) P(a) T($c,5)\n"
+              "1:\n");
 }
 
 TEST(Temporaries, WhatTheLastTapLeftThereCounts)
