@@ -4,6 +4,7 @@
 #include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
+#include "speech/SpeechIndex.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -60,6 +61,14 @@ bool copyUnlessThere(const QString& source, const QString& target)
     return QFile::exists(target) ||
            (QFileInfo(target).dir().mkpath(".") &&
             FileSystem::copyFileContent(source.toStdString(), target.toStdString()));
+}
+
+// Where the target has an index of its own, that was not copied.
+bool takeIndexAlong(const std::string& source, const std::string& target)
+{
+    SpeechIndex index(target);
+    index.takeOver(SpeechIndex(source));
+    return !index.isChanged() || index.save();
 }
 
 }  // namespace
@@ -176,6 +185,7 @@ void CompanionFiles::followAudio(const std::string& target, Outcome& outcome)
             complete = copyUnlessThere(from.filePath(file), QDir(native(target)).filePath(file)) &&
                        complete;
         }
+        complete = takeIndexAlong(audio, target) && complete;
     }
     if (complete) {
         audio = target;

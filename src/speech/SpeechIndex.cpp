@@ -7,6 +7,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <optional>
+
 #include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
 #include "speech/AudioFile.h"
@@ -182,6 +184,26 @@ bool SpeechIndex::remember(const std::string& audioName, const Utterance& spoken
 void SpeechIndex::forget(const std::string& audioName)
 {
     changed = entries.erase(audioName) != 0 || changed;
+}
+
+void SpeechIndex::takeOver(const SpeechIndex& other)
+{
+    for (const auto& [name, entry] : other.entries) {
+        if (spokenInto(name) != nullptr) {
+            continue;
+        }
+        const auto before = entries.find(name);
+        const std::optional<Entry> own =
+            before != entries.end() ? std::make_optional(before->second) : std::nullopt;
+        entries[name] = entry;
+        if (spokenInto(name) != nullptr) {
+            changed = true;
+        } else if (own) {
+            entries[name] = *own;
+        } else {
+            entries.erase(name);
+        }
+    }
 }
 
 std::string SpeechIndex::asText() const

@@ -38,6 +38,9 @@ public:
     // file cannot be read.
     bool remember(const std::string& audioName, const Utterance& spoken);
     void forget(const std::string& audioName);
+    // After files of another folder were copied into this one: notes what the index there says of
+    // those that are the same here.
+    void takeOver(const SpeechIndex& other);
     // True when something is noted that is not saved.
     bool isChanged() const { return changed; }
     // Writes the index, whole or not at all; a damaged one is kept beside it under another name. A

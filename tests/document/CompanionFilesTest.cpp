@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
+#include "speech/SpeechIndex.h"
 #include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
 
@@ -278,6 +279,43 @@ TEST_F(Companions, AfterANoItsOwnPictureFollowsItsPageWhenThatIsMoved)
     EXPECT_EQ(save("there/book.oidpro", 901), "");
     EXPECT_EQ(readFile(folder.file("there/901-bkgnd0.jpg")), "meadow");
     EXPECT_EQ(readFile(folder.file("there/901-bkgnd1.jpg")), "cover");
+}
+
+TEST_F(Companions, WhatWasSpokenIsKnownThere)
+{
+    Utterance said;
+    said.text = "Moo!";
+    SpeechIndex index(folder.file("here/900-audio"));
+    index.remember("moo", said);
+    ASSERT_TRUE(index.save());
+    EXPECT_EQ(save("there/book.oidpro", 905), "");
+    EXPECT_NE(SpeechIndex(folder.file("there/905-audio")).spokenInto("moo"), nullptr);
+}
+
+TEST_F(Companions, WhatWasSpokenIsKnownAlsoWhereOtherFilesAre)
+{
+    for (const char* const file :
+         {"here/900-audio/baa", "here/905-audio/baa", "here/905-audio/own"}) {
+        fs::create_directory(folder.file("here/905-audio"));
+        writeFile(folder.file(file) + std::string(".ogg"), file);
+    }
+    setTime(folder.file("here/905-audio/baa.ogg"), "2024-05-31 14:05:40");
+    Utterance said;
+    SpeechIndex index(folder.file("here/900-audio"));
+    index.remember("moo", said);
+    index.remember("baa", said);
+    ASSERT_TRUE(index.save());
+    SpeechIndex other(folder.file("here/905-audio"));
+    other.remember("own", said);
+    ASSERT_TRUE(other.save());
+
+    companions.areBeside(project);
+    project.productId = 905;
+    std::ignore = companions.follow(project, [](const std::string&) { return false; });
+    SpeechIndex there(folder.file("here/905-audio"));
+    EXPECT_NE(there.spokenInto("moo"), nullptr);
+    EXPECT_NE(there.spokenInto("own"), nullptr);
+    EXPECT_EQ(there.spokenInto("baa"), nullptr);  // it was not copied
 }
 
 TEST_F(Companions, APictureThatWasPutBackIsFoundWhereItIsNow)
