@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "speech/SpeechTexts.h"
+
+// A sheet to read a book's texts from, for somebody who records them elsewhere: the voices one
+// after the other, their texts numbered. A recording finds its text again by this number.
+struct ReadingSheet
+{
+    struct Line
+    {
+        int number;   // from 1, through the whole sheet
+        size_t text;  // in the texts that the sheet was made of
+    };
+    struct Voice
+    {
+        std::string name;
+        std::vector<Line> lines;
+    };
+
+    std::vector<Voice> voices;  // in the order in which they speak first
+};
+
+// Texts are in the order of their use. One that the pen never says, because another one has its
+// audio name, is not on the sheet.
+ReadingSheet readingSheetOf(const std::vector<SpeechText>& texts);
+
+// The sheet as a text: each voice with its name, and below it a line for each text.
+std::string asPlainText(const ReadingSheet& sheet, const std::vector<SpeechText>& texts);
