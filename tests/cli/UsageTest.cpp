@@ -26,6 +26,7 @@ TEST(Usage, HelpNamesEveryCommandOnStandardOutput)
           "\n  print PROJECT [--picture N]\n", "\n  tile OID -o FILE [--size PIXELS]\n",
           "\n  assemble FILE.yaml [OUT.gme] [-o OUT.gme] [--quick] [--no-date] [--latin1]\n",
           "\n  build PROJECT [--debug] [--quick] [--plain]\n", "\n  copy PROJECT\n",
+          "\n  speech PROJECT list|speak|import FOLDER|tidy|even-out [--json] [--dry-run]\n",
           "\n  play FILE.gme|PROJECT [--seed N] [--json]\n",
           "\n  test PROJECT [FILE...] [--coverage] [--explore N] [--seed N]\n"}) {
         EXPECT_THAT(run.out, HasSubstr(usage));

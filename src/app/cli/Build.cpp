@@ -1,24 +1,11 @@
-#include <cstdio>
-
 #include "app/cli/Commands.h"
+#include "app/cli/SpeechProgress.h"
 #include "base/PlatformProcess.h"
 #include "oid/OpenProject.h"
 #include "programs/TerminalRunner.h"
 #include "publish/BuildDriver.h"
 
 namespace {
-
-// "3/12" while the third of twelve new texts is made, in a line that the next output overwrites.
-bool showProgress(int done, int total)
-{
-    if (done < total) {
-        printf("%d/%d\r", done + 1, total);
-    } else {
-        printf("%*s\r", 2 * static_cast<int>(std::to_string(total).size()) + 1, "");
-    }
-    fflush(stdout);
-    return true;
-}
 
 Answers answersFor(const Arguments& arguments)
 {
@@ -41,7 +28,9 @@ int build(const Arguments& arguments)
     BuildOptions options;
     options.answers = answersFor(arguments);
     if (Platform::standardOutputIsTerminal()) {
-        options.createSoundFiles = [&] { return createSoundFiles(project, runner, showProgress); };
+        options.createSoundFiles = [&] {
+            return createSoundFiles(project, runner, showSpeechProgress);
+        };
     }
     const bool complete = buildGame(project, arguments.has("--debug"), runner, options);
     runner.waitForEnd();  // of the assembler

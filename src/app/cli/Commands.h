@@ -36,6 +36,7 @@ Command buildCommand();
 Command copyCommand();
 Command playCommand();
 Command testCommand();
+Command speechCommand();
 
 // Reports what is wrong with the command line on standard error and returns kUsageError.
 int usageError(const std::string& message);

@@ -23,7 +23,7 @@ std::vector<Command> commands()
 {
     return {checkCommand(),   yamlCommand(),     saveCommand(), printCommand(), pdfCommand(),
             symbolsCommand(), testPageCommand(), readCommand(), tileCommand(),  assembleCommand(),
-            buildCommand(),   copyCommand(),     playCommand(), testCommand()};
+            buildCommand(),   copyCommand(),     playCommand(), testCommand(),  speechCommand()};
 }
 
 // "  check PROJECT [--debug]", its summary, and a line for each option.
