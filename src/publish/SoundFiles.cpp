@@ -45,6 +45,8 @@ public:
           engines(currentEngines())
     {}
 
+    // Removes what a build left that was killed while it converted: a part of an audio file.
+    void removeCutOff();
     // Removes the files that we spoke when text or voice were others.
     void removeStale();
     // Makes what is missing.
@@ -64,6 +66,10 @@ private:
         std::string refused;  // why it has no file
     };
 
+    std::string speechFileOf(const std::string& audioName) const
+    {
+        return folder + FileSystem::directorySeparator + audioName + ".wav";
+    }
     std::list<Making> missing() const;
     std::optional<ProgramCall> next(Making& text, int exitCode);
     std::optional<ProgramCall> speak(Making& text) const;
@@ -87,6 +93,22 @@ private:
     bool indexFails = false;  // which was told
     bool complete = true;
 };
+
+// --- What is cut off -----------------------------------------------------------------------------
+
+// Only beside its speech file, which goes when the audio file is whole. So it is none of the
+// author's.
+void AudioMaker::removeCutOff()
+{
+    for (const auto& [audioName, said] : project.compiler.talkTexts) {
+        const std::string sound = audioFileIn(folder, audioName);
+        if (FileSystem::doesFileExist(speechFileOf(audioName)) && isCutOff(sound) &&
+            FileSystem::deleteFile(sound)) {
+            index.forget(audioName);
+            tell("The audio file of '" + shown(said.text) + "' is cut off and is made again");
+        }
+    }
+}
 
 // --- What is out of date -------------------------------------------------------------------------
 
@@ -145,7 +167,7 @@ std::list<AudioMaker::Making> AudioMaker::missing() const
             Making& text = texts.emplace_back();
             text.audioName = audioName;
             text.said = utteranceOf(said, project.compiler.voices.at(said.voice), engines);
-            text.speech = folder + FileSystem::directorySeparator + audioName + ".wav";
+            text.speech = speechFileOf(audioName);
             text.sound = file;
         }
     }
@@ -272,6 +294,7 @@ SpeechOutcome createSoundFiles(const Oid::OidProject& project, ProcessRunner& ru
     const FileSystem::WorkingFolder sameAfterwards;
     putToolsOnPath();
     AudioMaker maker(project, runner);
+    maker.removeCutOff();
     maker.removeStale();
     const SpeechOutcome outcome = maker.makeMissing(progress);
     maker.keepWhatIsNoted();

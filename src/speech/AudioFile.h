@@ -11,6 +11,10 @@ std::string audioFileIn(const std::string& folder, const std::string& audioName)
 // WAV.
 double secondsOf(const std::string& path);
 
+// Whether an Ogg file does not end with the last page of its stream: who wrote it was stopped. An
+// empty file is one, too; a file of another kind is not.
+bool isCutOff(const std::string& path);
+
 // Why a text can have no audio file that is made for it.
 enum class Refusal {
     none,

@@ -399,6 +399,53 @@ TEST_F(SoundFiles, HalfAnOggFileOfAFailedConversionIsRemoved)
     EXPECT_TRUE(fs::exists(audio("say_eve_Hi.wav")));
 }
 
+// Ogg files of one page each, as they are written by a converter.
+static std::string oggPage(bool isLast)
+{
+    std::string page(27, '\0');
+    page.replace(0, 4, "OggS");
+    page[5] = isLast ? 4 : 0;
+    page[26] = 1;
+    return page + '\5' + "sound";
+}
+
+TEST_F(SoundFiles, HalfAnOggFileOfABuildThatWasKilledIsMadeAgain)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    fs::create_directory(audio(""));
+    std::string told;
+    for (const std::string& half :
+         {std::string(), oggPage(false), oggPage(false) + oggPage(true).substr(0, 30)}) {
+        writeFile(audio("say_eve_Hi.wav"), "speech");
+        writeFile(audio("say_eve_Hi.ogg"), half);
+        EXPECT_EQ(create(), SpeechOutcome::complete);
+        EXPECT_EQ(readFile(audio("say_eve_Hi.ogg")), "sound");
+        told += "The audio file of 'Hi' is cut off and is made again\n";
+        EXPECT_EQ(runner.shown(), told);
+    }
+}
+
+TEST_F(SoundFiles, AWholeOggFileStaysAlsoBesideItsSpeech)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    fs::create_directory(audio(""));
+    const std::string whole = oggPage(false) + oggPage(true);
+    writeFile(audio("say_eve_Hi.wav"), "speech");
+    writeFile(audio("say_eve_Hi.ogg"), whole);
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_EQ(readFile(audio("say_eve_Hi.ogg")), whole);
+    EXPECT_EQ(runner.shown(), "");
+}
+
+TEST_F(SoundFiles, HalfAnOggFileOfTheAuthorsStays)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    fs::create_directory(audio(""));
+    writeFile(audio("say_eve_Hi.ogg"), oggPage(false));
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_EQ(readFile(audio("say_eve_Hi.ogg")), oggPage(false));
+}
+
 TEST_F(SoundFiles, AProgramThatDoesNotStartStopsNothing)
 {
     say("say_eve_Hi", "eve", "Hi");
