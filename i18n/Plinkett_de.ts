@@ -718,6 +718,10 @@
         <translation>Gespeichert: %1</translation>
     </message>
     <message>
+        <source>The script declares the new voice in its first line now.</source>
+        <translation>Das Skript hat die neue Stimme jetzt in seiner ersten Zeile.</translation>
+    </message>
+    <message>
         <source>Not saved: %1</source>
         <translation>Nicht gespeichert: %1</translation>
     </message>
@@ -2249,12 +2253,68 @@
         <translation>Alle Stimmen</translation>
     </message>
     <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Ends what is being made; what is done stays</source>
+        <translation>Beendet, was gerade gemacht wird; was fertig ist, bleibt</translation>
+    </message>
+    <message>
         <source>&amp;Play</source>
         <translation>Abs&amp;pielen</translation>
     </message>
     <message>
         <source>Plays the selected texts, one after the other, or stops</source>
         <translation>Spielt die ausgewählten Texte nacheinander ab oder hört damit auf</translation>
+    </message>
+    <message>
+        <source>&amp;Speak</source>
+        <translation>&amp;Sprechen</translation>
+    </message>
+    <message>
+        <source>Has the selected texts spoken that are missing or out of date; without a selection all of them</source>
+        <translation>Lässt die ausgewählten Texte sprechen, die fehlen oder veraltet sind; ohne Auswahl alle</translation>
+    </message>
+    <message>
+        <source>Re&amp;cord...</source>
+        <translation>&amp;Aufnehmen...</translation>
+    </message>
+    <message>
+        <source>Records texts with the microphone, one after the other</source>
+        <translation>Nimmt Texte mit dem Mikrofon auf, einen nach dem anderen</translation>
+    </message>
+    <message>
+        <source>&amp;Use file...</source>
+        <translation>&amp;Datei nehmen...</translation>
+    </message>
+    <message>
+        <source>Takes a sound file for the selected text; one can also be dropped on a row</source>
+        <translation>Nimmt eine Tondatei für den ausgewählten Text; man kann sie auch auf eine Zeile ziehen</translation>
+    </message>
+    <message>
+        <source>Take &amp;back</source>
+        <translation>&amp;Zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Puts the selected recordings into the trash, so that the texts are spoken again</source>
+        <translation>Legt die ausgewählten Aufnahmen in den Papierkorb, so dass die Texte wieder gesprochen werden</translation>
+    </message>
+    <message>
+        <source>&amp;Even out</source>
+        <translation>An&amp;gleichen</translation>
+    </message>
+    <message>
+        <source>Makes the selected texts equally loud; without a selection all</source>
+        <translation>Macht die ausgewählten Texte gleich laut; ohne Auswahl alle</translation>
+    </message>
+    <message>
+        <source>Try &amp;voices...</source>
+        <translation>S&amp;timmen probieren...</translation>
+    </message>
+    <message>
+        <source>Lets you hear one sentence in many voices</source>
+        <translation>Lässt einen Satz in vielen Stimmen hören</translation>
     </message>
     <message>
         <source>Save the project first: its audio files lie in a folder beside it.</source>
@@ -2284,6 +2344,50 @@
         <source>This text has no audio file yet.</source>
         <translation>Dieser Text hat noch keine Audiodatei.</translation>
     </message>
+    <message>
+        <source>Wait until what is being made is done.</source>
+        <translation>Warten Sie, bis fertig ist, was gerade gemacht wird.</translation>
+    </message>
+    <message>
+        <source>Speaking...</source>
+        <translation>Wird gesprochen...</translation>
+    </message>
+    <message>
+        <source>Making the texts equally loud...</source>
+        <translation>Die Texte werden gleich laut gemacht...</translation>
+    </message>
+    <message>
+        <source>Use file</source>
+        <translation>Datei nehmen</translation>
+    </message>
+    <message>
+        <source>Sound files</source>
+        <translation>Tondateien</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>This text can have no file: %1.</source>
+        <translation>Dieser Text kann keine Datei haben: %1.</translation>
+    </message>
+    <message>
+        <source>Taking the file...</source>
+        <translation>Die Datei wird übernommen...</translation>
+    </message>
+    <message>
+        <source>%1 stays: it cannot be moved to the trash.</source>
+        <translation>%1 bleibt: Die Datei kann nicht in den Papierkorb verschoben werden.</translation>
+    </message>
+    <message>
+        <source>1 recording is in the trash.</source>
+        <translation>1 Aufnahme ist im Papierkorb.</translation>
+    </message>
+    <message>
+        <source>%1 recordings are in the trash.</source>
+        <translation>%1 Aufnahmen sind im Papierkorb.</translation>
+    </message>
 </context>
 <context>
     <name>SpeechView</name>
@@ -2294,6 +2398,49 @@
     <message>
         <source>Space plays a text, Enter goes to its line in the script</source>
         <translation>Die Leertaste spielt einen Text ab, die Eingabetaste geht zu seiner Zeile im Skript</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechJobs</name>
+    <message>
+        <source>The text was spoken.</source>
+        <translation>Der Text wurde gesprochen.</translation>
+    </message>
+    <message>
+        <source>%1 texts were spoken.</source>
+        <translation>%1 Texte wurden gesprochen.</translation>
+    </message>
+    <message>
+        <source>Speaking was cancelled. &quot;Speak&quot; goes on where it stopped.</source>
+        <translation>Das Sprechen wurde abgebrochen. „Sprechen“ macht dort weiter.</translation>
+    </message>
+    <message>
+        <source>Not all texts could be spoken:</source>
+        <translation>Nicht alle Texte konnten gesprochen werden:</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>1 recording was taken.</source>
+        <translation>1 Aufnahme wurde übernommen.</translation>
+    </message>
+    <message>
+        <source>%1 recordings were taken.</source>
+        <translation>%1 Aufnahmen wurden übernommen.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written.</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>1 audio file was made as loud as all are to be.</source>
+        <translation>1 Audiodatei wurde so laut gemacht, wie alle sein sollen.</translation>
+    </message>
+    <message>
+        <source>%1 audio files were made as loud as all are to be.</source>
+        <translation>%1 Audiodateien wurden so laut gemacht, wie alle sein sollen.</translation>
     </message>
 </context>
 <context>

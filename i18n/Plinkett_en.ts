@@ -718,6 +718,10 @@
         <translation>Saved: %1</translation>
     </message>
     <message>
+        <source>The script declares the new voice in its first line now.</source>
+        <translation>The script declares the new voice in its first line now.</translation>
+    </message>
+    <message>
         <source>Not saved: %1</source>
         <translation>Not saved: %1</translation>
     </message>
@@ -2249,12 +2253,68 @@
         <translation>All voices</translation>
     </message>
     <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Ends what is being made; what is done stays</source>
+        <translation>Ends what is being made; what is done stays</translation>
+    </message>
+    <message>
         <source>&amp;Play</source>
         <translation>&amp;Play</translation>
     </message>
     <message>
         <source>Plays the selected texts, one after the other, or stops</source>
         <translation>Plays the selected texts, one after the other, or stops</translation>
+    </message>
+    <message>
+        <source>&amp;Speak</source>
+        <translation>&amp;Speak</translation>
+    </message>
+    <message>
+        <source>Has the selected texts spoken that are missing or out of date; without a selection all of them</source>
+        <translation>Has the selected texts spoken that are missing or out of date; without a selection all of them</translation>
+    </message>
+    <message>
+        <source>Re&amp;cord...</source>
+        <translation>Re&amp;cord...</translation>
+    </message>
+    <message>
+        <source>Records texts with the microphone, one after the other</source>
+        <translation>Records texts with the microphone, one after the other</translation>
+    </message>
+    <message>
+        <source>&amp;Use file...</source>
+        <translation>&amp;Use file...</translation>
+    </message>
+    <message>
+        <source>Takes a sound file for the selected text; one can also be dropped on a row</source>
+        <translation>Takes a sound file for the selected text; one can also be dropped on a row</translation>
+    </message>
+    <message>
+        <source>Take &amp;back</source>
+        <translation>Take &amp;back</translation>
+    </message>
+    <message>
+        <source>Puts the selected recordings into the trash, so that the texts are spoken again</source>
+        <translation>Puts the selected recordings into the trash, so that the texts are spoken again</translation>
+    </message>
+    <message>
+        <source>&amp;Even out</source>
+        <translation>&amp;Even out</translation>
+    </message>
+    <message>
+        <source>Makes the selected texts equally loud; without a selection all</source>
+        <translation>Makes the selected texts equally loud; without a selection all</translation>
+    </message>
+    <message>
+        <source>Try &amp;voices...</source>
+        <translation>Try &amp;voices...</translation>
+    </message>
+    <message>
+        <source>Lets you hear one sentence in many voices</source>
+        <translation>Lets you hear one sentence in many voices</translation>
     </message>
     <message>
         <source>Save the project first: its audio files lie in a folder beside it.</source>
@@ -2284,6 +2344,50 @@
         <source>This text has no audio file yet.</source>
         <translation>This text has no audio file yet.</translation>
     </message>
+    <message>
+        <source>Wait until what is being made is done.</source>
+        <translation>Wait until what is being made is done.</translation>
+    </message>
+    <message>
+        <source>Speaking...</source>
+        <translation>Speaking...</translation>
+    </message>
+    <message>
+        <source>Making the texts equally loud...</source>
+        <translation>Making the texts equally loud...</translation>
+    </message>
+    <message>
+        <source>Use file</source>
+        <translation>Use file</translation>
+    </message>
+    <message>
+        <source>Sound files</source>
+        <translation>Sound files</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>All files</translation>
+    </message>
+    <message>
+        <source>This text can have no file: %1.</source>
+        <translation>This text can have no file: %1.</translation>
+    </message>
+    <message>
+        <source>Taking the file...</source>
+        <translation>Taking the file...</translation>
+    </message>
+    <message>
+        <source>%1 stays: it cannot be moved to the trash.</source>
+        <translation>%1 stays: it cannot be moved to the trash.</translation>
+    </message>
+    <message>
+        <source>1 recording is in the trash.</source>
+        <translation>1 recording is in the trash.</translation>
+    </message>
+    <message>
+        <source>%1 recordings are in the trash.</source>
+        <translation>%1 recordings are in the trash.</translation>
+    </message>
 </context>
 <context>
     <name>SpeechView</name>
@@ -2294,6 +2398,49 @@
     <message>
         <source>Space plays a text, Enter goes to its line in the script</source>
         <translation>Space plays a text, Enter goes to its line in the script</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechJobs</name>
+    <message>
+        <source>The text was spoken.</source>
+        <translation>The text was spoken.</translation>
+    </message>
+    <message>
+        <source>%1 texts were spoken.</source>
+        <translation>%1 texts were spoken.</translation>
+    </message>
+    <message>
+        <source>Speaking was cancelled. &quot;Speak&quot; goes on where it stopped.</source>
+        <translation>Speaking was cancelled. &quot;Speak&quot; goes on where it stopped.</translation>
+    </message>
+    <message>
+        <source>Not all texts could be spoken:</source>
+        <translation>Not all texts could be spoken:</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Cancelled.</translation>
+    </message>
+    <message>
+        <source>1 recording was taken.</source>
+        <translation>1 recording was taken.</translation>
+    </message>
+    <message>
+        <source>%1 recordings were taken.</source>
+        <translation>%1 recordings were taken.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written.</source>
+        <translation>The file %1 cannot be written.</translation>
+    </message>
+    <message>
+        <source>1 audio file was made as loud as all are to be.</source>
+        <translation>1 audio file was made as loud as all are to be.</translation>
+    </message>
+    <message>
+        <source>%1 audio files were made as loud as all are to be.</source>
+        <translation>%1 audio files were made as loud as all are to be.</translation>
     </message>
 </context>
 <context>

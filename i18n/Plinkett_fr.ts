@@ -718,6 +718,10 @@
         <translation>Enregistré : %1</translation>
     </message>
     <message>
+        <source>The script declares the new voice in its first line now.</source>
+        <translation>Le script déclare maintenant la nouvelle voix à sa première ligne.</translation>
+    </message>
+    <message>
         <source>Not saved: %1</source>
         <translation>Non enregistré : %1</translation>
     </message>
@@ -2249,12 +2253,68 @@
         <translation>Toutes les voix</translation>
     </message>
     <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Ends what is being made; what is done stays</source>
+        <translation>Arrête le travail en cours ; ce qui est fait reste</translation>
+    </message>
+    <message>
         <source>&amp;Play</source>
         <translation>&amp;Lire</translation>
     </message>
     <message>
         <source>Plays the selected texts, one after the other, or stops</source>
         <translation>Lit les textes sélectionnés l&apos;un après l&apos;autre, ou arrête</translation>
+    </message>
+    <message>
+        <source>&amp;Speak</source>
+        <translation>&amp;Synthétiser</translation>
+    </message>
+    <message>
+        <source>Has the selected texts spoken that are missing or out of date; without a selection all of them</source>
+        <translation>Fait lire les textes sélectionnés qui manquent ou sont périmés ; sans sélection, tous</translation>
+    </message>
+    <message>
+        <source>Re&amp;cord...</source>
+        <translation>&amp;Enregistrer...</translation>
+    </message>
+    <message>
+        <source>Records texts with the microphone, one after the other</source>
+        <translation>Enregistre les textes au microphone, l&apos;un après l&apos;autre</translation>
+    </message>
+    <message>
+        <source>&amp;Use file...</source>
+        <translation>&amp;Utiliser un fichier...</translation>
+    </message>
+    <message>
+        <source>Takes a sound file for the selected text; one can also be dropped on a row</source>
+        <translation>Prend un fichier son pour le texte sélectionné ; on peut aussi le déposer sur une ligne</translation>
+    </message>
+    <message>
+        <source>Take &amp;back</source>
+        <translation>Re&amp;tirer</translation>
+    </message>
+    <message>
+        <source>Puts the selected recordings into the trash, so that the texts are spoken again</source>
+        <translation>Met les enregistrements sélectionnés à la corbeille, pour que les textes soient de nouveau lus</translation>
+    </message>
+    <message>
+        <source>&amp;Even out</source>
+        <translation>&amp;Harmoniser</translation>
+    </message>
+    <message>
+        <source>Makes the selected texts equally loud; without a selection all</source>
+        <translation>Met les textes sélectionnés au même volume ; sans sélection, tous</translation>
+    </message>
+    <message>
+        <source>Try &amp;voices...</source>
+        <translation>Essayer les &amp;voix...</translation>
+    </message>
+    <message>
+        <source>Lets you hear one sentence in many voices</source>
+        <translation>Fait entendre une phrase dans de nombreuses voix</translation>
     </message>
     <message>
         <source>Save the project first: its audio files lie in a folder beside it.</source>
@@ -2284,6 +2344,50 @@
         <source>This text has no audio file yet.</source>
         <translation>Ce texte n&apos;a pas encore de fichier audio.</translation>
     </message>
+    <message>
+        <source>Wait until what is being made is done.</source>
+        <translation>Attendez que le travail en cours soit terminé.</translation>
+    </message>
+    <message>
+        <source>Speaking...</source>
+        <translation>Lecture...</translation>
+    </message>
+    <message>
+        <source>Making the texts equally loud...</source>
+        <translation>Mise au même volume...</translation>
+    </message>
+    <message>
+        <source>Use file</source>
+        <translation>Utiliser un fichier</translation>
+    </message>
+    <message>
+        <source>Sound files</source>
+        <translation>Fichiers son</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Tous les fichiers</translation>
+    </message>
+    <message>
+        <source>This text can have no file: %1.</source>
+        <translation>Ce texte ne peut pas avoir de fichier : %1.</translation>
+    </message>
+    <message>
+        <source>Taking the file...</source>
+        <translation>Reprise du fichier...</translation>
+    </message>
+    <message>
+        <source>%1 stays: it cannot be moved to the trash.</source>
+        <translation>%1 reste : le fichier ne peut pas être mis à la corbeille.</translation>
+    </message>
+    <message>
+        <source>1 recording is in the trash.</source>
+        <translation>1 enregistrement est dans la corbeille.</translation>
+    </message>
+    <message>
+        <source>%1 recordings are in the trash.</source>
+        <translation>%1 enregistrements sont dans la corbeille.</translation>
+    </message>
 </context>
 <context>
     <name>SpeechView</name>
@@ -2294,6 +2398,49 @@
     <message>
         <source>Space plays a text, Enter goes to its line in the script</source>
         <translation>Espace lit un texte, Entrée va à sa ligne dans le script</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechJobs</name>
+    <message>
+        <source>The text was spoken.</source>
+        <translation>Le texte a été lu.</translation>
+    </message>
+    <message>
+        <source>%1 texts were spoken.</source>
+        <translation>%1 textes ont été lus.</translation>
+    </message>
+    <message>
+        <source>Speaking was cancelled. &quot;Speak&quot; goes on where it stopped.</source>
+        <translation>La lecture a été annulée. « Synthétiser » reprend là où elle s&apos;est arrêtée.</translation>
+    </message>
+    <message>
+        <source>Not all texts could be spoken:</source>
+        <translation>Tous les textes n&apos;ont pas pu être lus :</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Annulé.</translation>
+    </message>
+    <message>
+        <source>1 recording was taken.</source>
+        <translation>1 enregistrement a été repris.</translation>
+    </message>
+    <message>
+        <source>%1 recordings were taken.</source>
+        <translation>%1 enregistrements ont été repris.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written.</source>
+        <translation>Le fichier %1 ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>1 audio file was made as loud as all are to be.</source>
+        <translation>1 fichier audio a été mis au volume commun.</translation>
+    </message>
+    <message>
+        <source>%1 audio files were made as loud as all are to be.</source>
+        <translation>%1 fichiers audio ont été mis au volume commun.</translation>
     </message>
 </context>
 <context>

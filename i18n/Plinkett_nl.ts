@@ -718,6 +718,10 @@
         <translation>Opgeslagen: %1</translation>
     </message>
     <message>
+        <source>The script declares the new voice in its first line now.</source>
+        <translation>Het script heeft de nieuwe stem nu op de eerste regel.</translation>
+    </message>
+    <message>
         <source>Not saved: %1</source>
         <translation>Niet opgeslagen: %1</translation>
     </message>
@@ -2249,12 +2253,68 @@
         <translation>Alle stemmen</translation>
     </message>
     <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Ends what is being made; what is done stays</source>
+        <translation>Beëindigt wat nu wordt gemaakt; wat klaar is, blijft</translation>
+    </message>
+    <message>
         <source>&amp;Play</source>
         <translation>Afs&amp;pelen</translation>
     </message>
     <message>
         <source>Plays the selected texts, one after the other, or stops</source>
         <translation>Speelt de geselecteerde teksten na elkaar af, of stopt</translation>
+    </message>
+    <message>
+        <source>&amp;Speak</source>
+        <translation>&amp;Spreken</translation>
+    </message>
+    <message>
+        <source>Has the selected texts spoken that are missing or out of date; without a selection all of them</source>
+        <translation>Laat de geselecteerde teksten spreken die ontbreken of verouderd zijn; zonder selectie alle</translation>
+    </message>
+    <message>
+        <source>Re&amp;cord...</source>
+        <translation>&amp;Opnemen...</translation>
+    </message>
+    <message>
+        <source>Records texts with the microphone, one after the other</source>
+        <translation>Neemt teksten op met de microfoon, de ene na de andere</translation>
+    </message>
+    <message>
+        <source>&amp;Use file...</source>
+        <translation>&amp;Bestand gebruiken...</translation>
+    </message>
+    <message>
+        <source>Takes a sound file for the selected text; one can also be dropped on a row</source>
+        <translation>Neemt een geluidsbestand voor de geselecteerde tekst; u kunt het ook op een rij slepen</translation>
+    </message>
+    <message>
+        <source>Take &amp;back</source>
+        <translation>&amp;Terugnemen</translation>
+    </message>
+    <message>
+        <source>Puts the selected recordings into the trash, so that the texts are spoken again</source>
+        <translation>Legt de geselecteerde opnamen in de prullenbak, zodat de teksten weer worden gesproken</translation>
+    </message>
+    <message>
+        <source>&amp;Even out</source>
+        <translation>&amp;Gelijk maken</translation>
+    </message>
+    <message>
+        <source>Makes the selected texts equally loud; without a selection all</source>
+        <translation>Maakt de geselecteerde teksten even luid; zonder selectie alle</translation>
+    </message>
+    <message>
+        <source>Try &amp;voices...</source>
+        <translation>Ste&amp;mmen proberen...</translation>
+    </message>
+    <message>
+        <source>Lets you hear one sentence in many voices</source>
+        <translation>Laat één zin in veel stemmen horen</translation>
     </message>
     <message>
         <source>Save the project first: its audio files lie in a folder beside it.</source>
@@ -2284,6 +2344,50 @@
         <source>This text has no audio file yet.</source>
         <translation>Deze tekst heeft nog geen audiobestand.</translation>
     </message>
+    <message>
+        <source>Wait until what is being made is done.</source>
+        <translation>Wacht tot klaar is wat nu wordt gemaakt.</translation>
+    </message>
+    <message>
+        <source>Speaking...</source>
+        <translation>Wordt gesproken...</translation>
+    </message>
+    <message>
+        <source>Making the texts equally loud...</source>
+        <translation>De teksten worden even luid gemaakt...</translation>
+    </message>
+    <message>
+        <source>Use file</source>
+        <translation>Bestand gebruiken</translation>
+    </message>
+    <message>
+        <source>Sound files</source>
+        <translation>Geluidsbestanden</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle bestanden</translation>
+    </message>
+    <message>
+        <source>This text can have no file: %1.</source>
+        <translation>Deze tekst kan geen bestand hebben: %1.</translation>
+    </message>
+    <message>
+        <source>Taking the file...</source>
+        <translation>Het bestand wordt overgenomen...</translation>
+    </message>
+    <message>
+        <source>%1 stays: it cannot be moved to the trash.</source>
+        <translation>%1 blijft: het bestand kan niet naar de prullenbak.</translation>
+    </message>
+    <message>
+        <source>1 recording is in the trash.</source>
+        <translation>1 opname ligt in de prullenbak.</translation>
+    </message>
+    <message>
+        <source>%1 recordings are in the trash.</source>
+        <translation>%1 opnamen liggen in de prullenbak.</translation>
+    </message>
 </context>
 <context>
     <name>SpeechView</name>
@@ -2294,6 +2398,49 @@
     <message>
         <source>Space plays a text, Enter goes to its line in the script</source>
         <translation>De spatiebalk speelt een tekst af, Enter gaat naar zijn regel in het script</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechJobs</name>
+    <message>
+        <source>The text was spoken.</source>
+        <translation>De tekst is gesproken.</translation>
+    </message>
+    <message>
+        <source>%1 texts were spoken.</source>
+        <translation>%1 teksten zijn gesproken.</translation>
+    </message>
+    <message>
+        <source>Speaking was cancelled. &quot;Speak&quot; goes on where it stopped.</source>
+        <translation>Het spreken is afgebroken. &quot;Spreken&quot; gaat daar verder.</translation>
+    </message>
+    <message>
+        <source>Not all texts could be spoken:</source>
+        <translation>Niet alle teksten konden worden gesproken:</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Afgebroken.</translation>
+    </message>
+    <message>
+        <source>1 recording was taken.</source>
+        <translation>1 opname is overgenomen.</translation>
+    </message>
+    <message>
+        <source>%1 recordings were taken.</source>
+        <translation>%1 opnamen zijn overgenomen.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written.</source>
+        <translation>Het bestand %1 kan niet worden geschreven.</translation>
+    </message>
+    <message>
+        <source>1 audio file was made as loud as all are to be.</source>
+        <translation>1 audiobestand is zo luid gemaakt als alle horen te zijn.</translation>
+    </message>
+    <message>
+        <source>%1 audio files were made as loud as all are to be.</source>
+        <translation>%1 audiobestanden zijn zo luid gemaakt als alle horen te zijn.</translation>
     </message>
 </context>
 <context>

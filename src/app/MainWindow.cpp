@@ -29,6 +29,7 @@
 #include "page/PageScrollArea.h"
 #include "page/PageTouch.h"
 #include "qtsync/KVQtSync.h"
+#include "speech/tab/SpeechTab.h"
 #include "tryout/TryTab.h"
 #include "ttbasic/ttbasic.h"
 #include "ui_MainWindow.h"
@@ -268,6 +269,7 @@ void MainWindow::keepSettingsIn(QSettings& settings)
     findChild<CaretStatus*>()->keepSettingsIn(settings);
     docks->keepSettingsIn(settings);
     printing->keepSettingsIn(settings);
+    speechTab->keepSettingsIn(settings);
     keepQuickAnswersIn(settings);
     constexpr char kLetterSize[] = "script/letterSize";  // points
     KVQtHighlightEditCtrlInlay& script = ui->codeEditor->surface();
@@ -383,6 +385,7 @@ void MainWindow::showProject(bool opened)
     // First the index: the form would show, and later write back, the sizes of another page.
     document.restart();
     tryTab->forget();
+    speechTab->forget();
     pictureScroll->fit();
     showTopOfPicture();
     selectPolygon(-1);

@@ -15,6 +15,7 @@
 #include "publish/BuildDriver.h"
 #include "publish/PenCopy.h"
 #include "qtsync/FlowLayout.h"
+#include "speech/tab/SpeechTab.h"
 #include "ui_MainWindow.h"
 
 #include <QPointer>
@@ -218,8 +219,9 @@ void MainWindow::on_btBuild_clicked()
 void MainWindow::waitForAssembler(const std::function<void()>& done)
 {
     const auto letBuildAndCopy = [this](bool free) {
-        ui->btBuild->setEnabled(free);
+        ui->btBuild->setEnabled(free && !speechTab->isBusy());
         ui->btCopyToPen->setEnabled(free);
+        speechTab->setBuilding(!free);
     };
     const QPointer<QWidget> before = focusWidget();
     letBuildAndCopy(false);

@@ -25,6 +25,14 @@ void MainWindow::prepareSpeech()
     connect(speechTab, &SpeechTab::lineShown, this, [&script](int line) {
         script.Select({line, 1, 0});
     });
+    connect(speechTab, &SpeechTab::busyChanged, this,
+            [this](bool busy) { ui->btBuild->setEnabled(!busy && !ui->txConsole->isRunning()); });
+    connect(speechTab, &SpeechTab::statementChosen, this,
+            [this, &script](const QString& statement) {
+                script.EditParts({{{1, 1, 0}, statement + '\n'}});
+                showScriptLine(1);
+                tell(tr("The script declares the new voice in its first line now."));
+            });
     connect(speechTab, &SpeechTab::lineAsked, this, [this](int line) {
         if (line > 0) {
             showScriptLine(line);

@@ -293,6 +293,12 @@ SpeechOutcome createSoundFiles(const Oid::OidProject& project, ProcessRunner& ru
 {
     const FileSystem::WorkingFolder sameAfterwards;
     putToolsOnPath();
+    return makeSoundFiles(project, runner, progress);
+}
+
+SpeechOutcome makeSoundFiles(const Oid::OidProject& project, ProcessRunner& runner,
+                             const SpeechProgress& progress)
+{
     AudioMaker maker(project, runner);
     maker.removeCutOff();
     maker.removeStale();

@@ -28,3 +28,6 @@ enum class SpeechOutcome {
 // std::out_of_range when a text names a voice that is not declared.
 SpeechOutcome createSoundFiles(const Oid::OidProject& project, ProcessRunner& runner,
                                const SpeechProgress& progress = {});
+// The same on any thread; the tools are on PATH already.
+SpeechOutcome makeSoundFiles(const Oid::OidProject& project, ProcessRunner& runner,
+                             const SpeechProgress& progress);

@@ -304,7 +304,8 @@ private slots:
             "slTryVolume", "tryPage",   "tryConversation", "tryVariables", "tryScript",
             tabs};
         QTest::newRow("Speech") << QStringList{
-            tabs, "txSpeechSearch", "cbSpeechState", "cbSpeechVoice", "speechTable", tabs};
+            tabs, "txSpeechSearch", "cbSpeechState", "cbSpeechVoice", "speechTable", "btTryVoices",
+            tabs};
     }
 
     void everyControlIsReachedByTab()

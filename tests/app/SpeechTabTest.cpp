@@ -5,17 +5,21 @@
 #include "speech/SpeechTexts.h"
 #include "tests/app/WindowFixture.h"
 #include "tests/helpers/Environment.h"
+#include "tests/sound/FakeSpeech.h"
 #include "tests/sound/WavFile.h"
 
 #include <QAccessible>
 #include <QComboBox>
 #include <QDir>
+#include <QDragEnterEvent>
 #include <QFile>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTableView>
+#include <QUrl>
 
 namespace {
 
@@ -36,21 +40,7 @@ std::string farm(const std::string& script = kScript)
 
 enum Column { voice, text, line, length, state, play };
 
-// A loudspeaker that is a file.
-class Loudspeaker
-{
-public:
-    TemporaryFolder files;
-    ChangedVariable driver{"SDL_AUDIODRIVER", "disk"};
-    ChangedVariable output{"SDL_DISKAUDIOFILE", files.file("heard.raw")};
-
-    bool isHeard() const
-    {
-        return QFileInfo(QString::fromStdString(files.file("heard.raw"))).size() > 0;
-    }
-};
-
-class SpeechWindow : public Loudspeaker, public WindowFixture
+class SpeechWindow : public FakeSpeech, public WindowFixture
 {
 public:
     explicit SpeechWindow(const std::string& project = farm())
@@ -63,6 +53,22 @@ public:
     }
 
     void showTab() { get<QTabWidget>("ribbonTab")->setCurrentWidget(get<QWidget>("tabSpeech")); }
+    bool isHeard() const
+    {
+        return QFileInfo(QString::fromStdString(programs.file("heard.raw"))).size() > 0;
+    }
+    bool allows(const char* button) { return get<QPushButton>(button)->isEnabled(); }
+    void drop(const QString& file, QPoint point)
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(file)});
+        QDragEnterEvent enter(point, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(table().viewport(), &enter);
+        QDragMoveEvent move(point, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(table().viewport(), &move);
+        QDropEvent drop(point, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(table().viewport(), &drop);
+    }
     QTableView& table() { return *get<QTableView>("speechTable"); }
     void setScript(const QString& script)
     {
@@ -377,6 +383,148 @@ private slots:
         QVERIFY(w.table().findChildren<QWidget*>().size() < 20);
         w.table().scrollToBottom();
         QVERIFY(w.table().indexAt({5, w.table().viewport()->height() / 2}).row() > 9900);
+    }
+
+    void speakMakesTheSelectedTexts()
+    {
+        SpeechWindow w;
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        w.clickCell(1, text);
+        w.click("btSpeak");
+        QTRY_COMPARE_WITH_TIMEOUT(w.text("lbSpeechResult"), "The text was spoken.", kPatience);
+        QTRY_VERIFY_WITH_TIMEOUT(w.rows()[1].endsWith("|spoken"), kPatience);
+        QCOMPARE(w.rows()[0], kNothingSpoken[0]);
+        QVERIFY(w.log().endsWith("Mooo!\n"));
+        QVERIFY(!w.allows("btSpeak"));
+    }
+
+    void withoutASelectionAllAreSpokenThatNeedIt()
+    {
+        SpeechWindow w;
+        w.putAudio("say_adam_Moo");
+        w.putAudio("say_adam_Oink");
+        w.noteSpoken("say_adam_Oink", "Grunt");
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows().value(2), "adam|Oink|6|0.5 s|out of date", kPatience);
+        w.click("btSpeak");
+        QTRY_COMPARE_WITH_TIMEOUT(w.text("lbSpeechResult"), "3 texts were spoken.", kPatience);
+        QTRY_COMPARE_WITH_TIMEOUT(w.text("lbSpeechSummary"), "4 texts: 3 spoken, 1 recorded",
+                                  kPatience);
+    }
+
+    void whileTextsAreSpokenNothingElseIsMade()
+    {
+        SpeechWindow w;
+        w.letSpeak("while [ ! -e '" + w.programs.file("go") + "' ]; do sleep 0.05; done");
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        QVERIFY(w.allows("btBuild"));
+        w.click("btSpeak");
+        QVERIFY(!w.allows("btBuild") && !w.allows("btSpeak") && !w.allows("btRecord"));
+        QVERIFY(w.get<QWidget>("speechProgress")->isVisible());
+        w.click("btSpeechCancel");
+        QTRY_COMPARE_WITH_TIMEOUT(w.text("lbSpeechResult"),
+                                  "Speaking was cancelled. \"Speak\" goes on where it stopped.",
+                                  kPatience);
+        QVERIFY(w.allows("btBuild"));
+        QTRY_VERIFY_WITH_TIMEOUT(w.allows("btSpeak"), kPatience);
+        QVERIFY(!w.get<QWidget>("speechProgress")->isVisible());
+    }
+
+    void whatCannotBeSpokenIsTold()
+    {
+        SpeechWindow w;
+        w.letSpeak("echo 'no voice today'; exit 1");
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        w.clickCell(0, text);
+        w.click("btSpeak");
+        QTRY_VERIFY_WITH_TIMEOUT(
+            w.text("lbSpeechResult").startsWith("Not all texts could be spoken:\nno voice today"),
+            kPatience);
+        QCOMPARE(w.rows()[0], kNothingSpoken[0]);
+    }
+
+    void aFileThatIsDroppedOnARowBecomesItsRecording()
+    {
+        SpeechWindow w;
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        writeFile(w.path("mine.wav").toStdString(), wavFile(2, 44100, tone(2, 44100, 440, 1)));
+        w.drop(w.path("mine.wav"), w.cell(2, text));
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows()[2], "adam|Oink|6|1.0 s|recorded", kPatience);
+        QVERIFY(QFile::exists(w.path("mine.wav")));
+        QCOMPARE(QDir(w.path("900-audio/originals")).entryList(QDir::Files).size(), 1);
+    }
+
+    void aFileThatIsChosenBecomesTheRecording()
+    {
+        SpeechWindow w;
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        writeFile(w.path("mine.wav").toStdString(), wavFile(1, 22050, tone(1, 22050, 440, 1)));
+        QVERIFY(!w.allows("btUseFile"));
+        w.clickCell(0, text);
+        w.dialogs.chooseFile(w.path("mine.wav"));
+        w.click("btUseFile");
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows()[0], "adam|Moo|2|1.0 s|recorded", kPatience);
+    }
+
+    void aRecordingThatIsTakenBackIsInTheTrash()
+    {
+        SpeechWindow w;
+        ChangedVariable trash{"XDG_DATA_HOME", w.path("data").toStdString()};
+        QVERIFY(QDir().mkdir(w.path("data")));
+        w.putAudio("say_adam_Moo");
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows().value(0), "adam|Moo|2|0.5 s|recorded", kPatience);
+        QVERIFY(!w.allows("btTakeBack"));
+        w.clickCell(0, text);
+        w.click("btTakeBack");
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        QCOMPARE(w.text("lbSpeechResult"), "1 recording is in the trash.");
+        QVERIFY(QFile::exists(w.path("data/Trash/files/say_adam_Moo.ogg")));
+    }
+
+    void withoutATrashARecordingStays()
+    {
+        SpeechWindow w;
+        writeFile(w.path("data").toStdString(), "no folder");
+        ChangedVariable trash{"XDG_DATA_HOME", w.path("data").toStdString()};
+        w.putAudio("say_adam_Moo");
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows().value(0), "adam|Moo|2|0.5 s|recorded", kPatience);
+        w.clickCell(0, text);
+        w.click("btTakeBack");
+        QCOMPARE(w.text("lbSpeechResult"),
+                 "say_adam_Moo.ogg stays: it cannot be moved to the trash.");
+        QVERIFY(QFile::exists(w.path("900-audio/say_adam_Moo.ogg")));
+    }
+
+    void textsAreMadeEquallyLoudAndSpokenOnesStaySpoken()
+    {
+        SpeechWindow w;
+        w.putAudio("say_adam_Moo");
+        w.putAudio("say_adam_Oink");
+        w.noteSpoken("say_adam_Oink", "Oink");
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows().value(2), "adam|Oink|6|0.5 s|spoken", kPatience);
+        w.click("btEvenOut");
+        QTRY_COMPARE_WITH_TIMEOUT(w.text("lbSpeechResult"),
+                                  "2 audio files were made as loud as all are to be.", kPatience);
+        QTRY_COMPARE_WITH_TIMEOUT(w.text("lbSpeechSummary"),
+                                  "4 texts: 2 missing, 1 spoken, 1 recorded", kPatience);
+    }
+
+    void textsAreRecordedInADialog()
+    {
+        SpeechWindow w;
+        QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
+        w.clickCell(1, text);
+        w.dialogs.cancel();
+        w.click("btRecord");
+        QCOMPARE(w.dialogs.seen().last(), "Record");
+    }
+
+    void voicesAreTriedInADialog()
+    {
+        SpeechWindow w;
+        w.dialogs.cancel();
+        w.click("btTryVoices");
+        QCOMPARE(w.dialogs.seen().last(), "Try voices");
+        QVERIFY(w.script().startsWith("sub cow"));
     }
 
     void aRowIsReadToThoseWhoDoNotSeeIt()

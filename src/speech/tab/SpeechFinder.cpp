@@ -35,9 +35,10 @@ SpeechFindings SpeechSearch::find(BookState& state, const std::atomic<bool>& isC
     book.compiler = ttbasic();
     book.compiler.source = state.script.toStdString();
     book.compiler.reportTo([](const Diagnostic&) {});
-    compileScript(book.compiler, false);
 
     SpeechFindings findings;
+    compileScript(book.compiler, false);
+    findings.voices = book.compiler.voices;
     std::vector<SpeechText> texts = speechTexts(book, currentEngines());
     if (!book.projectPath.empty()) {
         const std::string folder = audioFolder(book);

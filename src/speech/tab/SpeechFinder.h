@@ -2,6 +2,7 @@
 
 #include <QHash>
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,7 @@ struct SpeechFindings
     QString audioFolder;  // native; empty while the book has no file
     std::vector<SpeechRow> rows;
     QString problem;  // with what is remembered of the files, in English; else empty
+    std::map<std::string, ttbasic::VOICE> voices;  // of the script
 };
 
 // Finds the texts of a book and their files again and again. Can be used on any thread, by one at a

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -20,15 +21,22 @@ namespace {
 
 constexpr std::array kStates = {SpeechState::missing, SpeechState::spoken, SpeechState::recorded,
                                 SpeechState::stale, SpeechState::refused};
+constexpr int kMostSentences = 4;  // the others are in the tool tip
+
+bool isRecorded(const SpeechText& text)
+{
+    return text.state == SpeechState::recorded;
+}
 
 }  // namespace
 
-SpeechTab::SpeechTab(BookSource source, QWidget* parent)
+SpeechTab::SpeechTab(BookSource bookSource, QWidget* parent)
     : QWidget(parent),
       table(new SpeechView(filter)),
       summary(new QLabel),
+      source(std::move(bookSource)),
       watch(
-          std::move(source),
+          source,
           [this](BookState& state, const std::atomic<bool>& isCancelled) {
               return search.find(state, isCancelled);
           },
@@ -42,9 +50,21 @@ SpeechTab::SpeechTab(BookSource source, QWidget* parent)
     rows->addWidget(makeFilters());
     rows->addWidget(summary);
     rows->addWidget(table, 1);
+    result = new QLabel;
+    result->setObjectName("lbSpeechResult");
+    result->setWordWrap(true);
+    result->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    result->hide();
+    rows->addWidget(result);
+    rows->addWidget(makeProgress());
     rows->addWidget(makeButtons());
     connectTable();
     connect(&files, &QFileSystemWatcher::directoryChanged, this, &SpeechTab::lookSoon);
+    connect(&work, &SpeechWork::progressed, this, [this](int done, int total) {
+        progress->setMaximum(total);
+        progress->setValue(done);
+    });
+    connect(&work, &SpeechWork::ended, this, &SpeechTab::end);
     connect(&player, &SoundPlayer::ended, this, &SpeechTab::playNext);
     connect(&player, &SoundPlayer::problem, this, &SpeechTab::told);
     connect(&player, &SoundPlayer::silent, this, &SpeechTab::told);
@@ -118,6 +138,24 @@ QAction* SpeechTab::addCommand(QLayout& row, const char* name, const QString& te
     return action;
 }
 
+QWidget* SpeechTab::makeProgress()
+{
+    progress = new QProgressBar;
+    progress->setObjectName("speechProgress");
+    auto* const cancel = new QPushButton(tr("Cancel"));
+    cancel->setObjectName("btSpeechCancel");
+    cancel->setToolTip(tr("Ends what is being made; what is done stays"));
+    cancel->setAutoDefault(false);
+    connect(cancel, &QPushButton::clicked, &work, &SpeechWork::cancel);
+    progressRow = new QWidget;
+    auto* const row = new QHBoxLayout(progressRow);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(progress, 1);
+    row->addWidget(cancel);
+    progressRow->hide();
+    return progressRow;
+}
+
 QWidget* SpeechTab::makeButtons()
 {
     auto* const buttons = new QWidget;
@@ -125,6 +163,26 @@ QWidget* SpeechTab::makeButtons()
     playing =
         addCommand(*row, "btSpeechPlay", tr("&Play"),
                    tr("Plays the selected texts, one after the other, or stops"), &SpeechTab::play);
+    speaking = addCommand(*row, "btSpeak", tr("&Speak"),
+                          tr("Has the selected texts spoken that are missing or out of date; "
+                             "without a selection all of them"),
+                          &SpeechTab::speak);
+    recording = addCommand(*row, "btRecord", tr("Re&cord..."),
+                           tr("Records texts with the microphone, one after the other"),
+                           &SpeechTab::record);
+    usingFile = addCommand(*row, "btUseFile", tr("&Use file..."),
+                           tr("Takes a sound file for the selected text; one can also be dropped "
+                              "on a row"),
+                           &SpeechTab::useFile);
+    takingBack = addCommand(*row, "btTakeBack", tr("Take &back"),
+                            tr("Puts the selected recordings into the trash, so that the texts "
+                               "are spoken again"),
+                            &SpeechTab::takeBack);
+    eveningOut = addCommand(*row, "btEvenOut", tr("&Even out"),
+                            tr("Makes the selected texts equally loud; without a selection all"),
+                            &SpeechTab::evenOut);
+    addCommand(*row, "btTryVoices", tr("Try &voices..."),
+               tr("Lets you hear one sentence in many voices"), &SpeechTab::tryVoices);
     return buttons;
 }
 
@@ -140,7 +198,8 @@ void SpeechTab::connectTable()
     });
     connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SpeechTab::allowCommands);
-    connect(&model, &SpeechModel::dataChanged, this, &SpeechTab::allowCommands);
+    connect(table, &SpeechView::fileDropped, this,
+            [this](int row, const QString& path) { adoptFile(path, textOf(row)); });
 }
 
 // Files may have come while the author was elsewhere.
@@ -164,6 +223,7 @@ void SpeechTab::show(SpeechFindings findings)
 {
     folder = findings.audioFolder;
     problem = findings.problem;
+    scriptVoices = findings.voices;
     model.show(std::move(findings.rows));
     showVoices();
     showSummary();
@@ -243,6 +303,49 @@ void SpeechTab::allowCommands()
                             return SpeechModel::hasFile(model.row(row).text);
                         }));
     playing->setText(player.isPlaying() ? tr("Sto&p") : tr("&Play"));
+
+    const bool mayMake = !folder.isEmpty() && !work.isBusy() && !isBuilding;
+    const auto isAny = [&](bool (*isMeant)(const SpeechText&)) {
+        return mayMake && std::any_of(selected.begin(), selected.end(),
+                                      [&](int row) { return isMeant(model.row(row).text); });
+    };
+    const auto isAnyOrNone = [&](bool (*isMeant)(const SpeechText&)) {
+        return mayMake && (isAny(isMeant) || (selected.empty() && !selectedOrAll(isMeant).empty()));
+    };
+    speaking->setEnabled(isAnyOrNone(needsSpeech));
+    recording->setEnabled(isAnyOrNone(takesFile));
+    usingFile->setEnabled(selected.size() == 1 && isAny(takesFile));
+    takingBack->setEnabled(isAny(isRecorded));
+    eveningOut->setEnabled(isAnyOrNone(SpeechModel::hasFile));
+}
+
+void SpeechTab::setBuilding(bool building)
+{
+    isBuilding = building;
+    allowCommands();
+}
+
+void SpeechTab::forget()
+{
+    work.cancel();
+    stop();
+    say({});
+}
+
+void SpeechTab::showProgress(const QString& what)
+{
+    progress->setRange(0, 0);
+    progress->setFormat(what + " %v/%m");
+    progress->setAccessibleName(what);
+    progressRow->show();
+}
+
+void SpeechTab::say(const QStringList& sentences)
+{
+    result->setText(sentences.mid(0, kMostSentences).join('\n'));
+    result->setToolTip(sentences.join('\n'));
+    result->setVisible(!sentences.isEmpty());
+    emit told(sentences.value(0));
 }
 
 // --- The script ----------------------------------------------------------------------------------

@@ -11,12 +11,15 @@
 #include "speech/tab/SpeechFilter.h"
 #include "speech/tab/SpeechFinder.h"
 #include "speech/tab/SpeechModel.h"
+#include "speech/tab/SpeechWork.h"
 
 class QAction;
 class QComboBox;
 class QLabel;
 class QLayout;
 class QLineEdit;
+class QProgressBar;
+class QSettings;
 class SpeechView;
 
 // Every text of the book with its audio file: heard, spoken, recorded.
@@ -30,6 +33,14 @@ public:
 
     // The book has changed. Costs next to nothing.
     void lookSoon() { watch.lookSoon(); }
+    // Another project has come.
+    void forget();
+    // While a build is making the game nothing is made here.
+    void setBuilding(bool building);
+    // Something is being made here.
+    bool isBusy() const { return work.isBusy(); }
+    // How the author likes to record is kept there. The settings outlive the tab.
+    void keepSettingsIn(QSettings& kept) { settings = &kept; }
 
 signals:
     // For the author.
@@ -39,6 +50,9 @@ signals:
     void lineAsked(int line);
     // The script is to stand at this line, which the author may want to see next.
     void lineShown(int line);
+    // The script is to have this line, which declares a voice.
+    void statementChosen(const QString& statement);
+    void busyChanged(bool busy);
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -46,6 +60,7 @@ protected:
 
 private:
     QWidget* makeFilters();
+    QWidget* makeProgress();
     QWidget* makeButtons();
     QAction* addCommand(QLayout& row, const char* name, const QString& text, const QString& toolTip,
                         void (SpeechTab::*command)());
@@ -56,11 +71,30 @@ private:
     void showSummary();
     void watchFolder();
     void allowCommands();
+    void showProgress(const QString& what);
+    // Stays until something else is said.
+    void say(const QStringList& sentences);
 
     // The rows as the model has them, in the order of the table.
     std::vector<int> selectedRows() const;
     const SpeechText& textOf(int shownRow) const;
     void goTo(int shownRow);
+
+    // SpeechTabCommands.cpp
+    static bool needsSpeech(const SpeechText& text);
+    static bool takesFile(const SpeechText& text);
+    // Each audio name once.
+    std::vector<SpeechText> selectedOrAll(bool (*isMeant)(const SpeechText&)) const;
+    Oid::OidProject book() const;
+    void begin(SpeechWork::Job job, const QString& what);
+    void end(const QStringList& sentences);
+    void speak();
+    void evenOut();
+    void record();
+    void useFile();
+    void adoptFile(const QString& file, const SpeechText& text);
+    void takeBack();
+    void tryVoices();
 
     void play();
     void playRow(int shownRow);
@@ -74,12 +108,25 @@ private:
     QComboBox* states = nullptr;
     QComboBox* voices = nullptr;
     QLabel* summary = nullptr;
+    QLabel* result = nullptr;
+    QWidget* progressRow = nullptr;
+    QProgressBar* progress = nullptr;
     QAction* playing = nullptr;
+    QAction* speaking = nullptr;
+    QAction* recording = nullptr;
+    QAction* usingFile = nullptr;
+    QAction* takingBack = nullptr;
+    QAction* eveningOut = nullptr;
     QString folder;   // of the audio files; empty while the book has no file
     QString problem;  // with the index
+    std::map<std::string, ttbasic::VOICE> scriptVoices;
+    bool isBuilding = false;
+    QSettings* settings = nullptr;
     QFileSystemWatcher files;
     SoundPlayer player;
     std::vector<std::string> toPlay;  // files, the next one last
-    SpeechSearch search;              // of the other thread
+    const BookSource source;
+    SpeechWork work;
+    SpeechSearch search;  // of the other thread
     BookWatch<SpeechFindings> watch;
 };

@@ -4,10 +4,35 @@
 #include "speech/tab/SpeechModel.h"
 
 #include <QAbstractButton>
+#include <QDragEnterEvent>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMimeData>
+#include <QPainter>
+#include <QUrl>
 
 #include <algorithm>
+
+namespace {
+
+// The one file of a drag; empty for anything else, and for a project, which the window takes.
+QString fileOf(const QMimeData& data)
+{
+    const QList<QUrl> urls = data.urls();
+    const QString path = urls.size() == 1 ? urls.front().toLocalFile() : QString();
+    const bool isProject = path.endsWith(".oidpro", Qt::CaseInsensitive);
+    return isProject || QFileInfo(path).isDir() ? QString() : path;
+}
+
+// A file manager that moves files deletes what was accepted as moved.
+void takeCopy(QDropEvent& event)
+{
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
+}  // namespace
 
 SpeechView::SpeechView(SpeechFilter& shown, QWidget* parent) : QTableView(parent)
 {
@@ -19,6 +44,7 @@ SpeechView::SpeechView(SpeechFilter& shown, QWidget* parent) : QTableView(parent
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setTabKeyNavigation(false);
+    setAcceptDrops(true);
     setWordWrap(false);
     setCornerButtonEnabled(false);
     findChild<QAbstractButton*>()->setToolTip(accessibleName());
@@ -79,5 +105,61 @@ void SpeechView::keyPressEvent(QKeyEvent* event)
         emit lineAsked(row);
     } else {
         QTableView::keyPressEvent(event);
+    }
+}
+
+// --- Files that are dropped ----------------------------------------------------------------------
+
+void SpeechView::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (fileOf(*event->mimeData()).isEmpty()) {
+        event->ignore();
+    } else {
+        takeCopy(*event);
+    }
+}
+
+void SpeechView::dragMoveEvent(QDragMoveEvent* event)
+{
+    markRow(indexAt(event->pos()).row());
+    if (rowBelowDrag < 0) {
+        event->ignore();
+    } else {
+        takeCopy(*event);
+    }
+}
+
+void SpeechView::dragLeaveEvent(QDragLeaveEvent* /*event*/)
+{
+    markRow(-1);
+}
+
+void SpeechView::dropEvent(QDropEvent* event)
+{
+    markRow(-1);
+    const QString path = fileOf(*event->mimeData());
+    const int row = indexAt(event->pos()).row();
+    if (path.isEmpty() || row < 0) {
+        event->ignore();
+    } else {
+        takeCopy(*event);
+        emit fileDropped(row, path);
+    }
+}
+
+void SpeechView::markRow(int row)
+{
+    rowBelowDrag = row;
+    viewport()->update();
+}
+
+void SpeechView::paintEvent(QPaintEvent* event)
+{
+    QTableView::paintEvent(event);
+    if (rowBelowDrag >= 0) {
+        QPainter painter(viewport());
+        painter.setPen(QPen(palette().highlight(), 2));
+        painter.drawRect(1, rowViewportPosition(rowBelowDrag) + 1, viewport()->width() - 3,
+                         rowHeight(rowBelowDrag) - 3);
     }
 }

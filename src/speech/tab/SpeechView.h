@@ -19,11 +19,21 @@ signals:
     // script stand there.
     void lineAsked(int row);
     void rowClicked(int row);
+    // A sound file was dropped on a row.
+    void fileDropped(int row, const QString& path);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
+    void markRow(int row);
     void fitColumns();
     void takeClick(const QModelIndex& index);
+
+    int rowBelowDrag = -1;
 };
