@@ -240,7 +240,7 @@ void RecordDialogTest::theLastTextIsFollowedByAWordThatAllIsDone()
     QCOMPARE(label("recordProgress"), QString("Text 1 of 1, 0 missing"));
     QVERIFY(!dialog->texts()[0].isMissing());
     press(Qt::Key_Escape);
-    QVERIFY(!dialog->isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(!dialog->isVisible(), kPatience);
 }
 
 void RecordDialogTest::aFileTheSpeechProgramMadeIsMissingAndNotKept()
@@ -430,7 +430,7 @@ void RecordDialogTest::escapeAsksBeforeARecordingIsLost()
     QVERIFY(dialog->isVisible());
     QVERIFY(button("recordListen")->isEnabled());
     dialog->close();  // by the frame of the window
-    QVERIFY(!dialog->isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(!dialog->isVisible(), kPatience);
     QCOMPARE(answers.seen(), QStringList({"Record: This recording is not kept yet. Keep it?",
                                           "Record: This recording is not kept yet. Keep it?"}));
     QCOMPARE(kept(), QString());
