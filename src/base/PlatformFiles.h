@@ -12,7 +12,13 @@ namespace Platform {
 // The form in which a path reaches the system: on POSIX every backslash becomes "/".
 std::string nativePath(const std::string& path);
 
+// As fopen. For reading ("r...") it opens files and nothing else: a folder, a pipe, a socket or a
+// device is refused without being touched, and no call waits for one. What is opened for writing
+// may be a device, or a pipe that somebody reads.
 FILE* openFile(const std::string& path, const std::string& mode);
+// What stands in the place of a file and is none, links followed: "a folder", "a pipe", "a socket",
+// "a device". Empty for a file, and where there is nothing.
+std::string kindOfNoFile(const std::string& path);
 bool fileExists(const std::string& path);
 bool removeFile(const std::string& path);
 bool createDirectory(const std::string& path);
@@ -30,13 +36,22 @@ std::int64_t seekFile(FILE* file, std::int64_t offset, int origin);
 int changeDirectory(const std::string& path);
 std::string currentDirectory();
 
-// Writing a file whole or not at all: the text is written to a temporary file beside the target,
-// which then takes the target's place. A symbolic link stays one (the file that it names is
-// replaced) and an existing file keeps its permissions.
+// Writing a file whole or not at all: the text is written to a temporary file, which then takes the
+// target's place. A symbolic link stays one (the file that it names is replaced) and an existing
+// file keeps its permissions.
+// The temporary file has no name where the system knows such files, so nothing of it is left
+// whenever the program is stopped; else, and for the moment of taking the place, it is called like
+// the target with ".unfinished" behind. The next one who writes takes such a file over, unless
+// somebody is just writing it.
 class FileReplacement
 {
 public:
-    explicit FileReplacement(const std::string& path);
+    enum class Temporary {
+        unnamed,  // if the file system has such files
+        named
+    };
+
+    explicit FileReplacement(const std::string& path, Temporary kind = Temporary::unnamed);
     // Removes the temporary file unless commit succeeded.
     ~FileReplacement();
     FileReplacement(const FileReplacement&) = delete;
@@ -44,16 +59,19 @@ public:
 
     // The temporary file, open for binary writing; null when it could not be made.
     FILE* file() const { return stream; }
-    // Native path of the temporary file, for writers that open it themselves.
-    const std::string& temporaryPath() const { return temporary; }
     // Closes the file, flushes it to the device and puts it in the target's place. False when
     // anything failed since the file was opened; the target is then as it was.
     bool commit();
 
 private:
-    std::string target;  // native, links resolved
-    std::string temporary;
+    bool closeComplete();
+    bool takePlace();
+
+    std::string target;     // native, links resolved
+    std::string temporary;  // native; empty while the file has no name
     FILE* stream = nullptr;
+    int lock = -1;           // a second handle of the file where the system locks by handles, or -1
+    bool isInPlace = false;  // what stands in the target's place is written to as it is
 };
 
 }  // namespace Platform

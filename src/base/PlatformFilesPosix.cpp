@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <climits>
-#include <cstdlib>
 #include <fcntl.h>
 #include <memory>
 #include <sys/stat.h>
@@ -14,66 +12,35 @@ namespace Platform {
 
 namespace {
 
-// The file that a path names in the end, so that replacing it leaves symbolic links alone. A link
-// to a file that is not there yet is followed as well.
-std::string resolveLinks(std::string path)
+bool isFolder(const struct stat& status)
 {
-    constexpr int kMostLinks = 40;  // as many as Linux follows
-    for (int i = 0; i < kMostLinks; ++i) {
-        char link[PATH_MAX];
-        const ssize_t length = readlink(path.c_str(), link, sizeof link);
-        if (length < 0) {
-            break;
-        }
-        std::string next(link, static_cast<size_t>(length));
-        const size_t slash = path.rfind('/');
-        if (next[0] != '/' && slash != std::string::npos) {
-            next.insert(0, path, 0, slash + 1);
-        }
-        path = std::move(next);
+    if (S_ISDIR(status.st_mode)) {
+        errno = EISDIR;
+        return true;
     }
-    return path;
+    return false;
 }
 
-// The permissions that a file made by fopen would get.
-mode_t newFileMode()
+bool isFile(const struct stat& status)
 {
-    const mode_t mask = umask(0);
-    umask(mask);
-    return 0666 & ~mask;
-}
-
-// Gives a new file the owner and the permissions of the one that it replaces. Where the owner
-// cannot be kept, the file does not run with the rights of its owner either.
-void copyPermissions(int handle, const struct stat* replaced)
-{
-    if (replaced == nullptr) {
-        fchmod(handle, newFileMode());
-        return;
+    if (S_ISREG(status.st_mode) || isFolder(status)) {
+        return S_ISREG(status.st_mode);
     }
-    const bool sameOwner = fchown(handle, replaced->st_uid, replaced->st_gid) == 0;
-    fchmod(handle, replaced->st_mode & (sameOwner ? 07777 : 0777));
+    errno = ENXIO;
+    return false;
 }
 
-// A pattern for mkostemp in the same folder. The name is cut where it would become too long.
-std::string temporaryNameBeside(const std::string& file)
+// Without waiting: for a pipe that nobody reads it fails. Not for child processes.
+int openAtOnce(const std::string& path, const std::string& mode)
 {
-    constexpr size_t kLongestName = 255;  // bytes, on every usual file system
-    const std::string pattern = ".XXXXXX";
-    const size_t slash = file.rfind('/');
-    const size_t start = slash == std::string::npos ? 0 : slash + 1;
-    return file.substr(0, start + kLongestName - pattern.size()) + pattern;
-}
-
-void flushFolder(const std::string& file)
-{
-    const size_t slash = file.rfind('/');
-    const std::string folder = slash == std::string::npos ? "." : file.substr(0, slash + 1);
-    const int handle = open(folder.c_str(), O_RDONLY | O_DIRECTORY);
-    if (handle >= 0) {
-        fsync(handle);  // best effort: not every file system can flush a folder
-        close(handle);
+    const bool updates = mode.find('+') != std::string::npos;
+    int flags = O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
+    if (mode[0] == 'r') {
+        flags |= updates ? O_RDWR : O_RDONLY;
+    } else {
+        flags |= O_CREAT | (updates ? O_RDWR : O_WRONLY) | (mode[0] == 'a' ? O_APPEND : O_TRUNC);
     }
+    return open(path.c_str(), flags, 0666);
 }
 
 struct CloseFile
@@ -105,14 +72,45 @@ std::string nativePath(const std::string& path)
 
 FILE* openFile(const std::string& path, const std::string& mode)
 {
-    FILE* file = fopen(nativePath(path).c_str(), (mode + "e").c_str());  // not for child processes
+    const std::string native = nativePath(path);
+    const bool reads = mode.compare(0, 1, "r") == 0;
     struct stat status = {};
-    if (file != nullptr && fstat(fileno(file), &status) == 0 && S_ISDIR(status.st_mode)) {
-        fclose(file);  // a folder opens for reading here, but there is nothing to read
-        errno = EISDIR;
+    // Asked before, since a device may do something when it is only opened, and again afterwards.
+    if (reads && stat(native.c_str(), &status) == 0 && !isFile(status)) {
         return nullptr;
     }
-    return file;
+    const int handle = openAtOnce(native, mode);
+    if (handle < 0) {
+        return nullptr;
+    }
+    if (fstat(handle, &status) == 0 && (reads ? isFile(status) : !isFolder(status))) {
+        fcntl(handle, F_SETFL, fcntl(handle, F_GETFL) & ~O_NONBLOCK);
+        return fdopen(handle, mode.c_str());
+    }
+    const int problem = errno;
+    close(handle);
+    errno = problem;
+    return nullptr;
+}
+
+std::string kindOfNoFile(const std::string& path)
+{
+    struct stat status = {};
+    if (stat(nativePath(path).c_str(), &status) != 0) {
+        return {};
+    }
+    switch (status.st_mode & S_IFMT) {
+    case S_IFREG:
+        return {};
+    case S_IFDIR:
+        return "a folder";
+    case S_IFIFO:
+        return "a pipe";
+    case S_IFSOCK:
+        return "a socket";
+    default:
+        return "a device";
+    }
 }
 
 bool fileExists(const std::string& path)
@@ -174,62 +172,6 @@ std::string currentDirectory()
 {
     char buffer[2048];
     return getcwd(buffer, sizeof buffer) != nullptr ? buffer : std::string();
-}
-
-FileReplacement::FileReplacement(const std::string& path) : target(nativePath(path))
-{
-    struct stat status = {};
-    const bool exists = stat(target.c_str(), &status) == 0;
-    if (!exists && errno == ELOOP) {
-        return;  // links that go round in a circle name no file
-    }
-    if (target.empty() || (exists && access(target.c_str(), W_OK) != 0)) {
-        return;  // what cannot be written is not replaced either
-    }
-    if (exists && !S_ISREG(status.st_mode)) {
-        stream = openFile(target, "wb");  // a device or pipe is written to, never replaced
-        return;
-    }
-    target = resolveLinks(target);
-    temporary = temporaryNameBeside(target);
-    const int handle = mkostemp(temporary.data(), O_CLOEXEC);
-    if (handle < 0) {
-        temporary.clear();
-        return;
-    }
-    copyPermissions(handle, exists ? &status : nullptr);
-    stream = fdopen(handle, "wb");
-}
-
-FileReplacement::~FileReplacement()
-{
-    if (stream != nullptr) {
-        fclose(stream);
-    }
-    if (!temporary.empty()) {
-        unlink(temporary.c_str());
-    }
-}
-
-bool FileReplacement::commit()
-{
-    if (stream == nullptr) {
-        return false;
-    }
-    const bool isReplacement = !temporary.empty();
-    bool complete = ferror(stream) == 0 && fflush(stream) == 0;
-    complete = complete && (!isReplacement || fsync(fileno(stream)) == 0);
-    complete = fclose(stream) == 0 && complete;
-    stream = nullptr;
-    if (!isReplacement || !complete) {
-        return complete;
-    }
-    if (rename(temporary.c_str(), target.c_str()) != 0) {
-        return false;
-    }
-    temporary.clear();
-    flushFolder(target);
-    return true;
 }
 
 }  // namespace Platform

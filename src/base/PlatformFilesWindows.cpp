@@ -8,6 +8,15 @@
 
 namespace Platform {
 
+namespace {
+
+HANDLE handleOf(FILE* file)
+{
+    return reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(file)));
+}
+
+}  // namespace
+
 std::string nativePath(const std::string& path)
 {
     return path;
@@ -15,7 +24,35 @@ std::string nativePath(const std::string& path)
 
 FILE* openFile(const std::string& path, const std::string& mode)
 {
-    return _wfopen(fromUtf8(path).c_str(), fromUtf8(mode + "N").c_str());  // not for children
+    FILE* const file =
+        _wfopen(fromUtf8(path).c_str(), fromUtf8(mode + "N").c_str());  // not for children
+    const bool reads = mode.compare(0, 1, "r") == 0;
+    if (file != nullptr && reads && GetFileType(handleOf(file)) != FILE_TYPE_DISK) {
+        fclose(file);
+        SetLastError(ERROR_BAD_FILE_TYPE);
+        return nullptr;
+    }
+    return file;
+}
+
+std::string kindOfNoFile(const std::string& path)
+{
+    const std::wstring wide = fromUtf8(path);
+    const DWORD attributes = GetFileAttributesW(wide.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        return "a folder";
+    }
+    const HANDLE file = CreateFileW(wide.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return {};
+    }
+    const DWORD kind = GetFileType(file);
+    CloseHandle(file);
+    if (kind == FILE_TYPE_DISK) {
+        return {};
+    }
+    return kind == FILE_TYPE_PIPE ? "a pipe" : "a device";  // sockets have no names here
 }
 
 bool fileExists(const std::string& path)
@@ -103,69 +140,6 @@ std::string currentDirectory()
 {
     char buffer[2048];
     return _getcwd(buffer, sizeof buffer) != nullptr ? buffer : std::string();
-}
-
-// The file that a path names in the end, with symbolic links followed; the path itself when it
-// names nothing yet.
-static std::wstring resolveLinks(const std::wstring& path)
-{
-    const HANDLE file = CreateFileW(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) {
-        return path;
-    }
-    wchar_t resolved[32768];
-    const DWORD length = GetFinalPathNameByHandleW(file, resolved, 32768, FILE_NAME_NORMALIZED);
-    CloseHandle(file);
-    return length > 0 && length < 32768 ? std::wstring(resolved, length) : path;
-}
-
-FileReplacement::FileReplacement(const std::string& path)
-    : target(toUtf8(resolveLinks(fromUtf8(path)).c_str()))
-{
-    const DWORD attributes = GetFileAttributesW(fromUtf8(target).c_str());
-    constexpr DWORD kNotWritable = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY;
-    if (target.empty() ||
-        (attributes != INVALID_FILE_ATTRIBUTES && (attributes & kNotWritable) != 0)) {
-        return;
-    }
-    const std::wstring suffix = L"." + std::to_wstring(GetCurrentProcessId()) + L".tmp";
-    temporary = toUtf8(temporaryNameBeside(fromUtf8(target), suffix).c_str());
-    stream = openFile(temporary, "wb");
-    if (stream == nullptr) {
-        temporary.clear();
-    }
-}
-
-FileReplacement::~FileReplacement()
-{
-    if (stream != nullptr) {
-        fclose(stream);
-    }
-    if (!temporary.empty()) {
-        removeFile(temporary);
-    }
-}
-
-bool FileReplacement::commit()
-{
-    if (stream == nullptr) {
-        return false;
-    }
-    bool complete = ferror(stream) == 0 && fflush(stream) == 0 && _commit(_fileno(stream)) == 0;
-    complete = fclose(stream) == 0 && complete;
-    stream = nullptr;
-    const std::wstring from = fromUtf8(temporary);
-    const std::wstring to = fromUtf8(target);
-    // ReplaceFileW keeps the permissions of the file that it replaces; it wants one to be there.
-    complete =
-        complete &&
-        (fileExists(target) ? ReplaceFileW(to.c_str(), from.c_str(), nullptr, 0, nullptr, nullptr)
-                            : MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH)) != 0;
-    if (complete) {
-        temporary.clear();
-    }
-    return complete;
 }
 
 }  // namespace Platform

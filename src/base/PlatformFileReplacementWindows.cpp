@@ -1,0 +1,108 @@
+#include "base/PlatformFiles.h"
+
+#include "base/Unicode.h"
+
+#include <io.h>
+#include <share.h>
+#include <windows.h>
+
+namespace Platform {
+
+namespace {
+
+constexpr int kMostAtOnce = 100;  // who write one file at the same moment
+
+// The file that a path names in the end, with symbolic links followed; the path itself when it
+// names nothing yet.
+std::wstring resolveLinks(const std::wstring& path)
+{
+    const HANDLE file = CreateFileW(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return path;
+    }
+    wchar_t resolved[32768];
+    const DWORD length = GetFinalPathNameByHandleW(file, resolved, 32768, FILE_NAME_NORMALIZED);
+    CloseHandle(file);
+    return length > 0 && length < 32768 ? std::wstring(resolved, length) : path;
+}
+
+// The first, second, ... name for what is not finished: "farm.oidpro.unfinished", then
+// "farm.oidpro.unfinished2". Cut where it would become too long.
+std::wstring temporaryNameBeside(const std::wstring& file, int number)
+{
+    constexpr size_t kLongestName = 255;  // characters
+    const std::wstring suffix = L".unfinished" + (number > 1 ? std::to_wstring(number) : L"");
+    const size_t separator = file.find_last_of(L"\\/");
+    const size_t start = separator == std::wstring::npos ? 0 : separator + 1;
+    return file.substr(0, start + kLongestName - suffix.size()) + suffix;
+}
+
+// What a stopped program left is overwritten; what somebody is writing does not open.
+FILE* openForOneWriter(const std::wstring& name)
+{
+    return _wfsopen(name.c_str(), L"wbN", _SH_DENYRW);  // not for children
+}
+
+}  // namespace
+
+FileReplacement::FileReplacement(const std::string& path, Temporary /*kind*/)
+    : target(toUtf8(resolveLinks(fromUtf8(path)).c_str()))
+{
+    const DWORD attributes = GetFileAttributesW(fromUtf8(target).c_str());
+    constexpr DWORD kNotWritable = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY;
+    if (target.empty() ||
+        (attributes != INVALID_FILE_ATTRIBUTES && (attributes & kNotWritable) != 0)) {
+        return;
+    }
+    for (int number = 1; number <= kMostAtOnce && stream == nullptr; ++number) {
+        const std::wstring name = temporaryNameBeside(fromUtf8(target), number);
+        stream = openForOneWriter(name);
+        temporary = toUtf8(name.c_str());
+        if (stream == nullptr && GetLastError() != ERROR_SHARING_VIOLATION) {
+            break;
+        }
+    }
+    if (stream == nullptr) {
+        temporary.clear();
+    }
+}
+
+FileReplacement::~FileReplacement()
+{
+    if (stream != nullptr) {
+        fclose(stream);
+    }
+    if (!temporary.empty()) {
+        removeFile(temporary);
+    }
+}
+
+bool FileReplacement::closeComplete()
+{
+    bool complete = ferror(stream) == 0 && fflush(stream) == 0 && _commit(_fileno(stream)) == 0;
+    complete = fclose(stream) == 0 && complete;
+    stream = nullptr;
+    return complete;
+}
+
+// ReplaceFileW keeps the permissions of the file that it replaces; it wants one to be there.
+bool FileReplacement::takePlace()
+{
+    const std::wstring from = fromUtf8(temporary);
+    const std::wstring to = fromUtf8(target);
+    const BOOL done = fileExists(target)
+                          ? ReplaceFileW(to.c_str(), from.c_str(), nullptr, 0, nullptr, nullptr)
+                          : MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH);
+    if (done != 0) {
+        temporary.clear();
+    }
+    return done != 0;
+}
+
+bool FileReplacement::commit()
+{
+    return stream != nullptr && closeComplete() && takePlace();
+}
+
+}  // namespace Platform
