@@ -2079,6 +2079,10 @@
         <translation>Ein Text ist zu lang für das Sprachprogramm und wird nur gezeigt.</translation>
     </message>
     <message>
+        <source>A voice has a language with a blank or a leading dash: its texts are only shown.</source>
+        <translation>Eine Stimme hat eine Sprache mit einem Leerzeichen oder mit einem Strich am Anfang: Ihre Texte werden nur gezeigt.</translation>
+    </message>
+    <message>
         <source>The speech program is not there: texts without an audio file are only shown.</source>
         <translation>Das Sprachprogramm fehlt: Texte ohne Audiodatei werden nur gezeigt.</translation>
     </message>
@@ -3209,6 +3213,10 @@
     <message>
         <source>Another window has moved pages of this book and not saved that yet.</source>
         <translation>Ein anderes Fenster hat Seiten dieses Buchs verschoben und das noch nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>It is a link to a file outside of the project&apos;s folder.</source>
+        <translation>Dort ist eine Verknüpfung zu einer Datei außerhalb des Projektordners.</translation>
     </message>
     <message>
         <source>It is damaged. Put the pictures in order, then remove it.</source>

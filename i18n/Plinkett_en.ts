@@ -2079,6 +2079,10 @@
         <translation>A text is too long for the speech program and is only shown.</translation>
     </message>
     <message>
+        <source>A voice has a language with a blank or a leading dash: its texts are only shown.</source>
+        <translation>A voice has a language with a blank or a leading dash: its texts are only shown.</translation>
+    </message>
+    <message>
         <source>The speech program is not there: texts without an audio file are only shown.</source>
         <translation>The speech program is not there: texts without an audio file are only shown.</translation>
     </message>
@@ -3209,6 +3213,10 @@
     <message>
         <source>Another window has moved pages of this book and not saved that yet.</source>
         <translation>Another window has moved pages of this book and not saved that yet.</translation>
+    </message>
+    <message>
+        <source>It is a link to a file outside of the project&apos;s folder.</source>
+        <translation>It is a link to a file outside of the project&apos;s folder.</translation>
     </message>
     <message>
         <source>It is damaged. Put the pictures in order, then remove it.</source>

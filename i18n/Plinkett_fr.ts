@@ -2079,6 +2079,10 @@
         <translation>Un texte est trop long pour le programme de parole et n’est qu’affiché.</translation>
     </message>
     <message>
+        <source>A voice has a language with a blank or a leading dash: its texts are only shown.</source>
+        <translation>Une voix a une langue avec une espace ou un tiret initial : ses textes ne sont qu’affichés.</translation>
+    </message>
+    <message>
         <source>The speech program is not there: texts without an audio file are only shown.</source>
         <translation>Le programme de parole manque : les textes sans fichier audio ne sont qu’affichés.</translation>
     </message>
@@ -3209,6 +3213,10 @@
     <message>
         <source>Another window has moved pages of this book and not saved that yet.</source>
         <translation>Une autre fenêtre a déplacé des pages de ce livre sans les enregistrer.</translation>
+    </message>
+    <message>
+        <source>It is a link to a file outside of the project&apos;s folder.</source>
+        <translation>C’est un lien vers un fichier hors du dossier du projet.</translation>
     </message>
     <message>
         <source>It is damaged. Put the pictures in order, then remove it.</source>

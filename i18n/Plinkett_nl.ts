@@ -2079,6 +2079,10 @@
         <translation>Een tekst is te lang voor het spraakprogramma en wordt alleen getoond.</translation>
     </message>
     <message>
+        <source>A voice has a language with a blank or a leading dash: its texts are only shown.</source>
+        <translation>Een stem heeft een taal met een spatie of een streepje vooraan: haar teksten worden alleen getoond.</translation>
+    </message>
+    <message>
         <source>The speech program is not there: texts without an audio file are only shown.</source>
         <translation>Het spraakprogramma ontbreekt: teksten zonder audiobestand worden alleen getoond.</translation>
     </message>
@@ -3209,6 +3213,10 @@
     <message>
         <source>Another window has moved pages of this book and not saved that yet.</source>
         <translation>Een ander venster heeft pagina&apos;s van dit boek verplaatst en dat nog niet opgeslagen.</translation>
+    </message>
+    <message>
+        <source>It is a link to a file outside of the project&apos;s folder.</source>
+        <translation>Het is een koppeling naar een bestand buiten de projectmap.</translation>
     </message>
     <message>
         <source>It is damaged. Put the pictures in order, then remove it.</source>

@@ -6,11 +6,28 @@
 
 #include <QProcess>
 
+#include <algorithm>
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
 namespace FileSystem {
 
 FILE* myfopen(const std::string& path, const std::string& mode)
 {
     return Platform::openFile(path, mode);
+}
+
+std::string whyNoFile(const std::string& path)
+{
+    const std::string kind = Platform::kindOfNoFile(path);
+    return kind.empty() ? kind : "'" + Platform::nativePath(path) + "' is " + kind + ", not a file";
+}
+
+std::string cannotOpen(const std::string& path)
+{
+    const std::string why = whyNoFile(path);
+    return "Error: Can't open file '" + path + "'\n" + (why.empty() ? why : "Error: " + why + "\n");
 }
 
 bool doesFileExist(const std::string& path)
@@ -71,6 +88,21 @@ std::string getFilenameOfPath(const std::string& path)
 {
     const size_t separator = lastSeparator(path);
     return separator != std::string::npos ? path.substr(separator + 1) : path;
+}
+
+std::string placeOutside(const std::string& folder, const std::string& path)
+{
+    const auto inFull = [](const fs::path& place) {
+        std::error_code ignored;
+        const fs::path full = fs::weakly_canonical(fs::absolute(place), ignored);
+        return full.has_filename() ? full : full.parent_path();
+    };
+    const fs::path root = inFull(fs::u8path(Platform::nativePath(folder + directorySeparator)));
+    const fs::path file = fs::u8path(Platform::resolveLinks(Platform::nativePath(path)));
+    const fs::path place = inFull(file.parent_path()) / file.filename();
+    const auto [rest, below] = std::mismatch(root.begin(), root.end(), place.begin(), place.end());
+    const bool isInside = rest == root.end() && below != place.end();
+    return isInside ? std::string() : place.u8string();
 }
 
 // A forwarded channel takes no file, so only the other ones are pointed at the null device.

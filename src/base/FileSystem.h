@@ -13,6 +13,11 @@ constexpr char directorySeparator = '\\';
 
 // Opens as fopen does; null when it fails. The caller closes.
 FILE* myfopen(const std::string& path, const std::string& mode);
+// Why a file that is there does not open for reading, for a message: "'zoo.jpg' is a pipe, not a
+// file". Empty when that is not the reason.
+std::string whyNoFile(const std::string& path);
+// The message on a file that does not open, with a second line for that reason.
+std::string cannotOpen(const std::string& path);
 // True when the attributes can be read; a directory counts as existing.
 bool doesFileExist(const std::string& path);
 // Overwrites the destination. False on failure; then nothing half-written stays.
@@ -52,6 +57,10 @@ std::string trimFileExtension(const std::string& path);
 std::string getDirectoryOfPath(const std::string& path);
 // The text after the last backslash, else after the last "/", else the whole path.
 std::string getFilenameOfPath(const std::string& path);
+
+// Where a file lies in the end, links followed, when that is not below the folder; else empty. The
+// file need not be there.
+std::string placeOutside(const std::string& folder, const std::string& path);
 
 // Runs a program and waits for its end; its output goes to this process's own streams unless it is
 // not to be shown. Returns the exit code, or 2 when the program cannot be started.

@@ -19,9 +19,3 @@ std::optional<QByteArray> readInput(const std::string& path, qint64 largest)
     return file.error() == QFileDevice::NoError ? std::make_optional(std::move(bytes))
                                                 : std::nullopt;
 }
-
-std::string whyNoInput(const std::string& path)
-{
-    const std::string kind = Platform::kindOfNoFile(path);
-    return kind.empty() ? kind : "'" + Platform::nativePath(path) + "' is " + kind + ", not a file";
-}

@@ -14,9 +14,5 @@ bool openInput(QFile& file, const std::string& path);
 
 // The whole file; nothing when it cannot be read to its end, is no file, or is larger than that
 // many bytes.
-constexpr qint64 kLargestInput = 256 << 20;
+constexpr qint64 kLargestInput = 512 << 20;
 std::optional<QByteArray> readInput(const std::string& path, qint64 largest = kLargestInput);
-
-// Why a file that is there does not open, for a message: "'zoo.jpg' is a pipe, not a file". Empty
-// when that is not the reason.
-std::string whyNoInput(const std::string& path);

@@ -1,7 +1,6 @@
 #include "base/PlatformFiles.h"
 
 #include <cerrno>
-#include <climits>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -12,27 +11,6 @@ namespace Platform {
 namespace {
 
 constexpr int kMostAtOnce = 100;  // who write one file at the same moment
-
-// The file that a path names in the end, so that replacing it leaves symbolic links alone. A link
-// to a file that is not there yet is followed as well.
-std::string resolveLinks(std::string path)
-{
-    constexpr int kMostLinks = 40;  // as many as Linux follows
-    for (int i = 0; i < kMostLinks; ++i) {
-        char link[PATH_MAX];
-        const ssize_t length = readlink(path.c_str(), link, sizeof link);
-        if (length < 0) {
-            break;
-        }
-        std::string next(link, static_cast<size_t>(length));
-        const size_t slash = path.rfind('/');
-        if (next[0] != '/' && slash != std::string::npos) {
-            next.insert(0, path, 0, slash + 1);
-        }
-        path = std::move(next);
-    }
-    return path;
-}
 
 // The permissions that a file made by fopen would get.
 mode_t newFileMode()

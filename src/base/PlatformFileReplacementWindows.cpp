@@ -12,21 +12,6 @@ namespace {
 
 constexpr int kMostAtOnce = 100;  // who write one file at the same moment
 
-// The file that a path names in the end, with symbolic links followed; the path itself when it
-// names nothing yet.
-std::wstring resolveLinks(const std::wstring& path)
-{
-    const HANDLE file = CreateFileW(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) {
-        return path;
-    }
-    wchar_t resolved[32768];
-    const DWORD length = GetFinalPathNameByHandleW(file, resolved, 32768, FILE_NAME_NORMALIZED);
-    CloseHandle(file);
-    return length > 0 && length < 32768 ? std::wstring(resolved, length) : path;
-}
-
 // The first, second, ... name for what is not finished: "farm.oidpro.unfinished", then
 // "farm.oidpro.unfinished2". Cut where it would become too long.
 std::wstring temporaryNameBeside(const std::wstring& file, int number)
@@ -47,7 +32,7 @@ FILE* openForOneWriter(const std::wstring& name)
 }  // namespace
 
 FileReplacement::FileReplacement(const std::string& path, Temporary /*kind*/)
-    : target(toUtf8(resolveLinks(fromUtf8(path)).c_str()))
+    : target(resolveLinks(path))
 {
     const DWORD attributes = GetFileAttributesW(fromUtf8(target).c_str());
     constexpr DWORD kNotWritable = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY;

@@ -19,6 +19,9 @@ FILE* openFile(const std::string& path, const std::string& mode);
 // What stands in the place of a file and is none, links followed: "a folder", "a pipe", "a socket",
 // "a device". Empty for a file, and where there is nothing.
 std::string kindOfNoFile(const std::string& path);
+// The file that a path names in the end, so that replacing it leaves symbolic links alone. A link
+// to a file that is not there yet is followed as well. Both native.
+std::string resolveLinks(const std::string& path);
 bool fileExists(const std::string& path);
 bool removeFile(const std::string& path);
 bool createDirectory(const std::string& path);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <fcntl.h>
 #include <memory>
 #include <sys/stat.h>
@@ -111,6 +112,26 @@ std::string kindOfNoFile(const std::string& path)
     default:
         return "a device";
     }
+}
+
+std::string resolveLinks(const std::string& path)
+{
+    constexpr int kMostLinks = 40;  // as many as Linux follows
+    std::string place = path;
+    for (int i = 0; i < kMostLinks; ++i) {
+        char link[PATH_MAX];
+        const ssize_t length = readlink(place.c_str(), link, sizeof link);
+        if (length < 0) {
+            break;
+        }
+        std::string next(link, static_cast<size_t>(length));
+        const size_t slash = place.rfind('/');
+        if (next[0] != '/' && slash != std::string::npos) {
+            next.insert(0, place, 0, slash + 1);
+        }
+        place = std::move(next);
+    }
+    return place;
 }
 
 bool fileExists(const std::string& path)

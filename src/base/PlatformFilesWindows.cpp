@@ -55,6 +55,19 @@ std::string kindOfNoFile(const std::string& path)
     return kind == FILE_TYPE_PIPE ? "a pipe" : "a device";  // sockets have no names here
 }
 
+std::string resolveLinks(const std::string& path)
+{
+    const HANDLE file = CreateFileW(fromUtf8(path).c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return path;
+    }
+    wchar_t resolved[32768];
+    const DWORD length = GetFinalPathNameByHandleW(file, resolved, 32768, FILE_NAME_NORMALIZED);
+    CloseHandle(file);
+    return length > 0 && length < 32768 ? toUtf8(std::wstring(resolved, length).c_str()) : path;
+}
+
 bool fileExists(const std::string& path)
 {
     return GetFileAttributesW(fromUtf8(path).c_str()) != INVALID_FILE_ATTRIBUTES;

@@ -92,7 +92,7 @@ bool readPicture(const std::string& native, int givenDpi, ScanImage& scan)
     }
     QImage picture = file.read();
     if (picture.isNull()) {
-        mi_printf("Error: Can't read the image '%s'\n", native.c_str());
+        mi_printf("Error: %s\n", whyNoPicture(native).c_str());
         return false;
     }
     scan.dpi = chooseDpi(givenDpi, picture.dotsPerMeterX() * 0.0254);

@@ -1,11 +1,11 @@
 #include "document/BookNumbers.h"
 
 #include "base/FileSystem.h"
+#include "base/InputFile.h"
 #include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <set>
@@ -13,7 +13,8 @@
 namespace {
 
 constexpr int kNoNumber = 0;
-constexpr int kFirstNumber = 900;  // from here on home-made books have theirs
+constexpr qint64 kLongestLine = 1024;  // bytes, as the reader of projects has it
+constexpr int kFirstNumber = 900;      // from here on home-made books have theirs
 constexpr int kLastNumber = 999;
 
 QFileInfo fileInfo(const std::string& path)
@@ -24,12 +25,12 @@ QFileInfo fileInfo(const std::string& path)
 // What the line PRODUCT says, which stands before the pictures and the script.
 int numberOfProject(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    QFile file;
+    if (!openInput(file, path.toStdString())) {
         return kNoNumber;
     }
     while (!file.atEnd()) {
-        const std::string line = file.readLine().toStdString();
+        const std::string line = file.readLine(kLongestLine).toStdString();
         const char* text =
             line.compare(0, 3, "\xEF\xBB\xBF") == 0 ? line.c_str() + 3 : line.c_str();
         const std::string word = parseString(text);

@@ -1,6 +1,7 @@
 #include "document/CompanionFiles.h"
 
 #include "base/FileSystem.h"
+#include "base/InputFile.h"
 #include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
@@ -21,9 +22,9 @@ QString native(const std::string& path)
 
 bool sameContent(const std::string& one, const std::string& other)
 {
-    QFile a(native(one));
-    QFile b(native(other));
-    if (!a.open(QIODevice::ReadOnly) || !b.open(QIODevice::ReadOnly) || a.size() != b.size()) {
+    QFile a;
+    QFile b;
+    if (!openInput(a, one) || !openInput(b, other) || a.size() != b.size()) {
         return false;
     }
     constexpr qint64 kPiece = 1 << 20;
@@ -53,6 +54,12 @@ std::string ownAudioFolder(const Oid::OidProject& project)
 {
     const std::string folder = audioFolder(project);
     return QFileInfo::exists(native(folder)) ? std::string() : folder;
+}
+
+// Not over what a link in its place leads to.
+bool staysBeside(const std::string& file)
+{
+    return FileSystem::placeOutside(FileSystem::getDirectoryOfPath(file), file).empty();
 }
 
 // False when there is no such file afterwards.
@@ -165,7 +172,7 @@ void CompanionFiles::followPictures(const Oid::OidProject& project,
             (picture.inTheWay != target && mayOverwrite(Platform::nativePath(target)));
         if (!allowed) {
             picture.inTheWay = target;
-        } else if (FileSystem::copyFileContent(picture.file, target)) {
+        } else if (staysBeside(target) && FileSystem::copyFileContent(picture.file, target)) {
             outcome.copied = true;
             continue;
         } else {

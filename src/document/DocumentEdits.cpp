@@ -235,7 +235,8 @@ bool Document::replaceFile(int page, const QByteArray& file)
 {
     KeptFile kept;
     kept.page = page;
-    if (!keptFiles.replace(record.pathImageSource(page), file, kept)) {
+    const std::string place = record.pathImageSource(page);
+    if (pictures.leadsOut(place) || !keptFiles.replace(place, file, kept)) {
         return false;
     }
     std::vector<KeptFile>& files = beginStep().files;

@@ -1,9 +1,8 @@
 #include "document/KeptFile.h"
 
+#include "base/InputFile.h"
 #include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
-
-#include <QFile>
 
 bool KeptFiles::keep(const std::string& place, std::string& copy)
 {
@@ -62,8 +61,7 @@ bool KeptFiles::replace(const std::string& place, const QByteArray& content, Kep
 
 static QByteArray contentOf(const std::string& path)
 {
-    QFile file(QString::fromStdString(Platform::nativePath(path)));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return readInput(path).value_or(QByteArray());
 }
 
 bool KeptFiles::isAsKept(const std::string& place, const KeptFile& kept) const

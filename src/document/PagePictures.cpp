@@ -2,12 +2,12 @@
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
-#include <QFile>
 
 #include <algorithm>
 #include <set>
 
 #include "base/FileSystem.h"
+#include "base/InputFile.h"
 #include "base/PlatformFiles.h"
 
 using Oid::kAside;
@@ -23,8 +23,8 @@ bool contains(const std::vector<PageId>& pages, PageId page)
 std::string signOf(const std::string& path)
 {
     constexpr qint64 kEnd = 4096;  // bytes, in which pictures of one size differ
-    QFile file(QString::fromStdString(Platform::nativePath(path)));
-    if (!file.open(QIODevice::ReadOnly)) {
+    QFile file;
+    if (!openInput(file, path)) {
         return {};
     }
     const qint64 size = file.size();
@@ -81,6 +81,19 @@ bool PagePictures::fail(const std::string& file)
 {
     found = {Platform::nativePath(file), Platform::lastFileError()};
     return false;
+}
+
+bool PagePictures::leadsOut(const std::string& file)
+{
+    const bool leads =
+        !FileSystem::placeOutside(FileSystem::getDirectoryOfPath(file), file).empty();
+    if (leads) {
+        found = {Platform::nativePath(file),
+                 QCoreApplication::translate(
+                     "PagePictures", "It is a link to a file outside of the project's folder.")
+                     .toStdString()};
+    }
+    return leads;
 }
 
 void PagePictures::number(const std::vector<PageId>& pages)
@@ -451,6 +464,9 @@ bool PagePictures::writePlaces(const Places& places)
 bool PagePictures::write(const Oid::PictureOrder& next)
 {
     const std::string text = Oid::textOf(next);
+    if (text != written && leadsOut(files.order())) {
+        return false;
+    }
     if (text != written && !work.write(files.order(), text)) {
         return fail(files.order());
     }

@@ -1,6 +1,7 @@
 #include "document/RecoveryFolder.h"
 
 #include "base/FileSystem.h"
+#include "base/InputFile.h"
 #include "base/PlatformFiles.h"
 
 #include <QCryptographicHash>
@@ -46,8 +47,7 @@ bool tryLock(QLockFile& lock)
 
 QByteArray bytesOf(const QString& path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return readInput(path.toStdString()).value_or(QByteArray());
 }
 
 // As the head of a copy has it. Empty without a file.

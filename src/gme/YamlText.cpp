@@ -1,6 +1,7 @@
 #include "gme/YamlProblem.h"
 
 #include "base/FileSystem.h"
+#include "base/PlatformFiles.h"
 #include "base/Unicode.h"
 
 #include <algorithm>
@@ -147,7 +148,9 @@ bool readBytes(const std::string& path, std::string& bytes, Messages& messages)
         }
     }
     if (file == nullptr || ferror(file.get()) != 0) {
-        messages.error({}, "file-unreadable", "the file cannot be read");
+        const std::string kind = Platform::kindOfNoFile(path);
+        messages.error({}, "file-unreadable",
+                       "the file cannot be read" + (kind.empty() ? kind : ": it is " + kind));
         return false;
     }
     return true;

@@ -5,19 +5,24 @@
 #include "base/FileSystem.h"
 #include "oid/OidTable.h"
 #include "oid/PictureOrder.h"
+#include "oid/ProjectFolder.h"
 #include "oid/ProjectReader.h"
 
 namespace Oid {
 
 namespace {
 
-void reportUnreadable(const std::string& path, const DiagnosticSink& sink)
+// The reason may be empty, where it is no more than that.
+void reportUnreadable(const std::string& path, const std::string& reason,
+                      const DiagnosticSink& sink)
 {
     Diagnostic diagnostic;
     diagnostic.kind = "file-unreadable";
     diagnostic.file = path;
-    diagnostic.text = "Can't open file '" + path + "'";
-    diagnostic.printed = "Error: " + diagnostic.text + "\n";
+    const std::string text = "Can't open file '" + path + "'";
+    diagnostic.text = reason.empty() ? text : reason;
+    diagnostic.printed =
+        "Error: " + text + "\n" + (reason.empty() ? reason : "Error: " + reason + "\n");
     sink(diagnostic);
 }
 
@@ -29,12 +34,19 @@ bool openWith(OidProject& project, const std::string& filePath, SavedEmptyPages 
     project.clear();
     const std::unique_ptr<FILE, int (*)(FILE*)> file(FileSystem::myfopen(path, "rb"), fclose);
     if (file == nullptr) {
-        reportUnreadable(path, sink);
+        // Intended: the plain way only says so, in words that are fixed.
+        const bool tellsWhy = emptyPages == SavedEmptyPages::kept;
+        reportUnreadable(path, tellsWhy ? FileSystem::whyNoFile(path) : std::string(), sink);
         fflush(stdout);
         return false;
     }
     project.projectPath = path;
-    ProjectReader(project, emptyPages, sink).read(file.get());
+    ProjectReader reader(project, emptyPages, sink);
+    if (!reader.read(file.get())) {
+        project.clear();
+        reportUnreadable(path, reader.whyRefused(), sink);
+        return false;
+    }
     return true;
 }
 
@@ -55,6 +67,7 @@ bool openProject(OidProject& project, const std::string& path, const DiagnosticS
     const bool opened = openWith(project, path, SavedEmptyPages::kept, sink);
     numberAllAreas(project);
     findMovedPictures(project, sink);
+    tellWhatLeadsOut(project, sink);
     return opened;
 }
 

@@ -87,7 +87,7 @@ bool readBackground(const std::string& path, QImage& image)
     }
     image = file.read();
     if (image.isNull()) {
-        mi_printf("Error: Can't read the image '%s'\n", native.c_str());
+        mi_printf("Error: %s\n", whyNoPicture(path).c_str());
         return false;
     }
     if (warnings.tellOfDamage()) {

@@ -1,18 +1,21 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFile>
 #include <QImage>
 #include <QImageReader>
 #include <QString>
 
 // The file of a picture, read alike for the window and for print images: a photo upright, as its
-// camera noted, and whatever suffix the file has.
+// camera noted, and whatever suffix the file has. Only images of pixels are pictures: a drawing
+// such as SVG may name other files, which would be read with it.
 class PictureFile
 {
 public:
     explicit PictureFile(const QString& path);
 
-    // False when decoding it would drive the machine out of memory.
+    // False when decoding it would drive the machine out of memory, or take more than any scanner
+    // or camera makes.
     bool fitsMemory() const;
 
     // True for a JPEG, and for one whose pixels are upright as they are stored. Asked before read.
@@ -32,10 +35,19 @@ public:
     // The same with its longer side at most so many pixels, which is far faster where the decoder
     // can leave out what is too fine.
     QImage readSmall(int longestSide);
+    // The upright pixels of a part of the stored ones, both sides divided by so much.
+    QImage readPart(const QRect& stored, int reduction);
 
 private:
+    std::uint64_t bytesToDecode() const;
+
+    QFile file;
     QImageReader reader;
 };
+
+// For a message on a file that gave no picture: "Can't read the image 'zoo.jpg'", or what else it
+// is.
+std::string whyNoPicture(const std::string& path);
 
 // What shines through a picture is the paper. Without transparency the picture itself.
 QImage onWhitePaper(const QImage& image);

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include <QCryptographicHash>
-#include <QFile>
 
 #include "base/FileSystem.h"
+#include "base/InputFile.h"
 #include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
 #include "oid/ProjectWriter.h"
@@ -23,13 +23,6 @@ constexpr char kEnd[] = "end";
 std::string hashOf(const QByteArray& bytes)
 {
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex().toStdString();
-}
-
-std::optional<QByteArray> contentOf(const std::string& path)
-{
-    QFile file(QString::fromStdString(Platform::nativePath(path)));
-    return file.open(QIODevice::ReadOnly) ? std::optional<QByteArray>(file.readAll())
-                                          : std::nullopt;
 }
 
 bool takePrefix(std::string& line, const std::string& prefix)
@@ -133,6 +126,9 @@ std::optional<PictureOrder> parsePictureOrder(const std::string& text)
             return order;
         }
         if (takePrefix(line, kProject)) {
+            if (line.find_first_of("/\\") != std::string::npos) {
+                break;  // it lies in the same folder
+            }
             order.projectFile = line;
         } else if (takePrefix(line, kFinal)) {
             order.finalHash = line;
@@ -150,14 +146,14 @@ std::string hashOfFile(const OidProject& project)
 
 bool isSaved(const OidProject& project, const PictureOrder& order)
 {
-    const std::optional<QByteArray> file = contentOf(folderOf(project) + order.projectFile);
+    const std::optional<QByteArray> file = readInput(folderOf(project) + order.projectFile);
     return file && hashOf(*file) == order.finalHash;
 }
 
 std::optional<PictureOrder> readPictureOrder(const OidProject& project, const DiagnosticSink& sink)
 {
     const std::string path = PictureFiles(project).order();
-    const std::optional<QByteArray> text = contentOf(path);
+    const std::optional<QByteArray> text = readInput(path);
     if (!text) {
         return std::nullopt;
     }

@@ -8,6 +8,7 @@
 #include "base/PlatformMachine.h"
 #include "oid/PageRenderer.h"
 #include "oid/PreparedPage.h"
+#include "oid/ProjectFolder.h"
 #include "oid/TiffWriter.h"
 
 PrintFunction mi_printf = printToStandardOutput;
@@ -51,6 +52,9 @@ bool makeImage(int n, Oid::OidProject& project, const PrintProgress& progress)
 {
     if (!FileSystem::doesFileExist(project.pathImageSource(n))) {
         mi_printf("No image was loaded for this picture.\n");
+        return false;
+    }
+    if (!Oid::staysInFolder(project, project.pathImageOutput(n), mi_printf)) {
         return false;
     }
     mi_printf("Creating pixel image...\n");

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <iterator>
 
+#include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
 #include "oid/OidTable.h"
 #include "oid/ProjectWriter.h"
@@ -25,6 +26,20 @@ constexpr int kLineBuffer = 1024;
 constexpr double kCirclePi = 3.14158;
 constexpr int kCircleVertices = 19;
 constexpr int kCircleStep = 20;  // degrees
+
+// What no book has, by far, and what a machine can bear: half a million areas need 100 MiB.
+constexpr std::int64_t kLargestFile = 256 << 20;  // bytes
+constexpr std::size_t kLargestScript = 16 << 20;  // bytes; a hundred thousand lines have 4 MiB
+constexpr std::size_t kMostAreas = 500000;
+constexpr std::size_t kMostCorners = 4000000;
+constexpr std::size_t kMostPages = 20000;
+
+std::int64_t sizeOf(FILE* file)
+{
+    const std::int64_t size = Platform::seekFile(file, 0, SEEK_END);
+    Platform::seekFile(file, 0, SEEK_SET);
+    return size;
+}
 
 void skipByteOrderMark(FILE* file)
 {
@@ -56,13 +71,17 @@ ProjectReader::ProjectReader(OidProject& emptyProject, SavedEmptyPages savedEmpt
       nextOid(tableEntry(kFirstLoadedOid))
 {}
 
-void ProjectReader::read(FILE* projectFile)
+bool ProjectReader::read(FILE* projectFile)
 {
     file = projectFile;
+    if (sizeOf(file) > kLargestFile) {
+        refusal = "The project is larger than 256 MiB";
+        return false;
+    }
     skipByteOrderMark(file);
     char buffer[kLineBuffer];
     line = buffer;
-    while (fgets(buffer, sizeof buffer, file) != nullptr) {
+    while (isWithinBounds() && fgets(buffer, sizeof buffer, file) != nullptr) {
         lineNumber = numberAfter(lineNumber);
         if (isNextShorthand()) {
             ++shorthands;
@@ -76,6 +95,21 @@ void ProjectReader::read(FILE* projectFile)
     }
     // Intended: the last picture is kept without areas, too; every project read has a picture.
     finishPicture();
+    return refusal.empty();
+}
+
+bool ProjectReader::isWithinBounds()
+{
+    if (areas > kMostAreas) {
+        refusal = "The project has more than 500000 areas";
+    } else if (corners > kMostCorners) {
+        refusal = "The project has more than 4000000 corners of areas";
+    } else if (project.pictures.size() > kMostPages) {
+        refusal = "The project has more than 20000 pages";
+    } else if (project.compiler.source.size() > kLargestScript) {
+        refusal = "The script of the project is larger than 16 MiB";
+    }
+    return refusal.empty();
 }
 
 bool ProjectReader::isNextShorthand() const
@@ -119,6 +153,7 @@ void ProjectReader::readVertices(const char*& text)
             return;
         }
         picture.polys.back().points.push_back({toDouble(x.c_str()), toDouble(y.c_str())});
+        ++corners;
     }
 }
 
@@ -299,6 +334,7 @@ void ProjectReader::reportArea(Severity severity, const char* kind, std::string_
 POLY& ProjectReader::beginArea(const char*& text)
 {
     POLY& area = picture.polys.emplace_back();
+    ++areas;
     area.name = parseString(text);
     if (project.oids.try_emplace(area.name, nextOid).second) {
         nextOid = tableEntry(numberAfter(nextOid.oid));

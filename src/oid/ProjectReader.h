@@ -20,12 +20,16 @@ class ProjectReader
 public:
     ProjectReader(OidProject& project, SavedEmptyPages emptyPages, const DiagnosticSink& sink);
 
-    // Reads from the file's beginning to its end.
-    void read(FILE* file);
+    // Reads from the file's beginning to its end. False for more than any book has, which would
+    // take all memory: then whyRefused tells, "The project has more than 500000 areas", and the
+    // rest is not read.
+    bool read(FILE* file);
+    const std::string& whyRefused() const { return refusal; }
 
 private:
     // True for the comment line that Save writes next at the end of a picture.
     bool isNextShorthand() const;
+    bool isWithinBounds();
     void readLine(const char* text);
     void readVertices(const char*& text);
     void readKeyword(const char*& text);
@@ -67,6 +71,9 @@ private:
     int lineNumber = 0;
     const char* line = nullptr;  // the current one
     std::string_view keyword;    // of the current line, in it
+    std::size_t areas = 0;       // of all pictures so far
+    std::size_t corners = 0;
+    std::string refusal;
     bool insidePolygon = false;  // lines hold vertices of the picture's last area
 };
 

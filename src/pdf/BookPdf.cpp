@@ -10,6 +10,7 @@
 #include "oid/OutputLock.h"
 #include "oid/PreparedPage.h"
 #include "oid/PrintImage.h"
+#include "oid/ProjectFolder.h"
 #include "pdf/BookPage.h"
 #include "pdf/SymbolsPage.h"
 
@@ -136,6 +137,14 @@ private:
     PdfWriter file;
 };
 
+// Under that of the game, which the product's name is a part of, and not one that the author chose.
+bool isOwnName(const std::string& path, const Oid::OidProject& project)
+{
+    const std::string native = Platform::nativePath(path);
+    return native == Platform::nativePath(pathPdf(project)) ||
+           native == Platform::nativePath(pathSymbols(project));
+}
+
 }  // namespace
 
 std::string pathPdf(const Oid::OidProject& project)
@@ -153,6 +162,9 @@ std::string pathSymbols(const Oid::OidProject& project)
 bool makePdf(const Oid::OidProject& project, const std::string& path, const PdfOptions& options,
              const PrintJobProgress& progress)
 {
+    if (isOwnName(path, project) && !Oid::staysInFolder(project, path, mi_printf)) {
+        return false;
+    }
     mi_printf("Creating PDF...\n");
     OutputLock lock(path);
     if (!lock.take([](const char* line) { mi_printf("%s", line); })) {

@@ -1,12 +1,12 @@
 #include "pdf/BookPicture.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QImage>
 
 #include <cstdlib>
 
 #include "base/FileSystem.h"
+#include "base/InputFile.h"
 #include "base/PlatformFiles.h"
 #include "oid/PageBackground.h"
 #include "oid/PictureFile.h"
@@ -39,8 +39,8 @@ std::vector<double> decodeOf(int colours, bool inkIsLarge, int lighten)
 void sendFile(const std::string& path, const PdfBytes& bytes)
 {
     constexpr qint64 kPiece = 1 << 16;
-    QFile file(qtPath(path));
-    if (file.open(QIODevice::ReadOnly)) {
+    QFile file;
+    if (openInput(file, path)) {
         while (!file.atEnd() && file.error() == QFileDevice::NoError) {
             const QByteArray piece = file.read(kPiece);
             bytes(reinterpret_cast<const unsigned char*>(piece.constData()),
@@ -85,9 +85,8 @@ bool BookPicture::load(const std::string& path, int page)
     transformation = picture.toUpright();
     components = 0;
     if (picture.isJpeg() && uprightSize.isValid()) {
-        QFile bytes(qtPath(path));
-        const auto facts = bytes.open(QIODevice::ReadOnly) ? readJpegFacts(bytes.readAll())
-                                                           : std::optional<JpegFacts>();
+        const std::optional<QByteArray> bytes = readInput(path);
+        const auto facts = bytes ? readJpegFacts(*bytes) : std::optional<JpegFacts>();
         if (facts && !facts->complete) {
             mi_printf("Error: The image '%s' is damaged\n", native.c_str());
             return false;

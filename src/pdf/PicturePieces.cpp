@@ -1,7 +1,5 @@
 #include "pdf/PicturePieces.h"
 
-#include <QImageReader>
-
 #include <algorithm>
 #include <cstdlib>
 #include <numeric>
@@ -136,14 +134,9 @@ private:
         }
         const int reduction = reductionOf(parts.front());
         const QRect clip = wholeBlocks(strip, reduction);
-        QImageReader reader(qtPath(path));
-        reader.setAutoTransform(true);
-        reader.setDecideFormatFromContent(true);
-        reader.setClipRect(clip);
-        reader.setScaledSize(clip.size() / reduction);
-        const QImage image = reader.read();
+        const QImage image = PictureFile(qtPath(path)).readPart(clip, reduction);
         if (image.isNull()) {
-            mi_printf("Error: Can't read the image '%s'\n", Platform::nativePath(path).c_str());
+            mi_printf("Error: %s\n", whyNoPicture(path).c_str());
             return false;
         }
         const QPoint corner = orientation.toUpright(clip).topLeft();

@@ -404,7 +404,10 @@ std::optional<PenGame> readGameFile(const std::string& path, std::string& proble
 {
     std::string bytes;
     if (!readBytes(path, bytes)) {
-        problem = "Can't open file '" + path + "'";
+        problem = FileSystem::whyNoFile(path);
+        if (problem.empty()) {
+            problem = "Can't open file '" + path + "'";
+        }
         return std::nullopt;
     }
     std::optional<PenGame> game = readGame(bytes, problem);

@@ -1,9 +1,9 @@
 #include "play/Book.h"
 
-#include <QFile>
 #include <QString>
 
 #include "base/FileSystem.h"
+#include "base/InputFile.h"
 #include "base/TextHelpers.h"
 #include "gme/Game.h"
 #include "gme/LineParser.h"
@@ -195,9 +195,9 @@ void measureSounds(Book& book)
 {
     for (size_t i = 0; i < book.texts.size(); ++i) {
         const Text& text = book.texts[i];
-        QFile file(QString::fromStdString(text.audioFile));
-        const bool isThere = !text.audioFile.empty() && file.open(QIODevice::ReadOnly);
-        const double seconds = isThere ? pen::soundSeconds(file.readAll().toStdString()) : 0;
+        const std::optional<QByteArray> sound =
+            text.audioFile.empty() ? std::nullopt : readInput(text.audioFile);
+        const double seconds = sound ? pen::soundSeconds(sound->toStdString()) : 0;
         book.game.soundSeconds[i] =
             seconds > 0 ? seconds : QString::fromStdString(text.text).size() / kCharactersInASecond;
     }

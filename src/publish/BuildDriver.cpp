@@ -1,6 +1,8 @@
 #include "publish/BuildDriver.h"
 
 #include <QDir>
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <memory>
 
@@ -10,6 +12,7 @@
 #include "oid/OidProject.h"
 #include "oid/OutputLock.h"
 #include "oid/PrintImage.h"
+#include "oid/ProjectFolder.h"
 #include "programs/ProcessRunner.h"
 #include "publish/Assembling.h"
 #include "publish/YamlFile.h"
@@ -45,10 +48,22 @@ std::map<std::string, int> drawnAreas(const Oid::OidProject& project)
     return areas;
 }
 
+bool filesStayInFolder(const Oid::OidProject& project)
+{
+    const std::string yaml = project.pathYaml();
+    const std::string files[] = {yaml, gme::codesFileFor(yaml), project.pathGme()};
+    return std::all_of(std::begin(files), std::end(files), [&](const std::string& file) {
+        return Oid::staysInFolder(project, file, project.print);
+    });
+}
+
 bool makeFiles(Oid::OidProject& project, ProcessRunner& runner, const BuildOptions& options)
 {
     makePathAbsolute(project.projectPath);
     const FileSystem::WorkingFolder folder(FileSystem::getDirectoryOfPath(project.projectPath));
+    if (!filesStayInFolder(project)) {
+        return false;
+    }
     const auto lock = std::make_shared<OutputLock>(project, kBuildLock);
     if (!lock->take([&](const char* line) { runner.echo(line); })) {
         return stopBuild(mi_printf);

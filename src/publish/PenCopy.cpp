@@ -55,6 +55,27 @@ void sayOthersOfItsNumber(const std::string& root, const std::string& copy, int 
     }
 }
 
+// False, with a message, when the copy would come from outside of the project's folder or go
+// outside of the pen.
+bool staysInPlace(const Oid::OidProject& project, const std::string& pen, const std::string& copy,
+                  ProcessRunner& runner)
+{
+    const std::string gme = project.pathGme();
+    const std::string from =
+        FileSystem::placeOutside(FileSystem::getDirectoryOfPath(project.projectPath), gme);
+    const std::string to = FileSystem::placeOutside(pen, copy);
+    if (!from.empty()) {
+        say("Error: '" + Platform::nativePath(gme) + "' leads to '" + from +
+                "', outside of the project's folder. It is not copied.",
+            runner);
+    } else if (!to.empty()) {
+        say("Error: '" + Platform::nativePath(copy) + "' leads to '" + to +
+                "', outside of the pen. It is not written.",
+            runner);
+    }
+    return from.empty() && to.empty();
+}
+
 }  // namespace
 
 PenCopy copyGmeToPen(const Oid::OidProject& project, const std::string& script,
@@ -74,7 +95,7 @@ PenCopy copyGmeToPen(const Oid::OidProject& project, const std::string& script,
     }
     const std::string copy =
         *pen + FileSystem::directorySeparator + FileSystem::getFilenameOfPath(gme);
-    if (!FileSystem::copyFileContent(gme, copy)) {
+    if (!staysInPlace(project, *pen, copy, runner) || !FileSystem::copyFileContent(gme, copy)) {
         runner.echo("failed.\n");
         return PenCopy::failed;
     }

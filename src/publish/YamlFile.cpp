@@ -3,6 +3,7 @@
 #include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
 #include "oid/OidProject.h"
+#include "oid/ProjectFolder.h"
 
 namespace {
 
@@ -50,7 +51,8 @@ std::string description(const Oid::OidProject& project, ttbasic& script)
 
 bool makeYAML(Oid::OidProject& project)
 {
-    return makeYAML(project, project.pathYaml());
+    return Oid::staysInFolder(project, project.pathYaml(), project.print) &&
+           makeYAML(project, project.pathYaml());
 }
 
 bool makeYAML(Oid::OidProject& project, const std::string& path)

@@ -69,7 +69,9 @@ TEST(Inputs, TheSystemsWordsTellWhatIsWrong)
 TEST(Inputs, WhatIsNoFileIsNamed)
 {
     const OfEachKind folder;
-    const auto why = [&](const char* name) { return whyNoInput(folder.path() + "\\" + name); };
+    const auto why = [&](const char* name) {
+        return FileSystem::whyNoFile(folder.path() + "\\" + name);
+    };
     const auto is = [&](const char* name, const char* kind) {
         return "'" + folder.file(name) + "' is " + kind + ", not a file";
     };

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 
 namespace {
@@ -681,4 +682,25 @@ TEST_F(MovedPages, TellsWhereThePagesWereBefore)
     EXPECT_EQ(from, (std::vector<int>{0, -1, 1, 2}));
     document.apply(edit::MovePage{0, 3});
     EXPECT_EQ(from, (std::vector<int>{1, 2, 3, 0}));
+}
+
+TEST_F(PagePicturesTest, AnOrderThatNamesAProjectElsewhereIsDamaged)
+{
+    EXPECT_TRUE(Oid::parsePictureOrder("Plinkett picture order 1\nproject book.oidpro\nend\n"));
+    for (const char* project : {"../secret", "/etc/passwd", "..\\secret"}) {
+        EXPECT_FALSE(Oid::parsePictureOrder(std::string("Plinkett picture order 1\nproject ") +
+                                            project + "\nend\n"))
+            << project;
+    }
+}
+
+TEST_F(PagePicturesTest, NothingIsWrittenThroughALinkInThePlaceOfTheOrder)
+{
+    PictureFileWork work;
+    Desk desk(book, work);
+    std::filesystem::create_symlink("../no-such-order", folder.file("900-bkgnd-moved.txt"));
+    EXPECT_FALSE(desk.arrange({3, 0, 2}));
+    EXPECT_EQ(desk.pictures.problem().file, folder.file("900-bkgnd-moved.txt"));
+    EXPECT_EQ(desk.pictures.problem().cause,
+              "It is a link to a file outside of the project's folder.");
 }

@@ -131,3 +131,56 @@ TEST_F(PictureCopies, APictureThatIsSmallAlreadyStaysAsItIs)
     EXPECT_TRUE(none.uprightSize().isEmpty());
     EXPECT_TRUE(none.readSmall(100).isNull());
 }
+
+// Only the head of a PNG: so many pixels, and no data.
+static std::string headOfPng(unsigned width, unsigned height)
+{
+    std::string head = encoded(picture({1, 1}), "png");
+    for (int i = 0; i < 4; ++i) {
+        head[16 + static_cast<size_t>(i)] = static_cast<char>(width >> (24 - 8 * i));
+        head[20 + static_cast<size_t>(i)] = static_cast<char>(height >> (24 - 8 * i));
+    }
+    const auto crc = [](const std::string& bytes) {
+        unsigned sum = 0xFFFFFFFF;
+        for (const char byte : bytes) {
+            sum ^= static_cast<unsigned char>(byte);
+            for (int bit = 0; bit < 8; ++bit) {
+                sum = sum >> 1 ^ ((sum & 1) != 0 ? 0xEDB88320U : 0U);
+            }
+        }
+        return ~sum;
+    };
+    const unsigned sum = crc(head.substr(12, 17));
+    for (int i = 0; i < 4; ++i) {
+        head[29 + static_cast<size_t>(i)] = static_cast<char>(sum >> (24 - 8 * i));
+    }
+    return head;
+}
+
+TEST_F(PictureCopies, ThatWouldBeLargerThanAnyScanDoNotFit)
+{
+    EXPECT_TRUE(PictureFile(file(headOfPng(14031, 19843))).fitsMemory());
+    EXPECT_FALSE(PictureFile(file(headOfPng(20000, 20000))).fitsMemory());
+    EXPECT_FALSE(PictureFile(file(headOfPng(1000000, 1000000))).fitsMemory());
+    EXPECT_TRUE(PictureFile(file(headOfPng(20000, 20000))).read().isNull());
+}
+
+TEST_F(PictureCopies, DrawingsAreNoPicturesSinceTheyMayNameOtherFiles)
+{
+    writeFile(folder.file("secret.png"), encoded(picture({10, 10}), "png"));
+    const std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" "
+                            "xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\"10\" "
+                            "height=\"10\"><image xlink:href=\"" +
+                            folder.file("secret.png") + "\" width=\"10\" height=\"10\"/></svg>";
+    EXPECT_TRUE(PictureFile(file(svg, "came.svg")).read().isNull());
+    EXPECT_TRUE(PictureFile(file(svg, "came.jpg")).read().isNull());
+    EXPECT_EQ(kept(svg, "came.svg"), "");
+}
+
+TEST_F(PictureCopies, OfEveryKindOfPixelsComeIn)
+{
+    for (const char* format : {"png", "jpg", "bmp", "tiff", "webp", "ppm"}) {
+        EXPECT_FALSE(PictureFile(file(encoded(picture({20, 10}), format))).read().isNull())
+            << format;
+    }
+}

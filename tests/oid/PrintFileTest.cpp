@@ -8,6 +8,7 @@
 
 #include "oid/PageRenderer.h"
 #include "oid/TiffWriter.h"
+#include "tests/helpers/Environment.h"
 #include "tests/oid/PlainPrintImage.h"
 #include "tests/oid/PrintProjects.h"
 
@@ -149,12 +150,15 @@ TEST(PrintFile, AFullDiskIsAnError)
 {
     PrintedBook book(0.4, 0.1, 254);
     book.setBackground(colourfulPicture(4, 4));
-    fs::create_symlink("/dev/full", book.printFile());
-    EXPECT_FALSE(book.print());
+    {
+        const SmallDisk disk(100);
+        EXPECT_FALSE(book.print());
+    }
     EXPECT_EQ(book.messages, "Creating pixel image...\n"
                              "      0%\n"
                              "Error: Can't write file '" +
                                  book.printFile() + "'\n");
+    EXPECT_EQ(book.folder.listing(), "900-bkgnd0.jpg");
 }
 
 TEST(PrintFile, ProgressIsToldOnTheCallingThreadUpToAHundred)

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <filesystem>
 
 #include <gtest/gtest.h>
 
@@ -498,4 +499,79 @@ TEST(ProjectReader, TheScriptKeywordMayFollowEnd)
     const Loaded loaded("POLY a\nEND SCRIPT BOX b\nx = 1\n");
     EXPECT_EQ(loaded.project.compiler.source, "x = 1\n");
     EXPECT_EQ(areasOf(loaded.project), "0: a 10000\n");
+}
+
+namespace {
+
+std::string repeated(const std::string& text, int count)
+{
+    std::string all;
+    all.reserve(text.size() * static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) {
+        all += text;
+    }
+    return all;
+}
+
+// Opens a project of that text: what it says of it, or "opened".
+std::string opened(const std::string& text)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("book.oidpro"), text);
+    Oid::OidProject project;
+    CapturedMessages captured;
+    setDefaultPrintf(CapturedMessages::print);
+    const bool isOpen = project.open(folder.file("book.oidpro"));
+    setDefaultPrintf(nullptr);
+    EXPECT_EQ(project.projectPath.empty(), !isOpen);
+    EXPECT_EQ(project.pictures.empty(), !isOpen);
+    EXPECT_TRUE(isOpen || project.oids.empty());
+    const std::string refused = "Error: Can't open file '" + folder.file("book.oidpro") + "'\n";
+    return isOpen ? captured.text() + "opened" : captured.text().substr(refused.size());
+}
+
+}  // namespace
+
+TEST(ProjectReader, MoreAreasThanAnyBookHasAreRefused)
+{
+    EXPECT_EQ(opened(repeated("BOX a 0 0 1 1\n", 500000)), "opened");
+    EXPECT_EQ(opened(repeated("BOX a 0 0 1 1\n", 500001)),
+              "Error: The project has more than 500000 areas\n");
+}
+
+TEST(ProjectReader, MoreCornersThanAnyBookHasAreRefused)
+{
+    const std::string line = repeated("1 1 ", 250) + "\n";
+    EXPECT_EQ(opened("POLY a\n" + repeated(line, 16000)), "opened");
+    EXPECT_EQ(opened("POLY a\n" + repeated(line, 16001)),
+              "Error: The project has more than 4000000 corners of areas\n");
+}
+
+TEST(ProjectReader, MorePagesThanAnyBookHasAreRefused)
+{
+    EXPECT_EQ(opened(repeated("IMAGE\nBOX a 0 0 1 1\n", 20000)), "opened");
+    EXPECT_EQ(opened(repeated("IMAGE\nBOX a 0 0 1 1\n", 20002)),
+              "Error: The project has more than 20000 pages\n");
+}
+
+TEST(ProjectReader, AScriptThatIsLargerThanAnyIsRefused)
+{
+    EXPECT_EQ(opened("SCRIPT\n" + std::string(16 << 20, 'x')), "opened");
+    EXPECT_EQ(opened("SCRIPT\n" + std::string((16 << 20) + 1, 'x')),
+              "Error: The script of the project is larger than 16 MiB\n");
+}
+
+TEST(ProjectReader, AFileThatIsLargerThanAnyIsRefusedUnread)
+{
+    const TemporaryFolder folder;
+    const std::string book = folder.file("book.oidpro");
+    writeFile(book, "PRODUCT 900, \"Zoo\"\n");
+    std::filesystem::resize_file(book, (256 << 20) + 1);
+    Oid::OidProject project;
+    CapturedMessages captured;
+    setDefaultPrintf(CapturedMessages::print);
+    EXPECT_FALSE(project.open(book));
+    setDefaultPrintf(nullptr);
+    EXPECT_EQ(captured.text(),
+              "Error: Can't open file '" + book + "'\nError: The project is larger than 256 MiB\n");
 }

@@ -334,3 +334,32 @@ TEST_F(CopyingToThePen, AGameThatIsBeingMadeIsNotCopied)
                   folder.file("900-build.lock") + ")\nfailed.\n");
     EXPECT_EQ(contentOf("first"), "tiptoi.ico ");
 }
+
+TEST_F(CopyingToThePen, AGameOutsideOfTheProjectsFolderStaysThere)
+{
+    markAsPen("first");
+    fs::create_directory(folder.file("zoo"));
+    project.projectPath = folder.path() + "\\zoo\\zoo.oidpro";
+    fs::create_symlink("../900-Zoo.gme", folder.file("zoo/900-Zoo.gme"));
+
+    EXPECT_EQ(copy(), PenCopy::failed);
+
+    EXPECT_EQ(runner.shown(), "Copy to Pen...\nError: '" + folder.file("zoo/900-Zoo.gme") +
+                                  "' leads to '" + folder.file("900-Zoo.gme") +
+                                  "', outside of the project's folder. It is not copied.\n"
+                                  "failed.\n");
+    EXPECT_EQ(contentOf("first"), "tiptoi.ico ");
+}
+
+TEST_F(CopyingToThePen, NothingIsWrittenOutsideOfThePen)
+{
+    markAsPen("first");
+    fs::create_symlink("../precious", folder.file("first/900-Zoo.gme"));
+
+    EXPECT_EQ(copy(), PenCopy::failed);
+
+    EXPECT_EQ(runner.shown(), "Copy to Pen...\nError: '" + folder.file("first/900-Zoo.gme") +
+                                  "' leads to '" + folder.file("precious") +
+                                  "', outside of the pen. It is not written.\nfailed.\n");
+    EXPECT_FALSE(fs::exists(folder.file("precious")));
+}

@@ -1,5 +1,4 @@
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <cstdio>
@@ -7,6 +6,8 @@
 
 #include "app/cli/Commands.h"
 #include "app/cli/PlayableBook.h"
+#include "base/FileSystem.h"
+#include "base/InputFile.h"
 #include "play/Coverage.h"
 #include "play/Exploration.h"
 #include "play/TestRun.h"
@@ -26,16 +27,6 @@ std::vector<std::string> testFilesBeside(const std::string& project)
     return files;
 }
 
-std::optional<std::string> contentOf(const std::string& path)
-{
-    QFile file(QString::fromStdString(path));
-    if (!file.open(QIODevice::ReadOnly)) {
-        return std::nullopt;
-    }
-    const std::string content = file.readAll().toStdString();
-    return file.error() == QFileDevice::NoError ? std::make_optional(content) : std::nullopt;
-}
-
 void printMessages(const std::string& file, const std::vector<play::TestMessage>& messages)
 {
     for (const play::TestMessage& message : messages) {
@@ -52,13 +43,14 @@ std::string counted(std::size_t count, const std::string& what)
 // Runs the tests of a file; true when all is as expected.
 bool runFile(const std::string& file, const play::Book& book, play::Reached& reached)
 {
-    const std::optional<std::string> text = contentOf(file);
+    const std::optional<QByteArray> text = readInput(file);
     if (!text) {
-        fprintf(stderr, "Error: Can't open file '%s'\n", file.c_str());
+        fprintf(stderr, "%s", FileSystem::cannotOpen(file).c_str());
         return false;
     }
     std::vector<play::TestMessage> mistakes;
-    const std::optional<play::BookTest> test = play::readBookTest(*text, book, mistakes);
+    const std::optional<play::BookTest> test =
+        play::readBookTest(text->toStdString(), book, mistakes);
     printMessages(file, mistakes);
     if (!test) {
         printf("%s: not run\n", file.c_str());
