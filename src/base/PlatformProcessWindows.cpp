@@ -54,14 +54,15 @@ std::string searchPath()
 std::string findProgram(const std::string& name)
 {
     wchar_t path[32768];
-    const DWORD length =
-        SearchPathW(nullptr, fromUtf8(name).c_str(), L".exe", 32768, path, nullptr);
+    const DWORD length = SearchPathW(fromUtf8(searchPath()).c_str(), fromUtf8(name).c_str(),
+                                     L".exe", 32768, path, nullptr);
     return length > 0 && length < 32768 ? toUtf8(path) : std::string();
 }
 
 std::string programToStart(const std::string& word)
 {
-    return word;
+    const std::string found = findProgram(word);
+    return !found.empty() ? found : word;
 }
 
 std::string installedToolFolder(const std::string& tool)

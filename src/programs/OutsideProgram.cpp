@@ -7,11 +7,16 @@
 
 namespace {
 
-// The program may start in another folder, in which a relative path would lead elsewhere.
+// The program may start in another folder, in which a relative path would lead elsewhere. One that
+// was not found would be searched by the system, also in the current folder, which is a stranger's
+// project's while that is built: so it is looked for beside our own program only.
 QString pathOf(const std::string& program)
 {
-    const QString path = QString::fromStdString(Platform::programToStart(program));
-    return path.contains('/') ? QDir::current().absoluteFilePath(path) : path;
+    const QString path =
+        QDir::fromNativeSeparators(QString::fromStdString(Platform::programToStart(program)));
+    const QDir folder = path.contains('/') ? QDir::current()
+                                           : QDir(QString::fromStdString(Platform::exeDirectory()));
+    return folder.absoluteFilePath(path);
 }
 
 }  // namespace

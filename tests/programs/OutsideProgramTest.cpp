@@ -167,3 +167,15 @@ TEST(ErrorTexts, NameEveryErrorOfAProcess)
     EXPECT_STREQ(OutsideProgram::errorText(QProcess::UnknownError), "ERROR: Unknown Error\n");
     EXPECT_STREQ(OutsideProgram::errorText(static_cast<QProcess::ProcessError>(99)), "");
 }
+
+// There may lie what a stranger put beside a project.
+TEST_F(StartingAProgram, NoneIsTakenFromTheCurrentFolder)
+{
+    const FakeProgram strange(folder.file("zoo"), "ffmpeg.exe");
+    const FileSystem::WorkingFolder zoo(folder.file("zoo"));
+    for (const std::string& places : {std::string("/nowhere"), ":" + folder.path()}) {
+        const ChangedVariable noPath("PATH", places);
+        EXPECT_FALSE(start("ffmpeg.exe"));
+    }
+    EXPECT_EQ(strange.callCount(), 0);
+}
