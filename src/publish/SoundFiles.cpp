@@ -220,8 +220,26 @@ std::optional<ProgramCall> AudioMaker::next(Making& text, int exitCode)
     return call;
 }
 
+// Programs would write through a link in the place of a file, and wait for a pipe there.
+bool isFree(const std::string& folder, const std::string& file)
+{
+    return FileSystem::whyNoFile(file).empty() && FileSystem::placeOutside(folder, file).empty();
+}
+
 std::optional<ProgramCall> AudioMaker::speak(Making& text) const
 {
+    const std::string& language = text.said.settings.language;
+    if (!isLanguage(language)) {
+        text.refused = "is not spoken: '" + shown(language) + "' is not the name of a language";
+        return std::nullopt;
+    }
+    for (const std::string& file : {text.speech, text.sound}) {
+        if (!isFree(folder, file)) {
+            text.refused = "is not spoken: '" + Platform::nativePath(file) +
+                           "' leads out of the folder or is no file";
+            return std::nullopt;
+        }
+    }
     switch (refusalOf(text.audioName, text.said.text)) {
     case Refusal::longName:
         text.refused = "is too long for the name of an audio file";

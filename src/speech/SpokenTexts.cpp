@@ -109,6 +109,10 @@ void SpokenTexts::speak()
         tell(Problem::tooLong);
         return;
     }
+    if (!isLanguage(wanted->voice.language)) {
+        tell(Problem::noLanguage);
+        return;
+    }
     putToolsOnPath();
     QDir().mkpath(folder);
     spoken = wanted;

@@ -575,3 +575,51 @@ TEST_F(SoundFiles, OurOwnEnvironmentKeepsItsEncoding)
     create();
     EXPECT_EQ(ours, ";;");
 }
+
+TEST_F(SoundFiles, ALanguageThatWouldBeAnOptionOrTwoWordsIsRefused)
+{
+    std::string expected;
+    for (const char* language : {"-w/tmp/x", "de -w", "de\t", ""}) {
+        project.compiler.voices["max"] = {language, false, 40, 3, 3};
+        say("say_max_Moo", "max", "Moo");
+        EXPECT_EQ(create(), SpeechOutcome::incomplete);
+        expected += std::string("Error: The text 'Moo' is not spoken: '") + language +
+                    "' is not the name of a language\n";
+    }
+    EXPECT_EQ(runner.shown(), expected);
+    EXPECT_THAT(runner.commands, IsEmpty());
+}
+
+TEST_F(SoundFiles, LanguagesWithDashesInsideAreSpoken)
+{
+    project.compiler.voices["max"] = {"en-gb-x-rp", false, 40, 3, 3};
+    say("say_max_Moo", "max", "Moo");
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+}
+
+TEST_F(SoundFiles, NothingIsSpokenThroughALinkThatLeadsOut)
+{
+    writeFile(folder.file("precious"), "precious");
+    fs::create_directory(folder.file("900-audio"));
+    fs::create_symlink("../precious", audio("say_eve_Hi.wav"));
+    fs::create_symlink("../new", audio("say_eve_Ho.ogg"));
+    say("say_eve_Hi", "eve", "Hi");
+    say("say_eve_Ho", "eve", "Ho");
+    EXPECT_EQ(create(), SpeechOutcome::incomplete);
+    EXPECT_EQ(runner.shown(), "Error: The text 'Hi' is not spoken: '" + audio("say_eve_Hi.wav") +
+                                  "' leads out of the folder or is no file\n"
+                                  "Error: The text 'Ho' is not spoken: '" +
+                                  audio("say_eve_Ho.ogg") +
+                                  "' leads out of the folder or is no file\n");
+    EXPECT_THAT(runner.commands, IsEmpty());
+    EXPECT_EQ(readFile(folder.file("precious")), "precious");
+}
+
+TEST_F(SoundFiles, TheAudioFolderItselfMayBeALink)
+{
+    fs::create_directory(folder.file("sounds"));
+    fs::create_directory_symlink("sounds", folder.file("900-audio"));
+    say("say_eve_Hi", "eve", "Hi");
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_EQ(readFile(folder.file("sounds/say_eve_Hi.ogg")), "sound");
+}
