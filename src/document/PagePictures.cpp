@@ -331,8 +331,9 @@ bool PagePictures::begin()
     auto ours =
         std::make_unique<QLockFile>(QString::fromStdString(Platform::nativePath(files.lock())));
     ours->setStaleLockTime(0);  // not by its age: the process may have been asleep for days
-    if (!ours->tryLock(0)) {
-        const bool denied = ours->error() != QLockFile::LockFailedError;
+    const bool isFile = FileSystem::whyNoFile(files.lock()).empty();
+    if (!isFile || !ours->tryLock(0)) {
+        const bool denied = !isFile || ours->error() != QLockFile::LockFailedError;
         const char* const cause =
             denied ? QT_TRANSLATE_NOOP("PagePictures", "The folder cannot be written.")
                    : QT_TRANSLATE_NOOP(

@@ -43,6 +43,11 @@ OutputLock::~OutputLock() = default;
 
 bool OutputLock::take(const std::function<void(const char* line)>& say)
 {
+    const std::string why = FileSystem::whyNoFile(path);
+    if (!why.empty()) {
+        say(("Error: " + why + "\n").c_str());
+        return false;
+    }
     if (path.empty() || tryFor(0)) {
         return true;
     }

@@ -99,6 +99,13 @@ TEST_F(NoFiles, ADescriptionThatIsAPipeIsNeitherReadNorWritten)
               "status 1\nError: Can't open file '" + yaml + "'\n");
 }
 
+TEST_F(NoFiles, ALockThatIsAPipeStopsTheBuild)
+{
+    const std::string lock = pipe("900-build.lock");
+    EXPECT_EQ(run({"build", file("zoo.oidpro")}),
+              "status 1\nError: '" + lock + "' is a pipe, not a file\nStopped build process.\n");
+}
+
 TEST_F(NoFiles, ACodesFileThatIsAPipeIsRefused)
 {
     ASSERT_EQ(run({"yaml", file("zoo.oidpro")}), "status 0\n");
