@@ -1,5 +1,6 @@
 #include "document/SavedFile.h"
 
+#include "base/InputFile.h"
 #include "base/PlatformFiles.h"
 #include "oid/ProjectWriter.h"
 
@@ -14,10 +15,9 @@ constexpr QCryptographicHash::Algorithm kHash = QCryptographicHash::Sha1;
 // None for what is no file or cannot be read. A pipe is not waited for.
 std::optional<QByteArray> hashOfFile(const std::string& path)
 {
-    QFile file(QString::fromStdString(Platform::nativePath(path)));
+    QFile file;
     QCryptographicHash hash(kHash);
-    if (path.empty() || !QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly) ||
-        !hash.addData(&file)) {
+    if (path.empty() || !openInput(file, path) || !hash.addData(&file)) {
         return std::nullopt;
     }
     return hash.result();

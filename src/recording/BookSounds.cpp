@@ -1,6 +1,7 @@
 #include "recording/BookSounds.h"
 
 #include "base/FileSystem.h"
+#include "base/InputFile.h"
 #include "base/PlatformFiles.h"
 #include "recording/ReadSound.h"
 #include "recording/VoiceFile.h"
@@ -36,9 +37,9 @@ QString nameOf(const std::string& path)
 
 bool haveSameBytes(const QString& one, const QString& other)
 {
-    QFile first(one);
-    QFile second(other);
-    return first.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly) &&
+    QFile first;
+    QFile second;
+    return openInput(first, one.toStdString()) && openInput(second, other.toStdString()) &&
            first.size() == second.size() && first.readAll() == second.readAll();
 }
 

@@ -1,10 +1,9 @@
 #include "speech/AudioFile.h"
 
-#include <QFile>
-
 #include <algorithm>
 
 #include "base/FileSystem.h"
+#include "base/InputFile.h"
 #include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"
 #include "pen/SoundLength.h"
@@ -18,8 +17,8 @@ std::string audioFileIn(const std::string& folder, const std::string& audioName)
 
 double secondsOf(const std::string& path)
 {
-    QFile file(QString::fromStdString(Platform::nativePath(path)));
-    return file.open(QIODevice::ReadOnly) ? pen::soundSeconds(file.readAll().toStdString()) : 0;
+    const std::optional<QByteArray> sound = readInput(path);
+    return sound ? pen::soundSeconds(sound->toStdString()) : 0;
 }
 
 // A page (RFC 3533, section 6): "OggS", flags, and behind the header a table with the lengths of
@@ -45,8 +44,8 @@ bool isCutOff(const std::string& path)
 {
     constexpr qint64 kLargestPage = 65307;  // bytes
     constexpr char kPage[] = "OggS";
-    QFile file(QString::fromStdString(Platform::nativePath(path)));
-    if (!file.open(QIODevice::ReadOnly)) {
+    QFile file;
+    if (!openInput(file, path)) {
         return false;
     }
     if (file.size() != 0 && !file.peek(sizeof kPage - 1).startsWith(kPage)) {

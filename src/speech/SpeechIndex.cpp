@@ -9,6 +9,7 @@
 
 #include <optional>
 
+#include "base/InputFile.h"
 #include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
 #include "speech/AudioFile.h"
@@ -24,9 +25,9 @@ QString text(const std::string& utf8)
 
 std::string hashOf(const std::string& path)
 {
-    QFile file(text(path));
+    QFile file;
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    if (!file.open(QIODevice::ReadOnly) || !hash.addData(&file)) {
+    if (!openInput(file, path) || !hash.addData(&file)) {
         return {};
     }
     return hash.result().toHex().toStdString();
@@ -112,13 +113,13 @@ std::string SpeechIndex::problem() const
 
 void SpeechIndex::read()
 {
-    QFile file(text(path()));
-    if (!file.exists()) {
+    if (!Platform::fileExists(path())) {
         return;
     }
-    if (!file.open(QIODevice::ReadOnly)) {
+    const std::optional<QByteArray> bytes = readInput(path());
+    if (!bytes) {
         now = State::unreadable;
-    } else if (!readEntries(file.readAll().toStdString())) {
+    } else if (!readEntries(bytes->toStdString())) {
         now = State::damaged;
         entries.clear();
     }
