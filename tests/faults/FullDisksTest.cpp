@@ -244,8 +244,9 @@ TEST_P(Writers, FollowALinkAndLeaveItThere)
     if (file().empty() || kind() == "order") {
         return;  // a name that nobody links to; pages take the link along
     }
-    fs::create_directory(folder.file("elsewhere"));
-    const std::string target = folder.file("elsewhere/new");
+    const fs::path elsewhere = fs::path(folder.file(file())).parent_path() / "elsewhere";
+    fs::create_directory(elsewhere);  // but not outside of what belongs to the book, or to the pen
+    const std::string target = (elsewhere / "new").string();
     if (kind() == "index") {  // one that cannot be read is put aside
         ASSERT_TRUE(write());
         fs::rename(folder.file(file()), target);
