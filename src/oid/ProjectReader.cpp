@@ -27,10 +27,10 @@ constexpr double kCirclePi = 3.14158;
 constexpr int kCircleVertices = 19;
 constexpr int kCircleStep = 20;  // degrees
 
-// What no book has, by far, and what a machine can bear: half a million areas need 100 MiB.
+// What no book has, by far, and what a machine can bear: a hundred thousand areas are many.
 constexpr std::int64_t kLargestFile = 256 << 20;  // bytes
 constexpr std::size_t kLargestScript = 16 << 20;  // bytes; a hundred thousand lines have 4 MiB
-constexpr std::size_t kMostAreas = 500000;
+constexpr std::size_t kMostAreas = 250000;
 constexpr std::size_t kMostCorners = 4000000;
 constexpr std::size_t kMostPages = 20000;
 
@@ -101,7 +101,7 @@ bool ProjectReader::read(FILE* projectFile)
 bool ProjectReader::isWithinBounds()
 {
     if (areas > kMostAreas) {
-        refusal = "The project has more than 500000 areas";
+        refusal = "The project has more than 250000 areas";
     } else if (corners > kMostCorners) {
         refusal = "The project has more than 4000000 corners of areas";
     } else if (project.pictures.size() > kMostPages) {

@@ -21,7 +21,7 @@ public:
     ProjectReader(OidProject& project, SavedEmptyPages emptyPages, const DiagnosticSink& sink);
 
     // Reads from the file's beginning to its end. False for more than any book has, which would
-    // take all memory: then whyRefused tells, "The project has more than 500000 areas", and the
+    // take all memory: then whyRefused tells, "The project has more than 250000 areas", and the
     // rest is not read.
     bool read(FILE* file);
     const std::string& whyRefused() const { return refusal; }

@@ -534,9 +534,9 @@ std::string opened(const std::string& text)
 
 TEST(ProjectReader, MoreAreasThanAnyBookHasAreRefused)
 {
-    EXPECT_EQ(opened(repeated("BOX a 0 0 1 1\n", 500000)), "opened");
-    EXPECT_EQ(opened(repeated("BOX a 0 0 1 1\n", 500001)),
-              "Error: The project has more than 500000 areas\n");
+    EXPECT_EQ(opened(repeated("BOX a 0 0 1 1\n", 250000)), "opened");
+    EXPECT_EQ(opened(repeated("BOX a 0 0 1 1\n", 250001)),
+              "Error: The project has more than 250000 areas\n");
 }
 
 TEST(ProjectReader, MoreCornersThanAnyBookHasAreRefused)
