@@ -2079,10 +2079,6 @@
         <translation>Ein Text ist zu lang für das Sprachprogramm und wird nur gezeigt.</translation>
     </message>
     <message>
-        <source>A voice has a language with a blank or a leading dash: its texts are only shown.</source>
-        <translation>Eine Stimme hat eine Sprache mit einem Leerzeichen oder mit einem Strich am Anfang: Ihre Texte werden nur gezeigt.</translation>
-    </message>
-    <message>
         <source>The speech program is not there: texts without an audio file are only shown.</source>
         <translation>Das Sprachprogramm fehlt: Texte ohne Audiodatei werden nur gezeigt.</translation>
     </message>

@@ -2079,10 +2079,6 @@
         <translation>A text is too long for the speech program and is only shown.</translation>
     </message>
     <message>
-        <source>A voice has a language with a blank or a leading dash: its texts are only shown.</source>
-        <translation>A voice has a language with a blank or a leading dash: its texts are only shown.</translation>
-    </message>
-    <message>
         <source>The speech program is not there: texts without an audio file are only shown.</source>
         <translation>The speech program is not there: texts without an audio file are only shown.</translation>
     </message>

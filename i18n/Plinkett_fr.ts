@@ -2079,10 +2079,6 @@
         <translation>Un texte est trop long pour le programme de parole et n’est qu’affiché.</translation>
     </message>
     <message>
-        <source>A voice has a language with a blank or a leading dash: its texts are only shown.</source>
-        <translation>Une voix a une langue avec une espace ou un tiret initial : ses textes ne sont qu’affichés.</translation>
-    </message>
-    <message>
         <source>The speech program is not there: texts without an audio file are only shown.</source>
         <translation>Le programme de parole manque : les textes sans fichier audio ne sont qu’affichés.</translation>
     </message>

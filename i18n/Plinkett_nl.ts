@@ -2079,10 +2079,6 @@
         <translation>Een tekst is te lang voor het spraakprogramma en wordt alleen getoond.</translation>
     </message>
     <message>
-        <source>A voice has a language with a blank or a leading dash: its texts are only shown.</source>
-        <translation>Een stem heeft een taal met een spatie of een streepje vooraan: haar teksten worden alleen getoond.</translation>
-    </message>
-    <message>
         <source>The speech program is not there: texts without an audio file are only shown.</source>
         <translation>Het spraakprogramma ontbreekt: teksten zonder audiobestand worden alleen getoond.</translation>
     </message>

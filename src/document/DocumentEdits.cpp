@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "base/FileSystem.h"
 #include "oid/OidTable.h"
 
 namespace {
@@ -236,7 +237,8 @@ bool Document::replaceFile(int page, const QByteArray& file)
     KeptFile kept;
     kept.page = page;
     const std::string place = record.pathImageSource(page);
-    if (pictures.leadsOut(place) || !keptFiles.replace(place, file, kept)) {
+    if (!FileSystem::placeOutside(FileSystem::getDirectoryOfPath(place), place).empty() ||
+        !keptFiles.replace(place, file, kept)) {
         return false;
     }
     std::vector<KeptFile>& files = beginStep().files;

@@ -83,19 +83,6 @@ bool PagePictures::fail(const std::string& file)
     return false;
 }
 
-bool PagePictures::leadsOut(const std::string& file)
-{
-    const bool leads =
-        !FileSystem::placeOutside(FileSystem::getDirectoryOfPath(file), file).empty();
-    if (leads) {
-        found = {Platform::nativePath(file),
-                 QCoreApplication::translate(
-                     "PagePictures", "It is a link to a file outside of the project's folder.")
-                     .toStdString()};
-    }
-    return leads;
-}
-
 void PagePictures::number(const std::vector<PageId>& pages)
 {
     numbers.clear();
@@ -465,7 +452,13 @@ bool PagePictures::writePlaces(const Places& places)
 bool PagePictures::write(const Oid::PictureOrder& next)
 {
     const std::string text = Oid::textOf(next);
-    if (text != written && leadsOut(files.order())) {
+    if (text != written &&
+        !FileSystem::placeOutside(FileSystem::getDirectoryOfPath(files.order()), files.order())
+             .empty()) {
+        found = {Platform::nativePath(files.order()),
+                 QCoreApplication::translate(
+                     "PagePictures", "It is a link to a file outside of the project's folder.")
+                     .toStdString()};
         return false;
     }
     if (text != written && !work.write(files.order(), text)) {

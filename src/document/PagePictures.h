@@ -66,8 +66,6 @@ public:
     bool arrange(const std::vector<PageId>& pages);
     // What made the last arrange or beforeSaving fail; no file when it did not.
     const FileProblem& problem() const { return found; }
-    // True, with the problem, for a file beside the project that is a link to one elsewhere.
-    bool leadsOut(const std::string& file);
     void forgetProblem() { found = {}; }
 
     // Whether the project file has the page.

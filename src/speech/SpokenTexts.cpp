@@ -110,7 +110,8 @@ void SpokenTexts::speak()
         return;
     }
     if (!isLanguage(wanted->voice.language)) {
-        tell(Problem::noLanguage);
+        tell(Problem::failed, QString::fromStdString("'" + wanted->voice.language +
+                                                     "' is not the name of a language"));
         return;
     }
     putToolsOnPath();

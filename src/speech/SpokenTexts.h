@@ -23,10 +23,9 @@ public:
 
     // Why a text is not spoken.
     enum class Problem {
-        tooLong,     // for the speech program
-        noLanguage,  // the voice's would be an option, or several words, to the program
-        noProgram,   // there is no speech program
-        failed       // the program could not
+        tooLong,    // for the speech program
+        noProgram,  // there is no speech program
+        failed      // the program could not
     };
 
     // The folder in the user's cache.

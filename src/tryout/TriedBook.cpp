@@ -9,9 +9,6 @@ QString reasonFor(SpokenTexts::Problem problem, const QString& words)
     switch (problem) {
     case SpokenTexts::Problem::tooLong:
         return TriedBook::tr("A text is too long for the speech program and is only shown.");
-    case SpokenTexts::Problem::noLanguage:
-        return TriedBook::tr(
-            "A voice has a language with a blank or a leading dash: its texts are only shown.");
     case SpokenTexts::Problem::noProgram:
         return TriedBook::tr(
             "The speech program is not there: texts without an audio file are only shown.");
