@@ -87,8 +87,7 @@ Utterance readUtterance(Members& members)
 
 }  // namespace
 
-SpeechIndex::SpeechIndex(std::string audioFolder)
-    : folder(Platform::nativePath(std::move(audioFolder)))
+SpeechIndex::SpeechIndex(const std::string& audioFolder) : folder(Platform::nativePath(audioFolder))
 {
     read();
 }

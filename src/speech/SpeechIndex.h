@@ -21,7 +21,7 @@ public:
     static constexpr char kFileName[] = "speech-index.json";
 
     // Reads the index of an audio folder, which need not be there.
-    explicit SpeechIndex(std::string audioFolder);
+    explicit SpeechIndex(const std::string& audioFolder);
 
     State state() const { return now; }
     // The native path of the index.

@@ -90,7 +90,7 @@ std::string writeWav(const std::string& file, const std::string& speaker,
         return whyUnwritable(file);
     }
     ArrivingSound sound(target.file());
-    const std::string problem = speak(sound);
+    std::string problem = speak(sound);
     if (!problem.empty()) {
         return problem;
     }

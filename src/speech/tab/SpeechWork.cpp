@@ -18,7 +18,7 @@ void SpeechWork::start(Job job)
         return !isCancelled;
     };
     work = std::async(std::launch::async, [this, job = std::move(job), contact] {
-        const QStringList sentences = job(contact);
+        QStringList sentences = job(contact);
         QMetaObject::invokeMethod(this, &SpeechWork::end, Qt::QueuedConnection);
         return sentences;
     });
