@@ -11,6 +11,7 @@ run_packages=(espeak-ng ffmpeg libqt5svg5 qttranslations5-l10n
     fonts-dejavu-core fonts-noto-color-emoji)
 style_packages=(clang-format clang-tidy)
 bench_packages=(libbenchmark-dev)
+fuzz_packages=(clang libclang-rt-14-dev llvm)
 test_packages=(
     libgtest-dev libgmock-dev locales
     imagemagick libtiff-tools qt5-image-formats-plugins
