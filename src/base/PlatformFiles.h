@@ -29,6 +29,9 @@ bool createDirectory(const std::string& path);
 bool renameFile(const std::string& from, const std::string& to);
 // Why the function above or another one that works on files has just failed, in the system's words.
 std::string lastFileError();
+// Sees to it that the user has a trash where the system does not by itself. False when there can be
+// none.
+bool makeTrash();
 // Overwrites; the copy appears under its name only when it is complete.
 bool copyFile(const std::string& source, const std::string& destination);
 

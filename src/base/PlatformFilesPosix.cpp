@@ -1,9 +1,12 @@
 #include "base/PlatformFiles.h"
 
+#include "base/PlatformProcess.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <fcntl.h>
+#include <filesystem>
 #include <memory>
 #include <sys/stat.h>
 #include <system_error>
@@ -167,6 +170,23 @@ bool createDirectory(const std::string& path)
     struct stat status = {};
     return mkdir(native.c_str(), 0777) == 0 ||
            (stat(native.c_str(), &status) == 0 && S_ISDIR(status.st_mode));
+}
+
+bool makeTrash()
+{
+    // freedesktop.org, "The Trash specification": the home trash is "Trash" in the data folder
+    std::string dataFolder = environmentVariable("XDG_DATA_HOME");
+    if (dataFolder.empty()) {
+        const std::string home = environmentVariable("HOME");
+        if (home.empty()) {
+            return false;
+        }
+        dataFolder = home + "/.local/share";
+    }
+    std::error_code error;
+    std::filesystem::create_directories(dataFolder, error);
+    const std::string trash = dataFolder + "/Trash";
+    return mkdir(trash.c_str(), S_IRWXU) == 0 || std::filesystem::is_directory(trash, error);
 }
 
 bool copyFile(const std::string& source, const std::string& destination)

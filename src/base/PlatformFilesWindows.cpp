@@ -124,6 +124,11 @@ static bool flushFile(const std::wstring& path)
     return flushed;
 }
 
+bool makeTrash()
+{
+    return true;  // every drive that can have one does
+}
+
 bool copyFile(const std::string& source, const std::string& destination)
 {
     // Copied beside the destination first: a drive that fills up leaves no half file under the

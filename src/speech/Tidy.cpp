@@ -45,5 +45,6 @@ std::vector<std::string> unusedAudio(const std::string& audioFolder,
 bool moveToTrash(const std::string& path)
 {
     Platform::useUtf8ForSystemTexts();
-    return QFile::moveToTrash(native(path));
+    // where Qt finds no trash it moves the file into "files" in the current folder
+    return Platform::makeTrash() && QFile::moveToTrash(native(path));
 }

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 
+#include "base/PlatformFiles.h"
 #include "speech/SpeechIndex.h"
 #include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
@@ -59,6 +60,20 @@ TEST(Tidying, WithoutATrashTheFileStays)
     writeFile(folder.file("data"), "no folder");
     const ChangedVariable trash("XDG_DATA_HOME", folder.file("data"));
     writeFile(folder.file("old.ogg"), "sound");
+    fs::create_directory(folder.file("here"));
+    const std::string before = Platform::currentDirectory();
+    Platform::changeDirectory(folder.file("here"));
     EXPECT_FALSE(moveToTrash(folder.file("old.ogg")));
+    Platform::changeDirectory(before);
     EXPECT_EQ(readFile(folder.file("old.ogg")), "sound");
+    EXPECT_TRUE(fs::is_empty(folder.file("here")));
+}
+
+TEST(Tidying, TheTrashIsMadeWhereThereIsNoneYet)
+{
+    const TemporaryFolder folder;
+    const ChangedVariable trash("XDG_DATA_HOME", folder.file("new/data"));
+    writeFile(folder.file("old.ogg"), "sound");
+    EXPECT_TRUE(moveToTrash(folder.file("old.ogg")));
+    EXPECT_EQ(readFile(folder.file("new/data/Trash/files/old.ogg")), "sound");
 }
