@@ -62,3 +62,13 @@ TEST_F(InstalledPlinkett, OpensProjectFilesWithTheWindow)
     EXPECT_TRUE(
         std::filesystem::exists(prefix.file("share/icons/hicolor/scalable/apps/plinkett.svg")));
 }
+
+TEST_F(InstalledPlinkett, BringsTheSampleBooks)
+{
+    const std::string farm = prefix.file("share/plinkett/samples/en/farm");
+    const ProgramRun run =
+        runProgram(prefix.file("bin/plinkett-cli"), {"test", farm + "/farm.oidpro"});
+    EXPECT_EQ(run.status, 0) << resultOf(run);
+    EXPECT_TRUE(std::filesystem::exists(farm + "/901-bkgnd0.jpg"));
+    EXPECT_FALSE(std::filesystem::exists(farm + "/farmyard.svg"));
+}
