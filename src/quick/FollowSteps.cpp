@@ -112,9 +112,12 @@ void dropIdleLines(std::vector<Line>& lines)
 class StepFollower
 {
 public:
-    StepFollower(const Graph& source, const Passes& usedPasses)
+    StepFollower(const Graph& source, const Passes& usedPasses,
+                 const std::set<size_t>& sparingAreas)
         : plain(source),
+          allPasses(usedPasses),
           passes(usedPasses),
+          sparing(sparingAreas),
           live(liveAtBeginning(source)),
           variants(source.nodes.size()),
           uses(source.nodes.size()),
@@ -127,6 +130,7 @@ private:
     size_t nodeFor(const Place& place);
     size_t restNode();
     void makeNode(size_t node, const Place& place);
+    void choosePasses();
     Path beginningOf(const Place& place) const;
     void tryNode(const Path& beginning, size_t mostLines);
     bool isTooLarge() const;
@@ -146,7 +150,9 @@ private:
     Commands simplified(Commands commands, const Values& start, const Live& behind) const;
 
     const Graph& plain;
-    const Passes passes;
+    const Passes allPasses;
+    Passes passes;  // for the node that is being made
+    const std::set<size_t>& sparing;
     const std::vector<RegisterSet> live;  // at each step
     Graph made;
     std::map<Place, size_t> nodes;
@@ -191,7 +197,7 @@ size_t StepFollower::nodeFor(const Place& place)
         const Node& node = plain.nodes[place.step];
         const bool staysReachable = node.isKept || (node.isEntry && place.numbers.empty());
         made.nodes.push_back(
-            {staysReachable ? node.code : uint16_t{0}, staysReachable, node.isKept, {}});
+            {staysReachable ? node.code : uint16_t{0}, staysReachable, node.isKept, node.area, {}});
         ++variants[place.step];
         if (!node.isKept) {
             waiting.emplace_back(entry->second, place);
@@ -206,7 +212,7 @@ size_t StepFollower::restNode()
 {
     if (!made.rest) {
         made.rest = made.nodes.size();
-        made.nodes.push_back({0, false, false, {Line()}});
+        made.nodes.push_back({0, false, false, made.nodes[current].area, {Line()}});
     }
     return *made.rest;
 }
@@ -216,6 +222,7 @@ size_t StepFollower::restNode()
 void StepFollower::makeNode(size_t node, const Place& place)
 {
     current = node;
+    choosePasses();
     const Path beginning = beginningOf(place);
     for (const size_t lines : kMostLines) {
         tryNode(beginning, lines);
@@ -233,6 +240,13 @@ void StepFollower::makeNode(size_t node, const Place& place)
         write(draft);
     }
     dropIdleLines(made.nodes[node].lines);
+}
+
+void StepFollower::choosePasses()
+{
+    const bool isSparing = sparing.count(made.nodes[current].area) != 0;
+    passes.testsOnEntry = allPasses.testsOnEntry && !isSparing;
+    passes.doublesScripts = allPasses.doublesScripts && !isSparing;
 }
 
 Path StepFollower::beginningOf(const Place& place) const
@@ -490,9 +504,9 @@ Commands StepFollower::simplified(Commands commands, const Values& start, const 
 
 }  // namespace
 
-Graph followSteps(const Graph& plain, const Passes& passes)
+Graph followSteps(const Graph& plain, const Passes& passes, const std::set<size_t>& sparing)
 {
-    return StepFollower(plain, passes).follow();
+    return StepFollower(plain, passes, sparing).follow();
 }
 
 }  // namespace quick

@@ -47,6 +47,7 @@ private:
     uint16_t targetOf(const gme::Command& jump) const;
     void noteKept(const gme::ScriptLine& line);
     void chooseTemporaries();
+    void chooseAreas();
 
     const gme::Game& game;
     const std::set<uint16_t>& inner;
@@ -68,6 +69,7 @@ std::optional<Graph> GraphReader::read()
         }
     }
     chooseTemporaries();
+    chooseAreas();
     return hasOpenJump ? std::nullopt : std::make_optional(std::move(graph));
 }
 
@@ -89,7 +91,7 @@ void GraphReader::addNodes()
     for (const uint16_t code : codes) {
         const bool isThere = game.scripts.count(code) != 0;
         graph.byCode[code] = graph.nodes.size();
-        graph.nodes.push_back({code, inner.count(code) == 0, !isThere, {}});
+        graph.nodes.push_back({code, inner.count(code) == 0, !isThere, 0, {}});
     }
 }
 
@@ -243,6 +245,29 @@ void GraphReader::chooseTemporaries()
         }
     }
     graph.unsteady = noticed;
+}
+
+// A step is part of the first entry that leads to it without another entry in between.
+void GraphReader::chooseAreas()
+{
+    std::vector<bool> isChosen(graph.nodes.size());
+    for (size_t entry = 0; entry < graph.nodes.size(); ++entry) {
+        if (!graph.nodes[entry].isEntry) {
+            continue;
+        }
+        std::vector<size_t> waiting = {entry};
+        while (!waiting.empty()) {
+            Node& node = graph.nodes[waiting.back()];
+            waiting.pop_back();
+            node.area = entry;
+            for (const Line& line : node.lines) {
+                if (line.jump && !graph.nodes[*line.jump].isEntry && !isChosen[*line.jump]) {
+                    isChosen[*line.jump] = true;
+                    waiting.push_back(*line.jump);
+                }
+            }
+        }
+    }
 }
 
 class GraphWriter

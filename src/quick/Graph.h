@@ -83,6 +83,7 @@ struct Node
     uint16_t code = 0;     // 0 as long as it has none
     bool isEntry = false;  // its code can be tapped, or something that is kept as it is jumps there
     bool isKept = false;   // its lines stay as they are in the game
+    size_t area = 0;       // the entry of the plain game whose script it is part of
     std::vector<Line> lines;
 };
 

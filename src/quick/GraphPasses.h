@@ -8,8 +8,9 @@ namespace quick {
 
 // Follows the steps from everything that can be tapped, and writes down for each what is done until
 // a sound, until a branch that cannot be chosen yet, or until the line is full: so many steps
-// become one line. Commands are simplified on the way by the passes over lines.
-Graph followSteps(const Graph& plain, const Passes& passes);
+// become one line. Commands are simplified on the way by the passes over lines. The scripts of
+// sparing areas choose no branches on entry and are not doubled.
+Graph followSteps(const Graph& plain, const Passes& passes, const std::set<size_t>& sparing);
 
 // What is tapped and only calculates ends in its line, without a jump to the node that does
 // nothing, where nothing is going on.

@@ -21,9 +21,9 @@ bool isLabel(const std::string& name)
                        [](unsigned char c) { return std::isdigit(c) != 0; });
 }
 
-Graph changed(const Graph& plain, const Passes& passes)
+Graph changed(const Graph& plain, const Passes& passes, const std::set<size_t>& sparing)
 {
-    Graph graph = followSteps(plain, passes);
+    Graph graph = followSteps(plain, passes, sparing);
     if (passes.endsAtOnce) {
         endAtOnce(graph);
     }
@@ -74,39 +74,94 @@ std::set<uint16_t> innerCodes(const gme::Game& game, const gme::Description& des
 
 namespace {
 
-// None when it needs more codes than there are.
-std::optional<gme::Game> optimisedOnce(const gme::Game& game, const std::set<uint16_t>& inner,
-                                       const Passes& passes)
+using Areas = std::set<size_t>;
+
+Graph optimised(Graph& plain, const Passes& passes, const Areas& sparing)
 {
-    std::optional<Graph> plain = graphOf(game, inner);
-    if (!plain) {
-        return game;
-    }
-    Graph graph = changed(*plain, passes);
+    Graph graph = changed(plain, passes, sparing);
     for (std::set<Register> kept = readAtOnce(graph); !kept.empty(); kept = readAtOnce(graph)) {
         for (const Register reg : kept) {
-            plain->temporaries.erase(reg);
+            plain.temporaries.erase(reg);
         }
-        graph = changed(*plain, passes);
+        graph = changed(plain, passes, sparing);
     }
-    gme::Game result = game;
-    return putGraph(graph, inner, result) ? std::make_optional(std::move(result)) : std::nullopt;
+    return graph;
+}
+
+int64_t bytesOfNode(const Node& node)
+{
+    int64_t bytes = 0;
+    for (const Line& line : node.lines) {
+        bytes += static_cast<int64_t>(bytesOf(line));
+    }
+    return bytes;
+}
+
+int64_t countOfNode(const Node& /*node*/)
+{
+    return 1;
+}
+
+// Areas that have grown, the most grown first, as many as are needed for the others not to have
+// grown in all.
+Areas grownMost(const Graph& before, const Graph& now, int64_t (*measure)(const Node&))
+{
+    std::map<size_t, int64_t> growth;
+    int64_t sum = 0;
+    for (const auto& [graph, sign] : {std::make_pair(&before, -1), std::make_pair(&now, 1)}) {
+        for (const Node& node : graph->nodes) {
+            growth[node.area] += sign * measure(node);
+            sum += sign * measure(node);
+        }
+    }
+    std::vector<std::pair<int64_t, size_t>> order;
+    for (const auto& [area, more] : growth) {
+        order.emplace_back(more, area);
+    }
+    std::sort(order.rbegin(), order.rend());
+    Areas result;
+    for (const auto& [more, area] : order) {
+        if (more > 0 && sum > 0) {
+            result.insert(area);
+            sum -= more;
+        }
+    }
+    return result;
+}
+
+Areas areasOf(const Graph& graph)
+{
+    Areas result;
+    for (const Node& node : graph.nodes) {
+        result.insert(node.area);
+    }
+    return result;
 }
 
 }  // namespace
 
 // Where branches are doubled so often that the game file grows, or that there are not enough codes,
-// they are left as they are.
+// the areas to which that is due leave them as they are; in the end all areas do.
 gme::Game optimise(const gme::Game& game, const std::set<uint16_t>& inner, const Passes& passes)
 {
-    const uint64_t most = gme::layOut(game).size;
-    Passes sparing = passes;
-    sparing.testsOnEntry = false;
-    sparing.doublesScripts = false;
-    for (const Passes& some : {passes, sparing}) {
-        std::optional<gme::Game> result = optimisedOnce(game, inner, some);
-        if (result && (!passes.staysSmall || gme::layOut(*result).size <= most)) {
-            return *std::move(result);
+    constexpr int kAttempts = 4;
+    std::optional<Graph> plain = graphOf(game, inner);
+    if (!plain) {
+        return game;
+    }
+    const uint64_t most = passes.staysSmall ? gme::layOut(game).size : UINT64_MAX;
+    Areas sparing;
+    for (int attempt = 1; attempt <= kAttempts; ++attempt) {
+        const Graph graph = optimised(*plain, passes, sparing);
+        gme::Game result = game;
+        const bool hasCodes = putGraph(graph, inner, result);
+        if (hasCodes && gme::layOut(result).size <= most) {
+            return result;
+        }
+        const Areas grown = grownMost(*plain, graph, hasCodes ? bytesOfNode : countOfNode);
+        sparing.insert(grown.begin(), grown.end());
+        if (grown.empty() || attempt == kAttempts - 1) {
+            sparing = areasOf(*plain);
         }
     }
     return game;

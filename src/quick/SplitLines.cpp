@@ -34,7 +34,7 @@ void splitLines(Graph& graph)
             if (rest.jump == graph.rest) {
                 rest.jump.reset();  // there has been one
             }
-            graph.nodes.push_back({0, false, false, {std::move(rest)}});
+            graph.nodes.push_back({0, false, false, graph.nodes[node].area, {std::move(rest)}});
         }
     }
 }

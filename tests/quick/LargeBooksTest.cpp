@@ -1,0 +1,67 @@
+// Subs of hundreds of cases, and books of them.
+#include "gme/GameFile.h"
+#include "quick/Quick.h"
+#include "tests/play/Books.h"
+#include "tests/quick/Compiled.h"
+#include "tests/quick/NoticedPen.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Says another of so many texts at each tap.
+std::string select(const std::string& sub, int cases)
+{
+    std::string text =
+        "sub " + sub + "\n" + sub + "count = " + sub + "count + 1\nselect " + sub + "count\n";
+    for (int i = 1; i <= cases; ++i) {
+        const std::string number = std::to_string(i);
+        text += "case " + number + "\nsay max " + sub + " " + number + "\n";
+    }
+    return text + "end select\nend sub\n";
+}
+
+const char* const kOrdinarySubs = "voice max lang de sex m\n"
+                                  "sub cow\n"
+                                  "if count > 3 & count != 5\n"
+                                  "say max Moo\n"
+                                  "else\n"
+                                  "say max Muh\n"
+                                  "count = count + 1\n"
+                                  "end if\n"
+                                  "end sub\n"
+                                  "sub star\n"
+                                  "if (count / 2 * 2 < count) | (count <= 0)\n"
+                                  "say max One\n"
+                                  "else\n"
+                                  "say max Two\n"
+                                  "end if\n"
+                                  "goto cow\n"
+                                  "end sub\n";
+
+// The steps until the first sound and until rest, of taps on the area.
+std::string stepsOf(const Compiled& book, const std::string& area)
+{
+    const gme::Game game = quick::optimise(book.game, book.inner);
+    EXPECT_LE(gme::layOut(game).size, gme::layOut(book.game).size);
+    NoticedPen pen(pen::gameForPen(game), {}, {});
+    std::string text;
+    for (int tap = 0; tap < 8; ++tap) {
+        pen.tap(book.areas.at(area), SIZE_MAX);
+        text += std::to_string(pen.firstSound) + "/" + std::to_string(pen.steps()) + " ";
+    }
+    return text;
+}
+
+}  // namespace
+
+TEST(LargeBooks, OneHugeSelectDoesNotMakeTheOtherSubsSlower)
+{
+    const Compiled without =
+        compiled(projectWith(kOrdinarySubs + select("hen", 3), {"cow", "star", "hen"}));
+    const Compiled with = compiled(projectWith(
+        kOrdinarySubs + select("hen", 3) + select("zoo", 300), {"cow", "star", "hen", "zoo"}));
+    for (const char* const area : {"cow", "star", "hen"}) {
+        EXPECT_EQ(stepsOf(with, area), stepsOf(without, area)) << area;
+    }
+}
