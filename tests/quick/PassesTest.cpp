@@ -500,7 +500,7 @@ TEST(EndsAtOnce, WhatPlaysWithoutAJumpStillEndsWithOne)
                        "  - J(asm1) $a := 1\n"
                        "  asm1:\n"
                        "  - P(a)\n"),
-              "cow: J(1) P(a) $a:=1\n"
+              "cow: J(1) P(a) $_busy:=1 $a:=1\n"
               "1: $_busy:=0\n");
 }
 
