@@ -21,9 +21,18 @@ std::string lineOf(int number, size_t width, const std::string& text)
     return std::string(width - digits.size(), ' ') + digits + "  " + text + "\n";
 }
 
+int lastOf(const SheetNumbers& numbers)
+{
+    int last = 0;
+    for (const auto& [name, number] : numbers) {
+        last = std::max(last, number);
+    }
+    return last;
+}
+
 }  // namespace
 
-ReadingSheet readingSheetOf(const std::vector<SpeechText>& texts)
+ReadingSheet readingSheetOf(const std::vector<SpeechText>& texts, const SheetNumbers& given)
 {
     ReadingSheet sheet;
     for (size_t i = 0; i < texts.size(); ++i) {
@@ -31,18 +40,30 @@ ReadingSheet readingSheetOf(const std::vector<SpeechText>& texts)
             voiceOf(sheet, texts[i].said.voice).lines.push_back({0, i});
         }
     }
-    int number = 0;
+    int last = lastOf(given);
     for (ReadingSheet::Voice& voice : sheet.voices) {
         for (ReadingSheet::Line& line : voice.lines) {
-            line.number = ++number;
+            const auto found = given.find(texts[line.text].audioName);
+            line.number = found != given.end() ? found->second : ++last;
         }
     }
     return sheet;
 }
 
+SheetNumbers numbersOf(const ReadingSheet& sheet, const std::vector<SpeechText>& texts)
+{
+    SheetNumbers numbers;
+    for (const ReadingSheet::Voice& voice : sheet.voices) {
+        for (const ReadingSheet::Line& line : voice.lines) {
+            numbers[texts[line.text].audioName] = line.number;
+        }
+    }
+    return numbers;
+}
+
 std::string asPlainText(const ReadingSheet& sheet, const std::vector<SpeechText>& texts)
 {
-    const size_t width = std::max<size_t>(3, itostr(static_cast<int>(texts.size())).size());
+    const size_t width = std::max<size_t>(3, itostr(lastOf(numbersOf(sheet, texts))).size());
     std::string plain;
     for (const ReadingSheet::Voice& voice : sheet.voices) {
         plain += (plain.empty() ? "" : "\n") + voice.name + "\n";

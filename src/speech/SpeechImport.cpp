@@ -11,12 +11,11 @@
 
 namespace {
 
-// How a file names a text, the surest way first.
-enum Way { byAudioName, byText, byNumber };
+using Way = SpeechImport::Way;
 
 struct Meaning
 {
-    Way way = byNumber;
+    Way way = Way::byNumber;
     std::vector<size_t> texts;
 };
 
@@ -34,12 +33,17 @@ std::string asAudioName(const QString& text)
 class Matcher
 {
 public:
-    explicit Matcher(const std::vector<SpeechText>& allTexts);
+    Matcher(const std::vector<SpeechText>& allTexts, const SheetNumbers& given);
     SpeechImport match(const std::vector<std::string>& files);
 
 private:
-    using Texts = std::multimap<std::string, size_t>;
+    // By a name in small letters and the name as it is.
+    using Texts = std::multimap<std::pair<std::string, std::string>, size_t>;
 
+    static void add(Texts& texts, const std::string& name, size_t text)
+    {
+        texts.emplace(std::pair(toLower(name), name), text);
+    }
     Meaning meaningOf(const QString& name) const;
     static std::vector<size_t> find(const Texts& texts, const std::string& name);
     std::vector<size_t> findNumber(const QString& name) const;
@@ -51,14 +55,16 @@ private:
     SpeechImport import;
 };
 
-Matcher::Matcher(const std::vector<SpeechText>& allTexts)
+Matcher::Matcher(const std::vector<SpeechText>& allTexts, const SheetNumbers& given)
 {
-    for (const ReadingSheet::Voice& voice : readingSheetOf(allTexts).voices) {
+    for (const ReadingSheet::Voice& voice : readingSheetOf(allTexts, given).voices) {
         for (const ReadingSheet::Line& line : voice.lines) {
             const SpeechText& text = allTexts[line.text];
-            numbers[line.number] = line.text;
-            audioNames.emplace(text.audioName, line.text);
-            saidTexts.emplace(asAudioName(composed(text.said.text)), line.text);
+            if (given.empty() || given.count(text.audioName) != 0) {
+                numbers[line.number] = line.text;
+            }
+            add(audioNames, text.audioName, line.text);
+            add(saidTexts, asAudioName(composed(text.said.text)), line.text);
         }
     }
 }
@@ -68,12 +74,10 @@ std::vector<size_t> Matcher::find(const Texts& texts, const std::string& name)
 {
     std::vector<size_t> exact;
     std::vector<size_t> alike;
-    for (const auto& [candidate, text] : texts) {
-        if (candidate == name) {
-            exact.push_back(text);
-        } else if (toLower(candidate) == toLower(name)) {
-            alike.push_back(text);
-        }
+    const std::string lower = toLower(name);
+    for (auto found = texts.lower_bound({lower, ""});
+         found != texts.end() && found->first.first == lower; ++found) {
+        (found->first.second == name ? exact : alike).push_back(found->second);
     }
     return exact.empty() ? alike : exact;
 }
@@ -96,9 +100,9 @@ std::vector<size_t> Matcher::findNumber(const QString& name) const
 Meaning Matcher::meaningOf(const QString& name) const
 {
     const std::string plain = asAudioName(name);
-    for (const auto& [way, texts] :
-         {std::pair(byAudioName, find(audioNames, plain)),
-          std::pair(byText, find(saidTexts, plain)), std::pair(byNumber, findNumber(name))}) {
+    for (const auto& [way, texts] : {std::pair(Way::byAudioName, find(audioNames, plain)),
+                                     std::pair(Way::byText, find(saidTexts, plain)),
+                                     std::pair(Way::byNumber, findNumber(name))}) {
         if (!texts.empty()) {
             return {way, texts};
         }
@@ -130,7 +134,7 @@ void Matcher::decide(size_t text, const std::map<Way, std::vector<std::string>>&
 {
     const std::vector<std::string>& best = files.begin()->second;
     if (best.size() == 1) {
-        import.taken.push_back({best.front(), text});
+        import.taken.push_back({best.front(), text, files.begin()->first});
     }
     for (const auto& [way, candidates] : files) {
         const bool areBest = &candidates == &best;
@@ -146,7 +150,7 @@ void Matcher::decide(size_t text, const std::map<Way, std::vector<std::string>>&
 }  // namespace
 
 SpeechImport matchRecordings(const std::vector<std::string>& files,
-                             const std::vector<SpeechText>& texts)
+                             const std::vector<SpeechText>& texts, const SheetNumbers& given)
 {
-    return Matcher(texts).match(files);
+    return Matcher(texts, given).match(files);
 }

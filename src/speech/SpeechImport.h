@@ -3,15 +3,19 @@
 #include <string>
 #include <vector>
 
+#include "speech/SpeechIndex.h"
 #include "speech/SpeechTexts.h"
 
 // Which of the author's own recordings belong to which texts, told by the names of the files.
 struct SpeechImport
 {
+    // How a file names a text, the surest way first.
+    enum Way { byAudioName, byText, byNumber };
     struct Match
     {
         std::string file;
         size_t text;  // in the texts
+        Way way;
     };
     // What cannot be decided, or is not needed.
     struct Doubt
@@ -34,6 +38,7 @@ struct SpeechImport
 // the text, where every character that is not an ASCII letter or digit counts as "_" ("Moo!",
 // "Moo_"); or begin with the number of the text on the reading sheet ("07 Moo"). The first that
 // fits is meant; capitals count only where a name fits several texts without them. The files are
-// paths, of which only the last part is looked at.
+// paths, of which only the last part is looked at. Only numbers that were given count; while none
+// ever was, they are those that a sheet would have now.
 SpeechImport matchRecordings(const std::vector<std::string>& files,
-                             const std::vector<SpeechText>& texts);
+                             const std::vector<SpeechText>& texts, const SheetNumbers& given = {});

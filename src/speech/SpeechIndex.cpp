@@ -8,6 +8,7 @@
 #include <QJsonObject>
 
 #include <optional>
+#include <set>
 
 #include "base/InputFile.h"
 #include "base/PlatformFiles.h"
@@ -118,19 +119,24 @@ void SpeechIndex::read()
     const std::optional<QByteArray> bytes = readInput(path());
     if (!bytes) {
         now = State::unreadable;
-    } else if (!readEntries(bytes->toStdString())) {
+    } else if (!readAll(bytes->toStdString())) {
         now = State::damaged;
         entries.clear();
+        numbers.clear();
     }
 }
 
-bool SpeechIndex::readEntries(const std::string& bytes)
+bool SpeechIndex::readAll(const std::string& bytes)
 {
     const QJsonObject all = QJsonDocument::fromJson(QByteArray::fromStdString(bytes)).object();
-    if (all.value("version").toInt() != kVersion || !all.value("files").isObject()) {
-        return false;
-    }
-    const QJsonObject files = all.value("files").toObject();
+    const QJsonValue sheet = all.value("sheet");
+    return all.value("version").toInt() == kVersion && all.value("files").isObject() &&
+           (sheet.isUndefined() || sheet.isObject()) &&
+           readEntries(all.value("files").toObject()) && readNumbers(sheet.toObject());
+}
+
+bool SpeechIndex::readEntries(const QJsonObject& files)
+{
     for (auto file = files.begin(); file != files.end(); ++file) {
         Members members(file.value());
         Entry& entry = entries[file.key().toStdString()];
@@ -141,6 +147,19 @@ bool SpeechIndex::readEntries(const std::string& bytes)
         if (!members.areFine()) {
             return false;
         }
+    }
+    return true;
+}
+
+bool SpeechIndex::readNumbers(const QJsonObject& sheet)
+{
+    std::set<int> known;
+    for (auto text = sheet.begin(); text != sheet.end(); ++text) {
+        const int number = text.value().toInt();
+        if (number < 1 || !known.insert(number).second) {
+            return false;
+        }
+        numbers[text.key().toStdString()] = number;
     }
     return true;
 }
@@ -204,6 +223,27 @@ void SpeechIndex::takeOver(const SpeechIndex& other)
             entries.erase(name);
         }
     }
+    takeNumbersOver(other.numbers);
+}
+
+void SpeechIndex::takeNumbersOver(const SheetNumbers& others)
+{
+    std::set<int> known;
+    for (const auto& [name, number] : numbers) {
+        known.insert(number);
+    }
+    for (const auto& [name, number] : others) {
+        if (known.count(number) == 0 && numbers.emplace(name, number).second) {
+            changed = true;
+        }
+    }
+}
+
+void SpeechIndex::numberTexts(const SheetNumbers& further)
+{
+    const size_t before = numbers.size();
+    numbers.insert(further.begin(), further.end());
+    changed = changed || numbers.size() != before;
 }
 
 std::string SpeechIndex::asText() const
@@ -216,9 +256,15 @@ std::string SpeechIndex::asText() const
         object["sha256"] = text(entry.hash);
         files[text(name)] = object;
     }
-    return QJsonDocument(QJsonObject{{"version", kVersion}, {"files", files}})
-        .toJson()
-        .toStdString();
+    QJsonObject all{{"version", kVersion}, {"files", files}};
+    if (!numbers.empty()) {
+        QJsonObject sheet;
+        for (const auto& [name, number] : numbers) {
+            sheet[text(name)] = number;
+        }
+        all["sheet"] = sheet;
+    }
+    return QJsonDocument(all).toJson().toStdString();
 }
 
 // What somebody can make sense of is not lost.

@@ -6,9 +6,15 @@
 
 #include "speech/Utterance.h"
 
+class QJsonObject;
+
+// The numbers of texts on reading sheets, from 1, by their audio names.
+using SheetNumbers = std::map<std::string, int>;
+
 // What an audio folder remembers of the files that we spoke into it: what they say, and how the
 // files looked. So a file whose text or voice has changed can be told from a good one, and a file
-// of the author's own from ours. A value; nothing is written but by save.
+// of the author's own from ours. It remembers the numbers of reading sheets, too. A value; nothing
+// is written but by save.
 class SpeechIndex
 {
 public:
@@ -39,8 +45,14 @@ public:
     bool remember(const std::string& audioName, const Utterance& spoken);
     void forget(const std::string& audioName);
     // After files of another folder were copied into this one: notes what the index there says of
-    // those that are the same here.
+    // those that are the same here, and the numbers of texts that have none here, as far as these
+    // are free.
     void takeOver(const SpeechIndex& other);
+    // Those that texts were ever given, also of texts that are no more: a reader's recording comes
+    // back much later.
+    const SheetNumbers& sheetNumbers() const { return numbers; }
+    // Notes numbers of further texts; nobody has another text's.
+    void numberTexts(const SheetNumbers& further);
     // True when something is noted that is not saved.
     bool isChanged() const { return changed; }
     // Writes the index, whole or not at all; a damaged one is kept beside it under another name. A
@@ -57,12 +69,16 @@ private:
     };
 
     void read();
-    bool readEntries(const std::string& text);
+    bool readAll(const std::string& text);
+    bool readEntries(const QJsonObject& files);
+    bool readNumbers(const QJsonObject& sheet);
+    void takeNumbersOver(const SheetNumbers& others);
     bool keepDamagedFile();
     std::string asText() const;
 
     std::string folder;  // native
     std::map<std::string, Entry> entries;
+    SheetNumbers numbers;
     State now = State::good;
     bool changed = false;
 };

@@ -230,6 +230,21 @@ TEST_F(Speech, ImportTakesRecordingsAndSaysWhatFitsNothing)
                              "recorded     -    1.0 s  adam: Zoo. Start.\n");
 }
 
+// They were on a sheet before the script was changed; 1 was another text's then.
+TEST_F(Speech, ImportGoesByTheNumbersThatWereGiven)
+{
+    fs::create_directory(audio(""));
+    writeFile(audio("speech-index.json"),
+              "{\"version\": 1, \"files\": {}, "
+              "\"sheet\": {\"say_adam_Muh\": 1, \"say_adam_Moo_\": 2, \"say_eve_Gr__n\": 9}}");
+    writeTone(folder.file("in/1.wav"));
+    writeTone(folder.file("in/2.wav"));
+    EXPECT_THAT(run({"import", folder.file("in")}),
+                testing::MatchesRegex("status 1\n"
+                                      "2\\.wav -> say_adam_Moo_\\.ogg: [^\n]*\n"
+                                      "Error: '1\\.wav' fits no text\n"));
+}
+
 TEST_F(Speech, ImportTellsWhatItCannotDecide)
 {
     writeFile(folder.file("book.oidpro"), "PRODUCT 901, \"Zoo\"\r\nSCRIPT\r\nsub cow\r\n"

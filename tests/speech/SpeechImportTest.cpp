@@ -40,9 +40,9 @@ std::string named(const std::vector<size_t>& indices, const std::vector<SpeechTe
 
 // A line for each file: "taken Moo.wav say_adam_Moo".
 std::string matched(const std::vector<std::string>& files,
-                    const std::vector<SpeechText>& texts = cows())
+                    const std::vector<SpeechText>& texts = cows(), const SheetNumbers& given = {})
 {
-    const SpeechImport import = matchRecordings(files, texts);
+    const SpeechImport import = matchRecordings(files, texts, given);
     std::string lines;
     for (const SpeechImport::Match& match : import.taken) {
         lines += "taken " + match.file + named({match.text}, texts) + "\n";
@@ -94,6 +94,25 @@ TEST(ReadingSheets, HaveTheirNumbersOneBelowTheOther)
     EXPECT_NE(sheet.find("\n1000  t1000\n"), std::string::npos);
 }
 
+// Texts that came later are where they are said, with further numbers.
+TEST(ReadingSheets, KeepTheNumbersThatWereGiven)
+{
+    const std::vector<SpeechText> before = textsOf("sub a\nsay A\nsay eve B\nsay C\nend sub\n");
+    SheetNumbers given = numbersOf(readingSheetOf(before), before);
+    EXPECT_EQ(given, SheetNumbers({{"say_adam_A", 1},
+                                   {"say_adam_C", 2},
+                                   {"_welcome_message_text", 3},
+                                   {"say_eve_B", 4}}));
+    const std::vector<SpeechText> now = textsOf("sub a\nsay New\nsay eve B\nsay C\nend sub\n");
+    EXPECT_EQ(asPlainText(readingSheetOf(now, given), now), "adam\n"
+                                                            "  5  New\n"
+                                                            "  2  C\n"
+                                                            "  3  Zoo. Start.\n"
+                                                            "\n"
+                                                            "eve\n"
+                                                            "  4  B\n");
+}
+
 TEST(Recordings, AreNamedLikeTheAudioFile)
 {
     EXPECT_EQ(matched({"/x/say_eve_Gr__n.wav", "_welcome_message_text.mp3", "say_adam_Moo_.a.ogg"}),
@@ -125,6 +144,18 @@ TEST(Recordings, BeginWithTheNumberOnTheSheet)
     EXPECT_EQ(matched({"0.wav", "6.wav", "5x.wav", "5ü.wav", "99999999999999999999.wav", ".wav"}),
               "nothing 0.wav\nnothing 6.wav\nnothing 5x.wav\nnothing 5ü.wav\n"
               "nothing 99999999999999999999.wav\nnothing .wav\n");
+}
+
+// 1 was another text's, which is gone; nobody was ever told 4.
+TEST(Recordings, ByNumberAreThoseOfTheTextThatWasGivenIt)
+{
+    const std::vector<SpeechText> texts = textsOf("sub a\nsay New\nsay B\nend sub\n");
+    const SheetNumbers given = {{"say_adam_A", 1}, {"say_adam_B", 2}, {"_welcome_message_text", 3}};
+    EXPECT_EQ(matched({"1.wav", "2.wav", "3.wav", "4.wav"}, texts, given),
+              "taken 2.wav say_adam_B\n"
+              "taken 3.wav _welcome_message_text\n"
+              "nothing 1.wav\n"
+              "nothing 4.wav\n");
 }
 
 TEST(Recordings, ATextThatBeginsWithANumberIsATextFirst)

@@ -233,6 +233,49 @@ TEST_F(Index, OneThatCannotBeWrittenStaysAsItIs)
     }
 }
 
+TEST_F(Index, KeepsTheNumbersOfSheets)
+{
+    SpeechIndex index(folder.path());
+    index.numberTexts({{"moo", 1}, {"maeh", 2}});
+    EXPECT_TRUE(index.isChanged());
+    EXPECT_TRUE(index.save());
+    EXPECT_EQ(readFile(indexFile), "{\n"
+                                   "    \"files\": {\n"
+                                   "    },\n"
+                                   "    \"sheet\": {\n"
+                                   "        \"maeh\": 2,\n"
+                                   "        \"moo\": 1\n"
+                                   "    },\n"
+                                   "    \"version\": 1\n"
+                                   "}\n");
+    SpeechIndex again(folder.path());
+    EXPECT_EQ(again.sheetNumbers(), SheetNumbers({{"moo", 1}, {"maeh", 2}}));
+    again.numberTexts({{"moo", 7}, {"maeh", 2}});
+    EXPECT_FALSE(again.isChanged());
+    EXPECT_EQ(again.sheetNumbers().at("moo"), 1);
+}
+
+TEST_F(Index, NumbersThatCannotBeAreDamage)
+{
+    for (const char* sheet : {"1", "{\"moo\": 0}", "{\"moo\": \"1\"}", "{\"a\": 1, \"b\": 1}"}) {
+        writeFile(indexFile,
+                  std::string("{\"version\": 1, \"files\": {}, \"sheet\": ") + sheet + "}");
+        const SpeechIndex index(folder.path());
+        EXPECT_EQ(index.state(), SpeechIndex::State::damaged) << sheet;
+        EXPECT_TRUE(index.sheetNumbers().empty()) << sheet;
+    }
+}
+
+TEST_F(Index, NumbersGoAlongWhereTheyAreFree)
+{
+    SpeechIndex here(folder.path());
+    here.numberTexts({{"moo", 1}, {"new", 2}});
+    SpeechIndex other(folder.file("other"));
+    other.numberTexts({{"moo", 4}, {"maeh", 2}, {"wau", 3}});
+    here.takeOver(other);
+    EXPECT_EQ(here.sheetNumbers(), SheetNumbers({{"moo", 1}, {"new", 2}, {"wau", 3}}));
+}
+
 TEST(Utterances, SoundAlikeWithAnotherNameOfTheVoice)
 {
     Utterance other = utterance("Moo");

@@ -280,7 +280,8 @@ int import(const Arguments& arguments)
         return kFailed;
     }
     FileSystem::createDirectory(book.folder);
-    const SpeechImport import = matchRecordings(filesIn(folder), book.texts);
+    const SpeechImport import =
+        matchRecordings(filesIn(folder), book.texts, book.index.sheetNumbers());
     bool isFine = true;
     for (const SpeechImport::Match& match : import.taken) {
         isFine = adopt(match, book) && isFine;
