@@ -2388,6 +2388,90 @@
         <source>%1 recordings are in the trash.</source>
         <translation>%1 Aufnahmen sind im Papierkorb.</translation>
     </message>
+    <message>
+        <source>&amp;Import folder...</source>
+        <translation>&amp;Ordner nehmen...</translation>
+    </message>
+    <message>
+        <source>Takes recordings from a folder; one can also be dropped on the table</source>
+        <translation>Nimmt Aufnahmen aus einem Ordner; man kann ihn auch auf die Tabelle ziehen</translation>
+    </message>
+    <message>
+        <source>Prin&amp;t sheet...</source>
+        <translation>&amp;Lesebogen drucken...</translation>
+    </message>
+    <message>
+        <source>Makes a PDF to be printed, from which somebody reads the selected texts; without a selection all</source>
+        <translation>Macht ein PDF zum Drucken, aus dem jemand die ausgewählten Texte liest; ohne Auswahl alle</translation>
+    </message>
+    <message>
+        <source>Save s&amp;heet...</source>
+        <translation>Lese&amp;bogen speichern...</translation>
+    </message>
+    <message>
+        <source>Saves the sheet to read the selected texts from as a text; without a selection all</source>
+        <translation>Speichert den Lesebogen der ausgewählten Texte als Textdatei; ohne Auswahl alle</translation>
+    </message>
+    <message>
+        <source>Ti&amp;dy...</source>
+        <translation>A&amp;ufräumen...</translation>
+    </message>
+    <message>
+        <source>Lists the audio files that no text uses, and moves them to the trash</source>
+        <translation>Listet die Audiodateien auf, die kein Text benutzt, und legt sie in den Papierkorb</translation>
+    </message>
+    <message>
+        <source>Import folder</source>
+        <translation>Ordner nehmen</translation>
+    </message>
+    <message>
+        <source>%1 is the audio folder of the book itself.</source>
+        <translation>%1 ist der Audioordner des Buches selbst.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be read.</source>
+        <translation>Der Ordner %1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>There are no files in %1.</source>
+        <translation>In %1 sind keine Dateien.</translation>
+    </message>
+    <message>
+        <source>Print sheet</source>
+        <translation>Lesebogen drucken</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>PDF-Dateien</translation>
+    </message>
+    <message>
+        <source>Save sheet</source>
+        <translation>Lesebogen speichern</translation>
+    </message>
+    <message>
+        <source>Text files</source>
+        <translation>Textdateien</translation>
+    </message>
+    <message>
+        <source>reading sheet</source>
+        <translation>Lesebogen</translation>
+    </message>
+    <message>
+        <source>Writing the sheet...</source>
+        <translation>Der Lesebogen wird geschrieben...</translation>
+    </message>
+    <message>
+        <source>The script has mistakes, so it is not known which audio files it uses. Correct them first.</source>
+        <translation>Das Skript hat Fehler, deshalb ist nicht bekannt, welche Audiodateien es benutzt. Berichtigen Sie sie zuerst.</translation>
+    </message>
+    <message>
+        <source>All audio files are used by texts.</source>
+        <translation>Alle Audiodateien werden von Texten benutzt.</translation>
+    </message>
+    <message>
+        <source>Moving files to the trash...</source>
+        <translation>Die Dateien kommen in den Papierkorb...</translation>
+    </message>
 </context>
 <context>
     <name>SpeechView</name>
@@ -2441,6 +2525,179 @@
     <message>
         <source>%1 audio files were made as loud as all are to be.</source>
         <translation>%1 Audiodateien wurden so laut gemacht, wie alle sein sollen.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>The sheet is in the file %1.</source>
+        <translation>Der Lesebogen ist in der Datei %1.</translation>
+    </message>
+    <message>
+        <source>The numbers begin anew; earlier sheets do not fit any more.</source>
+        <translation>Die Nummern beginnen neu; frühere Lesebögen passen nicht mehr.</translation>
+    </message>
+    <message>
+        <source>%1 stays: it cannot be moved to the trash.</source>
+        <translation>%1 bleibt: Die Datei kann nicht in den Papierkorb verschoben werden.</translation>
+    </message>
+    <message>
+        <source>1 file is in the trash.</source>
+        <translation>1 Datei ist im Papierkorb.</translation>
+    </message>
+    <message>
+        <source>%1 files are in the trash.</source>
+        <translation>%1 Dateien sind im Papierkorb.</translation>
+    </message>
+</context>
+<context>
+    <name>SheetPdf</name>
+    <message>
+        <source>Record each text as a file of its own whose name begins with the number: 7.wav</source>
+        <translation>Nehmen Sie jeden Text als eigene Datei auf, deren Name mit der Nummer beginnt: 7.wav</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>What becomes of it</source>
+        <translation>Was daraus wird</translation>
+    </message>
+    <message>
+        <source>&amp;All that fit</source>
+        <translation>&amp;Alle, die passen</translation>
+    </message>
+    <message>
+        <source>Import recordings</source>
+        <translation>Aufnahmen importieren</translation>
+    </message>
+    <message>
+        <source>Files and the texts that they fit</source>
+        <translation>Dateien und die Texte, zu denen sie passen</translation>
+    </message>
+    <message>
+        <source>Space sets or takes away the tick of the selected files</source>
+        <translation>Die Leertaste setzt oder entfernt den Haken der ausgewählten Dateien</translation>
+    </message>
+    <message>
+        <source>Sets or takes away all ticks</source>
+        <translation>Setzt oder entfernt alle Haken</translation>
+    </message>
+    <message>
+        <source>Taking the files...</source>
+        <translation>Die Dateien werden übernommen...</translation>
+    </message>
+    <message>
+        <source>&amp;Take over</source>
+        <translation>&amp;Übernehmen</translation>
+    </message>
+    <message>
+        <source>Takes the files with a tick as the recordings of their texts</source>
+        <translation>Nimmt die Dateien mit einem Haken als Aufnahmen ihrer Texte</translation>
+    </message>
+    <message>
+        <source>fits by its name</source>
+        <translation>passt mit seinem Namen</translation>
+    </message>
+    <message>
+        <source>fits by its text</source>
+        <translation>passt mit seinem Text</translation>
+    </message>
+    <message>
+        <source>fits by its number</source>
+        <translation>passt mit seiner Nummer</translation>
+    </message>
+    <message>
+        <source>%1; takes the place of your recording, which is kept</source>
+        <translation>%1; ersetzt Ihre Aufnahme, die aufgehoben wird</translation>
+    </message>
+    <message>
+        <source>not taken: another file fits the text better</source>
+        <translation>nicht übernommen: eine andere Datei passt besser zum Text</translation>
+    </message>
+    <message>
+        <source>not taken: other files fit the text as well</source>
+        <translation>nicht übernommen: andere Dateien passen ebenso zum Text</translation>
+    </message>
+    <message>
+        <source>not taken: it fits several texts</source>
+        <translation>nicht übernommen: passt zu mehreren Texten</translation>
+    </message>
+    <message>
+        <source>not taken: it fits no text</source>
+        <translation>nicht übernommen: passt zu keinem Text</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files become recordings. Take away the tick of what is to be left out.</source>
+        <translation>%1 von %2 Dateien werden Aufnahmen. Nehmen Sie den Haken weg, wo eine wegbleiben soll.</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>weggelassen</translation>
+    </message>
+    <message>
+        <source>not taken</source>
+        <translation>nicht übernommen</translation>
+    </message>
+    <message>
+        <source>taken: %1</source>
+        <translation>übernommen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TidyDialog</name>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Tidy</source>
+        <translation>Aufräumen</translation>
+    </message>
+    <message>
+        <source>No text uses these audio files. Those with a tick go into the system&apos;s trash, from where you can take them back.</source>
+        <translation>Kein Text benutzt diese Audiodateien. Die mit einem Haken kommen in den Papierkorb des Systems, aus dem Sie sie zurückholen können.</translation>
+    </message>
+    <message>
+        <source>Files that no text uses</source>
+        <translation>Dateien, die kein Text benutzt</translation>
+    </message>
+    <message>
+        <source>Space sets or takes away the tick of the selected files</source>
+        <translation>Die Leertaste setzt oder entfernt den Haken der ausgewählten Dateien</translation>
+    </message>
+    <message>
+        <source>spoken by the speech program</source>
+        <translation>vom Sprechprogramm gesprochen</translation>
+    </message>
+    <message>
+        <source>your own</source>
+        <translation>Ihre eigene</translation>
+    </message>
+    <message>
+        <source>&amp;All files</source>
+        <translation>&amp;Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Sets or takes away all ticks</source>
+        <translation>Setzt oder entfernt alle Haken</translation>
+    </message>
+    <message>
+        <source>&amp;Move to the trash</source>
+        <translation>In den &amp;Papierkorb</translation>
     </message>
 </context>
 <context>

@@ -2388,6 +2388,90 @@
         <source>%1 recordings are in the trash.</source>
         <translation>%1 recordings are in the trash.</translation>
     </message>
+    <message>
+        <source>&amp;Import folder...</source>
+        <translation>&amp;Import folder...</translation>
+    </message>
+    <message>
+        <source>Takes recordings from a folder; one can also be dropped on the table</source>
+        <translation>Takes recordings from a folder; one can also be dropped on the table</translation>
+    </message>
+    <message>
+        <source>Prin&amp;t sheet...</source>
+        <translation>Prin&amp;t sheet...</translation>
+    </message>
+    <message>
+        <source>Makes a PDF to be printed, from which somebody reads the selected texts; without a selection all</source>
+        <translation>Makes a PDF to be printed, from which somebody reads the selected texts; without a selection all</translation>
+    </message>
+    <message>
+        <source>Save s&amp;heet...</source>
+        <translation>Save s&amp;heet...</translation>
+    </message>
+    <message>
+        <source>Saves the sheet to read the selected texts from as a text; without a selection all</source>
+        <translation>Saves the sheet to read the selected texts from as a text; without a selection all</translation>
+    </message>
+    <message>
+        <source>Ti&amp;dy...</source>
+        <translation>Ti&amp;dy...</translation>
+    </message>
+    <message>
+        <source>Lists the audio files that no text uses, and moves them to the trash</source>
+        <translation>Lists the audio files that no text uses, and moves them to the trash</translation>
+    </message>
+    <message>
+        <source>Import folder</source>
+        <translation>Import folder</translation>
+    </message>
+    <message>
+        <source>%1 is the audio folder of the book itself.</source>
+        <translation>%1 is the audio folder of the book itself.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be read.</source>
+        <translation>The folder %1 cannot be read.</translation>
+    </message>
+    <message>
+        <source>There are no files in %1.</source>
+        <translation>There are no files in %1.</translation>
+    </message>
+    <message>
+        <source>Print sheet</source>
+        <translation>Print sheet</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>PDF files</translation>
+    </message>
+    <message>
+        <source>Save sheet</source>
+        <translation>Save sheet</translation>
+    </message>
+    <message>
+        <source>Text files</source>
+        <translation>Text files</translation>
+    </message>
+    <message>
+        <source>reading sheet</source>
+        <translation>reading sheet</translation>
+    </message>
+    <message>
+        <source>Writing the sheet...</source>
+        <translation>Writing the sheet...</translation>
+    </message>
+    <message>
+        <source>The script has mistakes, so it is not known which audio files it uses. Correct them first.</source>
+        <translation>The script has mistakes, so it is not known which audio files it uses. Correct them first.</translation>
+    </message>
+    <message>
+        <source>All audio files are used by texts.</source>
+        <translation>All audio files are used by texts.</translation>
+    </message>
+    <message>
+        <source>Moving files to the trash...</source>
+        <translation>Moving files to the trash...</translation>
+    </message>
 </context>
 <context>
     <name>SpeechView</name>
@@ -2441,6 +2525,179 @@
     <message>
         <source>%1 audio files were made as loud as all are to be.</source>
         <translation>%1 audio files were made as loud as all are to be.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>The file %1 cannot be written: %2</translation>
+    </message>
+    <message>
+        <source>The sheet is in the file %1.</source>
+        <translation>The sheet is in the file %1.</translation>
+    </message>
+    <message>
+        <source>The numbers begin anew; earlier sheets do not fit any more.</source>
+        <translation>The numbers begin anew; earlier sheets do not fit any more.</translation>
+    </message>
+    <message>
+        <source>%1 stays: it cannot be moved to the trash.</source>
+        <translation>%1 stays: it cannot be moved to the trash.</translation>
+    </message>
+    <message>
+        <source>1 file is in the trash.</source>
+        <translation>1 file is in the trash.</translation>
+    </message>
+    <message>
+        <source>%1 files are in the trash.</source>
+        <translation>%1 files are in the trash.</translation>
+    </message>
+</context>
+<context>
+    <name>SheetPdf</name>
+    <message>
+        <source>Record each text as a file of its own whose name begins with the number: 7.wav</source>
+        <translation>Record each text as a file of its own whose name begins with the number: 7.wav</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>What becomes of it</source>
+        <translation>What becomes of it</translation>
+    </message>
+    <message>
+        <source>&amp;All that fit</source>
+        <translation>&amp;All that fit</translation>
+    </message>
+    <message>
+        <source>Import recordings</source>
+        <translation>Import recordings</translation>
+    </message>
+    <message>
+        <source>Files and the texts that they fit</source>
+        <translation>Files and the texts that they fit</translation>
+    </message>
+    <message>
+        <source>Space sets or takes away the tick of the selected files</source>
+        <translation>Space sets or takes away the tick of the selected files</translation>
+    </message>
+    <message>
+        <source>Sets or takes away all ticks</source>
+        <translation>Sets or takes away all ticks</translation>
+    </message>
+    <message>
+        <source>Taking the files...</source>
+        <translation>Taking the files...</translation>
+    </message>
+    <message>
+        <source>&amp;Take over</source>
+        <translation>&amp;Take over</translation>
+    </message>
+    <message>
+        <source>Takes the files with a tick as the recordings of their texts</source>
+        <translation>Takes the files with a tick as the recordings of their texts</translation>
+    </message>
+    <message>
+        <source>fits by its name</source>
+        <translation>fits by its name</translation>
+    </message>
+    <message>
+        <source>fits by its text</source>
+        <translation>fits by its text</translation>
+    </message>
+    <message>
+        <source>fits by its number</source>
+        <translation>fits by its number</translation>
+    </message>
+    <message>
+        <source>%1; takes the place of your recording, which is kept</source>
+        <translation>%1; takes the place of your recording, which is kept</translation>
+    </message>
+    <message>
+        <source>not taken: another file fits the text better</source>
+        <translation>not taken: another file fits the text better</translation>
+    </message>
+    <message>
+        <source>not taken: other files fit the text as well</source>
+        <translation>not taken: other files fit the text as well</translation>
+    </message>
+    <message>
+        <source>not taken: it fits several texts</source>
+        <translation>not taken: it fits several texts</translation>
+    </message>
+    <message>
+        <source>not taken: it fits no text</source>
+        <translation>not taken: it fits no text</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files become recordings. Take away the tick of what is to be left out.</source>
+        <translation>%1 of %2 files become recordings. Take away the tick of what is to be left out.</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>left out</translation>
+    </message>
+    <message>
+        <source>not taken</source>
+        <translation>not taken</translation>
+    </message>
+    <message>
+        <source>taken: %1</source>
+        <translation>taken: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TidyDialog</name>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Kind</translation>
+    </message>
+    <message>
+        <source>Tidy</source>
+        <translation>Tidy</translation>
+    </message>
+    <message>
+        <source>No text uses these audio files. Those with a tick go into the system&apos;s trash, from where you can take them back.</source>
+        <translation>No text uses these audio files. Those with a tick go into the system&apos;s trash, from where you can take them back.</translation>
+    </message>
+    <message>
+        <source>Files that no text uses</source>
+        <translation>Files that no text uses</translation>
+    </message>
+    <message>
+        <source>Space sets or takes away the tick of the selected files</source>
+        <translation>Space sets or takes away the tick of the selected files</translation>
+    </message>
+    <message>
+        <source>spoken by the speech program</source>
+        <translation>spoken by the speech program</translation>
+    </message>
+    <message>
+        <source>your own</source>
+        <translation>your own</translation>
+    </message>
+    <message>
+        <source>&amp;All files</source>
+        <translation>&amp;All files</translation>
+    </message>
+    <message>
+        <source>Sets or takes away all ticks</source>
+        <translation>Sets or takes away all ticks</translation>
+    </message>
+    <message>
+        <source>&amp;Move to the trash</source>
+        <translation>&amp;Move to the trash</translation>
     </message>
 </context>
 <context>

@@ -2388,6 +2388,90 @@
         <source>%1 recordings are in the trash.</source>
         <translation>%1 enregistrements sont dans la corbeille.</translation>
     </message>
+    <message>
+        <source>&amp;Import folder...</source>
+        <translation>&amp;Importer un dossier...</translation>
+    </message>
+    <message>
+        <source>Takes recordings from a folder; one can also be dropped on the table</source>
+        <translation>Prend les enregistrements d&apos;un dossier ; on peut aussi le déposer sur le tableau</translation>
+    </message>
+    <message>
+        <source>Prin&amp;t sheet...</source>
+        <translation>Impri&amp;mer la feuille...</translation>
+    </message>
+    <message>
+        <source>Makes a PDF to be printed, from which somebody reads the selected texts; without a selection all</source>
+        <translation>Crée un PDF à imprimer, pour lire les textes sélectionnés ; sans sélection tous</translation>
+    </message>
+    <message>
+        <source>Save s&amp;heet...</source>
+        <translation>Enregistrer la &amp;feuille...</translation>
+    </message>
+    <message>
+        <source>Saves the sheet to read the selected texts from as a text; without a selection all</source>
+        <translation>Enregistre la feuille de lecture des textes sélectionnés comme fichier texte ; sans sélection tous</translation>
+    </message>
+    <message>
+        <source>Ti&amp;dy...</source>
+        <translation>&amp;Ranger...</translation>
+    </message>
+    <message>
+        <source>Lists the audio files that no text uses, and moves them to the trash</source>
+        <translation>Liste les fichiers audio qu&apos;aucun texte n&apos;utilise, et les met à la corbeille</translation>
+    </message>
+    <message>
+        <source>Import folder</source>
+        <translation>Importer un dossier</translation>
+    </message>
+    <message>
+        <source>%1 is the audio folder of the book itself.</source>
+        <translation>%1 est le dossier audio du livre lui-même.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be read.</source>
+        <translation>Le dossier %1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>There are no files in %1.</source>
+        <translation>Il n&apos;y a pas de fichiers dans %1.</translation>
+    </message>
+    <message>
+        <source>Print sheet</source>
+        <translation>Imprimer la feuille</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>Fichiers PDF</translation>
+    </message>
+    <message>
+        <source>Save sheet</source>
+        <translation>Enregistrer la feuille</translation>
+    </message>
+    <message>
+        <source>Text files</source>
+        <translation>Fichiers texte</translation>
+    </message>
+    <message>
+        <source>reading sheet</source>
+        <translation>feuille de lecture</translation>
+    </message>
+    <message>
+        <source>Writing the sheet...</source>
+        <translation>Écriture de la feuille...</translation>
+    </message>
+    <message>
+        <source>The script has mistakes, so it is not known which audio files it uses. Correct them first.</source>
+        <translation>Le script a des erreurs, et l&apos;on ne sait donc pas quels fichiers audio il utilise. Corrigez-les d&apos;abord.</translation>
+    </message>
+    <message>
+        <source>All audio files are used by texts.</source>
+        <translation>Tous les fichiers audio sont utilisés par des textes.</translation>
+    </message>
+    <message>
+        <source>Moving files to the trash...</source>
+        <translation>Mise à la corbeille...</translation>
+    </message>
 </context>
 <context>
     <name>SpeechView</name>
@@ -2441,6 +2525,179 @@
     <message>
         <source>%1 audio files were made as loud as all are to be.</source>
         <translation>%1 fichiers audio ont été mis au volume commun.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Le fichier %1 ne peut pas être écrit : %2</translation>
+    </message>
+    <message>
+        <source>The sheet is in the file %1.</source>
+        <translation>La feuille est dans le fichier %1.</translation>
+    </message>
+    <message>
+        <source>The numbers begin anew; earlier sheets do not fit any more.</source>
+        <translation>Les numéros recommencent ; les feuilles précédentes ne conviennent plus.</translation>
+    </message>
+    <message>
+        <source>%1 stays: it cannot be moved to the trash.</source>
+        <translation>%1 reste : le fichier ne peut pas être mis à la corbeille.</translation>
+    </message>
+    <message>
+        <source>1 file is in the trash.</source>
+        <translation>1 fichier est dans la corbeille.</translation>
+    </message>
+    <message>
+        <source>%1 files are in the trash.</source>
+        <translation>%1 fichiers sont dans la corbeille.</translation>
+    </message>
+</context>
+<context>
+    <name>SheetPdf</name>
+    <message>
+        <source>Record each text as a file of its own whose name begins with the number: 7.wav</source>
+        <translation>Enregistrez chaque texte dans un fichier à part dont le nom commence par le numéro : 7.wav</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>What becomes of it</source>
+        <translation>Ce qu&apos;il devient</translation>
+    </message>
+    <message>
+        <source>&amp;All that fit</source>
+        <translation>&amp;Tous ceux qui conviennent</translation>
+    </message>
+    <message>
+        <source>Import recordings</source>
+        <translation>Importer des enregistrements</translation>
+    </message>
+    <message>
+        <source>Files and the texts that they fit</source>
+        <translation>Les fichiers et les textes auxquels ils conviennent</translation>
+    </message>
+    <message>
+        <source>Space sets or takes away the tick of the selected files</source>
+        <translation>La barre d&apos;espace coche ou décoche les fichiers sélectionnés</translation>
+    </message>
+    <message>
+        <source>Sets or takes away all ticks</source>
+        <translation>Coche ou décoche tout</translation>
+    </message>
+    <message>
+        <source>Taking the files...</source>
+        <translation>Reprise des fichiers...</translation>
+    </message>
+    <message>
+        <source>&amp;Take over</source>
+        <translation>&amp;Reprendre</translation>
+    </message>
+    <message>
+        <source>Takes the files with a tick as the recordings of their texts</source>
+        <translation>Prend les fichiers cochés comme enregistrements de leurs textes</translation>
+    </message>
+    <message>
+        <source>fits by its name</source>
+        <translation>convient par son nom</translation>
+    </message>
+    <message>
+        <source>fits by its text</source>
+        <translation>convient par son texte</translation>
+    </message>
+    <message>
+        <source>fits by its number</source>
+        <translation>convient par son numéro</translation>
+    </message>
+    <message>
+        <source>%1; takes the place of your recording, which is kept</source>
+        <translation>%1 ; remplace votre enregistrement, qui est conservé</translation>
+    </message>
+    <message>
+        <source>not taken: another file fits the text better</source>
+        <translation>non repris : un autre fichier convient mieux au texte</translation>
+    </message>
+    <message>
+        <source>not taken: other files fit the text as well</source>
+        <translation>non repris : d&apos;autres fichiers conviennent aussi bien au texte</translation>
+    </message>
+    <message>
+        <source>not taken: it fits several texts</source>
+        <translation>non repris : il convient à plusieurs textes</translation>
+    </message>
+    <message>
+        <source>not taken: it fits no text</source>
+        <translation>non repris : il ne convient à aucun texte</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files become recordings. Take away the tick of what is to be left out.</source>
+        <translation>%1 fichiers sur %2 deviennent des enregistrements. Décochez ce qui est à laisser de côté.</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>laissé de côté</translation>
+    </message>
+    <message>
+        <source>not taken</source>
+        <translation>non repris</translation>
+    </message>
+    <message>
+        <source>taken: %1</source>
+        <translation>repris : %1</translation>
+    </message>
+</context>
+<context>
+    <name>TidyDialog</name>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Tidy</source>
+        <translation>Ranger</translation>
+    </message>
+    <message>
+        <source>No text uses these audio files. Those with a tick go into the system&apos;s trash, from where you can take them back.</source>
+        <translation>Aucun texte n&apos;utilise ces fichiers audio. Ceux qui sont cochés vont dans la corbeille du système, d&apos;où vous pouvez les reprendre.</translation>
+    </message>
+    <message>
+        <source>Files that no text uses</source>
+        <translation>Fichiers qu&apos;aucun texte n&apos;utilise</translation>
+    </message>
+    <message>
+        <source>Space sets or takes away the tick of the selected files</source>
+        <translation>La barre d&apos;espace coche ou décoche les fichiers sélectionnés</translation>
+    </message>
+    <message>
+        <source>spoken by the speech program</source>
+        <translation>lu par le programme de synthèse</translation>
+    </message>
+    <message>
+        <source>your own</source>
+        <translation>le vôtre</translation>
+    </message>
+    <message>
+        <source>&amp;All files</source>
+        <translation>&amp;Tous les fichiers</translation>
+    </message>
+    <message>
+        <source>Sets or takes away all ticks</source>
+        <translation>Coche ou décoche tout</translation>
+    </message>
+    <message>
+        <source>&amp;Move to the trash</source>
+        <translation>Mettre à la &amp;corbeille</translation>
     </message>
 </context>
 <context>

@@ -2388,6 +2388,90 @@
         <source>%1 recordings are in the trash.</source>
         <translation>%1 opnamen liggen in de prullenbak.</translation>
     </message>
+    <message>
+        <source>&amp;Import folder...</source>
+        <translation>M&amp;ap gebruiken...</translation>
+    </message>
+    <message>
+        <source>Takes recordings from a folder; one can also be dropped on the table</source>
+        <translation>Neemt opnamen uit een map; die kan ook op de tabel worden gesleept</translation>
+    </message>
+    <message>
+        <source>Prin&amp;t sheet...</source>
+        <translation>&amp;Leeslijst afdrukken...</translation>
+    </message>
+    <message>
+        <source>Makes a PDF to be printed, from which somebody reads the selected texts; without a selection all</source>
+        <translation>Maakt een PDF om af te drukken, waaruit iemand de geselecteerde teksten leest; zonder selectie alle</translation>
+    </message>
+    <message>
+        <source>Save s&amp;heet...</source>
+        <translation>Leesl&amp;ijst opslaan...</translation>
+    </message>
+    <message>
+        <source>Saves the sheet to read the selected texts from as a text; without a selection all</source>
+        <translation>Slaat de leeslijst van de geselecteerde teksten op als tekstbestand; zonder selectie alle</translation>
+    </message>
+    <message>
+        <source>Ti&amp;dy...</source>
+        <translation>Op&amp;ruimen...</translation>
+    </message>
+    <message>
+        <source>Lists the audio files that no text uses, and moves them to the trash</source>
+        <translation>Toont de audiobestanden die geen tekst gebruikt, en legt ze in de prullenbak</translation>
+    </message>
+    <message>
+        <source>Import folder</source>
+        <translation>Map gebruiken</translation>
+    </message>
+    <message>
+        <source>%1 is the audio folder of the book itself.</source>
+        <translation>%1 is de audiomap van het boek zelf.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be read.</source>
+        <translation>De map %1 kan niet worden gelezen.</translation>
+    </message>
+    <message>
+        <source>There are no files in %1.</source>
+        <translation>Er zijn geen bestanden in %1.</translation>
+    </message>
+    <message>
+        <source>Print sheet</source>
+        <translation>Leeslijst afdrukken</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>PDF-bestanden</translation>
+    </message>
+    <message>
+        <source>Save sheet</source>
+        <translation>Leeslijst opslaan</translation>
+    </message>
+    <message>
+        <source>Text files</source>
+        <translation>Tekstbestanden</translation>
+    </message>
+    <message>
+        <source>reading sheet</source>
+        <translation>leeslijst</translation>
+    </message>
+    <message>
+        <source>Writing the sheet...</source>
+        <translation>De leeslijst wordt geschreven...</translation>
+    </message>
+    <message>
+        <source>The script has mistakes, so it is not known which audio files it uses. Correct them first.</source>
+        <translation>Het script heeft fouten, daarom is niet bekend welke audiobestanden het gebruikt. Verbeter ze eerst.</translation>
+    </message>
+    <message>
+        <source>All audio files are used by texts.</source>
+        <translation>Alle audiobestanden worden door teksten gebruikt.</translation>
+    </message>
+    <message>
+        <source>Moving files to the trash...</source>
+        <translation>De bestanden gaan naar de prullenbak...</translation>
+    </message>
 </context>
 <context>
     <name>SpeechView</name>
@@ -2441,6 +2525,179 @@
     <message>
         <source>%1 audio files were made as loud as all are to be.</source>
         <translation>%1 audiobestanden zijn zo luid gemaakt als alle horen te zijn.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Het bestand %1 kan niet worden geschreven: %2</translation>
+    </message>
+    <message>
+        <source>The sheet is in the file %1.</source>
+        <translation>De leeslijst staat in het bestand %1.</translation>
+    </message>
+    <message>
+        <source>The numbers begin anew; earlier sheets do not fit any more.</source>
+        <translation>De nummers beginnen opnieuw; eerdere leeslijsten passen niet meer.</translation>
+    </message>
+    <message>
+        <source>%1 stays: it cannot be moved to the trash.</source>
+        <translation>%1 blijft: het bestand kan niet naar de prullenbak.</translation>
+    </message>
+    <message>
+        <source>1 file is in the trash.</source>
+        <translation>1 bestand ligt in de prullenbak.</translation>
+    </message>
+    <message>
+        <source>%1 files are in the trash.</source>
+        <translation>%1 bestanden liggen in de prullenbak.</translation>
+    </message>
+</context>
+<context>
+    <name>SheetPdf</name>
+    <message>
+        <source>Record each text as a file of its own whose name begins with the number: 7.wav</source>
+        <translation>Neem elke tekst op als een eigen bestand waarvan de naam met het nummer begint: 7.wav</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>File</source>
+        <translation>Bestand</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>What becomes of it</source>
+        <translation>Wat ervan wordt</translation>
+    </message>
+    <message>
+        <source>&amp;All that fit</source>
+        <translation>&amp;Alle die passen</translation>
+    </message>
+    <message>
+        <source>Import recordings</source>
+        <translation>Opnamen importeren</translation>
+    </message>
+    <message>
+        <source>Files and the texts that they fit</source>
+        <translation>Bestanden en de teksten waar ze bij passen</translation>
+    </message>
+    <message>
+        <source>Space sets or takes away the tick of the selected files</source>
+        <translation>De spatiebalk zet het vinkje van de geselecteerde bestanden of haalt het weg</translation>
+    </message>
+    <message>
+        <source>Sets or takes away all ticks</source>
+        <translation>Zet alle vinkjes of haalt ze weg</translation>
+    </message>
+    <message>
+        <source>Taking the files...</source>
+        <translation>De bestanden worden overgenomen...</translation>
+    </message>
+    <message>
+        <source>&amp;Take over</source>
+        <translation>&amp;Overnemen</translation>
+    </message>
+    <message>
+        <source>Takes the files with a tick as the recordings of their texts</source>
+        <translation>Neemt de bestanden met een vinkje als opnamen van hun teksten</translation>
+    </message>
+    <message>
+        <source>fits by its name</source>
+        <translation>past door zijn naam</translation>
+    </message>
+    <message>
+        <source>fits by its text</source>
+        <translation>past door zijn tekst</translation>
+    </message>
+    <message>
+        <source>fits by its number</source>
+        <translation>past door zijn nummer</translation>
+    </message>
+    <message>
+        <source>%1; takes the place of your recording, which is kept</source>
+        <translation>%1; vervangt uw opname, die wordt bewaard</translation>
+    </message>
+    <message>
+        <source>not taken: another file fits the text better</source>
+        <translation>niet overgenomen: een ander bestand past beter bij de tekst</translation>
+    </message>
+    <message>
+        <source>not taken: other files fit the text as well</source>
+        <translation>niet overgenomen: andere bestanden passen net zo goed bij de tekst</translation>
+    </message>
+    <message>
+        <source>not taken: it fits several texts</source>
+        <translation>niet overgenomen: past bij meer dan één tekst</translation>
+    </message>
+    <message>
+        <source>not taken: it fits no text</source>
+        <translation>niet overgenomen: past bij geen tekst</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files become recordings. Take away the tick of what is to be left out.</source>
+        <translation>%1 van %2 bestanden worden opnamen. Haal het vinkje weg van wat niet mee moet.</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>weggelaten</translation>
+    </message>
+    <message>
+        <source>not taken</source>
+        <translation>niet overgenomen</translation>
+    </message>
+    <message>
+        <source>taken: %1</source>
+        <translation>overgenomen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TidyDialog</name>
+    <message>
+        <source>File</source>
+        <translation>Bestand</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Soort</translation>
+    </message>
+    <message>
+        <source>Tidy</source>
+        <translation>Opruimen</translation>
+    </message>
+    <message>
+        <source>No text uses these audio files. Those with a tick go into the system&apos;s trash, from where you can take them back.</source>
+        <translation>Geen tekst gebruikt deze audiobestanden. Die met een vinkje gaan naar de prullenbak van het systeem, waar u ze weer uit kunt halen.</translation>
+    </message>
+    <message>
+        <source>Files that no text uses</source>
+        <translation>Bestanden die geen tekst gebruikt</translation>
+    </message>
+    <message>
+        <source>Space sets or takes away the tick of the selected files</source>
+        <translation>De spatiebalk zet het vinkje van de geselecteerde bestanden of haalt het weg</translation>
+    </message>
+    <message>
+        <source>spoken by the speech program</source>
+        <translation>gesproken door het spraakprogramma</translation>
+    </message>
+    <message>
+        <source>your own</source>
+        <translation>van uzelf</translation>
+    </message>
+    <message>
+        <source>&amp;All files</source>
+        <translation>&amp;Alle bestanden</translation>
+    </message>
+    <message>
+        <source>Sets or takes away all ticks</source>
+        <translation>Zet alle vinkjes of haalt ze weg</translation>
+    </message>
+    <message>
+        <source>&amp;Move to the trash</source>
+        <translation>Naar de &amp;prullenbak</translation>
     </message>
 </context>
 <context>

@@ -4,10 +4,14 @@
 #include "oid/OutputLock.h"
 #include "publish/BuildDriver.h"
 #include "publish/SoundFiles.h"
-#include "recording/BookSounds.h"
+#include "recording/VoiceFile.h"
+#include "speech/ReadingSheet.h"
 #include "speech/SpeechIndex.h"
+#include "speech/Tidy.h"
 #include "speech/tab/QuietRunner.h"
+#include "speech/tab/SheetPdf.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -75,16 +79,19 @@ QStringList SpeechJobs::speakNow(Oid::OidProject& book, const std::vector<Speech
     }
 }
 
-SpeechWork::Job SpeechJobs::adopt(Oid::OidProject book, std::vector<Adoption> adoptions)
+SpeechWork::Job SpeechJobs::adopt(Oid::OidProject book, std::vector<Adoption> adoptions,
+                                  Reports reports)
 {
     const auto shared = std::make_shared<Oid::OidProject>(std::move(book));
-    return [shared, adoptions = std::move(adoptions)](const SpeechWork::Contact& contact) {
-        return withLock(*shared,
-                        [&] { return adoptNow(audioFolder(*shared), adoptions, contact); });
+    return [shared, adoptions = std::move(adoptions),
+            reports = std::move(reports)](const SpeechWork::Contact& contact) {
+        return withLock(
+            *shared, [&] { return adoptNow(audioFolder(*shared), adoptions, *reports, contact); });
     };
 }
 
 QStringList SpeechJobs::adoptNow(const std::string& folder, const std::vector<Adoption>& adoptions,
+                                 std::vector<recording::FileReport>& reports,
                                  const SpeechWork::Contact& contact)
 {
     FileSystem::createDirectory(folder);
@@ -97,10 +104,10 @@ QStringList SpeechJobs::adoptNow(const std::string& folder, const std::vector<Ad
             break;
         }
         const Adoption& one = adoptions[static_cast<std::size_t>(done)];
-        const recording::FileReport report = recording::adoptSound(
-            one.source.toStdString(), placesOf(one.text, folder), contact.isWanted);
-        if (report.done == recording::FileReport::Done::failed) {
-            problems << report.text;
+        reports.push_back(recording::adoptSound(one.source.toStdString(),
+                                                placesOf(one.text, folder), contact.isWanted));
+        if (reports.back().done == recording::FileReport::Done::failed) {
+            problems << reports.back().text;
         } else {
             ++taken;
         }
@@ -109,6 +116,105 @@ QStringList SpeechJobs::adoptNow(const std::string& folder, const std::vector<Ad
                                   : tr("%1 recordings were taken.").arg(taken)} +
            problems;
 }
+
+// --- Sheets to read from -------------------------------------------------------------------------
+
+namespace {
+
+// The part of a sheet that is wanted.
+ReadingSheet onlyWanted(ReadingSheet sheet, const SpeechJobs::Sheet& wish)
+{
+    const auto isUnwanted = [&](const ReadingSheet::Line& line) {
+        return wish.wanted.count(wish.texts[line.text].audioName) == 0;
+    };
+    for (ReadingSheet::Voice& voice : sheet.voices) {
+        auto& lines = voice.lines;
+        lines.erase(std::remove_if(lines.begin(), lines.end(), isUnwanted), lines.end());
+    }
+    auto& voices = sheet.voices;
+    voices.erase(std::remove_if(voices.begin(), voices.end(),
+                                [](const auto& voice) { return voice.lines.empty(); }),
+                 voices.end());
+    return sheet;
+}
+
+}  // namespace
+
+SpeechWork::Job SpeechJobs::writeSheet(Oid::OidProject book, Sheet sheet)
+{
+    const auto shared = std::make_shared<Oid::OidProject>(std::move(book));
+    return [shared, sheet = std::move(sheet)](const SpeechWork::Contact&) {
+        return withLock(*shared, [&] { return writeSheetNow(*shared, sheet); });
+    };
+}
+
+// Numbers that are not kept would lead recordings to other texts, so there is no sheet then.
+QStringList SpeechJobs::writeSheetNow(const Oid::OidProject& book, const Sheet& wish)
+{
+    const std::string folder = audioFolder(book);
+    SpeechIndex index(folder);
+    const QString problem = QString::fromStdString(index.problem());
+    if (index.state() == SpeechIndex::State::unreadable) {
+        return {problem};
+    }
+    const ReadingSheet whole = readingSheetOf(wish.texts, index.sheetNumbers());
+    index.numberTexts(numbersOf(whole, wish.texts));
+    FileSystem::createDirectory(folder);
+    if (index.isChanged() && !index.save()) {
+        return {tr("The file %1 cannot be written.").arg(QString::fromStdString(index.path()))};
+    }
+    const ReadingSheet sheet = onlyWanted(whole, wish);
+    const std::string bytes =
+        wish.isPdf
+            ? sheetAsPdf(sheet, wish.texts, QString::fromStdString(book.productName)).toStdString()
+            : asPlainText(sheet, wish.texts);
+    const std::string failure = recording::writeWhole(wish.file.toStdString(), bytes);
+    if (!failure.empty()) {
+        return {tr("The file %1 cannot be written: %2")
+                    .arg(wish.file, QString::fromStdString(failure))};
+    }
+    QStringList sentences{tr("The sheet is in the file %1.").arg(wish.file)};
+    if (!problem.isEmpty()) {
+        sentences << problem << tr("The numbers begin anew; earlier sheets do not fit any more.");
+    }
+    return sentences;
+}
+
+// --- Tidying -------------------------------------------------------------------------------------
+
+SpeechWork::Job SpeechJobs::moveToTrash(Oid::OidProject book, std::vector<std::string> names)
+{
+    const auto shared = std::make_shared<Oid::OidProject>(std::move(book));
+    return [shared, names = std::move(names)](const SpeechWork::Contact& contact) {
+        return withLock(*shared, [&] { return trashNow(audioFolder(*shared), names, contact); });
+    };
+}
+
+QStringList SpeechJobs::trashNow(const std::string& folder, const std::vector<std::string>& names,
+                                 const SpeechWork::Contact& contact)
+{
+    QStringList problems;
+    const int total = static_cast<int>(names.size());
+    int gone = 0;
+    for (int done = 0; done < total; ++done) {
+        if (!contact.tell(done, total)) {
+            problems << tr("Cancelled.");
+            break;
+        }
+        const std::string& name = names[static_cast<std::size_t>(done)];
+        if (::moveToTrash(folder + FileSystem::directorySeparator + name)) {
+            ++gone;
+        } else {
+            problems << tr("%1 stays: it cannot be moved to the trash.")
+                            .arg(QString::fromStdString(name));
+        }
+    }
+    return QStringList{gone == 1 ? tr("1 file is in the trash.")
+                                 : tr("%1 files are in the trash.").arg(gone)} +
+           problems;
+}
+
+// --- Evenness ------------------------------------------------------------------------------------
 
 SpeechWork::Job SpeechJobs::evenOut(Oid::OidProject book, std::vector<SpeechText> texts)
 {

@@ -2,10 +2,13 @@
 
 #include <QCoreApplication>
 
+#include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "oid/OidProject.h"
+#include "recording/BookSounds.h"
 #include "speech/SpeechTexts.h"
 #include "speech/tab/SpeechWork.h"
 
@@ -26,7 +29,22 @@ public:
     // tools are on PATH.
     static SpeechWork::Job speak(Oid::OidProject book, QString script,
                                  std::vector<SpeechText> texts);
-    static SpeechWork::Job adopt(Oid::OidProject book, std::vector<Adoption> adoptions);
+    // What became of each, as far as it came; read when the work has ended.
+    using Reports = std::shared_ptr<std::vector<recording::FileReport>>;
+    static SpeechWork::Job adopt(Oid::OidProject book, std::vector<Adoption> adoptions,
+                                 Reports reports);
+    // A sheet to read from, with those of the book's texts whose audio names are wanted: a PDF, or
+    // a text. The numbers that texts get are kept in the audio folder first.
+    struct Sheet
+    {
+        std::vector<SpeechText> texts;
+        std::set<std::string> wanted;
+        QString file;
+        bool isPdf;
+    };
+    static SpeechWork::Job writeSheet(Oid::OidProject book, Sheet sheet);
+    // Moves audio files of the book, by their names, to the system's trash.
+    static SpeechWork::Job moveToTrash(Oid::OidProject book, std::vector<std::string> names);
     // Makes the files equally loud. What we spoke stays ours.
     static SpeechWork::Job evenOut(Oid::OidProject book, std::vector<SpeechText> texts);
 
@@ -34,6 +52,10 @@ private:
     static QStringList speakNow(Oid::OidProject& book, const std::vector<SpeechText>& texts,
                                 const SpeechWork::Contact& contact);
     static QStringList adoptNow(const std::string& folder, const std::vector<Adoption>& adoptions,
+                                std::vector<recording::FileReport>& reports,
+                                const SpeechWork::Contact& contact);
+    static QStringList writeSheetNow(const Oid::OidProject& book, const Sheet& sheet);
+    static QStringList trashNow(const std::string& folder, const std::vector<std::string>& names,
                                 const SpeechWork::Contact& contact);
     static QStringList evenOutNow(const std::string& folder, const std::vector<SpeechText>& texts,
                                   const SpeechWork::Contact& contact);

@@ -183,6 +183,21 @@ QWidget* SpeechTab::makeButtons()
                             &SpeechTab::evenOut);
     addCommand(*row, "btTryVoices", tr("Try &voices..."),
                tr("Lets you hear one sentence in many voices"), &SpeechTab::tryVoices);
+    importing = addCommand(*row, "btImportFolder", tr("&Import folder..."),
+                           tr("Takes recordings from a folder; one can also be dropped on the "
+                              "table"),
+                           &SpeechTab::importFolder);
+    printingSheet = addCommand(*row, "btPrintSheet", tr("Prin&t sheet..."),
+                               tr("Makes a PDF to be printed, from which somebody reads the "
+                                  "selected texts; without a selection all"),
+                               &SpeechTab::printSheet);
+    savingSheet = addCommand(*row, "btSaveSheet", tr("Save s&heet..."),
+                             tr("Saves the sheet to read the selected texts from as a text; "
+                                "without a selection all"),
+                             &SpeechTab::saveSheet);
+    tidying = addCommand(*row, "btTidy", tr("Ti&dy..."),
+                         tr("Lists the audio files that no text uses, and moves them to the trash"),
+                         &SpeechTab::tidy);
     return buttons;
 }
 
@@ -200,6 +215,7 @@ void SpeechTab::connectTable()
             &SpeechTab::allowCommands);
     connect(table, &SpeechView::fileDropped, this,
             [this](int row, const QString& path) { adoptFile(path, textOf(row)); });
+    connect(table, &SpeechView::filesDropped, this, &SpeechTab::importFiles);
 }
 
 // Files may have come while the author was elsewhere.
@@ -317,6 +333,10 @@ void SpeechTab::allowCommands()
     usingFile->setEnabled(selected.size() == 1 && isAny(takesFile));
     takingBack->setEnabled(isAny(isRecorded));
     eveningOut->setEnabled(isAnyOrNone(SpeechModel::hasFile));
+    importing->setEnabled(mayMake);
+    printingSheet->setEnabled(isAnyOrNone(takesFile));
+    savingSheet->setEnabled(isAnyOrNone(takesFile));
+    tidying->setEnabled(mayMake);
 }
 
 void SpeechTab::setBuilding(bool building)

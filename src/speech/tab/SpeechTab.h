@@ -85,6 +85,7 @@ private:
     static bool takesFile(const SpeechText& text);
     // Each audio name once.
     std::vector<SpeechText> selectedOrAll(bool (*isMeant)(const SpeechText&)) const;
+    std::vector<SpeechText> allTexts() const;
     Oid::OidProject book() const;
     void begin(SpeechWork::Job job, const QString& what);
     void end(const QStringList& sentences);
@@ -95,6 +96,15 @@ private:
     void adoptFile(const QString& file, const SpeechText& text);
     void takeBack();
     void tryVoices();
+    void importFolder();
+    void importFiles(const QStringList& paths);
+    void printSheet();
+    void saveSheet();
+    QString sheetName(const QString& extension) const;
+    void makeSheet(const QString& file, bool isPdf);
+    void tidy();
+    // Nothing else is being made; else the author is told.
+    bool mayBegin();
 
     void play();
     void playRow(int shownRow);
@@ -117,6 +127,10 @@ private:
     QAction* usingFile = nullptr;
     QAction* takingBack = nullptr;
     QAction* eveningOut = nullptr;
+    QAction* importing = nullptr;
+    QAction* printingSheet = nullptr;
+    QAction* savingSheet = nullptr;
+    QAction* tidying = nullptr;
     QString folder;   // of the audio files; empty while the book has no file
     QString problem;  // with the index
     std::map<std::string, ttbasic::VOICE> scriptVoices;

@@ -10,19 +10,31 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QTimer>
 #include <QUrl>
 
 #include <algorithm>
 
 namespace {
 
-// The one file of a drag; empty for anything else, and for a project, which the window takes.
-QString fileOf(const QMimeData& data)
+// The files and folders of a drag; none of one that holds anything else, or a project, which the
+// window takes.
+QStringList pathsOf(const QMimeData& data)
 {
-    const QList<QUrl> urls = data.urls();
-    const QString path = urls.size() == 1 ? urls.front().toLocalFile() : QString();
-    const bool isProject = path.endsWith(".oidpro", Qt::CaseInsensitive);
-    return isProject || QFileInfo(path).isDir() ? QString() : path;
+    QStringList paths;
+    for (const QUrl& url : data.urls()) {
+        paths << url.toLocalFile();
+        if (paths.last().isEmpty() || paths.last().endsWith(".oidpro", Qt::CaseInsensitive)) {
+            return {};
+        }
+    }
+    return paths;
+}
+
+// One file belongs to the row below it; a folder and several files to the whole table.
+bool isForOneRow(const QStringList& paths)
+{
+    return paths.size() == 1 && !QFileInfo(paths.front()).isDir();
 }
 
 // A file manager that moves files deletes what was accepted as moved.
@@ -112,7 +124,7 @@ void SpeechView::keyPressEvent(QKeyEvent* event)
 
 void SpeechView::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (fileOf(*event->mimeData()).isEmpty()) {
+    if (pathsOf(*event->mimeData()).isEmpty()) {
         event->ignore();
     } else {
         takeCopy(*event);
@@ -121,8 +133,10 @@ void SpeechView::dragEnterEvent(QDragEnterEvent* event)
 
 void SpeechView::dragMoveEvent(QDragMoveEvent* event)
 {
-    markRow(indexAt(event->pos()).row());
-    if (rowBelowDrag < 0) {
+    const bool isForRow = isForOneRow(pathsOf(*event->mimeData()));
+    markAll(!isForRow);
+    markRow(isForRow ? indexAt(event->pos()).row() : -1);
+    if (!isBelowDrag && rowBelowDrag < 0) {
         event->ignore();
     } else {
         takeCopy(*event);
@@ -132,19 +146,32 @@ void SpeechView::dragMoveEvent(QDragMoveEvent* event)
 void SpeechView::dragLeaveEvent(QDragLeaveEvent* /*event*/)
 {
     markRow(-1);
+    markAll(false);
 }
 
+// What opens a dialog waits until the drag has ended, for whoever dragged waits for that.
 void SpeechView::dropEvent(QDropEvent* event)
 {
     markRow(-1);
-    const QString path = fileOf(*event->mimeData());
+    markAll(false);
+    const QStringList paths = pathsOf(*event->mimeData());
     const int row = indexAt(event->pos()).row();
-    if (path.isEmpty() || row < 0) {
+    if (paths.isEmpty() || (isForOneRow(paths) && row < 0)) {
         event->ignore();
-    } else {
-        takeCopy(*event);
-        emit fileDropped(row, path);
+        return;
     }
+    takeCopy(*event);
+    if (isForOneRow(paths)) {
+        emit fileDropped(row, paths.front());
+    } else {
+        QTimer::singleShot(0, this, [this, paths] { emit filesDropped(paths); });
+    }
+}
+
+void SpeechView::markAll(bool marked)
+{
+    isBelowDrag = marked;
+    viewport()->update();
 }
 
 void SpeechView::markRow(int row)
@@ -161,5 +188,10 @@ void SpeechView::paintEvent(QPaintEvent* event)
         painter.setPen(QPen(palette().highlight(), 2));
         painter.drawRect(1, rowViewportPosition(rowBelowDrag) + 1, viewport()->width() - 3,
                          rowHeight(rowBelowDrag) - 3);
+    }
+    if (isBelowDrag) {
+        QPainter painter(viewport());
+        painter.setPen(QPen(palette().highlight(), 2));
+        painter.drawRect(viewport()->rect().adjusted(1, 1, -2, -2));
     }
 }

@@ -21,6 +21,8 @@ signals:
     void rowClicked(int row);
     // A sound file was dropped on a row.
     void fileDropped(int row, const QString& path);
+    // Several files were dropped on the table, or a folder.
+    void filesDropped(const QStringList& paths);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -32,8 +34,10 @@ protected:
 
 private:
     void markRow(int row);
+    void markAll(bool marked);
     void fitColumns();
     void takeClick(const QModelIndex& index);
 
     int rowBelowDrag = -1;
+    bool isBelowDrag = false;  // all of the table
 };
