@@ -1,12 +1,14 @@
 #include "speech/EngineFile.h"
 
-#include <QFile>
 #include <QTextCodec>
 
 #include <algorithm>
+#include <optional>
 #include <set>
 #include <sstream>
 
+#include "base/InputFile.h"
+#include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
 #include "programs/ProcessRunner.h"
 
@@ -233,16 +235,14 @@ bool isLanguageName(const std::string& name)
 
 std::string readEngineFile(const std::string& file, LanguageEngines& engines)
 {
-    QFile source(QString::fromStdString(file));
-    if (!source.exists()) {
+    if (!Platform::fileExists(file)) {
         return {};
     }
-    if (!source.open(QIODevice::ReadOnly)) {
-        return file + " cannot be read: " + source.errorString().toStdString();
+    const std::optional<QByteArray> bytes = readInput(file);
+    if (!bytes) {
+        const std::string kind = Platform::kindOfNoFile(file);
+        return file + " cannot be read: " +
+               (kind.empty() ? Platform::lastFileError() : "it is " + kind + ", not a file");
     }
-    const QByteArray bytes = source.readAll();
-    if (source.error() != QFile::NoError) {
-        return file + " cannot be read: " + source.errorString().toStdString();
-    }
-    return Reader(file, engines).read(withoutMark(bytes).toStdString());
+    return Reader(file, engines).read(withoutMark(*bytes).toStdString());
 }

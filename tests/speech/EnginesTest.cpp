@@ -272,7 +272,7 @@ TEST_F(EnginesTest, SpeedAndPitchNeedFiveValues)
 TEST_F(EnginesTest, AFileThatCannotBeReadIsNamed)
 {
     std::filesystem::create_directory(user);
-    EXPECT_EQ(Engines({user}).problem(), user + " cannot be read: file to open is a directory");
+    EXPECT_EQ(Engines({user}).problem(), user + " cannot be read: it is a folder, not a file");
 }
 
 TEST_F(EnginesTest, WithAWrongFileNobodyKnowsWhoSpeaks)
