@@ -7,6 +7,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
 #include <optional>
 #include <set>
 
@@ -61,11 +64,16 @@ public:
         fine = fine && value.isString();
         return value.toString().toStdString();
     }
-    std::int64_t number(const char* name)
+    // A whole one, and not too large.
+    template <typename Number>
+    Number number(const char* name)
     {
+        constexpr double kExact = 1LL << 53;  // up to where a double holds all whole numbers
+        constexpr double kMost = std::min<double>(kExact, std::numeric_limits<Number>::max());
         const QJsonValue value = object.value(name);
-        fine = fine && value.isDouble();
-        return static_cast<std::int64_t>(value.toDouble());
+        const double found = value.toDouble();
+        fine = fine && value.isDouble() && std::abs(found) <= kMost && std::floor(found) == found;
+        return fine ? static_cast<Number>(found) : Number();
     }
     bool areFine() const { return fine; }
 
@@ -81,7 +89,7 @@ Utterance readUtterance(Members& members)
     spoken.voice = members.text("voice");
     spoken.settings.language = members.text("language");
     spoken.settings.female = members.text("sex") == "f";
-    spoken.settings.age = static_cast<int>(members.number("age"));
+    spoken.settings.age = members.number<int>("age");
     spoken.engine = members.text("engine");
     return spoken;
 }
@@ -141,8 +149,8 @@ bool SpeechIndex::readEntries(const QJsonObject& files)
         Members members(file.value());
         Entry& entry = entries[file.key().toStdString()];
         entry.spoken = readUtterance(members);
-        entry.size = members.number("size");
-        entry.time = members.number("time");
+        entry.size = members.number<std::int64_t>("size");
+        entry.time = members.number<std::int64_t>("time");
         entry.hash = members.text("sha256");
         if (!members.areFine()) {
             return false;

@@ -203,6 +203,21 @@ TEST_F(Index, DamagedItIsEmptyAndKept)
     }
 }
 
+TEST_F(Index, NumbersThatNoneOfOursCanBeAreDamage)
+{
+    speak();
+    const std::string whole = readFile(indexFile);
+    for (const std::string name : {"age", "size", "time"}) {
+        const size_t value = whole.find("\"" + name + "\": ") + name.size() + 4;
+        const size_t end = whole.find_first_not_of("0123456789", value);
+        for (const std::string number : {"1e300", "-1e300", "1e19", "0.5", "\"1\""}) {
+            writeFile(indexFile, whole.substr(0, value) + number + whole.substr(end));
+            EXPECT_EQ(SpeechIndex(folder.path()).state(), SpeechIndex::State::damaged)
+                << name << ' ' << number;
+        }
+    }
+}
+
 TEST_F(Index, OneThatCannotBeOpenedIsEmptyAndTold)
 {
     fs::create_directory(indexFile);
