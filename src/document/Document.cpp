@@ -402,6 +402,10 @@ bool Document::exchangeFiles(Step& step, bool forward)
             return false;
         }
     }
+    // At once: another file than the known one looks as if another window had moved pages.
+    for (const KeptFile& file : step.files) {
+        pictures.wasReplaced(contents.pageAt(file.page));
+    }
     return true;
 }
 

@@ -625,6 +625,21 @@ TEST_F(MovedPages, ANewPictureOnAMovedPageIsUndoneWhereItIs)
     EXPECT_EQ(now(), "pig=sow cow=cow hen=hen none=none");
 }
 
+// A picture that comes to another page by an undo is none that another window has moved there.
+TEST_F(MovedPages, APictureThatWentToAnotherPageTogetherWithANewPageIsUndone)
+{
+    const Gesture gesture = document.newGesture();
+    document.apply(edit::ReplacePicture{2, "cow"}, gesture);
+    document.apply(edit::ReplacePicture{0, "sow"}, gesture);
+    document.apply(edit::AddPage{pageWith("owl"), {}}, gesture);
+    EXPECT_EQ(now(), "cow=sow hen=hen none=cow pig=pig owl=none");
+    EXPECT_TRUE(document.undo());
+    EXPECT_EQ(document.problem().cause, "");
+    EXPECT_EQ(now(), "cow=cow hen=hen none=none pig=pig");
+    EXPECT_TRUE(document.redo());
+    EXPECT_EQ(now(), "cow=sow hen=hen none=cow pig=pig owl=none");
+}
+
 TEST_F(MovedPages, ANewPageBehindRemovedOnesTakesNoPictureOfTheSavedProject)
 {
     document.apply(edit::RemovePage{3});
