@@ -57,7 +57,11 @@ uint32_t Choices::number()
 
 std::string Choices::text(size_t longest)
 {
-    const size_t length = std::min<size_t>({byte(), longest, left});
+    return take(std::min<size_t>({byte(), longest, left}));
+}
+
+std::string Choices::take(size_t length)
+{
     std::string result(reinterpret_cast<const char*>(data), length);
     data += length;
     left -= length;

@@ -28,9 +28,12 @@ public:
     int below(int n) { return static_cast<int>(number() % static_cast<uint32_t>(n)); }
     bool oneIn(int n) { return below(n) == 0; }
     std::string text(size_t longest);
+    std::string rest() { return take(left); }
     bool isAtEnd() const { return left == 0; }
 
 private:
+    std::string take(size_t length);
+
     const uint8_t* data;
     size_t left;
 };

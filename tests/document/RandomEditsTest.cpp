@@ -1,136 +1,15 @@
 #include "document/Document.h"
 
+#include "tests/document/RandomAuthor.h"
 #include "tests/document/Snapshot.h"
 #include "tests/helpers/CapturedMessages.h"
 #include "tests/helpers/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <random>
 
 namespace {
-
-// An author who does anything, in any order.
-class RandomAuthor
-{
-public:
-    RandomAuthor(Document& edited, unsigned seed) : document(edited), random(seed) {}
-
-    int below(int n) { return std::uniform_int_distribution<int>(0, n - 1)(random); }
-
-    void edit(Gesture gesture = Gesture::none) { document.apply(anyEdit(), gesture); }
-    void movePage()
-    {
-        const int page = below(pages());
-        if (below(2) == 0 && pages() > 1) {
-            document.apply(edit::RemovePage{page});
-        } else {
-            document.apply(edit::MovePage{page, below(pages())});
-        }
-    }
-    // As the window does it.
-    void save() { EXPECT_TRUE(document.save(document.project().projectPath)); }
-
-    // Several edits as one.
-    void gesture()
-    {
-        const Gesture one = document.newGesture();
-        for (int count = 1 + below(6); count > 0; --count) {
-            edit(one);
-        }
-    }
-
-    // Any areas of a page, or none.
-    void select()
-    {
-        std::vector<AreaId> areas(static_cast<std::size_t>(below(5)));
-        std::generate(areas.begin(), areas.end(), [this] { return anyArea(); });
-        document.selectAreas(below(pages()), areas);
-    }
-
-private:
-    int pages() const { return static_cast<int>(document.project().pictures.size()); }
-    double anyNumber() { return std::uniform_real_distribution<double>(-20, 120)(random); }
-    std::string anyName() { return std::string(1, static_cast<char>('a' + below(6))); }
-
-    std::vector<Oid::PNT> anyCorners()
-    {
-        std::vector<Oid::PNT> corners(static_cast<std::size_t>(below(7)));
-        for (Oid::PNT& corner : corners) {
-            corner = {anyNumber(), anyNumber()};
-        }
-        return corners;
-    }
-
-    AreaId anyArea()
-    {
-        const int page = below(pages());
-        const auto count = document.project().pictures[static_cast<std::size_t>(page)].polys.size();
-        return document.areaAt(page, below(static_cast<int>(count) + 1));  // may be none
-    }
-
-    std::vector<Oid::PNT> otherCorners(AreaId area)
-    {
-        const Contents::Place place = document.placeOf(area);
-        if (place.page < 0 || below(3) == 0) {
-            return anyCorners();
-        }
-        std::vector<Oid::PNT> corners = document.project()
-                                            .pictures[static_cast<std::size_t>(place.page)]
-                                            .polys[static_cast<std::size_t>(place.index)]
-                                            .points;
-        const Oid::PNT corner{anyNumber(), anyNumber()};
-        if (corners.empty() || below(2) == 0) {
-            corners.insert(corners.begin() + below(static_cast<int>(corners.size()) + 1), corner);
-        } else {
-            corners[static_cast<std::size_t>(below(static_cast<int>(corners.size())))] = corner;
-        }
-        return corners;
-    }
-
-    Edit anyEdit()
-    {
-        switch (below(16)) {
-        case 0:
-        case 1:
-        case 2: {
-            Oid::POLY area;
-            area.name = anyName();
-            area.points = anyCorners();
-            return edit::AddArea{below(pages()), area, below(8) - 1};
-        }
-        case 3:
-            return edit::RemoveArea{anyArea()};
-        case 4:
-        case 5: {
-            const AreaId area = anyArea();
-            return edit::SetCorners{area, otherCorners(area)};
-        }
-        case 6:
-            return edit::MoveAreas{{anyArea()}, {anyNumber(), anyNumber()}};
-        case 7:
-            return edit::RenameAreas{{anyArea(), anyArea()}, anyName()};
-        case 8:
-            return edit::RenameArea{anyArea(), anyName()};
-        case 9:
-            return edit::SetNumber{anyArea(), below(3) * 500};
-        case 10:
-            return edit::ReorderArea{anyArea(), below(5)};
-        case 11:
-        case 14:
-        case 15:
-            return edit::SetPaper{below(pages()), anyNumber(), anyNumber(), below(2400)};
-        case 12:
-            return edit::AddPage{{}, below(3) > 0 ? QByteArray() : QByteArray::number(below(9))};
-        default:
-            return edit::ReplacePicture{below(pages()), QByteArray::number(below(9))};
-        }
-    }
-
-    Document& document;
-    std::mt19937 random;
-};
 
 std::string all(Document& document)
 {
@@ -159,7 +38,7 @@ TEST(RandomEdits, AreUndoneAndRedoneExactly)
         document.projectRecord().print = CapturedMessages::print;
         document.projectRecord().pictures.resize(1);
         document.restart();
-        RandomAuthor author(document, seed);
+        RandomAuthor author(document, std::mt19937(seed));
         std::vector<std::string> done{all(document)};  // the last one is now
         std::vector<std::string> undone;
         for (int i = 0; i < 100; ++i) {
@@ -170,7 +49,7 @@ TEST(RandomEdits, AreUndoneAndRedoneExactly)
             }
             const int what = author.below(10);
             if (author.below(12) == 0) {
-                author.save();
+                ASSERT_TRUE(author.save());
                 ASSERT_EQ(all(document), done.back()) << "after " << i;
                 continue;
             }
@@ -211,7 +90,7 @@ TEST(RandomEdits, ThatAreGivenUpLeaveNothing)
         document.projectRecord().print = CapturedMessages::print;
         document.projectRecord().pictures.resize(2);
         document.restart();
-        RandomAuthor author(document, seed);
+        RandomAuthor author(document, std::mt19937(seed));
         for (int i = 0; i < 30; ++i) {
             author.edit();
             author.select();

@@ -8,7 +8,7 @@ namespace {
 class ScriptWriter
 {
 public:
-    explicit ScriptWriter(uint64_t seed) : random(seed) {}
+    explicit ScriptWriter(const std::function<uint64_t()>& chance) : random(chance) {}
 
     RandomScript write();
 
@@ -37,7 +37,7 @@ private:
     std::string expression(int depth);
     std::string text();
 
-    std::mt19937_64 random;
+    const std::function<uint64_t()>& random;
     RandomScript script;
     int indentation = 0;
     bool mayJumpBack = false;
@@ -213,5 +213,10 @@ std::string ScriptWriter::expression(int depth)
 
 RandomScript randomScript(uint64_t seed)
 {
-    return ScriptWriter(seed).write();
+    return randomScript(std::mt19937_64(seed));
+}
+
+RandomScript randomScript(const std::function<uint64_t()>& chance)
+{
+    return ScriptWriter(chance).write();
 }

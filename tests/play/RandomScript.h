@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -14,3 +15,5 @@ struct RandomScript
 
 // The same seed gives the same script.
 RandomScript randomScript(uint64_t seed);
+// The chances are any numbers; when they are 0 from somewhere on, the script ends soon.
+RandomScript randomScript(const std::function<uint64_t()>& chance);

@@ -8,7 +8,7 @@ namespace {
 class DescriptionWriter
 {
 public:
-    explicit DescriptionWriter(uint64_t seed) : random(seed) {}
+    explicit DescriptionWriter(const std::function<uint64_t()>& chance) : random(chance) {}
 
     std::string write();
 
@@ -32,7 +32,7 @@ private:
     std::string number();
     std::string value() { return isOneIn(2) ? reg() : number(); }
 
-    std::mt19937_64 random;
+    const std::function<uint64_t()>& random;
     bool isPlain = false;
 };
 
@@ -91,7 +91,8 @@ std::string DescriptionWriter::line(size_t steps, size_t next, size_t conditions
     if (isOneIn(8)) {
         commands.push_back(sound());
     }
-    while (isStrange()) {
+    constexpr int kMostStrange = 8;
+    for (int i = 0; i < kMostStrange && isStrange(); ++i) {
         commands.insert(commands.begin() + static_cast<std::ptrdiff_t>(below(commands.size() + 1)),
                         strangeCommand());
     }
@@ -167,5 +168,10 @@ std::string DescriptionWriter::number()
 
 std::string randomDescription(uint64_t seed)
 {
-    return DescriptionWriter(seed).write();
+    return randomDescription(std::mt19937_64(seed));
+}
+
+std::string randomDescription(const std::function<uint64_t()>& chance)
+{
+    return DescriptionWriter(chance).write();
 }
