@@ -4,6 +4,6 @@ if(PLINKETT_FUZZ)
 endif()
 if(PLINKETT_SANITIZE)
   add_compile_options(-fsanitize=${PLINKETT_SANITIZE} -fno-omit-frame-pointer
-                      -fno-sanitize-recover=undefined)
+                      -fno-sanitize-recover=all)
   add_link_options(-fsanitize=${PLINKETT_SANITIZE})
 endif()
