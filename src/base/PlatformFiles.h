@@ -66,7 +66,8 @@ public:
     // The temporary file, open for binary writing; null when it could not be made.
     FILE* file() const { return stream; }
     // Closes the file, flushes it to the device and puts it in the target's place. False when
-    // anything failed since the file was opened; the target is then as it was.
+    // anything failed since the file was opened; the target is then as it was. Of a device that
+    // fails in the last moment nobody knows whether it holds the old or the new file.
     bool commit();
 
 private:
