@@ -18,6 +18,7 @@ test_packages=(
     qpdf poppler-utils mupdf-tools
     flite
     xvfb xauth openbox xdotool
+    e2fsprogs
 )
 
 # install_packages NAME...: installs the Debian packages that are missing; quiet when none is.
