@@ -65,6 +65,17 @@ void OutsideProgram::waitForEnd()
     }
 }
 
+QByteArray OutsideProgram::takeOutput(QProcess& process, QProcess::ProcessChannel channel)
+{
+    process.setReadChannel(channel);
+    QByteArray output = process.peek(process.bytesAvailable());
+    if (output.endsWith('\r') && process.state() != QProcess::NotRunning) {
+        output.chop(1);  // the other half of the line end is on its way
+    }
+    process.skip(output.size());
+    return output.replace("\r\n", "\n");
+}
+
 const char* OutsideProgram::errorText(QProcess::ProcessError error)
 {
     switch (error) {

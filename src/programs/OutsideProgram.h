@@ -25,6 +25,9 @@ public:
     // Called about ten times a second while start waits; it may stop the process.
     void setWhileWaiting(std::function<void()> step) { whileWaiting = std::move(step); }
 
+    // What a program has printed since the last call, with line ends of ours: those of Windows lose
+    // their CR.
+    static QByteArray takeOutput(QProcess& process, QProcess::ProcessChannel channel);
     // What the author is told about an error; empty for one that is not known.
     static const char* errorText(QProcess::ProcessError error);
 

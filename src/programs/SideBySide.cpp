@@ -71,13 +71,14 @@ void SideBySide::begin(size_t work)
 void SideBySide::listenTo(Lane& lane)
 {
     QProcess& process = lane.process;
-    const auto print = [this, &lane](const QByteArray& output) {
+    const auto print = [this, &lane](QProcess::ProcessChannel channel) {
+        const QByteArray output = OutsideProgram::takeOutput(lane.process, channel);
         tell(lane.work, [=] { listener.printed(output); });
     };
     QObject::connect(&process, &QProcess::readyReadStandardOutput, &process,
-                     [=, &process] { print(process.readAllStandardOutput()); });
+                     [=] { print(QProcess::StandardOutput); });
     QObject::connect(&process, &QProcess::readyReadStandardError, &process,
-                     [=, &process] { print(process.readAllStandardError()); });
+                     [=] { print(QProcess::StandardError); });
     QObject::connect(&process, &QProcess::errorOccurred, &process,
                      [this, &lane](QProcess::ProcessError error) {
                          tell(lane.work, [=] { listener.failed(error); });

@@ -13,10 +13,12 @@ TerminalRunner::TerminalRunner()
           {show, [this](QProcess::ProcessError error) { failed(error); },
            [this](int exitCode, QProcess::ExitStatus status) { finished(exitCode, status); }})
 {
-    QObject::connect(&process, &QProcess::readyReadStandardOutput, &process,
-                     [this] { show(process.readAllStandardOutput()); });
-    QObject::connect(&process, &QProcess::readyReadStandardError, &process,
-                     [this] { show(process.readAllStandardError()); });
+    QObject::connect(&process, &QProcess::readyReadStandardOutput, &process, [this] {
+        show(OutsideProgram::takeOutput(process, QProcess::StandardOutput));
+    });
+    QObject::connect(&process, &QProcess::readyReadStandardError, &process, [this] {
+        show(OutsideProgram::takeOutput(process, QProcess::StandardError));
+    });
     QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished),
                      &process, [this](int exitCode, QProcess::ExitStatus status) {
                          finished(exitCode, status);

@@ -28,7 +28,7 @@ protected:
     std::string printed(const Surroundings& surroundings)
     {
         EXPECT_TRUE(start("show", {}, surroundings));
-        return process.readAllStandardOutput().toStdString();
+        return OutsideProgram::takeOutput(process, QProcess::StandardOutput).toStdString();
     }
 
     TemporaryFolder folder;
@@ -116,6 +116,20 @@ TEST_F(StartingAProgram, WithoutWaitingItGoesOnByItself)
     writeFile(folder.file("signal"), "");
     EXPECT_TRUE(process.waitForFinished(-1));
     EXPECT_EQ(process.exitCode(), 3);
+}
+
+TEST_F(StartingAProgram, ALineEndOfWindowsMayArriveInTwoHalves)
+{
+    writeFile(folder.file("half"), "one\r");
+    writeFile(folder.file("other half"), "\ntwo\r");
+    show.plan("show " + folder.file("half") + "\nawait " + folder.file("go") + "\nshow " +
+              folder.file("other half") + "\n");
+    OutsideProgram(process).start("show", {}, false);
+    ASSERT_TRUE(process.waitForReadyRead(-1));
+    EXPECT_EQ(OutsideProgram::takeOutput(process, QProcess::StandardOutput), "one");
+    writeFile(folder.file("go"), "");
+    process.waitForFinished(-1);
+    EXPECT_EQ(OutsideProgram::takeOutput(process, QProcess::StandardOutput), "\ntwo\r");
 }
 
 TEST_F(StartingAProgram, ItWorksInOurFolderOrInTheOneThatIsGiven)

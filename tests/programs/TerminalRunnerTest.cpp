@@ -52,6 +52,14 @@ TEST_F(Terminal, OutputAndErrorsOfAProgramStandAmongTheMessages)
         << text;
 }
 
+TEST_F(Terminal, LineEndsOfWindowsBecomeOursAndALonelyCrStays)
+{
+    writeFile(folder.file("lines"), "one\r\ntwo\r\n50 %\r100 %\r\n\r\n");
+    tool.plan("show " + folder.file("lines") + "\n");
+    EXPECT_TRUE(runner.run("tool", {}, true));
+    EXPECT_EQ(output(), "one\ntwo\n50 %\r100 %\n\n");
+}
+
 TEST_F(Terminal, AProgramThatIsNotThereIsReported)
 {
     EXPECT_FALSE(runner.run("nothing", {}, true));

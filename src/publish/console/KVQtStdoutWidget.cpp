@@ -38,10 +38,12 @@ KVQtStdoutWidget::~KVQtStdoutWidget()
 
 void KVQtStdoutWidget::connectProcess()
 {
-    connect(&m_process, &QProcess::readyReadStandardOutput, &m_process,
-            [this] { receiveOutput(m_process.readAllStandardOutput()); });
-    connect(&m_process, &QProcess::readyReadStandardError, &m_process,
-            [this] { receiveOutput(m_process.readAllStandardError()); });
+    connect(&m_process, &QProcess::readyReadStandardOutput, &m_process, [this] {
+        receiveOutput(OutsideProgram::takeOutput(m_process, QProcess::StandardOutput));
+    });
+    connect(&m_process, &QProcess::readyReadStandardError, &m_process, [this] {
+        receiveOutput(OutsideProgram::takeOutput(m_process, QProcess::StandardError));
+    });
     connect(&m_process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
             [this](int exitCode, QProcess::ExitStatus status) {
                 processEnded(exitCode, status);
