@@ -4,6 +4,8 @@
 #include "editor/widget/KVQtHighlightEditCtrlInlay.h"
 
 #include <QAbstractScrollArea>
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QResizeEvent>
 #include <QScrollBar>
@@ -17,6 +19,9 @@ void KVQtHighlightEditCtrlInlay::SetFont(const QString& family, int pointSize)
     font.setStyleHint(QFont::Monospace);  // where the family is missing, another of fixed pitch
     font.setFixedPitch(true);
     font.setKerning(false);
+    if (!QFontInfo(font).fixedPitch()) {
+        font.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+    }
     setFont(font);
 
     constexpr char16_t kFirst = 20, kLast = 126;  // Intended: also the last control characters
