@@ -1,9 +1,8 @@
 #include "base/PlatformFiles.h"
 
-#include "base/Unicode.h"
+#include "base/PlatformWide.h"
 
 #include <io.h>
-#include <share.h>
 #include <windows.h>
 
 namespace Platform {
@@ -26,7 +25,21 @@ std::wstring temporaryNameBeside(const std::wstring& file, int number)
 // What a stopped program left is overwritten; what somebody is writing does not open.
 FILE* openForOneWriter(const std::wstring& name)
 {
-    return _wfsopen(name.c_str(), L"wbN", _SH_DENYRW);  // not for children
+    return openWide(name, "wb", 0);
+}
+
+// What a program holds open stays; ReplaceFileW would notice it halfway and leave a file of its
+// own.
+bool canBeReplaced(const std::wstring& path)
+{
+    constexpr DWORD kEverything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const HANDLE file = CreateFileW(path.c_str(), DELETE, kEverything, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return false;
+    }
+    CloseHandle(file);
+    return true;
 }
 
 }  // namespace
@@ -34,16 +47,16 @@ FILE* openForOneWriter(const std::wstring& name)
 FileReplacement::FileReplacement(const std::string& path, Temporary /*kind*/)
     : target(resolveLinks(path))
 {
-    const DWORD attributes = GetFileAttributesW(fromUtf8(target).c_str());
+    const DWORD attributes = GetFileAttributesW(widePath(target).c_str());
     constexpr DWORD kNotWritable = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY;
     if (target.empty() ||
         (attributes != INVALID_FILE_ATTRIBUTES && (attributes & kNotWritable) != 0)) {
         return;
     }
     for (int number = 1; number <= kMostAtOnce && stream == nullptr; ++number) {
-        const std::wstring name = temporaryNameBeside(fromUtf8(target), number);
+        const std::wstring name = temporaryNameBeside(widePath(target), number);
         stream = openForOneWriter(name);
-        temporary = toUtf8(name.c_str());
+        temporary = pathFromWide(name);
         if (stream == nullptr && GetLastError() != ERROR_SHARING_VIOLATION) {
             break;
         }
@@ -74,15 +87,16 @@ bool FileReplacement::closeComplete()
 // ReplaceFileW keeps the permissions of the file that it replaces; it wants one to be there.
 bool FileReplacement::takePlace()
 {
-    const std::wstring from = fromUtf8(temporary);
-    const std::wstring to = fromUtf8(target);
-    const BOOL done = fileExists(target)
-                          ? ReplaceFileW(to.c_str(), from.c_str(), nullptr, 0, nullptr, nullptr)
-                          : MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH);
-    if (done != 0) {
+    const std::wstring from = widePath(temporary);
+    const std::wstring to = widePath(target);
+    const bool done = fileExists(target)
+                          ? canBeReplaced(to) && ReplaceFileW(to.c_str(), from.c_str(), nullptr, 0,
+                                                              nullptr, nullptr) != 0
+                          : MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH) != 0;
+    if (done) {
         temporary.clear();
     }
-    return done != 0;
+    return done;
 }
 
 bool FileReplacement::commit()

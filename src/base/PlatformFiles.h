@@ -9,8 +9,13 @@
 // backslashes) or in the native one.
 namespace Platform {
 
-// The form in which a path reaches the system: on POSIX every backslash becomes "/".
+// The form in which a path reaches the system: on POSIX every backslash becomes "/", on Windows
+// every
+// "/" a backslash.
 std::string nativePath(const std::string& path);
+// A path that came from outside, so that folder and file name can be told apart: on Windows, where
+// both separators occur in one path, every "/" becomes a backslash. Elsewhere as it is.
+std::string pathFromOutside(const std::string& path);
 
 // As fopen. For reading ("r...") it opens files and nothing else: a folder, a pipe, a socket or a
 // device is refused without being touched, and no call waits for one. What is opened for writing

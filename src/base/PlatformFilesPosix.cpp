@@ -74,6 +74,11 @@ std::string nativePath(const std::string& path)
     return native;
 }
 
+std::string pathFromOutside(const std::string& path)
+{
+    return path;
+}
+
 FILE* openFile(const std::string& path, const std::string& mode)
 {
     const std::string native = nativePath(path);

@@ -1,8 +1,9 @@
 #include "base/PlatformFiles.h"
 
+#include "base/PlatformWide.h"
 #include "base/Unicode.h"
 
-#include <direct.h>
+#include <algorithm>
 #include <io.h>
 #include <windows.h>
 
@@ -19,13 +20,19 @@ HANDLE handleOf(FILE* file)
 
 std::string nativePath(const std::string& path)
 {
-    return path;
+    std::string native = path;
+    std::replace(native.begin(), native.end(), '/', '\\');
+    return native;
+}
+
+std::string pathFromOutside(const std::string& path)
+{
+    return nativePath(path);
 }
 
 FILE* openFile(const std::string& path, const std::string& mode)
 {
-    FILE* const file =
-        _wfopen(fromUtf8(path).c_str(), fromUtf8(mode + "N").c_str());  // not for children
+    FILE* const file = openWide(widePath(path), mode, FILE_SHARE_READ | FILE_SHARE_WRITE);
     const bool reads = mode.compare(0, 1, "r") == 0;
     if (file != nullptr && reads && GetFileType(handleOf(file)) != FILE_TYPE_DISK) {
         fclose(file);
@@ -37,7 +44,7 @@ FILE* openFile(const std::string& path, const std::string& mode)
 
 std::string kindOfNoFile(const std::string& path)
 {
-    const std::wstring wide = fromUtf8(path);
+    const std::wstring wide = widePath(path);
     const DWORD attributes = GetFileAttributesW(wide.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
         return "a folder";
@@ -57,30 +64,31 @@ std::string kindOfNoFile(const std::string& path)
 
 std::string resolveLinks(const std::string& path)
 {
-    const HANDLE file = CreateFileW(fromUtf8(path).c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE,
+    const HANDLE file = CreateFileW(widePath(path).c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE,
                                     nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE) {
-        return path;
+        return nativePath(path);
     }
     wchar_t resolved[32768];
     const DWORD length = GetFinalPathNameByHandleW(file, resolved, 32768, FILE_NAME_NORMALIZED);
     CloseHandle(file);
-    return length > 0 && length < 32768 ? toUtf8(std::wstring(resolved, length).c_str()) : path;
+    return length > 0 && length < 32768 ? pathFromWide(std::wstring(resolved, length))
+                                        : nativePath(path);
 }
 
 bool fileExists(const std::string& path)
 {
-    return GetFileAttributesW(fromUtf8(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+    return GetFileAttributesW(widePath(path).c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
 bool removeFile(const std::string& path)
 {
-    return DeleteFileW(fromUtf8(path).c_str()) != 0;
+    return DeleteFileW(widePath(path).c_str()) != 0;
 }
 
 bool renameFile(const std::string& from, const std::string& to)
 {
-    return MoveFileExW(fromUtf8(from).c_str(), fromUtf8(to).c_str(), MOVEFILE_WRITE_THROUGH) != 0;
+    return MoveFileExW(widePath(from).c_str(), widePath(to).c_str(), MOVEFILE_WRITE_THROUGH) != 0;
 }
 
 std::string lastFileError()
@@ -95,7 +103,7 @@ std::string lastFileError()
 
 bool createDirectory(const std::string& path)
 {
-    const std::wstring wide = fromUtf8(path);
+    const std::wstring wide = widePath(path);
     if (CreateDirectoryW(wide.c_str(), nullptr) != 0) {
         return true;
     }
@@ -133,10 +141,10 @@ bool copyFile(const std::string& source, const std::string& destination)
 {
     // Copied beside the destination first: a drive that fills up leaves no half file under the
     // name.
-    const std::wstring target = fromUtf8(destination);
+    const std::wstring target = widePath(destination);
     const std::wstring partial = temporaryNameBeside(target, L".part");
     constexpr DWORD kReplaceForCertain = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    if (CopyFileW(fromUtf8(source).c_str(), partial.c_str(), FALSE) != 0 && flushFile(partial) &&
+    if (CopyFileW(widePath(source).c_str(), partial.c_str(), FALSE) != 0 && flushFile(partial) &&
         MoveFileExW(partial.c_str(), target.c_str(), kReplaceForCertain) != 0) {
         return true;
     }
@@ -151,13 +159,14 @@ std::int64_t seekFile(FILE* file, std::int64_t offset, int origin)
 
 int changeDirectory(const std::string& path)
 {
-    return _chdir(path.c_str());
+    return SetCurrentDirectoryW(widePath(path).c_str()) != 0 ? 0 : -1;
 }
 
 std::string currentDirectory()
 {
-    char buffer[2048];
-    return _getcwd(buffer, sizeof buffer) != nullptr ? buffer : std::string();
+    std::wstring folder(GetCurrentDirectoryW(0, nullptr), L'\0');
+    folder.resize(GetCurrentDirectoryW(static_cast<DWORD>(folder.size()), folder.data()));
+    return pathFromWide(folder);
 }
 
 }  // namespace Platform

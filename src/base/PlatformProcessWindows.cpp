@@ -1,15 +1,40 @@
 #include "base/PlatformProcess.h"
 
 #include "base/PlatformFiles.h"
-#include "base/TextHelpers.h"
+#include "base/PlatformWide.h"
 #include "base/Unicode.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <io.h>
+#include <sstream>
 #include <windows.h>
 
+#include <shellapi.h>
+
 namespace Platform {
+
+namespace {
+
+bool isFile(const std::string& path)
+{
+    const DWORD attributes = GetFileAttributesW(widePath(path).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+// The native path of a program, which may have been named without its suffix; else empty.
+std::string programFile(const std::string& path)
+{
+    const std::string native = nativePath(path);
+    if (isFile(native + ".exe")) {
+        return native + ".exe";
+    }
+    const bool hasSuffix = native.find('.', native.find_last_of("\\:") + 1) != std::string::npos;
+    return hasSuffix && isFile(native) ? native : std::string();
+}
+
+}  // namespace
 
 const char searchPathSeparator = ';';
 // The whole command line has at most 32767 characters; the other words need some of them.
@@ -17,18 +42,28 @@ const std::size_t longestArgument = 30000;
 
 std::string exeDirectory()
 {
-    char path[1024];
-    const DWORD length = GetModuleFileNameA(nullptr, path, sizeof path);
-    const std::string program(path, length);
+    wchar_t path[32768];
+    const DWORD length = GetModuleFileNameW(nullptr, path, 32768);
+    const std::string program = toUtf8(std::wstring(path, length).c_str());
     const size_t separator = program.rfind('\\');
     return separator != std::string::npos ? program.substr(0, separator) : std::string();
 }
 
-std::vector<std::string> commandLineArguments()
+std::vector<std::string> wordsOfCommandLine(const std::wstring& commandLine)
 {
     std::vector<std::string> words;
-    SplitStringKeepQuotes(toUtf8(GetCommandLineW()), words, true);
+    int count = 0;
+    wchar_t** const list = CommandLineToArgvW(commandLine.c_str(), &count);
+    for (int i = 0; i < count; ++i) {
+        words.push_back(toUtf8(list[i]));
+    }
+    LocalFree(list);
     return words;
+}
+
+std::vector<std::string> commandLineArguments()
+{
+    return wordsOfCommandLine(GetCommandLineW());
 }
 
 bool standardOutputIsTerminal()
@@ -53,16 +88,25 @@ std::string searchPath()
 
 std::string findProgram(const std::string& name)
 {
-    wchar_t path[32768];
-    const DWORD length = SearchPathW(fromUtf8(searchPath()).c_str(), fromUtf8(name).c_str(),
-                                     L".exe", 32768, path, nullptr);
-    return length > 0 && length < 32768 ? toUtf8(path) : std::string();
+    if (name.find_first_of("\\/:") != std::string::npos) {
+        return programFile(name);
+    }
+    std::istringstream folders(searchPath());
+    for (std::string folder; std::getline(folders, folder, searchPathSeparator);) {
+        folder.erase(std::remove(folder.begin(), folder.end(), '"'), folder.end());
+        const std::string found =
+            folder.empty() || name.empty() ? std::string() : programFile(folder + "\\" + name);
+        if (!found.empty()) {
+            return found;
+        }
+    }
+    return {};
 }
 
 std::string programToStart(const std::string& word)
 {
     const std::string found = findProgram(word);
-    return !found.empty() ? found : word;
+    return !found.empty() ? found : nativePath(word);
 }
 
 std::string installedToolFolder(const std::string& tool)

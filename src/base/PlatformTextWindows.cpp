@@ -7,48 +7,69 @@
 
 namespace Platform {
 
-static _locale_t plainLocale()
-{
-    static const _locale_t plain = _create_locale(LC_ALL, "C");
-    return plain;
-}
+namespace {
 
-// Null, the locale of the process, unless that one writes numbers otherwise than with a point.
-static _locale_t pointLocale()
+// Makes this thread's locale write numbers with a point; characters stay those of the process.
+class PointLocale
 {
-    if (localeconv()->decimal_point == std::string(".")) {
-        return nullptr;
+public:
+    PointLocale()
+    {
+        if (localeconv()->decimal_point == std::string(".")) {
+            return;
+        }
+        modeBefore = _configthreadlocale(_ENABLE_PER_THREAD_LOCALE);
+        before = setlocale(LC_NUMERIC, nullptr);
+        setlocale(LC_NUMERIC, "C");
     }
-    return plainLocale();
-}
+    ~PointLocale()
+    {
+        if (!before.empty()) {
+            setlocale(LC_NUMERIC, before.c_str());
+            _configthreadlocale(modeBefore);
+        }
+    }
+    PointLocale(const PointLocale&) = delete;
+    PointLocale& operator=(const PointLocale&) = delete;
 
+private:
+    std::string before;
+    int modeBefore = 0;
+};
+
+}  // namespace
+
+// The functions of the compiler's own library: those of the system round 0.125 to 0.13, know no
+// hexadecimal numbers and write infinity as "1.#J".
 std::string formatText(const char* format, va_list arguments)
 {
-    const _locale_t locale = pointLocale();
+    const PointLocale pointLocale;
     va_list again;
     va_copy(again, arguments);
-    const int size = _vscprintf_l(format, locale, again);
+    const int size = __mingw_vsnprintf(nullptr, 0, format, again);
     va_end(again);
     if (size < 0) {
         return {};
     }
     const size_t needed = static_cast<size_t>(size);
     std::string text(needed + 1, '\0');
-    _vsnprintf_s_l(text.data(), needed + 1, needed, format, locale, arguments);
+    __mingw_vsnprintf(text.data(), needed + 1, format, arguments);
     text.resize(needed);
     return text;
 }
 
 std::string formatFixed(double value, int decimals, int width)
 {
-    std::string text(_scprintf_l("%*.*f", plainLocale(), width, decimals, value), '\0');
-    _snprintf_l(text.data(), text.size() + 1, "%*.*f", plainLocale(), width, decimals, value);
+    const PointLocale pointLocale;
+    std::string text(__mingw_snprintf(nullptr, 0, "%*.*f", width, decimals, value), '\0');
+    __mingw_snprintf(text.data(), text.size() + 1, "%*.*f", width, decimals, value);
     return text;
 }
 
 double parseDouble(const char* text)
 {
-    return _strtod_l(text, nullptr, plainLocale());
+    const PointLocale pointLocale;
+    return __mingw_strtod(text, nullptr);
 }
 
 std::string wideToCodePage(const std::wstring& text)

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "base/FileSystem.h"
+#include "base/PlatformFiles.h"
 #include "oid/OidTable.h"
 #include "oid/PictureOrder.h"
 #include "oid/ProjectFolder.h"
@@ -29,8 +30,8 @@ void reportUnreadable(const std::string& path, const std::string& reason,
 bool openWith(OidProject& project, const std::string& filePath, SavedEmptyPages emptyPages,
               const DiagnosticSink& sink)
 {
-    // clear would empty it if it is the project's own
-    const std::string path = filePath;  // NOLINT(performance-unnecessary-copy-initialization)
+    // A copy: clear would empty it if it is the project's own.
+    const std::string path = Platform::pathFromOutside(filePath);
     project.clear();
     const std::unique_ptr<FILE, int (*)(FILE*)> file(FileSystem::myfopen(path, "rb"), fclose);
     if (file == nullptr) {

@@ -4,8 +4,7 @@
 
 #include <filesystem>
 
-#include <sys/stat.h>
-
+#include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
 
 namespace {
@@ -117,7 +116,7 @@ TEST_F(SavedFileTest, AFolderOrAPipeInItsPlaceIsNotWaitedFor)
     std::filesystem::create_directory(path);
     EXPECT_FALSE(file.wouldBeLost(book));
     std::filesystem::remove(path);
-    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    makePipe(path);
     EXPECT_FALSE(file.wouldBeLost(book));
 }
 

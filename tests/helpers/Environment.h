@@ -46,3 +46,17 @@ private:
     unsigned long before;
     void (*handlerBefore)(int);
 };
+
+// A pipe in the place of a file. Windows has no such thing.
+void makePipe(const std::string& path);
+
+// The lines that a program has printed, as the system of a test wants them: without the CR that
+// Windows puts in front of each LF.
+std::string printedLines(std::string output);
+
+// The file of a program of that name: on Windows with the suffix.
+std::string programFile(const std::string& program);
+
+// The German locale of a character set: "de_DE.ISO-8859-1". Windows has none in UTF-8; there its
+// usual one takes the place.
+std::string germanLocaleName(const std::string& charset);

@@ -1,5 +1,6 @@
 #include "tests/helpers/FakeProgram.h"
 
+#include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
 
 #include <filesystem>
@@ -10,8 +11,9 @@ FakeProgram::FakeProgram(const std::string& folder, const std::string& programNa
                          const std::string& planned)
     : program(folder + "/" + programName)
 {
-    fs::create_directories(folder);
-    fs::copy_file(PLINKETT_FAKE_PROGRAM, program, fs::copy_options::overwrite_existing);
+    fs::create_directories(fs::u8path(folder));
+    fs::copy_file(PLINKETT_FAKE_PROGRAM, fs::u8path(programFile(program)),
+                  fs::copy_options::overwrite_existing);
     plan(planned);
 }
 
@@ -23,7 +25,7 @@ void FakeProgram::plan(const std::string& planned) const
 std::string FakeProgram::calls() const
 {
     const std::string file = program + ".calls";
-    return fs::exists(file) ? readFile(file) : std::string();
+    return fs::exists(fs::u8path(file)) ? readFile(file) : std::string();
 }
 
 int FakeProgram::callCount() const

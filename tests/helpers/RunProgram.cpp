@@ -1,6 +1,7 @@
 #include "tests/helpers/RunProgram.h"
 
 #include "base/PlatformProcess.h"
+#include "tests/helpers/Environment.h"
 
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -41,8 +42,8 @@ ProgramRun runProgram(const std::string& program, const std::vector<std::string>
     if (!process.waitForFinished(kPatience) || process.exitStatus() != QProcess::NormalExit) {
         throw std::runtime_error(program + " did not end by itself");
     }
-    return {process.exitCode(), process.readAllStandardOutput().toStdString(),
-            process.readAllStandardError().toStdString()};
+    return {process.exitCode(), printedLines(process.readAllStandardOutput().toStdString()),
+            printedLines(process.readAllStandardError().toStdString())};
 }
 
 std::string resultOf(const ProgramRun& run)

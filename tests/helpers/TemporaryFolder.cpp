@@ -19,21 +19,22 @@ TemporaryFolder::TemporaryFolder()
 {
     std::random_device random;
     do {
-        folder = (fs::temp_directory_path() / ("plinkett-" + std::to_string(random()))).string();
-    } while (!fs::create_directory(folder));
+        folder = (fs::temp_directory_path() / ("plinkett-" + std::to_string(random())))
+                     .generic_u8string();
+    } while (!fs::create_directory(fs::u8path(folder)));
 }
 
 TemporaryFolder::~TemporaryFolder()
 {
     std::error_code ignored;
-    fs::remove_all(folder, ignored);
+    fs::remove_all(fs::u8path(folder), ignored);
 }
 
 std::string TemporaryFolder::listing() const
 {
     std::vector<std::string> names;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-        names.push_back(entry.path().filename().string());
+    for (const fs::directory_entry& entry : fs::directory_iterator(fs::u8path(folder))) {
+        names.push_back(entry.path().filename().u8string());
     }
     std::sort(names.begin(), names.end());
     std::string joined;
@@ -45,7 +46,7 @@ std::string TemporaryFolder::listing() const
 
 std::string readFile(const std::string& path)
 {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(fs::u8path(path), std::ios::binary);
     if (!file) {
         throw std::runtime_error("no file " + path);
     }
@@ -54,7 +55,7 @@ std::string readFile(const std::string& path)
 
 void writeFile(const std::string& path, const std::string& bytes)
 {
-    std::ofstream file(path, std::ios::binary);
+    std::ofstream file(fs::u8path(path), std::ios::binary);
     file << bytes;
     if (!file.flush()) {
         throw std::runtime_error("cannot write " + path);

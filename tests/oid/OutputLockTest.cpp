@@ -7,12 +7,11 @@
 #include <filesystem>
 #include <thread>
 
-#include <sys/stat.h>
-
 #include "oid/OidProject.h"
 #include "oid/PrintImage.h"
 #include "oid/PrintJob.h"
 #include "tests/helpers/CapturedMessages.h"
+#include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
 
 namespace {
@@ -157,7 +156,7 @@ TEST_F(OutputLockTest, ThatOfOneFileLiesBesideIt)
 
 TEST_F(OutputLockTest, APipeHasNone)
 {
-    ASSERT_EQ(mkfifo(folder.file("pipe").c_str(), 0600), 0);
+    makePipe(folder.file("pipe"));
     OutputLock lock(folder.file("pipe"));
     EXPECT_TRUE(take(lock));
     EXPECT_EQ(folder.listing(), "pipe");

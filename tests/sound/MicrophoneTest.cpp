@@ -13,7 +13,6 @@
 #include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 namespace {
 
@@ -124,7 +123,7 @@ TEST_F(MicrophoneTest, TheLevelIsTheHighestSample)
 TEST_F(MicrophoneTest, NobodyWaitsWhileItOpens)
 {
     const std::string pipe = folder.file("pipe");
-    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    makePipe(pipe);
     const ChangedVariable fromPipe("SDL_DISKAUDIOFILEIN", pipe);
     microphone.open();
     ASSERT_TRUE(isToldSoon("found"));
@@ -185,7 +184,7 @@ TEST_F(MicrophoneTest, AMutedOneIsOpenAndHearsNothing)
 TEST_F(MicrophoneTest, WhatWasHeardIsThereWhenNothingComesAnyMore)
 {
     const std::string pipe = folder.file("pipe");
-    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    makePipe(pipe);
     FILE* const cable = std::fopen(pipe.c_str(), "r+b");
     ASSERT_NE(cable, nullptr);
     const ChangedVariable fromPipe("SDL_DISKAUDIOFILEIN", pipe);

@@ -16,6 +16,8 @@
 //
 // Every call adds its arguments, one to a line, and an empty line to NAME.calls.
 
+#include "tests/helpers/fake_program/Words.h"
+
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -31,11 +33,9 @@
 
 namespace {
 
-using Words = std::vector<std::string>;
-
 void record(const std::string& file, const Words& arguments)
 {
-    std::ofstream calls(file, std::ios::app | std::ios::binary);
+    std::ofstream calls(std::filesystem::u8path(file), std::ios::app | std::ios::binary);
     for (const std::string& argument : arguments) {
         calls << argument << '\n';
     }
@@ -56,14 +56,14 @@ void flood(long long bytes, const char* unit)
 // A file without a name never comes.
 void await(const std::string& file)
 {
-    while (!std::ifstream(file)) {
+    while (!std::ifstream(std::filesystem::u8path(file))) {
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
 }
 
 std::string bytesOf(const std::string& file)
 {
-    std::ifstream source(file, std::ios::binary);
+    std::ifstream source(std::filesystem::u8path(file), std::ios::binary);
     return {std::istreambuf_iterator<char>(source), std::istreambuf_iterator<char>()};
 }
 
@@ -84,13 +84,13 @@ std::pair<std::string, std::string> argumentAndText(const Words& arguments,
 void writeInto(const std::string& file, const std::string& text)
 {
     if (!file.empty()) {
-        std::ofstream(file, std::ios::binary) << text;
+        std::ofstream(std::filesystem::u8path(file), std::ios::binary) << text;
     }
 }
 
 void keepInput(const std::string& file)
 {
-    std::ofstream(file, std::ios::binary) << std::cin.rdbuf();
+    std::ofstream(std::filesystem::u8path(file), std::ios::binary) << std::cin.rdbuf();
 }
 
 void answer(const Words& arguments, const std::string& wordAndText)
@@ -148,12 +148,23 @@ void carryOut(const std::string& action, const std::string& rest, const std::str
 
 }  // namespace
 
+// Plan and calls lie beside the program under its name, which may have come without its suffix.
+static std::string nameOf(const std::string& program)
+{
+    const std::string suffix = ".exe";
+    const std::size_t end = program.size() - std::min(program.size(), suffix.size());
+    const bool isShort = program.substr(end) == suffix &&
+                         !std::filesystem::exists(std::filesystem::u8path(program + ".plan"));
+    return isShort ? program.substr(0, end) : program;
+}
+
 int main(int count, char** words)
 {
-    const Words arguments(words + 1, words + count);
-    const std::string self = words[0];  // a full path: who starts it has looked it up on PATH
+    const Words all = utf8Words(count, words);
+    const Words arguments(all.begin() + 1, all.end());
+    const std::string self = nameOf(all[0]);  // a full path: who starts it has looked it up on PATH
     record(self + ".calls", arguments);
-    std::ifstream plan(self + ".plan");
+    std::ifstream plan(std::filesystem::u8path(self + ".plan"));
     for (std::string line; std::getline(plan, line);) {
         const std::size_t blank = line.find(' ');
         const std::string rest = blank == std::string::npos ? "" : line.substr(blank + 1);

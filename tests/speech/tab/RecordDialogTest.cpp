@@ -22,7 +22,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <sys/stat.h>
 
 namespace {
 
@@ -479,7 +478,7 @@ void RecordDialogTest::withoutAMicrophoneThatIsToldAndSpaceLooksForOneAgain()
 void RecordDialogTest::aMicrophoneThatVanishesLosesNothing()
 {
     const std::string pipe = folder->file("pipe");
-    QCOMPARE(mkfifo(pipe.c_str(), 0600), 0);
+    makePipe(pipe);
     FILE* const cable = std::fopen(pipe.c_str(), "r+b");
     hear(pipe);
     const MonoSound spoken = voiceOf(0.3);
