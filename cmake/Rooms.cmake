@@ -51,6 +51,7 @@ function(plinkett_program name)
   endif()
   add_executable(${name} ${PROGRAM_SOURCES})
   target_link_libraries(${name} PRIVATE ${PROGRAM_LINKS} plinkett_warnings)
+  plinkett_import_plugins(${name})
 endfunction()
 
 # All *.cpp of a test folder as one GoogleTest program; every test is a ctest test of its own.
@@ -59,12 +60,21 @@ function(plinkett_tests name)
   cmake_parse_arguments(TESTS "" "TIMEOUT" "LINKS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
   plinkett_drop_other_platform(sources)
-  add_executable(${name} ${sources})
+  plinkett_not_under_wine(${name} left_out)
+  set(elsewhere "")
+  if(CMAKE_CROSSCOMPILING AND left_out STREQUAL "*")
+    set(elsewhere EXCLUDE_FROM_ALL)
+  endif()
+  add_executable(${name} ${elsewhere} ${sources})
   target_link_libraries(${name} PRIVATE ${TESTS_LINKS} test_helpers GTest::gmock GTest::gtest_main
                                         plinkett_warnings)
   plinkett_test_folder(${name})
   if(NOT TESTS_TIMEOUT)
     set(TESTS_TIMEOUT 300)
+  endif()
+  if(CMAKE_CROSSCOMPILING)
+    plinkett_tests_under_wine(${name} ${TESTS_TIMEOUT})
+    return()
   endif()
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
                        PROPERTIES TIMEOUT ${TESTS_TIMEOUT} LABELS ${name}
@@ -82,6 +92,10 @@ function(plinkett_widget_test name)
   if(NOT TEST_TIMEOUT)
     set(TEST_TIMEOUT 300)
   endif()
+  if(CMAKE_CROSSCOMPILING)
+    plinkett_widget_test_under_wine(${name} ${TEST_TIMEOUT})
+    return()
+  endif()
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT ${TEST_TIMEOUT}
                        ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
@@ -91,10 +105,53 @@ endfunction()
 # tree is (cases, golden files) and where the programs under test are.
 function(plinkett_test_folder name)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  plinkett_import_plugins(${name})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
   target_compile_definitions(${name} PRIVATE
     PLINKETT_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
     PLINKETT_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+endfunction()
+
+# A static Qt has its plugins in the programs.
+function(plinkett_import_plugins name)
+  get_target_property(type ${name} TYPE)
+  if(WIN32 AND type STREQUAL "EXECUTABLE")
+    qt5_import_plugins(${name} INCLUDE Qt5::QOffscreenIntegrationPlugin Qt5::QSvgIconPlugin
+                                       Qt5::QSvgPlugin)
+  endif()
+endfunction()
+
+# Under Wine a program starts slowly, so all tests of one run as one ctest test. What cannot work there
+# stands with the reason in tests/not-under-wine.txt.
+function(plinkett_tests_under_wine name timeout)
+  plinkett_not_under_wine(${name} left_out)
+  list(JOIN left_out ":" left_out)
+  if(left_out STREQUAL "*")
+    return()
+  endif()
+  add_test(NAME ${name} COMMAND ${name} --gtest_brief=1 "--gtest_filter=-${left_out}")
+  math(EXPR timeout "${timeout} * 4")
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${timeout} LABELS ${name})
+endfunction()
+
+function(plinkett_widget_test_under_wine name timeout)
+  plinkett_not_under_wine(${name} left_out)
+  if(left_out STREQUAL "*")
+    return()
+  endif()
+  list(JOIN left_out "," left_out)
+  add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tools/windows/widget-test $<TARGET_FILE:${name}>
+                                ${left_out})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${timeout})
+endfunction()
+
+# Lines "PROGRAM TEST reason": the tests of this program.
+function(plinkett_not_under_wine name result)
+  set(list ${CMAKE_SOURCE_DIR}/tests/not-under-wine.txt)
+  set_property(DIRECTORY ${CMAKE_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${list})
+  file(STRINGS ${list} lines REGEX "^${name} ")
+  list(TRANSFORM lines REPLACE "^[^ ]+ +([^ ]+) .*" "\\1")
+  set(${result} "${lines}" PARENT_SCOPE)
 endfunction()
 
 # A measuring program, built only by name or by the target "bench"; never part of a test run.

@@ -11,6 +11,11 @@ run_packages=(espeak-ng ffmpeg libqt5svg5 qttranslations5-l10n
     fonts-dejavu-core fonts-noto-color-emoji)
 style_packages=(clang-format clang-tidy)
 bench_packages=(libbenchmark-dev)
+windows_packages=(
+    g++-mingw-w64-x86-64-posix libz-mingw-w64-dev nasm dpkg-dev qttools5-dev-tools
+    zip icoutils librsvg2-bin
+)
+wine_packages=(wine wine64 fonts-wine fonts-liberation xvfb)
 fuzz_packages=(clang libclang-rt-14-dev llvm)
 test_packages=(
     libgtest-dev libgmock-dev locales

@@ -30,6 +30,7 @@ bool loadTranslation(QTranslator& translator, const QStringList& languages)
 
 bool loadQtTranslation(QTranslator& translator, const QString& language)
 {
-    return translator.load("qtbase_" + language,
-                           QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    const QString name = "qtbase_" + language;
+    return translator.load(name, QLibraryInfo::location(QLibraryInfo::TranslationsPath)) ||
+           translator.load(name, ":/i18n");
 }
