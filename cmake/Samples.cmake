@@ -3,7 +3,7 @@
 # German one.
 
 set(samples share/plinkett/samples)
-set(sample_books farm)
+set(sample_books farm quiz dictionary)
 
 function(plinkett_sample folder language book)
   set(source ${CMAKE_SOURCE_DIR}/examples/${folder})
@@ -17,7 +17,5 @@ endfunction()
 
 foreach(book ${sample_books})
   plinkett_sample(${book} en ${book})
-  if(EXISTS ${CMAKE_SOURCE_DIR}/examples/${book}-de)
-    plinkett_sample(${book}-de de ${book})
-  endif()
+  plinkett_sample(${book}-de de ${book})
 endforeach()
