@@ -63,22 +63,23 @@ private:
         std::string speech;  // files
         std::string sound;
         enum class Step { speak, convert, finish } step = Step::speak;
-        std::string refused;  // why it has no file
+        bool isSpeechOwn = false;  // the speech file is the author's
+        std::string refused;       // why it has no file
     };
 
-    std::string speechFileOf(const std::string& audioName) const
-    {
-        return folder + FileSystem::directorySeparator + audioName + ".wav";
-    }
     std::list<Making> missing() const;
     std::optional<ProgramCall> next(Making& text, int exitCode);
+    void expectSpeech(const std::list<Making>& texts);
     std::optional<ProgramCall> speak(Making& text) const;
     std::optional<ProgramCall> convert(Making& text, int exitCode) const;
+    static ProgramCall conversion(Making& text);
     void finish(Making& text, int exitCode);
 
     bool isStale(const std::string& audioName, const Utterance& now);
     void removeStale(const std::string& audioName, const Utterance& now);
     void remember(const Making& text);
+    void tellIndexFails();
+    void tellEnd(const Making& text);
     void tell(const std::string& message) { runner.echo((message + "\n").c_str()); }
     void tellRefused(const Making& text)
     {
@@ -96,14 +97,14 @@ private:
 
 // --- What is cut off -----------------------------------------------------------------------------
 
-// Only beside its speech file, which goes when the audio file is whole. So it is none of the
+// Only beside a speech file of ours, which goes when the audio file is whole. So it is none of the
 // author's.
 void AudioMaker::removeCutOff()
 {
     for (const auto& [audioName, said] : project.compiler.talkTexts) {
         const std::string sound = audioFileIn(folder, audioName);
-        if (FileSystem::doesFileExist(speechFileOf(audioName)) && isCutOff(sound) &&
-            FileSystem::deleteFile(sound)) {
+        if (FileSystem::doesFileExist(speechFileIn(folder, audioName)) &&
+            index.isSpeechOurs(audioName) && isCutOff(sound) && FileSystem::deleteFile(sound)) {
             index.forget(audioName);
             tell("The audio file of '" + shown(said.text) + "' is cut off and is made again");
         }
@@ -167,7 +168,9 @@ std::list<AudioMaker::Making> AudioMaker::missing() const
             Making& text = texts.emplace_back();
             text.audioName = audioName;
             text.said = utteranceOf(said, project.compiler.voices.at(said.voice), engines);
-            text.speech = speechFileOf(audioName);
+            text.speech = speechFileIn(folder, audioName);
+            text.isSpeechOwn =
+                FileSystem::doesFileExist(text.speech) && !index.isSpeechOurs(audioName);
             text.sound = file;
         }
     }
@@ -181,14 +184,11 @@ SpeechOutcome AudioMaker::makeMissing(const SpeechProgress& progress)
         return SpeechOutcome::complete;
     }
     FileSystem::createDirectory(folder);
+    expectSpeech(texts);
     std::vector<ProgramWork> works;
     for (Making& text : texts) {
-        works.push_back({[&](int exitCode) { return next(text, exitCode); },
-                         [&] {
-                             if (!text.refused.empty()) {
-                                 tellRefused(text);
-                             }
-                         }});
+        works.push_back(
+            {[&](int exitCode) { return next(text, exitCode); }, [&] { tellEnd(text); }});
     }
     const int total = static_cast<int>(texts.size());
     int begun = 0;
@@ -197,6 +197,9 @@ SpeechOutcome AudioMaker::makeMissing(const SpeechProgress& progress)
         cancelled = progress && !progress(begun++, total);
         return !cancelled;
     });
+    for (const Making& text : texts) {
+        index.rememberSpeech(text.audioName);
+    }
     if (!cancelled && progress && !progress(total, total)) {
         cancelled = !complete;  // stopped in the middle of the last ones
     }
@@ -204,6 +207,29 @@ SpeechOutcome AudioMaker::makeMissing(const SpeechProgress& progress)
         return SpeechOutcome::cancelled;
     }
     return complete ? SpeechOutcome::complete : SpeechOutcome::incomplete;
+}
+
+// Before the first one is written, so that also what a killed build leaves is known as ours.
+void AudioMaker::expectSpeech(const std::list<Making>& texts)
+{
+    for (const Making& text : texts) {
+        if (!text.isSpeechOwn) {
+            index.expectSpeech(text.audioName);
+        }
+    }
+    if (index.isChanged() && !index.save()) {
+        tellIndexFails();
+    }
+}
+
+void AudioMaker::tellEnd(const Making& text)
+{
+    if (!text.refused.empty()) {
+        tellRefused(text);
+    } else if (text.isSpeechOwn) {
+        tell("The audio file of '" + shown(text.said.text) + "' is made of your own '" +
+             Platform::nativePath(text.speech) + "'");
+    }
 }
 
 std::optional<ProgramCall> AudioMaker::next(Making& text, int exitCode)
@@ -226,10 +252,11 @@ bool isFree(const std::string& folder, const std::string& file)
     return FileSystem::whyNoFile(file).empty() && FileSystem::placeOutside(folder, file).empty();
 }
 
+// Nothing is spoken over a recording of the author's: it becomes the audio file.
 std::optional<ProgramCall> AudioMaker::speak(Making& text) const
 {
     const std::string& language = text.said.settings.language;
-    if (!isLanguage(language)) {
+    if (!text.isSpeechOwn && !isLanguage(language)) {
         text.refused = "is not spoken: '" + shown(language) + "' is not the name of a language";
         return std::nullopt;
     }
@@ -239,6 +266,9 @@ std::optional<ProgramCall> AudioMaker::speak(Making& text) const
                            "' leads out of the folder or is no file";
             return std::nullopt;
         }
+    }
+    if (text.isSpeechOwn) {
+        return conversion(text);
     }
     switch (refusalOf(text.audioName, text.said.text)) {
     case Refusal::longName:
@@ -265,6 +295,11 @@ std::optional<ProgramCall> AudioMaker::convert(Making& text, int exitCode) const
         FileSystem::deleteFile(text.speech);  // the author has put a file there in the meantime
         return std::nullopt;
     }
+    return conversion(text);
+}
+
+ProgramCall AudioMaker::conversion(Making& text)
+{
     text.step = Making::Step::finish;
     return ProgramCall{"ffmpeg.exe",
                        {"-hide_banner", "-loglevel", "error", "-i",
@@ -282,15 +317,24 @@ void AudioMaker::finish(Making& text, int exitCode)
         text.refused = "has no audio file";
         return;
     }
-    FileSystem::deleteFile(text.speech);
-    remember(text);
+    if (!text.isSpeechOwn) {
+        FileSystem::deleteFile(text.speech);
+        remember(text);
+    }
 }
 
 // At once, so that also what was made before a cancelled build ends is known as ours.
 void AudioMaker::remember(const Making& text)
 {
     const bool saved = index.remember(text.audioName, text.said) && index.save();
-    if (!saved && !indexFails) {
+    if (!saved) {
+        tellIndexFails();
+    }
+}
+
+void AudioMaker::tellIndexFails()
+{
+    if (!indexFails) {
         tell("Error: Can't write file '" + index.path() +
              "', so the files that are spoken now count as your own");
         indexFails = true;

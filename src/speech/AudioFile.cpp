@@ -15,6 +15,11 @@ std::string audioFileIn(const std::string& folder, const std::string& audioName)
     return folder + FileSystem::directorySeparator + audioName + kExtension;
 }
 
+std::string speechFileIn(const std::string& folder, const std::string& audioName)
+{
+    return folder + FileSystem::directorySeparator + audioName + ".wav";
+}
+
 double secondsOf(const std::string& path)
 {
     const std::optional<QByteArray> sound = readInput(path);

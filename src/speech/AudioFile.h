@@ -7,6 +7,9 @@
 // "900-audio/say_adam_Moo.ogg"; the form of the path is that of the folder.
 std::string audioFileIn(const std::string& folder, const std::string& audioName);
 
+// "900-audio/say_adam_Moo.wav": what the speech program writes, of which the audio file is made.
+std::string speechFileIn(const std::string& folder, const std::string& audioName);
+
 // How long an audio file sounds, in seconds; 0 when it cannot be read, or is neither Ogg Vorbis nor
 // WAV.
 double secondsOf(const std::string& path);

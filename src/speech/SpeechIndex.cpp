@@ -130,6 +130,7 @@ void SpeechIndex::read()
     } else if (!readAll(bytes->toStdString())) {
         now = State::damaged;
         entries.clear();
+        speech.clear();
         numbers.clear();
     }
 }
@@ -138,9 +139,12 @@ bool SpeechIndex::readAll(const std::string& bytes)
 {
     const QJsonObject all = QJsonDocument::fromJson(QByteArray::fromStdString(bytes)).object();
     const QJsonValue sheet = all.value("sheet");
+    const QJsonValue expected = all.value("speech");
     return all.value("version").toInt() == kVersion && all.value("files").isObject() &&
            (sheet.isUndefined() || sheet.isObject()) &&
-           readEntries(all.value("files").toObject()) && readNumbers(sheet.toObject());
+           (expected.isUndefined() || expected.isObject()) &&
+           readEntries(all.value("files").toObject()) && readSpeech(expected.toObject()) &&
+           readNumbers(sheet.toObject());
 }
 
 bool SpeechIndex::readEntries(const QJsonObject& files)
@@ -155,6 +159,17 @@ bool SpeechIndex::readEntries(const QJsonObject& files)
         if (!members.areFine()) {
             return false;
         }
+    }
+    return true;
+}
+
+bool SpeechIndex::readSpeech(const QJsonObject& files)
+{
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        if (!file.value().isString()) {
+            return false;
+        }
+        speech[file.key().toStdString()] = file.value().toString().toStdString();
     }
     return true;
 }
@@ -204,6 +219,7 @@ bool SpeechIndex::remember(const std::string& audioName, const Utterance& spoken
         return false;
     }
     entries[audioName] = std::move(entry);
+    speech.erase(audioName);
     changed = true;
     return true;
 }
@@ -211,6 +227,33 @@ bool SpeechIndex::remember(const std::string& audioName, const Utterance& spoken
 void SpeechIndex::forget(const std::string& audioName)
 {
     changed = entries.erase(audioName) != 0 || changed;
+}
+
+void SpeechIndex::expectSpeech(const std::string& audioName)
+{
+    speech[audioName] = "";
+    changed = true;
+}
+
+void SpeechIndex::rememberSpeech(const std::string& audioName)
+{
+    const auto found = speech.find(audioName);
+    if (found == speech.end()) {
+        return;
+    }
+    found->second = hashOf(Platform::nativePath(speechFileIn(folder, audioName)));
+    if (found->second.empty()) {
+        speech.erase(found);
+    }
+    changed = true;
+}
+
+bool SpeechIndex::isSpeechOurs(const std::string& audioName) const
+{
+    const auto found = speech.find(audioName);
+    return found != speech.end() &&
+           (found->second.empty() ||
+            found->second == hashOf(Platform::nativePath(speechFileIn(folder, audioName))));
 }
 
 void SpeechIndex::takeOver(const SpeechIndex& other)
@@ -265,6 +308,13 @@ std::string SpeechIndex::asText() const
         files[text(name)] = object;
     }
     QJsonObject all{{"version", kVersion}, {"files", files}};
+    if (!speech.empty()) {
+        QJsonObject expected;
+        for (const auto& [name, hash] : speech) {
+            expected[text(name)] = text(hash);
+        }
+        all["speech"] = expected;
+    }
     if (!numbers.empty()) {
         QJsonObject sheet;
         for (const auto& [name, number] : numbers) {

@@ -44,6 +44,16 @@ public:
     // file cannot be read.
     bool remember(const std::string& audioName, const Utterance& spoken);
     void forget(const std::string& audioName);
+
+    // A speech file is what the speech program writes, "say_adam_Moo.wav", before the audio file is
+    // made of it. One is left where that fails or is stopped; another one may be the author's own.
+    // Notes that we have one written where there is none.
+    void expectSpeech(const std::string& audioName);
+    // Of one that was expected: notes how it looks now, or that it is gone.
+    void rememberSpeech(const std::string& audioName);
+    // Whether the one that is there is ours.
+    bool isSpeechOurs(const std::string& audioName) const;
+
     // After files of another folder were copied into this one: notes what the index there says of
     // those that are the same here, and the numbers of texts that have none here, as far as these
     // are free.
@@ -71,6 +81,7 @@ private:
     void read();
     bool readAll(const std::string& text);
     bool readEntries(const QJsonObject& files);
+    bool readSpeech(const QJsonObject& files);
     bool readNumbers(const QJsonObject& sheet);
     void takeNumbersOver(const SheetNumbers& others);
     bool keepDamagedFile();
@@ -78,6 +89,7 @@ private:
 
     std::string folder;  // native
     std::map<std::string, Entry> entries;
+    std::map<std::string, std::string> speech;  // hashes by audio names; empty while it is written
     SheetNumbers numbers;
     State now = State::good;
     bool changed = false;

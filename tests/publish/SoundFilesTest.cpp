@@ -6,6 +6,7 @@
 #include "base/FileSystem.h"
 #include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
+#include "speech/SpeechIndex.h"
 #include "tests/helpers/CoreApplication.h"
 #include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
@@ -390,6 +391,82 @@ TEST_F(SoundFiles, AfterAFailedConversionTheSpeechStaysAndIsMadeAgain)
     EXPECT_FALSE(fs::exists(audio("say_eve_Hi.wav")));
 }
 
+TEST_F(SoundFiles, ASpeechFileOfTheAuthorsBecomesTheAudioFileAndStays)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    say("say_eve_Moo", "eve", "Moo");
+    fs::create_directory(audio(""));
+    writeFile(audio("say_eve_Hi.wav"), "my voice");
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    const std::string hi = audio("say_eve_Hi");
+    EXPECT_EQ(runner.commands.size(), 3U);
+    EXPECT_EQ(runner.commands.front(),
+              RecordingRunner::Words({"ffmpeg.exe", "-hide_banner", "-loglevel", "error", "-i",
+                                      hi + ".wav", "-ar", "22050", "-ac", "1", hi + ".ogg"}));
+    EXPECT_EQ(readFile(audio("say_eve_Hi.wav")), "my voice");
+    EXPECT_EQ(runner.shown(),
+              "The audio file of 'Hi' is made of your own '" + audio("say_eve_Hi.wav") + "'\n");
+    SpeechIndex index(folder.file("900-audio"));
+    EXPECT_EQ(index.spokenInto("say_eve_Hi"), nullptr);
+    EXPECT_NE(index.spokenInto("say_eve_Moo"), nullptr);
+}
+
+TEST_F(SoundFiles, ASpeechFileOfTheAuthorsThatCannotBeConvertedStays)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    fs::create_directory(audio(""));
+    writeFile(audio("say_eve_Hi.wav"), "no sound");
+    soundStatus = 1;
+    EXPECT_EQ(create(), SpeechOutcome::incomplete);
+    EXPECT_EQ(runner.commands.size(), 1U);
+    EXPECT_EQ(readFile(audio("say_eve_Hi.wav")), "no sound");
+    EXPECT_FALSE(fs::exists(audio("say_eve_Hi.ogg")));
+    EXPECT_EQ(runner.shown(), "Error: The text 'Hi' has no audio file\n");
+}
+
+// After a build in which the conversion failed the author has put a recording there.
+TEST_F(SoundFiles, ARecordingInThePlaceOfALeftSpeechFileStays)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    soundStatus = 1;
+    soundIsWritten = false;
+    create();
+    writeFile(audio("say_eve_Hi.wav"), "my voice");
+    soundStatus = 0;
+    soundIsWritten = true;
+    runner.commands.clear();
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_EQ(runner.commands.size(), 1U);
+    EXPECT_EQ(readFile(audio("say_eve_Hi.wav")), "my voice");
+}
+
+TEST_F(SoundFiles, WhatAKilledBuildHasLeftOfSpeechIsMadeAgain)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    fs::create_directory(audio(""));
+    SpeechIndex index(folder.file("900-audio"));
+    index.expectSpeech("say_eve_Hi");
+    ASSERT_TRUE(index.save());
+    writeFile(audio("say_eve_Hi.wav"), "spe");
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_EQ(runner.commands.size(), 2U);
+    EXPECT_FALSE(fs::exists(audio("say_eve_Hi.wav")));
+    EXPECT_FALSE(SpeechIndex(folder.file("900-audio")).isSpeechOurs("say_eve_Hi"));
+}
+
+// It is noted before the first program starts.
+TEST_F(SoundFiles, SpeechIsNotedAsOursBeforeItIsWritten)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    bool isNoted = false;
+    runner.program = [&] {
+        isNoted = isNoted || SpeechIndex(folder.file("900-audio")).isSpeechOurs("say_eve_Hi");
+        return run();
+    };
+    create();
+    EXPECT_TRUE(isNoted);
+}
+
 TEST_F(SoundFiles, HalfAnOggFileOfAFailedConversionIsRemoved)
 {
     say("say_eve_Hi", "eve", "Hi");
@@ -416,6 +493,9 @@ TEST_F(SoundFiles, HalfAnOggFileOfABuildThatWasKilledIsMadeAgain)
     std::string told;
     for (const std::string& half :
          {std::string(), oggPage(false), oggPage(false) + oggPage(true).substr(0, 30)}) {
+        SpeechIndex index(folder.file("900-audio"));
+        index.expectSpeech("say_eve_Hi");
+        index.save();
         writeFile(audio("say_eve_Hi.wav"), "speech");
         writeFile(audio("say_eve_Hi.ogg"), half);
         EXPECT_EQ(create(), SpeechOutcome::complete);
@@ -444,6 +524,17 @@ TEST_F(SoundFiles, HalfAnOggFileOfTheAuthorsStays)
     writeFile(audio("say_eve_Hi.ogg"), oggPage(false));
     EXPECT_EQ(create(), SpeechOutcome::complete);
     EXPECT_EQ(readFile(audio("say_eve_Hi.ogg")), oggPage(false));
+}
+
+TEST_F(SoundFiles, HalfAnOggFileOfTheAuthorsStaysAlsoBesideAWavFile)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    fs::create_directory(audio(""));
+    writeFile(audio("say_eve_Hi.wav"), "my voice");
+    writeFile(audio("say_eve_Hi.ogg"), oggPage(false));
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_EQ(readFile(audio("say_eve_Hi.ogg")), oggPage(false));
+    EXPECT_EQ(readFile(audio("say_eve_Hi.wav")), "my voice");
 }
 
 TEST_F(SoundFiles, AProgramThatDoesNotStartStopsNothing)

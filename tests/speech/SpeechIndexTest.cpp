@@ -248,6 +248,36 @@ TEST_F(Index, OneThatCannotBeWrittenStaysAsItIs)
     }
 }
 
+TEST_F(Index, KnowsTheSpeechFilesThatAreOurs)
+{
+    const std::string speech = folder.file("moo.wav");
+    SpeechIndex index(folder.path());
+    EXPECT_FALSE(index.isSpeechOurs("moo"));
+    index.expectSpeech("moo");
+    EXPECT_TRUE(index.save());
+    writeFile(speech, "spe");  // by a build that was killed
+    EXPECT_TRUE(SpeechIndex(folder.path()).isSpeechOurs("moo"));
+
+    writeFile(speech, "speech");
+    index.rememberSpeech("moo");
+    EXPECT_TRUE(index.save());
+    EXPECT_TRUE(SpeechIndex(folder.path()).isSpeechOurs("moo"));
+    writeFile(speech, "my own");
+    EXPECT_FALSE(SpeechIndex(folder.path()).isSpeechOurs("moo"));
+}
+
+TEST_F(Index, ForgetsASpeechFileThatIsGone)
+{
+    SpeechIndex index(folder.path());
+    index.expectSpeech("moo");
+    index.rememberSpeech("moo");
+    index.expectSpeech("maeh");
+    writeFile(folder.file("maeh.ogg"), "sound");
+    EXPECT_TRUE(index.remember("maeh", utterance("Mäh")));
+    EXPECT_FALSE(index.isSpeechOurs("moo"));
+    EXPECT_FALSE(index.isSpeechOurs("maeh"));
+}
+
 TEST_F(Index, KeepsTheNumbersOfSheets)
 {
     SpeechIndex index(folder.path());
