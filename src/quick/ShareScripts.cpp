@@ -3,6 +3,7 @@
 #include "quick/GraphPasses.h"
 
 #include <algorithm>
+#include <map>
 
 namespace quick {
 
@@ -11,23 +12,6 @@ namespace {
 void write(std::string& text, const Operand& operand)
 {
     text += (operand.isRegister ? "$" : "") + std::to_string(operand.value) + " ";
-}
-
-// What a line does, so that equal lines have equal texts.
-std::string actionsOf(const Line& line)
-{
-    std::string text;
-    for (const Command& command : line.commands) {
-        text += std::to_string(command.target) + "," + std::to_string(command.opcode) + ",";
-        write(text, command.value);
-    }
-    if (line.sound) {
-        text += "P" + std::to_string(line.sound->opcode) + "," + std::to_string(line.sound->value);
-        for (const std::string& name : line.sound->playList) {
-            text += "/" + name;
-        }
-    }
-    return text + (line.jump ? "J" + std::to_string(*line.jump) : "");
 }
 
 std::string textOf(const Condition& condition)
@@ -48,7 +32,94 @@ std::vector<std::string> conditionsOf(const Line& line)
     return texts;
 }
 
-std::string textOf(const Node& node)
+// Looks at scripts behind those that they jump to, so that chains that end alike are found at once.
+class ScriptSharer
+{
+public:
+    explicit ScriptSharer(Graph& changed)
+        : graph(changed), states(changed.nodes.size(), State::isNew), same(changed.nodes.size())
+    {}
+
+    // False when there is nothing to share.
+    bool share();
+
+private:
+    enum class State { isNew, isOpen, isDone };
+
+    void look(size_t start);
+    void lookAt(size_t place);
+    void joinLines(std::vector<Line>& lines) const;
+    bool isCovered(const Line& first, const Line& second) const;
+    std::string textOfNode(const Node& node) const;
+    std::string actionsOf(const Line& line) const;
+    bool shareJumps();
+
+    Graph& graph;
+    std::vector<State> states;
+    std::vector<size_t> same;              // of each node, one that does the same
+    std::map<std::string, size_t> byText;  // the first one
+};
+
+bool ScriptSharer::share()
+{
+    for (size_t i = 0; i < graph.nodes.size(); ++i) {
+        look(i);
+    }
+    return shareJumps();
+}
+
+// In a list instead of by recursion: a chain may have thousands of scripts.
+void ScriptSharer::look(size_t start)
+{
+    std::vector<size_t> path = {start};
+    while (!path.empty()) {
+        const size_t place = path.back();
+        if (states[place] != State::isNew) {
+            path.pop_back();
+            if (states[place] == State::isOpen) {
+                states[place] = State::isDone;
+                lookAt(place);
+            }
+            continue;
+        }
+        states[place] = State::isOpen;
+        for (const Line& line : graph.nodes[place].lines) {
+            if (line.jump && states[*line.jump] == State::isNew) {
+                path.push_back(*line.jump);
+            }
+        }
+    }
+}
+
+void ScriptSharer::lookAt(size_t place)
+{
+    Node& node = graph.nodes[place];
+    same[place] = place;
+    if (!node.isKept) {
+        joinLines(node.lines);
+        same[place] = byText.emplace(textOfNode(node), place).first->second;
+    }
+}
+
+void ScriptSharer::joinLines(std::vector<Line>& lines) const
+{
+    for (size_t i = lines.size(); i-- > 1;) {
+        if (isCovered(lines[i - 1], lines[i])) {
+            lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(i - 1));
+        }
+    }
+}
+
+// Where the first of two lines runs, the second one would.
+bool ScriptSharer::isCovered(const Line& first, const Line& second) const
+{
+    const std::vector<std::string> ofFirst = conditionsOf(first);
+    const std::vector<std::string> ofSecond = conditionsOf(second);
+    return std::includes(ofFirst.begin(), ofFirst.end(), ofSecond.begin(), ofSecond.end()) &&
+           actionsOf(first) == actionsOf(second);
+}
+
+std::string ScriptSharer::textOfNode(const Node& node) const
 {
     std::string text;
     for (const Line& line : node.lines) {
@@ -60,45 +131,43 @@ std::string textOf(const Node& node)
     return text;
 }
 
-// Where the first of two lines runs, the second one would.
-bool isCovered(const Line& first, const Line& second)
+// What a line does, so that equal lines have equal texts. Of a circle nobody knows yet what its
+// beginning is equal to.
+std::string ScriptSharer::actionsOf(const Line& line) const
 {
-    const std::vector<std::string> ofFirst = conditionsOf(first);
-    const std::vector<std::string> ofSecond = conditionsOf(second);
-    return std::includes(ofFirst.begin(), ofFirst.end(), ofSecond.begin(), ofSecond.end()) &&
-           actionsOf(first) == actionsOf(second);
-}
-
-void joinLines(std::vector<Line>& lines)
-{
-    for (size_t i = lines.size(); i-- > 1;) {
-        if (isCovered(lines[i - 1], lines[i])) {
-            lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(i - 1));
+    std::string text;
+    for (const Command& command : line.commands) {
+        text += std::to_string(command.target) + "," + std::to_string(command.opcode) + ",";
+        write(text, command.value);
+    }
+    if (line.sound) {
+        text += "P" + std::to_string(line.sound->opcode) + "," + std::to_string(line.sound->value);
+        for (const std::string& name : line.sound->playList) {
+            text += "/" + name;
         }
     }
-}
-
-// For each node the one that stays in its place.
-std::vector<size_t> representatives(const Graph& graph)
-{
-    std::map<std::string, size_t> first;
-    std::vector<size_t> result;
-    for (size_t i = 0; i < graph.nodes.size(); ++i) {
-        const Node& node = graph.nodes[i];
-        const size_t same = node.isKept ? i : first.emplace(textOf(node), i).first->second;
-        result.push_back(node.isEntry ? i : same);
+    if (line.jump) {
+        const bool isDone = states[*line.jump] == State::isDone;
+        text += "J" + std::to_string(isDone ? same[*line.jump] : *line.jump);
     }
-    return result;
+    return text;
 }
 
-bool shareOnce(Graph& graph)
+bool ScriptSharer::shareJumps()
 {
-    const std::vector<size_t> kept = representatives(graph);
+    // Something that can be tapped stays in any case, so that it can do for all others.
+    std::vector<size_t> kept = same;
+    for (size_t i = graph.nodes.size(); i-- > 0;) {
+        if (graph.nodes[i].isEntry) {
+            kept[same[i]] = i;
+        }
+    }
     bool isShared = false;
     for (Node& node : graph.nodes) {
         for (Line& line : node.lines) {
-            if (line.jump && kept[*line.jump] != *line.jump) {
-                line.jump = kept[*line.jump];
+            const size_t target = line.jump ? kept[same[*line.jump]] : 0;
+            if (line.jump && target != *line.jump && !graph.nodes[*line.jump].isEntry) {
+                line.jump = target;
                 isShared = true;
             }
         }
@@ -108,13 +177,11 @@ bool shareOnce(Graph& graph)
 
 }  // namespace
 
+// Circles may show only then that they are equal.
 void shareScripts(Graph& graph)
 {
-    do {
-        for (Node& node : graph.nodes) {
-            joinLines(node.lines);
-        }
-    } while (shareOnce(graph));
+    constexpr int kMostRounds = 3;
+    for (int i = 0; i < kMostRounds && ScriptSharer(graph).share(); ++i) {}
 }
 
 }  // namespace quick

@@ -443,6 +443,26 @@ TEST(SharesScripts, OfScriptsThatDoTheSameOneStays)
                                                        "2: $a:=2\n");
 }
 
+// 30 sounds one after the other, twice.
+TEST(SharesScripts, ChainsThatEndAlikeBecomeOne)
+{
+    constexpr int kSounds = 30;
+    std::string scripts;
+    for (const int sub : {1, 2}) {
+        const std::string label = "asm" + std::to_string(sub);
+        scripts += (sub == 1 ? "  cow:\n  - J(" : "  hen:\n  - J(") + label +
+                   "00) $a := " + std::to_string(sub) + "\n";
+        for (int i = 100; i < 100 + kSounds; ++i) {
+            const std::string next = std::to_string(i + 1).substr(1);
+            scripts += "  " + label + std::to_string(i).substr(1) + ":\n  - J(" + label + next +
+                       ") P(s" + next + ")\n";
+        }
+        scripts += "  " + label + std::to_string(kSounds) + ":\n  - $b := 1\n";
+    }
+    const std::string text = with({&Passes::sharesScripts}, scripts);
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 2 + kSounds + 1) << text;
+}
+
 namespace {
 
 // A sub that only calculates: so many additions, each a step.
