@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <functional>
 #include <random>
 
 #include "bench/GeneratedBook.h"
@@ -18,8 +19,10 @@ namespace {
 
 constexpr double kLeastGain = 6;   // how many times fewer steps
 constexpr double kMostTime = 300;  // ms for as many steps as a game can have
-constexpr double kMostGrowth =
-    1.5;  // of the time that a step takes, from a small book to the largest
+constexpr double kMostTimeOfSums = 1000;
+// Of the time that a step takes, from a small book to the largest: what does not fit into the
+// caches takes longer. Time that grows with the square of the steps would be ten times and more.
+constexpr double kMostGrowth = 2.5;
 constexpr size_t kMostSteps = 13000;
 constexpr int kTaps = 300;
 constexpr int kRounds = 5;
@@ -172,24 +175,95 @@ Book largeBook(size_t steps)
     return book;
 }
 
-bool measureTime()
+// Each sub says another of so many texts at each tap.
+Book bookOfSelects(size_t subs, size_t cases)
 {
-    std::printf("\n%12s %12s %16s\n", "steps", "ms", "us for a step");
+    GeneratedBook book;
+    book.script = "voice anna lang en age 30 sex f\nsub power\nend sub\n";
+    book.areas.emplace_back("power");
+    for (size_t i = 0; i < subs; ++i) {
+        const std::string name = "thing" + std::to_string(i) + "x";
+        const std::string counter = name + "count";
+        book.areas.push_back(name);
+        book.script += "sub " + name + "\n" + counter + " = " + counter + " + 1\nselect " + counter;
+        for (size_t number = 1; number <= cases; ++number) {
+            const std::string text = std::to_string(number);
+            book.script += "\ncase " + text + "\nsay anna \"" + text + " of " + name + "\"";
+        }
+        book.script += "\nend select\nend sub\n";
+    }
+    return bookOf(book);
+}
+
+// Each sub calculates a sum of twelve variables, each of which is chosen by another one: there are
+// thousands of ways through it.
+Book bookOfSums(size_t subs)
+{
+    GeneratedBook book;
+    book.script = "sub power\nend sub\n";
+    book.areas.emplace_back("power");
+    for (size_t i = 0; i < subs; ++i) {
+        const std::string name = "thing" + std::to_string(i) + "x";
+        book.areas.push_back(name);
+        book.script += "sub " + name + "\n";
+        for (size_t variable = 0; variable < 12; ++variable) {
+            const std::string number = std::to_string(variable);
+            book.script += "if chosen" + number + " == " + number + "\nsum = sum + one" + number +
+                           "\nelse\nsum = sum + other" + number + "\nend if\n";
+        }
+        book.script += "end sub\n";
+    }
+    return bookOf(book);
+}
+
+// Books from the smallest to the largest one, which takes so many ms at most.
+bool measureTimes(const char* what, const std::vector<std::function<Book()>>& books,
+                  double mostTime = kMostTime)
+{
+    std::printf("\n%s\n%12s %12s %16s %12s\n", what, "steps", "ms", "us for a step", "growth");
     double time = 0;
-    std::vector<double> ofAStep;
-    for (const size_t part : {16U, 8U, 4U, 2U, 1U}) {
-        const Book book = largeBook(kMostSteps / part);
+    double growth = 0;
+    double first = 0;  // us for a step
+    for (const std::function<Book()>& make : books) {
+        const Book book = make();
         const auto steps = static_cast<double>(book.plain.scripts.size());
         time = timeOf(book);
-        ofAStep.push_back(1000 * time / steps);
-        std::printf("%12.0f %12.1f %16.2f\n", steps, time, ofAStep.back());
+        const double ofAStep = 1000 * time / steps;
+        first = first == 0 ? ofAStep : first;
+        growth = ofAStep / first;
+        std::printf("%12.0f %12.1f %16.2f %12.2f\n", steps, time, ofAStep, growth);
     }
-    const double growth = ofAStep.back() / ofAStep.front();
     const bool isQuick =
-        isFine("ms for the largest book", time, "at most", kMostTime, time <= kMostTime);
+        isFine("ms for the largest book", time, "at most", mostTime, time <= mostTime);
     const bool isLinear = isFine("growth of the time for a step", growth, "at most", kMostGrowth,
                                  growth <= kMostGrowth);
     return isQuick && isLinear;
+}
+
+bool measureTime()
+{
+    std::vector<std::function<Book()>> pages;
+    for (const size_t part : {16U, 8U, 4U, 2U, 1U}) {
+        pages.emplace_back([part] { return largeBook(kMostSteps / part); });
+    }
+    std::vector<std::function<Book()>> cases;
+    for (const size_t count : {10U, 30U, 100U, 300U, 1000U, 2600U}) {
+        cases.emplace_back([count] { return bookOfSelects(1, count); });
+    }
+    std::vector<std::function<Book()>> subs;
+    for (const size_t count : {1U, 3U, 10U, 30U, 100U}) {
+        subs.emplace_back([count] { return bookOfSelects(count, 20); });
+    }
+    std::vector<std::function<Book()>> sums;
+    for (const size_t count : {10U, 30U, 90U}) {
+        sums.emplace_back([count] { return bookOfSums(count); });
+    }
+    const bool isFineForPages = measureTimes("more and more pages", pages);
+    const bool isFineForCases = measureTimes("one select of 10 to 2,600 cases", cases);
+    const bool isFineForSubs = measureTimes("1 to 100 subs, a select of 20 cases in each", subs);
+    const bool isFineForSums =
+        measureTimes("10 to 90 subs of 12 branches that only calculate", sums, kMostTimeOfSums);
+    return isFineForPages && isFineForCases && isFineForSubs && isFineForSums;
 }
 
 }  // namespace

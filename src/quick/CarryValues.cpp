@@ -10,39 +10,9 @@ namespace {
 
 constexpr uint16_t kSmall = 0x4000;  // a summand up to this size is written as one
 
-class ValueCarrier
-{
-public:
-    ValueCarrier(Values start, const std::set<Register>& scratch)
-        : values(std::move(start)), temporaries(scratch)
-    {}
-
-    void carry(Commands& commands);
-
-private:
-    Operand simplest(const Operand& operand) const;
-    std::optional<Command> simplified(Command command) const;
-    std::optional<Command> simplifiedAssignment(const Command& command) const;
-
-    Values values;
-    const std::set<Register>& temporaries;
-};
-
-void ValueCarrier::carry(Commands& commands)
-{
-    Commands result;
-    for (const Command& command : commands) {
-        const std::optional<Command> simple = simplified(command);
-        if (simple) {
-            values.apply(*simple);
-            result.push_back(*simple);
-        }
-    }
-    commands = std::move(result);
-}
-
 // A number, else a register that is no temporary and holds the same.
-Operand ValueCarrier::simplest(const Operand& operand) const
+Operand simplest(const Operand& operand, const Values& values,
+                 const std::set<Register>& temporaries)
 {
     const Value value = values.of(operand);
     if (value.isNumber()) {
@@ -63,28 +33,8 @@ Operand ValueCarrier::simplest(const Operand& operand) const
     return operand;
 }
 
-// None when the register holds the result already.
-std::optional<Command> ValueCarrier::simplified(Command command) const
-{
-    command.value = simplest(command.value);
-    if (command.mayFail()) {
-        return command;
-    }
-    Values behind = values;
-    behind.apply(command);
-    const Value result = behind.of(command.target);
-    if (result == values.of(command.target)) {
-        return std::nullopt;
-    }
-    if (result.isNumber()) {
-        return Command{
-            command.target, gme::Opcode::kAssign, {false, static_cast<uint16_t>(result.number)}};
-    }
-    return command.opcode == gme::Opcode::kAssign ? simplifiedAssignment(command) : command;
-}
-
 // "a := t" where t holds a and a small number more becomes an addition.
-std::optional<Command> ValueCarrier::simplifiedAssignment(const Command& command) const
+Command simplifiedAssignment(const Command& command, const Values& values)
 {
     const Value before = values.of(command.target);
     const Value now = values.of(command.value);
@@ -99,9 +49,35 @@ std::optional<Command> ValueCarrier::simplifiedAssignment(const Command& command
 
 }  // namespace
 
-void carryValues(Commands& commands, Values start, const std::set<Register>& temporaries)
+std::optional<Command> carried(Command command, const Values& values,
+                               const std::set<Register>& temporaries)
 {
-    ValueCarrier(std::move(start), temporaries).carry(commands);
+    command.value = simplest(command.value, values, temporaries);
+    if (command.mayFail()) {
+        return command;
+    }
+    const Value result = values.resultOf(command);
+    if (result == values.of(command.target)) {
+        return std::nullopt;
+    }
+    if (result.isNumber()) {
+        return Command{
+            command.target, gme::Opcode::kAssign, {false, static_cast<uint16_t>(result.number)}};
+    }
+    return command.opcode == gme::Opcode::kAssign ? simplifiedAssignment(command, values) : command;
+}
+
+void carryValues(Commands& commands, Values values, const std::set<Register>& temporaries)
+{
+    Commands result;
+    for (const Command& command : commands) {
+        const std::optional<Command> simple = carried(command, values, temporaries);
+        if (simple) {
+            values.apply(*simple);
+            result.push_back(*simple);
+        }
+    }
+    commands = std::move(result);
 }
 
 }  // namespace quick

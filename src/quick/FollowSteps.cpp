@@ -17,6 +17,8 @@ namespace {
 
 constexpr std::array<size_t, 3> kMostLines = {32, 8, 2};  // of a script, about
 constexpr size_t kMostSteps = 256;                        // that become one line
+constexpr size_t kManySteps = 64;                         // behind which a path joins others
+constexpr size_t kMostInVain = 2000;                      // steps followed in an area
 constexpr size_t kMostVariants = 4;                       // scripts made of one step
 
 // A step, and what numbers registers hold when it begins.
@@ -121,6 +123,7 @@ public:
           live(liveAtBeginning(source)),
           variants(source.nodes.size()),
           uses(source.nodes.size()),
+          inVain(source.nodes.size()),
           passedIn(source.nodes.size())
     {}
 
@@ -137,6 +140,9 @@ private:
     void copyLines(const Path& beginning);
     void go(Path path);
     bool mustStop(const Path& path) const;
+    bool mayJoin(const Path& path) const;
+    size_t beforeCopies(const Path& path) const;
+    bool onlyCopies(size_t step, size_t next) const;
     bool mayBranch(const Path& path) const;
     void branch(Path& path, const Condition& condition);
     bool take(Path& path, const Line& line);
@@ -145,9 +151,10 @@ private:
     void write(const Draft& draft);
     Place placeOf(const Path& path, size_t step);
     bool isWorthKnowing(size_t step, Register reg);
-    bool fits(const Path& path, const Line& line) const;
+    bool makeRoom(Path& path, const Line& line) const;
     Live liveBehind(const std::optional<size_t>& step) const;
-    Commands simplified(Commands commands, const Values& start, const Live& behind) const;
+    void append(const Commands& more, Commands& commands, Values& values) const;
+    void reduce(Commands& commands, const Live& behind) const;
 
     const Graph& plain;
     const Passes allPasses;
@@ -166,6 +173,8 @@ private:
     size_t branches = 0;           // that are still to be followed
     size_t most = 0;               // lines
     size_t attempt = 0;            // counts all tries
+    size_t taken = 0;              // steps of this one
+    std::vector<size_t> inVain;    // of each area, steps of tries that became too large
     std::vector<size_t> passedIn;  // each step, the last try that passed it
     std::vector<size_t> passed;    // the steps
     size_t bytesPassed = 0;        // of the steps that are passed
@@ -218,7 +227,8 @@ size_t StepFollower::restNode()
 }
 
 // The more branches are followed at once, the fewer steps, but the lines become more than the steps
-// whose place they take: each branch doubles those behind it.
+// whose place they take: each branch doubles those behind it. An area in which that happens again
+// and again is left sparing, as it would be in the end.
 void StepFollower::makeNode(size_t node, const Place& place)
 {
     current = node;
@@ -229,6 +239,7 @@ void StepFollower::makeNode(size_t node, const Place& place)
         if (!isTooLarge()) {
             break;
         }
+        inVain[made.nodes[node].area] += taken;
     }
     if (isTooLarge()) {
         copyLines(beginning);
@@ -244,7 +255,8 @@ void StepFollower::makeNode(size_t node, const Place& place)
 
 void StepFollower::choosePasses()
 {
-    const bool isSparing = sparing.count(made.nodes[current].area) != 0;
+    const size_t area = made.nodes[current].area;
+    const bool isSparing = sparing.count(area) != 0 || inVain[area] > kMostInVain;
     passes.testsOnEntry = allPasses.testsOnEntry && !isSparing;
     passes.doublesScripts = allPasses.doublesScripts && !isSparing;
 }
@@ -277,6 +289,7 @@ void StepFollower::tryNode(const Path& beginning, size_t mostLines)
     bytesMade = 0;
     most = mostLines;
     ++attempt;
+    taken = 0;
     go(beginning);
 }
 
@@ -313,7 +326,8 @@ void StepFollower::go(Path path)
         if (choice.open != nullptr) {
             const std::optional<Condition> condition = path.now.onEntry(*choice.open);
             if (!condition || !mayBranch(path)) {
-                break;
+                end(path, beforeCopies(path), std::nullopt);
+                return;
             }
             branch(path, *condition);
             if (isTooLarge()) {
@@ -323,7 +337,7 @@ void StepFollower::go(Path path)
             end(path, std::nullopt, std::nullopt);
             return;
         } else {
-            if (!fits(path, *choice.line)) {
+            if (!makeRoom(path, *choice.line)) {
                 break;
             }
             if (!take(path, *choice.line)) {
@@ -334,10 +348,46 @@ void StepFollower::go(Path path)
     end(path, path.step, std::nullopt);
 }
 
+// Where the line of a path ends that cannot answer what its next step asks: before the steps that
+// do nothing but put copies for the question into temporaries. The next script then asks the
+// originals.
+size_t StepFollower::beforeCopies(const Path& path) const
+{
+    size_t step = path.step;
+    for (size_t i = passes.testsOnEntry ? path.passed.size() : 0;
+         i-- > 1 && onlyCopies(path.passed[i], step);) {
+        step = path.passed[i];
+    }
+    return step;
+}
+
+// Whether the step, from which the next one was reached, changes nothing that it needs itself.
+bool StepFollower::onlyCopies(size_t step, size_t next) const
+{
+    const std::vector<Line>& lines = plain.nodes[step].lines;
+    return lines.size() == 1 && !lines.front().sound &&
+           std::all_of(live[step].begin(), live[step].end(),
+                       [&](Register reg) { return live[next].has(reg); }) &&
+           std::all_of(lines.front().commands.begin(), lines.front().commands.end(),
+                       [&](const Command& command) {
+                           return plain.temporaries.count(command.target) != 0 &&
+                                  !live[step].has(command.target) && !command.mayFail();
+                       });
+}
+
+// After many steps a path joins others where a script of theirs begins: so that not each of a
+// thousand cases follows all that come behind it.
+bool StepFollower::mayJoin(const Path& path) const
+{
+    return path.passed.size() >= kManySteps && live[path.step].empty() &&
+           nodes.count({path.step, {}}) != 0;
+}
+
 bool StepFollower::mustStop(const Path& path) const
 {
     return plain.nodes[path.step].isKept || path.hasPassed(path.step) ||
-           path.passed.size() >= kMostSteps || (!passes.followsJumps && !path.passed.empty());
+           path.passed.size() >= kMostSteps || mayJoin(path) ||
+           (!passes.followsJumps && !path.passed.empty());
 }
 
 // The first step of a script asks whatever it likes.
@@ -361,45 +411,47 @@ void StepFollower::branch(Path& path, const Condition& condition)
     path.now.learn(condition, false);
 }
 
-// Whether the line can be carried out together with what is on the path already.
-bool StepFollower::fits(const Path& path, const Line& line) const
+// Whether the line can be carried out together with what is on the path already, which is
+// simplified as soon as that is in question.
+bool StepFollower::makeRoom(Path& path, const Line& line) const
 {
-    if (path.passed.empty()) {
+    const size_t others = (line.jump ? 1 : 0) + (line.sound ? 1 : 0);
+    const auto isThere = [&] {
+        return path.commands.size() + line.commands.size() + others <= kMostCommands;
+    };
+    if (path.passed.empty() || isThere()) {
+        return true;
+    }
+    reduce(path.commands, liveBehind(path.step));
+    if (isThere()) {
         return true;
     }
     Commands commands = path.commands;
-    commands.insert(commands.end(), line.commands.begin(), line.commands.end());
     Values values = path.now;
-    for (const Command& command : line.commands) {
-        values.apply(command);
-    }
+    append(line.commands, commands, values);
     Live behind = liveBehind(line.jump);
     for (const Register reg : RegisterSet(behind.alive)) {
         if (passes.doublesScripts && values.of(reg).isNumber()) {
             behind.alive.erase(reg);
         }
     }
-    return simplified(commands, path.start, behind).size() + (line.jump ? 1 : 0) +
-               (line.sound ? 1 : 0) <=
-           kMostCommands;
+    reduce(commands, behind);
+    return commands.size() + others <= kMostCommands;
 }
 
 // Carries the line out. False where the path ends with it.
 bool StepFollower::take(Path& path, const Line& line)
 {
     const bool isLast = line.sound || mayFail(line, path.now) || !line.jump;
+    ++taken;
     notePassed(path.step);
     path.passed.push_back(path.step);
     path.hasJumped = path.hasJumped || line.jump;
-    path.commands.insert(path.commands.end(), line.commands.begin(), line.commands.end());
-    for (const Command& command : line.commands) {
-        path.now.apply(command);
-    }
+    append(line.commands, path.commands, path.now);
     if (isLast) {
         end(path, line.jump, line.sound);
         return false;
     }
-    path.commands = simplified(std::move(path.commands), path.start, liveBehind(line.jump));
     path.step = *line.jump;
     return true;
 }
@@ -437,7 +489,11 @@ void StepFollower::write(const Draft& draft)
     } else if (draft.path.hasJumped && made.nodes[current].isEntry) {
         line.jump = restNode();
     }
-    line.commands = simplified(draft.path.commands, draft.path.start, behind);
+    line.commands = draft.path.commands;
+    if (passes.carriesValues) {
+        carryValues(line.commands, draft.path.start, plain.temporaries);
+    }
+    reduce(line.commands, behind);
     made.nodes[current].lines.push_back(std::move(line));
 }
 
@@ -447,7 +503,8 @@ void StepFollower::write(const Draft& draft)
 Place StepFollower::placeOf(const Path& path, size_t step)
 {
     Place place{step, {}};
-    if (!passes.doublesScripts || plain.nodes[step].isKept) {
+    const bool joins = step == path.step && mayJoin(path);
+    if (!passes.doublesScripts || plain.nodes[step].isKept || joins) {
         return place;
     }
     Place withVariables = place;
@@ -485,11 +542,25 @@ Live StepFollower::liveBehind(const std::optional<size_t>& step) const
     return {plain.temporaries, step ? live[*step] : RegisterSet()};
 }
 
-Commands StepFollower::simplified(Commands commands, const Values& start, const Live& behind) const
+// Adds commands to those of a path, of which the values before them are known. What a temporary
+// held before it gets a value may have been left out, so that nothing may be made of that.
+void StepFollower::append(const Commands& more, Commands& commands, Values& values) const
 {
-    if (passes.carriesValues) {
-        carryValues(commands, start, plain.temporaries);
+    for (const Command& command : more) {
+        const bool beginsAnew =
+            command.opcode == gme::Opcode::kAssign && plain.temporaries.count(command.target) != 0;
+        const auto simple = passes.carriesValues && !beginsAnew
+                                ? carried(command, values, plain.temporaries)
+                                : std::make_optional(command);
+        if (simple) {
+            commands.push_back(*simple);
+        }
+        values.apply(command);
     }
+}
+
+void StepFollower::reduce(Commands& commands, const Live& behind) const
+{
     if (passes.writesDirectly) {
         writeDirectly(commands, behind);
     }
@@ -499,7 +570,6 @@ Commands StepFollower::simplified(Commands commands, const Values& start, const 
     if (passes.dropsDead) {
         dropDead(commands, behind);
     }
-    return commands;
 }
 
 }  // namespace

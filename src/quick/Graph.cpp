@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <unordered_map>
 
 namespace quick {
 
@@ -39,11 +40,12 @@ public:
 private:
     void addNodes();
     void noteRegister(const gme::Register& reg);
+    Register numberOf(const gme::Register& reg);
     void noteRegisters();
     void readScript(Node& node, const std::vector<gme::ScriptLine>& lines);
-    bool canBeFollowed(const gme::ScriptLine& line) const;
+    bool canBeFollowed(const gme::ScriptLine& line);
     Line lineOf(const gme::ScriptLine& line);
-    Operand operandOf(const gme::Operand& operand) const;
+    Operand operandOf(const gme::Operand& operand);
     uint16_t targetOf(const gme::Command& jump) const;
     void noteKept(const gme::ScriptLine& line);
     void chooseTemporaries();
@@ -52,6 +54,7 @@ private:
     const gme::Game& game;
     const std::set<uint16_t>& inner;
     Graph graph;
+    std::unordered_map<std::string, Register> numbers;  // of the registers with names
     std::set<Register> changed;
     std::set<Register> taken;    // on from one command to another
     std::set<Register> noticed;  // by more than the steps of one script
@@ -95,9 +98,21 @@ void GraphReader::addNodes()
     }
 }
 
+Register GraphReader::numberOf(const gme::Register& reg)
+{
+    if (reg.name.empty()) {
+        return reg.number;
+    }
+    const auto [entry, isNew] = numbers.try_emplace(reg.name);
+    if (isNew) {
+        entry->second = game.registers.numberOf(reg);
+    }
+    return entry->second;
+}
+
 void GraphReader::noteRegister(const gme::Register& reg)
 {
-    const uint16_t number = game.registers.numberOf(reg);
+    const uint16_t number = numberOf(reg);
     if (graph.registers.size() <= number) {
         graph.registers.resize(size_t{number} + 1);
         graph.firstValues.resize(size_t{number} + 1);
@@ -119,7 +134,7 @@ void GraphReader::noteRegisters()
             for (const gme::Command& command : line.commands) {
                 if (command.hasTarget) {
                     noteRegister(command.target);
-                    changed.insert(game.registers.numberOf(command.target));
+                    changed.insert(numberOf(command.target));
                 }
                 if (command.value.isRegister) {
                     noteRegister(command.value.reg);
@@ -148,7 +163,7 @@ void GraphReader::readScript(Node& node, const std::vector<gme::ScriptLine>& lin
 // One sound and one jump at most, and nothing but arithmetic besides, before the sound: nobody
 // knows whether what stands behind it waits for it. A division that may fail stands last, behind
 // the jump, where it makes no difference whether it ends the line.
-bool GraphReader::canBeFollowed(const gme::ScriptLine& line) const
+bool GraphReader::canBeFollowed(const gme::ScriptLine& line)
 {
     const std::vector<gme::Command>& commands = line.commands;
     size_t sounds = 0;
@@ -179,10 +194,10 @@ Line GraphReader::lineOf(const gme::ScriptLine& line)
         } else if (isSound(command)) {
             result.sound = Sound{command.opcode, command.value.constant, line.playList};
         } else {
-            result.commands.push_back({game.registers.numberOf(command.target), command.opcode,
-                                       operandOf(command.value)});
+            result.commands.push_back(
+                {numberOf(command.target), command.opcode, operandOf(command.value)});
             if (command.value.isRegister) {
-                taken.insert(game.registers.numberOf(command.value.reg));
+                taken.insert(numberOf(command.value.reg));
             }
         }
     }
@@ -195,10 +210,9 @@ Line GraphReader::lineOf(const gme::ScriptLine& line)
     return result;
 }
 
-Operand GraphReader::operandOf(const gme::Operand& operand) const
+Operand GraphReader::operandOf(const gme::Operand& operand)
 {
-    return {operand.isRegister,
-            operand.isRegister ? game.registers.numberOf(operand.reg) : operand.constant};
+    return {operand.isRegister, operand.isRegister ? numberOf(operand.reg) : operand.constant};
 }
 
 uint16_t GraphReader::targetOf(const gme::Command& jump) const
@@ -211,7 +225,7 @@ void GraphReader::noteKept(const gme::ScriptLine& line)
     for (const gme::Condition& condition : line.conditions) {
         for (const gme::Operand& operand : {condition.left, condition.right}) {
             if (operand.isRegister) {
-                noticed.insert(game.registers.numberOf(operand.reg));
+                noticed.insert(numberOf(operand.reg));
             }
         }
     }
@@ -220,10 +234,10 @@ void GraphReader::noteKept(const gme::ScriptLine& line)
             graph.nodes[graph.byCode.at(targetOf(command))].isEntry = true;
         }
         if (command.hasTarget) {
-            noticed.insert(game.registers.numberOf(command.target));
+            noticed.insert(numberOf(command.target));
         }
         if (command.value.isRegister) {
-            noticed.insert(game.registers.numberOf(command.value.reg));
+            noticed.insert(numberOf(command.value.reg));
         }
     }
 }

@@ -24,6 +24,11 @@ struct Live
 // says again what is so goes. start: what is known before the first command.
 void carryValues(Commands& commands, Values start, const std::set<Register>& temporaries);
 
+// The same of one command, where the values are what is known before it. None when its target holds
+// the result already.
+std::optional<Command> carried(Command command, const Values& values,
+                               const std::set<Register>& temporaries);
+
 // "t := b, t *= 2, a := t" becomes "a := b, a *= 2" where nobody else reads t.
 void writeDirectly(Commands& commands, const Live& behind);
 

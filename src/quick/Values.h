@@ -34,6 +34,8 @@ public:
     void setNumber(Register reg, uint16_t number);
     // The command has been carried out.
     void apply(const Command& command);
+    // What its target will hold then.
+    Value resultOf(const Command& command) const;
 
     // Whether the condition holds, as far as that is known.
     std::optional<bool> holds(const Condition& condition) const;
@@ -57,7 +59,6 @@ private:
     std::optional<bool> follows(const Condition& condition) const;
     Range rangeOf(Register reg) const;
     void limit(Register reg, uint16_t comparison, uint16_t number);
-    Value resultOf(const Command& command) const;
 
     SortedMap<Register, Value> values;
     SortedMap<Register, Range> ranges;  // of what they held when the line began

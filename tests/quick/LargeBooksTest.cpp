@@ -55,6 +55,30 @@ std::string stepsOf(const Compiled& book, const std::string& area)
 
 }  // namespace
 
+// A script asks for 32 of them at once.
+TEST(LargeBooks, EachOfAThousandCasesIsSaidAfterAStepForThirtyTwoOfThem)
+{
+    constexpr int kCases = 1000;
+    const Compiled book =
+        compiled(projectWith("voice max lang de sex m\n" + select("zoo", kCases), {"zoo"}));
+    const gme::Game game = quick::optimise(book.game, book.inner);
+    NoticedPen pen(pen::gameForPen(game), {}, {});
+    for (unsigned tap = 0; tap < kCases; ++tap) {
+        pen.tap(book.areas.at("zoo"), SIZE_MAX);
+        ASSERT_EQ(pen.firstSound, 1 + tap / 32) << tap;
+    }
+}
+
+// A script is made for what follows each of the sounds, and some ask for the cases.
+TEST(LargeBooks, AThousandCasesNeedLittleMoreThanAThousandScripts)
+{
+    constexpr int kCases = 1000;
+    const Compiled book =
+        compiled(projectWith("voice max lang de sex m\n" + select("zoo", kCases), {"zoo"}));
+    EXPECT_GT(book.game.scripts.size(), 5 * kCases);
+    EXPECT_LT(quick::optimise(book.game, book.inner).scripts.size(), kCases + kCases / 16);
+}
+
 TEST(LargeBooks, OneHugeSelectDoesNotMakeTheOtherSubsSlower)
 {
     const Compiled without =

@@ -133,6 +133,22 @@ TEST(TestsOnEntry, WhatIsCalculatedIsAskedForInTheNextScript)
               "1: P(b)\n");
 }
 
+TEST(TestsOnEntry, TheNextScriptAsksForAVariableAndNotForItsCopy)
+{
+    EXPECT_EQ(withAll("  cow:\n"
+                      "  - J(asm1) $a *= 2\n"
+                      "  asm1:\n"
+                      "  - J(asm2) $_stk1 := $a\n"
+                      "  asm2:\n"
+                      "  - J(asm3) $_stk2 := 5\n"
+                      "  asm3:\n"
+                      "  - $_stk1 == $_stk2 ? P(a)\n"
+                      "  - P(b)\n"),
+              "cow: J(1) $a*=2\n"
+              "1: $a==5? P(a)\n"
+              "1: P(b)\n");
+}
+
 TEST(TestsOnEntry, ASumIsAskedForItsEqual)
 {
     EXPECT_EQ(withAll("  cow:\n"
