@@ -63,8 +63,8 @@ enum class Subject { book, pages };
 // A kind of advice.
 struct Hint
 {
-    // Small letters, digits and dashes. Its section in docs/hints.md bears it, and a comment with
-    // it quiets the hint on its line of the script.
+    // Small letters, digits and dashes. Its section in docs/manual/en/hints.md bears it, and a
+    // comment with it quiets the hint on its line of the script.
     const char* name;
     // What is said to the author, marked with QT_TRANSLATE_NOOP("Hints", ...).
     const char* words;
@@ -73,7 +73,7 @@ struct Hint
     void (*find)(const Book& book, Report& report);
 };
 
-// All of them, in the order of docs/hints.md.
+// All of them, in the order of docs/manual/en/hints.md.
 const std::vector<Hint>& allHints();
 
 // What is said about a finding, in the language that the program speaks.

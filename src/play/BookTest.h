@@ -47,7 +47,7 @@ struct TestCommand
     size_t other = 0;  // of a repeat the index of its end, of an end that of its repeat
 };
 
-// A test of a book, as the author writes it (docs/book-tests.md).
+// A test of a book, as the author writes it (docs/manual/en/book-tests.md).
 struct BookTest
 {
     std::vector<TestCommand> commands;

@@ -6,7 +6,7 @@
 #include <vector>
 
 // The script language in data: what a line can be, how it is written, what it means. The compiler,
-// the colours of the editor, its help and the tables of docs/script-language.md have their words
+// the colours of the editor, its help and the tables of docs/manual/en/script.md have their words
 // from here.
 
 // What a line of a script is.

@@ -9,8 +9,8 @@
 #include <utility>
 #include <vector>
 
-// Carries scripts out as docs/script-language.md tells it, statement by statement, without compiler
-// and pen. For scripts without mistakes only.
+// Carries scripts out as docs/manual/en/script.md tells it, statement by statement, without
+// compiler and pen. For scripts without mistakes only.
 class Interpreter
 {
 public:

@@ -20,7 +20,7 @@ using Rows = std::vector<std::string>;
 // The rows of the first table in the author's page whose headline begins with the words.
 Rows tableOfDocs(const std::string& headline)
 {
-    std::istringstream page(readFile(PLINKETT_SOURCE_DIR "/docs/script-language.md"));
+    std::istringstream page(readFile(PLINKETT_SOURCE_DIR "/docs/manual/en/script.md"));
     Rows rows;
     bool isInTable = false;
     for (std::string line; std::getline(page, line);) {
@@ -84,7 +84,7 @@ TEST(ScriptLanguage, ThePageOfTheLanguageHasItsOperators)
 
 TEST(ScriptLanguage, ThePageOfTheLanguageHasItsLimits)
 {
-    const std::string page = readFile(PLINKETT_SOURCE_DIR "/docs/script-language.md");
+    const std::string page = readFile(PLINKETT_SOURCE_DIR "/docs/manual/en/script.md");
     const std::string largest = std::to_string(ScriptLanguage::kLargestNumber);
     const std::string smallestOfVoice = std::to_string(ScriptLanguage::kSmallestVoiceNumber);
     const std::string largestOfVoice = std::to_string(ScriptLanguage::kLargestVoiceNumber);
@@ -106,30 +106,6 @@ TEST(ScriptLanguage, ThePageOfTheLanguageHasItsLimits)
             EXPECT_EQ(option.values, smallestOfVoice + " to " + largestOfVoice);
         }
     }
-}
-
-// But those that show how something is written, with "[".
-TEST(ScriptLanguage, EveryExampleOfItsPageCompiles)
-{
-    std::istringstream page(readFile(PLINKETT_SOURCE_DIR "/docs/script-language.md"));
-    std::string example;
-    bool isInside = false;
-    int count = 0;
-    for (std::string line; std::getline(page, line);) {
-        if (line != "```") {
-            example += isInside ? line + "\n" : "";
-            continue;
-        }
-        isInside = !isInside;
-        if (!isInside && example.find('[') == std::string::npos) {
-            const bool isWhole = example.find("end sub") != std::string::npos;
-            EXPECT_EQ(compile(isWhole ? example : "sub cow\n" + example + "end sub\n").messages, "")
-                << example;
-            ++count;
-        }
-        example = isInside ? "" : example;
-    }
-    EXPECT_EQ(count, 3);
 }
 
 TEST(ScriptLanguage, AllThatIsWrittenWithAKeywordIsOfAStatement)
