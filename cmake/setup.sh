@@ -6,6 +6,7 @@ build_packages=(
     qtbase5-dev qttools5-dev qttools5-dev-tools
     libyaml-dev pkg-config libtiff-dev libisal-dev libqpdf-dev
     libsdl2-dev libsndfile1-dev libebur128-dev
+    cmark-gfm
 )
 run_packages=(espeak-ng ffmpeg libqt5svg5 qttranslations5-l10n
     fonts-dejavu-core fonts-noto-color-emoji)

@@ -1,7 +1,6 @@
 #include "document/SampleBooks.h"
 
-#include "base/FileSystem.h"
-#include "base/PlatformFiles.h"
+#include "base/SharedFolder.h"
 #include "oid/OidProject.h"
 #include "oid/OpenProject.h"
 
@@ -69,13 +68,7 @@ bool copyFolder(const QDir& from, const QDir& to)
 
 QString samplesFolder()
 {
-    const QDir program(QString::fromStdString(Platform::nativePath(FileSystem::exeDirectory())));
-    for (const char* const place : {"../share/plinkett/samples", "../../share/plinkett/samples"}) {
-        if (program.exists(place)) {
-            return QDir::cleanPath(program.filePath(place));
-        }
-    }
-    return {};
+    return QString::fromStdString(sharedFolder("samples"));
 }
 
 QVector<SampleBook> sampleBooks(const QString& folder, const QStringList& languages)

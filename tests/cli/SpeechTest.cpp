@@ -1,4 +1,3 @@
-#include <cmath>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <set>
@@ -6,6 +5,7 @@
 #include "tests/cli/RunCli.h"
 #include "tests/helpers/Environment.h"
 #include "tests/helpers/FakeProgram.h"
+#include "tests/helpers/Sound.h"
 #include "tests/helpers/TemporaryFolder.h"
 
 namespace fs = std::filesystem;
@@ -19,27 +19,6 @@ const char* const kBook = "PRODUCT 901, \"Zoo\"\r\n"
                           "say \"Moo!\"\r\n"
                           "say eve Grün\r\n"
                           "end sub\r\n";
-
-// A tone of a second as a WAV file of 22050 Hz, 16 bits, mono.
-void writeTone(const std::string& path, double loudness = 0.1)
-{
-    constexpr int kRate = 22050;
-    const auto bytes = [](unsigned number, int count) {
-        std::string text;
-        for (int i = 0; i < count; ++i) {
-            text += static_cast<char>(number >> (8 * i) & 0xFF);
-        }
-        return text;
-    };
-    std::string samples;
-    for (int i = 0; i < kRate; ++i) {
-        samples += bytes(static_cast<unsigned>(32767 * loudness * std::sin(i * 0.2)), 2);
-    }
-    const auto size = static_cast<unsigned>(samples.size());
-    writeFile(path, "RIFF" + bytes(36 + size, 4) + "WAVEfmt " + bytes(16, 4) + bytes(1, 2) +
-                        bytes(1, 2) + bytes(kRate, 4) + bytes(2 * kRate, 4) + bytes(2, 2) +
-                        bytes(16, 2) + "data" + bytes(size, 4) + samples);
-}
 
 // A book with three texts (one of them the welcome), and stand-ins for the programs that speak.
 class Speech : public testing::Test

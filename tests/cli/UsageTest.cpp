@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
 
+#include <sstream>
+
 #include "tests/cli/RunCli.h"
+#include "tests/helpers/TemporaryFolder.h"
 
 using testing::HasSubstr;
 using testing::StartsWith;
@@ -27,9 +30,21 @@ TEST(Usage, HelpNamesEveryCommandOnStandardOutput)
           "\n  assemble FILE.yaml [OUT.gme] [-o OUT.gme] [--quick] [--no-date] [--latin1]\n",
           "\n  build PROJECT [--debug] [--quick] [--plain]\n", "\n  copy PROJECT\n",
           "\n  speech PROJECT list|speak|import FOLDER|tidy|even-out [--json] [--dry-run]\n",
-          "\n  play FILE.gme|PROJECT [--seed N] [--json]\n",
+          "\n  play FILE.gme|PROJECT [--seed N] [--json]\n", "\n  help\n",
           "\n  test PROJECT [FILE...] [--coverage] [--explore N] [--seed N]\n"}) {
         EXPECT_THAT(run.out, HasSubstr(usage));
+    }
+}
+
+TEST(Usage, HelpAsACommandTellsWhereTheManualLies)
+{
+    const ProgramRun run = cli({"help"});
+    EXPECT_EQ(run.status, 0);
+    std::istringstream lines(run.out);
+    for (const char* const words : {"<html lang=\"en\">", "<html lang=\"de\">"}) {
+        std::string file;
+        ASSERT_TRUE(std::getline(lines, file)) << run.out;
+        EXPECT_THAT(readFile(file), HasSubstr(words));
     }
 }
 

@@ -118,3 +118,23 @@ Sound readSound(const std::string& path)
     }
     return sound;
 }
+
+void writeTone(const std::string& path, double loudness)
+{
+    constexpr int kRate = 22050;
+    const auto bytes = [](unsigned number, int count) {
+        std::string text;
+        for (int i = 0; i < count; ++i) {
+            text += static_cast<char>(number >> (8 * i) & 0xFF);
+        }
+        return text;
+    };
+    std::string samples;
+    for (int i = 0; i < kRate; ++i) {
+        samples += bytes(static_cast<unsigned>(32767 * loudness * std::sin(i * 0.2)), 2);
+    }
+    const auto size = static_cast<unsigned>(samples.size());
+    writeFile(path, "RIFF" + bytes(36 + size, 4) + "WAVEfmt " + bytes(16, 4) + bytes(1, 2) +
+                        bytes(1, 2) + bytes(kRate, 4) + bytes(2 * kRate, 4) + bytes(2, 2) +
+                        bytes(16, 2) + "data" + bytes(size, 4) + samples);
+}

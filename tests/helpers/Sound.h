@@ -20,3 +20,6 @@ struct Sound
 
 // Throws when the file is no such WAV file.
 Sound readSound(const std::string& path);
+// Writes a tone of a second as a WAV file of 22050 Hz, 16 bits, mono. The loudness is that of its
+// peaks, up to 1.
+void writeTone(const std::string& path, double loudness = 0.1);

@@ -72,3 +72,10 @@ TEST_F(InstalledPlinkett, BringsTheSampleBooks)
     EXPECT_TRUE(std::filesystem::exists(farm + "/901-bkgnd0.jpg"));
     EXPECT_FALSE(std::filesystem::exists(farm + "/farmyard.svg"));
 }
+
+TEST_F(InstalledPlinkett, BringsTheManual)
+{
+    const ProgramRun run = runProgram(prefix.file("bin/plinkett-cli"), {"help"});
+    EXPECT_EQ(resultOf(run), "status 0\n" + prefix.file("share/plinkett/manual/en/index.html\n") +
+                                 prefix.file("share/plinkett/manual/de/index.html\n"));
+}

@@ -34,6 +34,7 @@ Command tileCommand();
 Command assembleCommand();
 Command buildCommand();
 Command copyCommand();
+Command helpCommand();
 Command playCommand();
 Command testCommand();
 Command speechCommand();

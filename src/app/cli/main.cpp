@@ -21,9 +21,10 @@ constexpr int kPatience = 5000;  // ms, with another program that makes the same
 
 std::vector<Command> commands()
 {
-    return {checkCommand(),   yamlCommand(),     saveCommand(), printCommand(), pdfCommand(),
-            symbolsCommand(), testPageCommand(), readCommand(), tileCommand(),  assembleCommand(),
-            buildCommand(),   copyCommand(),     playCommand(), testCommand(),  speechCommand()};
+    return {checkCommand(), yamlCommand(),     saveCommand(),     printCommand(),
+            pdfCommand(),   symbolsCommand(),  testPageCommand(), readCommand(),
+            tileCommand(),  assembleCommand(), buildCommand(),    copyCommand(),
+            playCommand(),  testCommand(),     speechCommand(),   helpCommand()};
 }
 
 // "  check PROJECT [--debug]", its summary, and a line for each option.
