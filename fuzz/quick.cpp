@@ -43,7 +43,7 @@ Passes anyPasses(fuzzing::Choices& choices)
     for (bool Passes::*const pass :
          {&Passes::followsJumps, &Passes::testsOnEntry, &Passes::doublesScripts,
           &Passes::carriesValues, &Passes::writesDirectly, &Passes::sumsAdditions,
-          &Passes::dropsDead, &Passes::sharesScripts, &Passes::endsAtOnce, &Passes::staysSmall}) {
+          &Passes::dropsDead, &Passes::sharesScripts, &Passes::staysSmall}) {
         passes.*pass = left % 2 == 0;
         left /= 2;
     }

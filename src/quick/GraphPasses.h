@@ -12,10 +12,6 @@ namespace quick {
 // sparing areas choose no branches on entry and are not doubled.
 Graph followSteps(const Graph& plain, const Passes& passes, const std::set<size_t>& sparing);
 
-// What is tapped and only calculates ends in its line, without a jump to the node that does
-// nothing, where nothing is going on.
-void endAtOnce(Graph& graph);
-
 // A line with more than the pen carries out becomes several.
 void splitLines(Graph& graph);
 

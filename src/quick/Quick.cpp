@@ -24,9 +24,6 @@ bool isLabel(const std::string& name)
 Graph changed(const Graph& plain, const Passes& passes, const std::set<size_t>& sparing)
 {
     Graph graph = followSteps(plain, passes, sparing);
-    if (passes.endsAtOnce) {
-        endAtOnce(graph);
-    }
     splitLines(graph);
     if (passes.dropsDead) {
         dropDead(graph);

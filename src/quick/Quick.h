@@ -19,7 +19,6 @@ struct Passes
     bool sumsAdditions = true;   // of the same register
     bool dropsDead = true;       // commands whose result nobody reads
     bool sharesScripts = true;   // scripts that do the same become one
-    bool endsAtOnce = true;      // a tap that only calculates needs no jump to end in
     bool staysSmall = true;      // less is done where the game file would become larger
 };
 

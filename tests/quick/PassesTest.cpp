@@ -11,7 +11,7 @@ namespace {
 
 quick::Passes none()
 {
-    return {false, false, false, false, false, false, false, false, false, false};
+    return {false, false, false, false, false, false, false, false, false};
 }
 
 // A pass with those that make the lines it works on.
@@ -30,7 +30,6 @@ std::string withAll(const std::string& scripts)
 {
     Passes passes;
     passes.staysSmall = false;  // games of a few lines
-    passes.endsAtOnce = false;
     return optimisedText(scripts, passes);
 }
 
@@ -494,95 +493,56 @@ std::string calculations(int count)
     return scripts;
 }
 
-std::string withEnds(const std::string& scripts)
-{
-    Passes passes;
-    passes.staysSmall = false;
-    return optimisedText(scripts, passes);
-}
-
 }  // namespace
 
-TEST(EndsAtOnce, WhatOnlyCalculatesTakesAStepForEightCommands)
+// The last step is empty where there is only one line of calculations: only a jump ends what is
+// playing.
+TEST(TapsThatPlayNothing, TakeAStepForEightCommandsAndTwoAtLeast)
 {
-    const std::map<int, std::ptrdiff_t> steps = {{1, 1}, {7, 1}, {8, 1}, {9, 2}, {16, 3}, {17, 3}};
+    const std::map<int, std::ptrdiff_t> steps = {{1, 1},  {2, 2},  {7, 2}, {8, 2},
+                                                 {15, 2}, {16, 3}, {22, 3}};
     for (const auto& [count, expected] : steps) {
-        const std::string text = withEnds(calculations(count));
+        const std::string text = withAll(calculations(count));
         EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), expected) << text;
     }
 }
 
-TEST(EndsAtOnce, ASoundAndWhatComesBehindItAreStillEnded)
+// As in the plain game, whatever has begun the sound: a script, the welcome or the sign for replay.
+TEST(TapsThatPlayNothing, EndASoundAndWhatComesBehindItWithAJump)
 {
-    EXPECT_EQ(withEnds("  cow:\n"
-                       "  - J(asm1) $a := 1\n"
-                       "  asm1:\n"
-                       "  - $b := 2\n"
-                       "  hen:\n"
-                       "  - J(asm2) P(a)\n"
-                       "  asm2:\n"
-                       "  - $c := 1\n"),
-              "cow: $_busy==1? J(1) $_busy:=0 $a:=1 $b:=2\n"
-              "cow: $a:=1 $b:=2\n"
-              "hen: J(2) P(a) $_busy:=1\n"
+    EXPECT_EQ(withAll("  cow:\n"
+                      "  - J(asm1) $a := 1\n"
+                      "  asm1:\n"
+                      "  - $b := 2\n"
+                      "  hen:\n"
+                      "  - J(asm2) P(a)\n"
+                      "  asm2:\n"
+                      "  - $c := 1\n"),
+              "cow: J(1) $a:=1 $b:=2\n"
+              "hen: J(2) P(a)\n"
               "1:\n"
-              "2: $_busy:=0 $c:=1\n");
-}
-
-// What was to come behind another sound is ended.
-TEST(EndsAtOnce, WhatPlaysWithoutAJumpStillEndsWithOne)
-{
-    EXPECT_EQ(withEnds("  cow:\n"
-                       "  - J(asm1) $a := 1\n"
-                       "  asm1:\n"
-                       "  - P(a)\n"),
-              "cow: J(1) P(a) $_busy:=1 $a:=1\n"
-              "1: $_busy:=0\n");
+              "2: $c:=1\n");
 }
 
 // A tap on the pig does not end what is to come.
-TEST(EndsAtOnce, WhatHasNoJumpLeavesWhatGoesOn)
+TEST(TapsThatPlayNothing, LeaveWhatGoesOnWhereThePlainGameHasNoJump)
 {
-    EXPECT_EQ(withEnds("  cow:\n"
-                       "  - J(asm1) $a := 1\n"
-                       "  asm1:\n"
-                       "  - $b := 2\n"
-                       "  hen:\n"
-                       "  - J(pig) P(a)\n"
-                       "  pig:\n"
-                       "  - $c := 1\n"),
-              "cow: $_busy==1? J(1) $_busy:=0 $a:=1 $b:=2\n"
-              "cow: $a:=1 $b:=2\n"
-              "hen: J(pig) P(a) $_busy:=1\n"
-              "pig: $c:=1\n"
-              "1:\n");
+    EXPECT_EQ(withAll("  hen:\n"
+                      "  - J(pig) P(a)\n"
+                      "  pig:\n"
+                      "  - $c := 1\n"),
+              "hen: J(pig) P(a)\n"
+              "pig: $c:=1\n");
 }
 
-TEST(EndsAtOnce, ACircleWithoutSoundIsStillEnded)
+// What was to come behind another sound is ended.
+TEST(TapsThatPlay, WithoutAJumpAtTheEndStillHaveOneWhereThePlainGameHas)
 {
-    EXPECT_EQ(withEnds("  cow:\n"
-                       "  - J(asm1) $a := 1\n"
-                       "  asm1:\n"
-                       "  - $b := 2\n"
-                       "  hen:\n"
-                       "  - J(asm2) $c += 1\n"
-                       "  asm2:\n"
-                       "  - J(hen) $c += $a\n"),
-              "cow: J(1) $a:=1 $b:=2\n"
-              "hen: J(hen) $c+=1 $c+=$a\n"
-              "1:\n");
-}
-
-TEST(EndsAtOnce, WhatIsKeptMayPlayAnything)
-{
-    EXPECT_EQ(withEnds("  cow:\n"
-                       "  - J(asm1) $a := 1\n"
-                       "  asm1:\n"
-                       "  - $b := 2\n"
-                       "  hen:\n"
-                       "  - T($c, 5) P(a) J(cow)\n"),
-              "cow: J(1) $a:=1 $b:=2\n"
-              "hen: J(cow) P(a) T($c,5)\n"
+    EXPECT_EQ(withAll("  cow:\n"
+                      "  - J(asm1) $a := 1\n"
+                      "  asm1:\n"
+                      "  - P(a)\n"),
+              "cow: J(1) P(a) $a:=1\n"
               "1:\n");
 }
 

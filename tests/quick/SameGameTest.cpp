@@ -61,7 +61,7 @@ struct Tap
 struct Heard
 {
     std::string text;
-    int cutOff = 0;  // sounds of scripts
+    int cutOff = 0;  // sounds since the pen was made, the welcome and what is repeated included
     bool isEndless = false;
     uint64_t steps = 0;
 };
@@ -110,13 +110,8 @@ std::vector<Heard> play(const gme::Game& game, const gme::Game& plain, const std
     std::unique_ptr<NoticedPen> pen = newPen();
     std::vector<Heard> result;
     for (size_t i = 0; i < taps.size(); ++i) {
-        const int cutOffBefore = pen->cutOff;
         pen->tap(taps[i].code, taps[i].sounds);
-        // The welcome and what is repeated may go on where a script only calculates.
-        const bool isOfScript = i == 0 || (taps[i - 1].code != plain.codes.replay &&
-                                           taps[i - 1].code != plain.productId);
-        const int cutOff = isOfScript ? pen->cutOff - cutOffBefore : 0;
-        result.push_back({pen->text, cutOff, pen->isEndless, pen->steps()});
+        result.push_back({pen->text, pen->cutOff, pen->isEndless, pen->steps()});
         if (before != nullptr ? before->at(i).isEndless || pen->isEndless : pen->isEndless) {
             pen = newPen();
         }
@@ -209,7 +204,7 @@ Tally compareAll(const CompareOne& compareOne, const std::vector<Passes>& ways, 
 
 Passes none()
 {
-    return {false, false, false, false, false, false, false, false, false, false};
+    return {false, false, false, false, false, false, false, false, false};
 }
 
 const std::vector<bool Passes::*>& allPasses()
@@ -217,7 +212,7 @@ const std::vector<bool Passes::*>& allPasses()
     static const std::vector<bool Passes::*> all = {
         &Passes::followsJumps,  &Passes::testsOnEntry,   &Passes::doublesScripts,
         &Passes::carriesValues, &Passes::writesDirectly, &Passes::sumsAdditions,
-        &Passes::dropsDead,     &Passes::sharesScripts,  &Passes::endsAtOnce};
+        &Passes::dropsDead,     &Passes::sharesScripts};
     return all;
 }
 
