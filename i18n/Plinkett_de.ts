@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Plinkett</source>
+        <translation>Über Plinkett</translation>
+    </message>
+    <message>
+        <source>Makes printed books and boards talk.</source>
+        <translation>Bringt gedruckte Bücher und Tafeln zum Sprechen.</translation>
+    </message>
+    <message>
+        <source>Licence: %1</source>
+        <translation>Lizenz: %1</translation>
+    </message>
+    <message>
+        <source>Libraries and their licences:</source>
+        <translation>Bibliotheken und ihre Lizenzen:</translation>
+    </message>
+    <message>
+        <source>Tells the version and the licences</source>
+        <translation>Sagt die Version und die Lizenzen</translation>
+    </message>
+</context>
+<context>
     <name>AreaCommands</name>
     <message>
         <source>Cu&amp;t</source>

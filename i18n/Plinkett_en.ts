@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Plinkett</source>
+        <translation>About Plinkett</translation>
+    </message>
+    <message>
+        <source>Makes printed books and boards talk.</source>
+        <translation>Makes printed books and boards talk.</translation>
+    </message>
+    <message>
+        <source>Licence: %1</source>
+        <translation>Licence: %1</translation>
+    </message>
+    <message>
+        <source>Libraries and their licences:</source>
+        <translation>Libraries and their licences:</translation>
+    </message>
+    <message>
+        <source>Tells the version and the licences</source>
+        <translation>Tells the version and the licences</translation>
+    </message>
+</context>
+<context>
     <name>AreaCommands</name>
     <message>
         <source>Cu&amp;t</source>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Plinkett</source>
+        <translation>À propos de Plinkett</translation>
+    </message>
+    <message>
+        <source>Makes printed books and boards talk.</source>
+        <translation>Fait parler des livres et des plateaux imprimés.</translation>
+    </message>
+    <message>
+        <source>Licence: %1</source>
+        <translation>Licence : %1</translation>
+    </message>
+    <message>
+        <source>Libraries and their licences:</source>
+        <translation>Bibliothèques et leurs licences :</translation>
+    </message>
+    <message>
+        <source>Tells the version and the licences</source>
+        <translation>Indique la version et les licences</translation>
+    </message>
+</context>
+<context>
     <name>AreaCommands</name>
     <message>
         <source>Cu&amp;t</source>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Plinkett</source>
+        <translation>Over Plinkett</translation>
+    </message>
+    <message>
+        <source>Makes printed books and boards talk.</source>
+        <translation>Laat gedrukte boeken en borden praten.</translation>
+    </message>
+    <message>
+        <source>Licence: %1</source>
+        <translation>Licentie: %1</translation>
+    </message>
+    <message>
+        <source>Libraries and their licences:</source>
+        <translation>Bibliotheken en hun licenties:</translation>
+    </message>
+    <message>
+        <source>Tells the version and the licences</source>
+        <translation>Toont de versie en de licenties</translation>
+    </message>
+</context>
+<context>
     <name>AreaCommands</name>
     <message>
         <source>Cu&amp;t</source>

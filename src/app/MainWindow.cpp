@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/AboutDialog.h"
 #include "app/AreaCommands.h"
 #include "app/AreaTools.h"
 #include "app/AreasDock.h"
@@ -92,6 +93,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     preparePrinting();
     prepareBuilding();
     new ProblemsGuide(*this, *ui, document);
+    AboutDialog::addButton(*statusBar());
     new ToolBarFit(this);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
         if (focused != nullptr && focused == windowHandle()) {

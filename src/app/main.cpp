@@ -1,13 +1,21 @@
 #include "app/MainWindow.h"
 #include "app/ScreenFit.h"
 #include "app/Translations.h"
+#include "app/WindowUsage.h"
 
 #include <QApplication>
 #include <QLocale>
 #include <QSettings>
 
+#include <cstdio>
+
 int main(int argc, char* argv[])
 {
+    // Also where there is no display.
+    if (const auto answer = answerWithoutWindow(argc > 1 ? argv[1] : "")) {
+        fputs(answer->c_str(), stdout);
+        return 0;
+    }
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);

@@ -282,30 +282,43 @@ private slots:
         QCOMPARE(w.script(), "");
     }
 
-    // From the tabs through the controls of the tab in front, and round again.
+    // From the tabs through the controls of the tab in front and of the status bar, and round
+    // again.
     void everyControlIsReachedByTab_data()
     {
         QTest::addColumn<QStringList>("order");
         const QString tabs = "qt_tabwidget_tabbar";
+        const QString about = "btAbout";
         QTest::newRow("Project") << QStringList{
             tabs,        "txProjectName", "txProjectId",   "txProjPaperWidth", "txProjPaperHeight",
-            "txProjDPI", "btSizeForAll",  "btCreateImage", "btCreatePdf",      tabs};
-        QTest::newRow("Areas") << QStringList{tabs,          "btPreviousPicture", "btNextPicture",
-                                              "btLoadImage", "btDeletePicture",   "btPickPoly",
-                                              "btAddPoly",   "btDelPoly",         "txPolyName",
-                                              "txOidOfArea", "btEditPolyCode",    "polyArea",
+            "txProjDPI", "btSizeForAll",  "btCreateImage", "btCreatePdf",      about,
+            tabs};
+        QTest::newRow("Areas") << QStringList{tabs,
+                                              "btPreviousPicture",
+                                              "btNextPicture",
+                                              "btLoadImage",
+                                              "btDeletePicture",
+                                              "btPickPoly",
+                                              "btAddPoly",
+                                              "btDelPoly",
+                                              "txPolyName",
+                                              "txOidOfArea",
+                                              "btEditPolyCode",
+                                              "polyArea",
+                                              about,
                                               tabs};
         QTest::newRow("Script") << QStringList{tabs, "inlay"};
         QTest::newRow("Build") << QStringList{
-            tabs, "btBuild", "chDebugMode", "btCopyToPen", "chQuickAnswers", "txConsole", tabs};
+            tabs,        "btBuild", "chDebugMode", "btCopyToPen", "chQuickAnswers",
+            "txConsole", about,     tabs};
         QTest::newRow("Try") << QStringList{
             tabs,          "btStart",   "btTryAgain",      "btTryStop",    "btTryFresh",
             "btTryStep",   "btTryGoOn", "btTryBreakpoint", "btTryRecord",  "btTryWindow",
             "slTryVolume", "tryPage",   "tryConversation", "tryVariables", "tryScript",
-            tabs};
+            about,         tabs};
         QTest::newRow("Speech") << QStringList{
-            tabs, "txSpeechSearch", "cbSpeechState", "cbSpeechVoice", "speechTable", "btTryVoices",
-            tabs};
+            tabs,          "txSpeechSearch", "cbSpeechState", "cbSpeechVoice",
+            "speechTable", "btTryVoices",    about,           tabs};
     }
 
     void everyControlIsReachedByTab()

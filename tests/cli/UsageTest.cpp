@@ -80,11 +80,14 @@ TEST(Usage, AGameIsNotQuickAndPlain)
               usageError("--quick and --plain exclude each other"));
 }
 
-TEST(Usage, VersionNamesProgramAndNumber)
+TEST(Usage, VersionNamesProgramNumberQtAndLicences)
 {
     const ProgramRun run = cli({"--version"});
     EXPECT_EQ(run.status, 0);
-    EXPECT_THAT(run.out, testing::MatchesRegex("plinkett-cli [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+    EXPECT_THAT(run.out, testing::ContainsRegex("^plinkett-cli [0-9]+\\.[0-9]+\\.[0-9]+\n"
+                                                "Qt 5\\.[0-9]+\\.[0-9]+\n"
+                                                "Licence: MIT\n"
+                                                "Libraries and their licences:\n"));
 }
 
 TEST(Usage, ACommandIsNeeded)
@@ -163,4 +166,21 @@ TEST(Usage, TilesHaveASizeThatFitsIntoMemory)
             resultOf(cli({"tile", "5", "-o", "x", "--size", size})),
             usageError("PIXELS must be a number from 1 to 16384, not '" + std::string(size) + "'"));
     }
+}
+
+// What is told about a command, option by option, is told in the manual page, too.
+TEST(Usage, TheManualPageTellsWhatTheHelpTells)
+{
+    const std::string help = cli({"save", "--help"}).out;
+    const ProgramRun run = cli({"--man"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.out, StartsWith(".TH PLINKETT\\-CLI 1 \"\" \"Plinkett "));
+    EXPECT_THAT(run.out,
+                HasSubstr("\n.SS \"save PROJECT \\-o FILE\"\n"
+                          ".PP\n"
+                          "Reads the project and writes it again, as the window saves it.\n"
+                          ".TP\n"
+                          ".B \\-o FILE\n"
+                          "the file to write\n"));
+    EXPECT_THAT(run.out, HasSubstr("\n.SH \"EXIT STATUS\"\n"));
 }

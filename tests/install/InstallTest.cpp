@@ -79,3 +79,23 @@ TEST_F(InstalledPlinkett, BringsTheManual)
     EXPECT_EQ(resultOf(run), "status 0\n" + prefix.file("share/plinkett/manual/en/index.html\n") +
                                  prefix.file("share/plinkett/manual/de/index.html\n"));
 }
+
+TEST_F(InstalledPlinkett, TellsItsVersionAndItsHelpWithoutADisplay)
+{
+    const std::vector<std::string> noDisplay = {
+        "DISPLAY=", "WAYLAND_DISPLAY=", "QT_QPA_PLATFORM=xcb"};
+    const std::string version = runProgram(prefix.file("bin/plinkett-cli"), {"--version"}).out;
+    const std::string ours = "plinkett" + version.substr(std::string("plinkett-cli").size());
+    EXPECT_EQ(resultOf(runProgram(prefix.file("bin/plinkett"), {"--version"}, noDisplay)),
+              "status 0\n" + ours);
+    EXPECT_EQ(resultOf(runProgram(prefix.file("bin/plinkett"), {"--help"}, noDisplay)),
+              "status 0\n"
+              "Usage: plinkett [PROJECT.oidpro]\n"
+              "\n"
+              "Makes printed books and boards talk. Opens its window, and the project if one is "
+              "named.\n"
+              "\n"
+              "  --help       tells this\n"
+              "  --version    tells the version, that of Qt, and the licences\n"
+              "  --man        prints the manual page, for man\n");
+}

@@ -1,22 +1,16 @@
 #include <algorithm>
 #include <cstdio>
 #include <new>
+#include <optional>
 
+#include "app/cli/CommandLineHelp.h"
 #include "app/cli/Commands.h"
+#include "base/AboutProgram.h"
 #include "base/PlatformProcess.h"
 #include "oid/OutputLock.h"
 
 namespace {
 
-constexpr char kHeadline[] = "Usage: plinkett-cli COMMAND ARGUMENTS\n"
-                             "       plinkett-cli --help | --version\n"
-                             "\n"
-                             "Makes games for the pen and print images from project files.\n"
-                             "\n"
-                             "Commands:\n";
-constexpr char kFootline[] =
-    "Exit status: 0 fine, 1 the project cannot be opened or has errors or\n"
-    "a file cannot be written, 2 usage error.\n";
 constexpr int kPatience = 5000;  // ms, with another program that makes the same files
 
 std::vector<Command> commands()
@@ -27,35 +21,28 @@ std::vector<Command> commands()
             playCommand(),  testCommand(),     speechCommand(),   helpCommand()};
 }
 
-// "  check PROJECT [--debug]", its summary, and a line for each option.
-std::string helpOf(const Command& command)
+int print(const std::string& text)
 {
-    std::string usage = std::string("  ") + command.name;
-    if (*command.operand != '\0') {
-        usage += std::string(" ") + command.operand;
-    }
-    std::string details = std::string("      ") + command.summary + "\n";
-    for (const Option& option : command.options) {
-        std::string form = option.name;
-        if (option.value != nullptr) {
-            form += std::string(" ") + option.value;
-        }
-        usage += option.required ? " " + form : " [" + form + "]";
-        form.resize(std::max<std::size_t>(form.size(), 14), ' ');
-        details += "      " + form + "  " + option.help + "\n";
-    }
-    return usage + "\n" + details + "\n";
-}
-
-int printHelp()
-{
-    std::string text = kHeadline;
-    for (const Command& command : commands()) {
-        text += helpOf(command);
-    }
-    text += kFootline;
     fputs(text.c_str(), stdout);
     return kFine;
+}
+
+// What an option of the program itself prints; nothing for other words.
+std::optional<std::string> answerTo(const std::string& option)
+{
+    if (option == "--help") {
+        return helpText(commands());
+    }
+    if (option == "--version") {
+        return versionText("plinkett-cli");
+    }
+    if (option == "--man") {
+        return manPage(commands());
+    }
+    if (option == "--completion") {
+        return bashCompletion(commands());
+    }
+    return {};
 }
 
 bool asksForHelp(const std::vector<std::string>& words)
@@ -82,8 +69,7 @@ std::string mistakeIn(const Arguments& arguments, const Command& command)
 int runCommand(const Command& command, const std::vector<std::string>& words)
 {
     if (asksForHelp(words)) {
-        fputs(("Usage: plinkett-cli\n" + helpOf(command)).c_str(), stdout);
-        return kFine;
+        return print("Usage: plinkett-cli\n" + helpOf(command));
     }
     const Arguments arguments = parseArguments(words, command.options);
     const std::string mistake = mistakeIn(arguments, command);
@@ -99,12 +85,8 @@ int runProgram(const std::vector<std::string>& words)
     if (words.empty()) {
         return usageError("which command?");
     }
-    if (words[0] == "--help") {
-        return printHelp();
-    }
-    if (words[0] == "--version") {
-        puts("plinkett-cli " PLINKETT_VERSION);
-        return kFine;
+    if (const std::optional<std::string> answer = answerTo(words[0])) {
+        return print(*answer);
     }
     for (const Command& command : commands()) {
         if (words[0] == command.name) {
