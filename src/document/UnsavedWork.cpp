@@ -1,6 +1,7 @@
 #include "document/UnsavedWork.h"
 
 #include <chrono>
+#include <new>
 #include <utility>
 
 UnsavedWork::UnsavedWork(Source workSource) : source(std::move(workSource))
@@ -32,8 +33,10 @@ bool UnsavedWork::keep()
     if (seen == now) {
         return !failing;
     }
-    seen = now;
-    startWriting();
+    seen.reset();  // so that it is tried again also when this throws
+    if (startWriting()) {
+        seen = now;
+    }
     return !failing;
 }
 
@@ -89,7 +92,7 @@ bool UnsavedWork::finishWriting(bool wait)
 
 // On another thread: of a large project this takes long enough to be felt while typing, and so do
 // slow disks.
-void UnsavedWork::startWriting()
+bool UnsavedWork::startWriting()
 {
     if (copy == nullptr) {
         copy = RecoveryFile::create(folder.path(), path);
@@ -97,8 +100,7 @@ void UnsavedWork::startWriting()
     }
     if (copy == nullptr) {
         failing = true;
-        seen.reset();
-        return;
+        return false;
     }
     RecoveryHead head;
     head.projectPath = path;
@@ -110,16 +112,19 @@ void UnsavedWork::startWriting()
                          [head, project = source.project(), hash = savedHash, file = copy->path()] {
                              return write(project, head, hash, file);
                          });
+    return true;
 }
 
 UnsavedWork::Outcome UnsavedWork::write(const Oid::OidProject& project, const RecoveryHead& head,
                                         const QByteArray& savedHash, const QString& file)
-{
+try {
     const QByteArray bytes = recoveryCopy(project, head, savedHash);
     if (bytes.isEmpty()) {
         return Outcome::saved;
     }
     return writeWhole(file, bytes) ? Outcome::written : Outcome::failed;
+} catch (const std::bad_alloc&) {
+    return Outcome::failed;
 }
 
 void UnsavedWork::removeCopy()

@@ -36,7 +36,8 @@ public:
     void isSaved(const std::string& path);
 
     // To be called every few seconds. Writes a copy if anything has changed; that goes on while the
-    // work does. False while copies cannot be written.
+    // work does. False while copies cannot be written. When it throws std::bad_alloc, the next call
+    // tries again.
     bool keep();
     // The same, and waits until it is written.
     bool keepNow();
@@ -55,7 +56,7 @@ private:
     static Outcome write(const Oid::OidProject& project, const RecoveryHead& head,
                          const QByteArray& savedHash, const QString& file);
     bool finishWriting(bool wait);
-    void startWriting();
+    bool startWriting();
     void removeCopy();
 
     Source source;

@@ -36,10 +36,15 @@ std::string snapshot(const Document& document)
 
 std::string savedBytes(Document& document)
 {
+    return savedBytes(document.projectRecord());
+}
+
+std::string savedBytes(Oid::OidProject& project)
+{
     const TemporaryFolder folder;
-    const std::string path = document.project().projectPath;
+    const std::string path = project.projectPath;
     const std::string file = folder.file("saved.oidpro");
-    document.projectRecord().save(file);
-    document.projectRecord().projectPath = path;
+    project.save(file);
+    project.projectPath = path;
     return readFile(file);
 }

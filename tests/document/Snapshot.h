@@ -10,3 +10,4 @@ std::string snapshot(const Document& document);
 
 // The project file that Save would write now.
 std::string savedBytes(Document& document);
+std::string savedBytes(Oid::OidProject& project);
