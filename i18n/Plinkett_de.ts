@@ -729,6 +729,14 @@
         <translation>Es wurde kein Stift gefunden: ein Stift ist ein Laufwerk mit der Datei %1</translation>
     </message>
     <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>The manual cannot be shown: it is not installed, or there is no browser.</source>
+        <translation>Das Handbuch lässt sich nicht zeigen: Es ist nicht installiert, oder es gibt keinen Browser.</translation>
+    </message>
+    <message>
         <source>Opened: %1</source>
         <translation>Geöffnet: %1</translation>
     </message>
@@ -1597,6 +1605,18 @@
         <source>Quick fix</source>
         <translation>Abhilfe</translation>
     </message>
+    <message>
+        <source>Why?</source>
+        <translation>Warum?</translation>
+    </message>
+    <message>
+        <source>Opens the manual at what is told about this (F1)</source>
+        <translation>Öffnet das Handbuch bei dem, was dazu gesagt ist (F1)</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
 </context>
 <context>
     <name>ProblemsDock</name>
@@ -1605,8 +1625,8 @@
         <translation>Probleme</translation>
     </message>
     <message>
-        <source>Enter goes to the place, Alt+Enter puts right what can be put right</source>
-        <translation>Eingabe führt zur Stelle, Alt+Eingabe behebt, was sich beheben lässt</translation>
+        <source>Enter goes to the place, Alt+Enter puts right what can be put right, F1 tells why</source>
+        <translation>Eingabe führt zur Stelle, Alt+Eingabe behebt, was sich beheben lässt, F1 sagt warum</translation>
     </message>
     <message>
         <source>Shows or folds the list of problems. F8 goes to the next one in the script, Shift+F8 to the one before.</source>

@@ -729,6 +729,14 @@
         <translation>No pen was found: a pen is a drive that holds the file %1</translation>
     </message>
     <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>The manual cannot be shown: it is not installed, or there is no browser.</source>
+        <translation>The manual cannot be shown: it is not installed, or there is no browser.</translation>
+    </message>
+    <message>
         <source>Opened: %1</source>
         <translation>Opened: %1</translation>
     </message>
@@ -1597,6 +1605,18 @@
         <source>Quick fix</source>
         <translation>Quick fix</translation>
     </message>
+    <message>
+        <source>Why?</source>
+        <translation>Why?</translation>
+    </message>
+    <message>
+        <source>Opens the manual at what is told about this (F1)</source>
+        <translation>Opens the manual at what is told about this (F1)</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
 </context>
 <context>
     <name>ProblemsDock</name>
@@ -1605,8 +1625,8 @@
         <translation>Problems</translation>
     </message>
     <message>
-        <source>Enter goes to the place, Alt+Enter puts right what can be put right</source>
-        <translation>Enter goes to the place, Alt+Enter puts right what can be put right</translation>
+        <source>Enter goes to the place, Alt+Enter puts right what can be put right, F1 tells why</source>
+        <translation>Enter goes to the place, Alt+Enter puts right what can be put right, F1 tells why</translation>
     </message>
     <message>
         <source>Shows or folds the list of problems. F8 goes to the next one in the script, Shift+F8 to the one before.</source>

@@ -729,6 +729,14 @@
         <translation>Aucun stylo n'a été trouvé : un stylo est un lecteur qui contient le fichier %1</translation>
     </message>
     <message>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>The manual cannot be shown: it is not installed, or there is no browser.</source>
+        <translation>Le manuel ne peut pas être affiché : il n’est pas installé, ou il n’y a pas de navigateur.</translation>
+    </message>
+    <message>
         <source>Opened: %1</source>
         <translation>Ouvert : %1</translation>
     </message>
@@ -1597,6 +1605,18 @@
         <source>Quick fix</source>
         <translation>Correction</translation>
     </message>
+    <message>
+        <source>Why?</source>
+        <translation>Pourquoi ?</translation>
+    </message>
+    <message>
+        <source>Opens the manual at what is told about this (F1)</source>
+        <translation>Ouvre le manuel à ce qui est dit à ce sujet (F1)</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
 </context>
 <context>
     <name>ProblemsDock</name>
@@ -1605,8 +1625,8 @@
         <translation>Problèmes</translation>
     </message>
     <message>
-        <source>Enter goes to the place, Alt+Enter puts right what can be put right</source>
-        <translation>Entrée mène à l&apos;endroit, Alt+Entrée corrige ce qui peut l&apos;être</translation>
+        <source>Enter goes to the place, Alt+Enter puts right what can be put right, F1 tells why</source>
+        <translation>Entrée mène à l&apos;endroit, Alt+Entrée corrige ce qui peut l&apos;être, F1 dit pourquoi</translation>
     </message>
     <message>
         <source>Shows or folds the list of problems. F8 goes to the next one in the script, Shift+F8 to the one before.</source>

@@ -729,6 +729,14 @@
         <translation>Er is geen pen gevonden: een pen is een station met het bestand %1</translation>
     </message>
     <message>
+        <source>Manual</source>
+        <translation>Handleiding</translation>
+    </message>
+    <message>
+        <source>The manual cannot be shown: it is not installed, or there is no browser.</source>
+        <translation>De handleiding kan niet worden getoond: ze is niet geïnstalleerd, of er is geen browser.</translation>
+    </message>
+    <message>
         <source>Opened: %1</source>
         <translation>Geopend: %1</translation>
     </message>
@@ -1597,6 +1605,18 @@
         <source>Quick fix</source>
         <translation>Oplossing</translation>
     </message>
+    <message>
+        <source>Why?</source>
+        <translation>Waarom?</translation>
+    </message>
+    <message>
+        <source>Opens the manual at what is told about this (F1)</source>
+        <translation>Opent de handleiding bij wat hierover wordt gezegd (F1)</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Handleiding</translation>
+    </message>
 </context>
 <context>
     <name>ProblemsDock</name>
@@ -1605,8 +1625,8 @@
         <translation>Problemen</translation>
     </message>
     <message>
-        <source>Enter goes to the place, Alt+Enter puts right what can be put right</source>
-        <translation>Enter gaat naar de plaats, Alt+Enter verhelpt wat te verhelpen is</translation>
+        <source>Enter goes to the place, Alt+Enter puts right what can be put right, F1 tells why</source>
+        <translation>Enter gaat naar de plaats, Alt+Enter verhelpt wat te verhelpen is, F1 zegt waarom</translation>
     </message>
     <message>
         <source>Shows or folds the list of problems. F8 goes to the next one in the script, Shift+F8 to the one before.</source>

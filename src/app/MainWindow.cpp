@@ -92,7 +92,9 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     prepareSpeech();
     preparePrinting();
     prepareBuilding();
-    new ProblemsGuide(*this, *ui, document);
+    auto* const problems = new ProblemsGuide(*this, *ui, document);
+    connect(problems, &ProblemsGuide::manualAsked, this, &MainWindow::showManual);
+    prepareManual();
     AboutDialog::addButton(*statusBar());
     new ToolBarFit(this);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {

@@ -127,6 +127,12 @@ private:
     // MainWindowSpeech.cpp: the tab with the audio files of the texts
     void prepareSpeech();
 
+    // MainWindowManual.cpp: F1
+    void prepareManual();
+    // Where the manual tells of the tab that is shown.
+    QString placeOfTab() const;
+    void showManual(const QString& place);
+
     // Points all messages of the project at the console.
     void printIntoConsole();
 

@@ -111,8 +111,10 @@ QString ProblemList::textOf(const Problem& problem, int column)
                                                QString::fromStdString(diagnostic.subject));
     case words:
         return problem.words;
-    default:
+    case fix:
         return problem.fixWords;
+    default:
+        return tr("Why?");
     }
 }
 
@@ -128,12 +130,13 @@ QVariant ProblemList::data(const QModelIndex& index, int role) const
     case Qt::AccessibleTextRole:  // one hears the first column of the row that one comes to
         return index.column() == kind ? sentenceOf(problem) : textOf(problem, index.column());
     case Qt::ToolTipRole:
-        return textOf(problem, index.column());
+        return index.column() == why ? tr("Opens the manual at what is told about this (F1)")
+                                     : textOf(problem, index.column());
     case Qt::DecorationRole:
         return index.column() == kind ? iconOf(problem.diagnostic.severity) : QVariant();
     case Qt::FontRole: {
         QFont font = QApplication::font();
-        font.setUnderline(index.column() == fix);  // it can be clicked
+        font.setUnderline(index.column() >= fix);  // it can be clicked
         return font;
     }
     default:
@@ -155,7 +158,9 @@ QVariant ProblemList::headerData(int section, Qt::Orientation orientation, int r
         return tr("Area");
     case words:
         return tr("Problem");
-    default:
+    case fix:
         return tr("Quick fix");
+    default:
+        return tr("Manual");
     }
 }

@@ -11,7 +11,7 @@ class ProblemList : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { kind, line, area, words, fix, columnCountOfAll };
+    enum Column { kind, line, area, words, fix, why, columnCountOfAll };
 
     explicit ProblemList(QObject* parent = nullptr);
 

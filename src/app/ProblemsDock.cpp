@@ -41,7 +41,7 @@ void ProblemsDock::prepareView()
     view->setObjectName("problemsView");
     view->setAccessibleName(tr("Problems"));
     view->setAccessibleDescription(
-        tr("Enter goes to the place, Alt+Enter puts right what can be put right"));
+        tr("Enter goes to the place, Alt+Enter puts right what can be put right, F1 tells why"));
     view->setModel(&list);
     view->setRootIsDecorated(false);
     view->setUniformRowHeights(true);
@@ -55,7 +55,14 @@ void ProblemsDock::prepareView()
     header->setSectionResizeMode(ProblemList::words, QHeaderView::Stretch);
     view->installEventFilter(this);
     connect(view, &QTreeView::clicked, this, [this](const QModelIndex& index) {
-        index.column() == ProblemList::fix ? askForFix(index) : choose(index);
+        switch (index.column()) {
+        case ProblemList::fix:
+            return askForFix(index);
+        case ProblemList::why:
+            return askForReason(index);
+        default:
+            return choose(index);
+        }
     });
     setWidget(view);
 }
@@ -184,10 +191,21 @@ void ProblemsDock::fold(bool folded)
 
 bool ProblemsDock::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched != view || event->type() != QEvent::KeyPress) {
+    const bool isOverride = event->type() == QEvent::ShortcutOverride;
+    if (watched != view || (event->type() != QEvent::KeyPress && !isOverride)) {
         return QDockWidget::eventFilter(watched, event);
     }
     const auto* const key = static_cast<QKeyEvent*>(event);
+    if (key->key() == Qt::Key_F1) {  // here it is not that of the window
+        event->accept();
+        if (!isOverride) {
+            askForReason(view->currentIndex());
+        }
+        return true;
+    }
+    if (isOverride) {
+        return false;
+    }
     if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter) {
         return false;
     }
@@ -213,5 +231,12 @@ void ProblemsDock::askForFix(const QModelIndex& index)
     const Problem problem = list.all()[static_cast<std::size_t>(index.row())];
     if (problem.fix) {
         emit fixAsked(problem);
+    }
+}
+
+void ProblemsDock::askForReason(const QModelIndex& index)
+{
+    if (index.isValid()) {
+        emit reasonAsked(list.all()[static_cast<std::size_t>(index.row())]);
     }
 }

@@ -31,6 +31,8 @@ signals:
     // The author wants to see the place, or have the quick fix, of the problem.
     void chosen(const Problem& problem);
     void fixAsked(const Problem& problem);
+    // The author wants to know more about it.
+    void reasonAsked(const Problem& problem);
     // Folded or unfolded, so that there is another room above.
     void wasFolded();
 
@@ -48,6 +50,7 @@ private:
     void foldAsNeeded();
     void choose(const QModelIndex& index);
     void askForFix(const QModelIndex& index);
+    void askForReason(const QModelIndex& index);
 
     ProblemList list;
     QTreeView* view;

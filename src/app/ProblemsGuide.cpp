@@ -2,6 +2,7 @@
 
 #include "app/AreasDock.h"
 #include "app/BookSourceOf.h"
+#include "app/OpenManual.h"
 #include "app/ProblemsDock.h"
 #include "document/Document.h"
 #include "ui_MainWindow.h"
@@ -108,6 +109,9 @@ void ProblemsGuide::watch()
     tabChanged();
     connect(dock, &ProblemsDock::chosen, this, &ProblemsGuide::goTo);
     connect(dock, &ProblemsDock::fixAsked, this, &ProblemsGuide::putRight);
+    connect(dock, &ProblemsDock::reasonAsked, this, [this](const Problem& problem) {
+        emit manualAsked(placeInManual(problem.diagnostic));
+    });
     connect(dock, &ProblemsDock::wasFolded, this, &ProblemsGuide::keepCaretInView,
             Qt::QueuedConnection);  // when all have their places
 }

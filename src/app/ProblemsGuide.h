@@ -23,6 +23,10 @@ public:
     // They outlive it; it is a child of the window, which has the list of areas and gets a dock.
     ProblemsGuide(QMainWindow& mainWindow, Ui::MainWindow& mainForm, Document& mainDocument);
 
+signals:
+    // The author wants to know more: where the manual tells it.
+    void manualAsked(const QString& place);
+
 private:
     void watch();
     void show(const Problems& problems);

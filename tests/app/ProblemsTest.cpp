@@ -49,7 +49,7 @@ public:
         QStringList lines;
         for (int row = 0; row < model.rowCount(); ++row) {
             QStringList columns;
-            for (int column = 0; column < model.columnCount(); ++column) {
+            for (int column = 0; column <= ProblemList::fix; ++column) {
                 columns << model.index(row, column).data().toString();
             }
             lines << columns.join('|');
