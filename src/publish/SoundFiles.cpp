@@ -5,9 +5,12 @@
 #include <vector>
 
 #include "base/FileSystem.h"
+#include "base/InputFile.h"
 #include "base/PlatformFiles.h"
+#include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
 #include "programs/ProcessRunner.h"
+#include "recording/VoiceFile.h"
 #include "speech/AudioFile.h"
 #include "speech/Engines.h"
 #include "speech/SpeechIndex.h"
@@ -70,9 +73,10 @@ private:
     std::list<Making> missing() const;
     std::optional<ProgramCall> next(Making& text, int exitCode);
     void expectSpeech(const std::list<Making>& texts);
-    std::optional<ProgramCall> speak(Making& text) const;
-    std::optional<ProgramCall> convert(Making& text, int exitCode) const;
-    static ProgramCall conversion(Making& text);
+    std::optional<ProgramCall> speak(Making& text);
+    std::optional<ProgramCall> convert(Making& text, int exitCode);
+    std::optional<ProgramCall> conversion(Making& text);
+    bool convertByOurselves(const Making& text);
     void finish(Making& text, int exitCode);
 
     bool isStale(const std::string& audioName, const Utterance& now);
@@ -252,8 +256,16 @@ bool isFree(const std::string& folder, const std::string& file)
     return FileSystem::whyNoFile(file).empty() && FileSystem::placeOutside(folder, file).empty();
 }
 
+// As starting it would look for it: on PATH, else beside our own program.
+bool isThere(const std::string& program)
+{
+    const std::string ours = FileSystem::exeDirectory() + FileSystem::directorySeparator + program;
+    return !Platform::findProgram(Platform::programToStart(program)).empty() ||
+           !Platform::findProgram(Platform::programToStart(ours)).empty();
+}
+
 // Nothing is spoken over a recording of the author's: it becomes the audio file.
-std::optional<ProgramCall> AudioMaker::speak(Making& text) const
+std::optional<ProgramCall> AudioMaker::speak(Making& text)
 {
     const std::string& language = text.said.settings.language;
     if (!text.isSpeechOwn && !isLanguage(language)) {
@@ -286,7 +298,7 @@ std::optional<ProgramCall> AudioMaker::speak(Making& text) const
 }
 
 // How the speech program ended is not looked at: without its file the conversion fails.
-std::optional<ProgramCall> AudioMaker::convert(Making& text, int exitCode) const
+std::optional<ProgramCall> AudioMaker::convert(Making& text, int exitCode)
 {
     if (exitCode == kStopped) {
         FileSystem::deleteFile(text.speech);  // half a text, too
@@ -298,14 +310,33 @@ std::optional<ProgramCall> AudioMaker::convert(Making& text, int exitCode) const
     return conversion(text);
 }
 
-ProgramCall AudioMaker::conversion(Making& text)
+std::optional<ProgramCall> AudioMaker::conversion(Making& text)
 {
     text.step = Making::Step::finish;
+    if (!isThere("ffmpeg.exe") && convertByOurselves(text)) {
+        finish(text, 0);
+        return std::nullopt;
+    }
     return ProgramCall{"ffmpeg.exe",
                        {"-hide_banner", "-loglevel", "error", "-i",
                         Platform::nativePath(text.speech), "-ar", "22050", "-ac", "1",
                         Platform::nativePath(text.sound)},
                        {}};
+}
+
+// False when the speech is no sound that we can read: then it is a matter for ffmpeg.
+bool AudioMaker::convertByOurselves(const Making& text)
+{
+    const std::optional<QByteArray> speech = readInput(text.speech);
+    const MonoSound sound = speech ? recording::soundOfFile(speech->toStdString()) : MonoSound{};
+    if (sound.samples.empty()) {
+        return false;
+    }
+    const std::string why = recording::writeWhole(text.sound, recording::pensFileOf(sound));
+    if (!why.empty()) {
+        tell("Error: Can't write file '" + Platform::nativePath(text.sound) + "': " + why);
+    }
+    return true;
 }
 
 void AudioMaker::finish(Making& text, int exitCode)

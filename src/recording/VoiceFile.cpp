@@ -157,6 +157,11 @@ std::string voiceFileOf(const MonoSound& sound)
     return bytes;
 }
 
+std::string pensFileOf(const MonoSound& sound)
+{
+    return vorbisFileOf(atRate(sound, kVoiceRate));
+}
+
 std::string flacFileOf(const MonoSound& sound)
 {
     return encoded(sound, SF_FORMAT_FLAC | SF_FORMAT_PCM_24, 0);

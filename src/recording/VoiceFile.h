@@ -16,6 +16,9 @@ MonoSound atRate(const MonoSound& sound, int rate);
 // all have, as near as it comes to them, measured in what the file holds.
 std::string voiceFileOf(const MonoSound& sound);
 
+// The same, as loud as it is.
+std::string pensFileOf(const MonoSound& sound);
+
 // A recording as the bytes of a FLAC file, with 24 bits a sample.
 std::string flacFileOf(const MonoSound& sound);
 

@@ -6,11 +6,13 @@
 #include "base/FileSystem.h"
 #include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
+#include "sound/SoundFile.h"
 #include "speech/SpeechIndex.h"
 #include "tests/helpers/CoreApplication.h"
 #include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
 #include "tests/programs/RecordingRunner.h"
+#include "tests/sound/WavFile.h"
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
@@ -46,7 +48,7 @@ protected:
         const bool speaks = command.front() == "Text2Speech.exe";
         if (speaks ? speechStatus == 0 : soundIsWritten) {
             const auto file = command.end() - (speaks ? 3 : 1);
-            writeFile(*file, speaks ? "speech" : "sound");
+            writeFile(*file, speaks ? speech : "sound");
         }
         return speaks ? speechStatus : soundStatus;
     }
@@ -55,12 +57,46 @@ protected:
     const ChangedVariable pathAfterwards{"PATH", Platform::searchPath()};
     Oid::OidProject project;
     RecordingRunner runner;
+    std::string speech = "speech";  // what the speech program writes
     int speechStatus = 0;
     int soundStatus = 0;
     bool soundIsWritten = true;
 };
 
 }  // namespace
+
+TEST_F(SoundFiles, WithoutFfmpegSpeechBecomesWhatThePenPlaysAllTheSame)
+{
+    const TemporaryFolder noPrograms;
+    const ChangedVariable path("PATH", noPrograms.path());
+    speech = wavFile(2, 44100, tone(2, 44100, 440, 1));
+    say("say_eve_Hi", "eve", "Hi");
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_EQ(runner.commands.size(), 1U);
+    EXPECT_FALSE(fs::exists(audio("say_eve_Hi.wav")));
+    SoundFile sound(audio("say_eve_Hi.ogg"));
+    ASSERT_EQ(sound.state(), SoundFile::State::good);
+    EXPECT_TRUE(sound.isOggVorbis());
+    EXPECT_EQ(sound.channels(), 1);
+    EXPECT_EQ(sound.rate(), 22050);
+    EXPECT_NEAR(sound.seconds(), 1, 0.01);
+
+    runner.commands.clear();
+    EXPECT_EQ(create(), SpeechOutcome::complete);  // and is known as spoken
+    EXPECT_EQ(runner.commands.size(), 0U);
+}
+
+TEST_F(SoundFiles, WithoutFfmpegWhatIsNoSoundIsLeftToIt)
+{
+    const TemporaryFolder noPrograms;
+    const ChangedVariable path("PATH", noPrograms.path());
+    say("say_eve_Hi", "eve", "Hi");
+    soundIsWritten = false;
+    EXPECT_EQ(create(), SpeechOutcome::incomplete);
+    ASSERT_EQ(runner.commands.size(), 2U);
+    EXPECT_EQ(runner.commands[1].front(), "ffmpeg.exe");
+    EXPECT_EQ(readFile(audio("say_eve_Hi.wav")), "speech");
+}
 
 TEST_F(SoundFiles, EveryTextIsSpokenAndConverted)
 {
