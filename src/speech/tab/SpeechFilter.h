@@ -21,6 +21,8 @@ public:
     // Texts that hold these words, upper and lower case alike.
     void search(const QString& wanted);
 
+    void sort(int column, Qt::SortOrder order) override;
+
 protected:
     bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
 

@@ -4,7 +4,6 @@
 #include "speech/Engines.h"
 #include "speech/SpeechIndex.h"
 
-#include <QDateTime>
 #include <QFileInfo>
 
 #include <tuple>
@@ -52,23 +51,21 @@ SpeechFindings SpeechSearch::find(BookState& state, const std::atomic<bool>& isC
         if (isCancelled) {
             break;
         }
-        const double seconds = secondsOfFile(text.file);
-        findings.rows.push_back({std::move(text), seconds});
+        addRow(std::move(text), findings);
     }
     return findings;
 }
 
-// Every file is read once only.
-double SpeechSearch::secondsOfFile(const std::string& path)
+void SpeechSearch::addRow(SpeechText text, SpeechFindings& findings) const
 {
-    const QFileInfo file(QString::fromStdString(path));
-    if (path.empty() || !file.exists()) {
-        return 0;
+    double seconds = 0;
+    if (const QFileInfo file(QString::fromStdString(text.file));
+        !text.file.empty() && file.exists()) {
+        const std::optional<double> known = lengths.known(file);
+        seconds = known.value_or(0);
+        if (!known) {
+            findings.unread.push_back(text.file);
+        }
     }
-    const qint64 time = file.lastModified().toMSecsSinceEpoch();
-    Length& length = lengths[file.filePath()];
-    if (length.size != file.size() || length.time != time) {
-        length = {file.size(), time, secondsOf(path)};
-    }
-    return length.seconds;
+    findings.rows.push_back({std::move(text), seconds});
 }

@@ -1,19 +1,19 @@
 #pragma once
 
-#include <QHash>
-
 #include <map>
 #include <string>
 #include <vector>
 
 #include "document/BookWatch.h"
 #include "speech/SpeechTexts.h"
+#include "speech/tab/SpeechLengths.h"
 
 // A text of the book with what there is of its audio file.
 struct SpeechRow
 {
     SpeechText text;
-    double seconds = 0;  // how long the file sounds; 0 without one, or when it cannot be read
+    // How long the file sounds; 0 without one, when it cannot be read, and before it was read.
+    double seconds = 0;
 };
 
 // Both are the same text of the book, be it at another line or in another state.
@@ -25,6 +25,7 @@ struct SpeechFindings
 {
     QString audioFolder;  // native; empty while the book has no file
     std::vector<SpeechRow> rows;
+    std::vector<std::string> unread;  // files whose length is not known yet
     QString problem;  // with what is remembered of the files, in English; else empty
     std::map<std::string, ttbasic::VOICE> voices;  // of the script
 };
@@ -34,20 +35,15 @@ struct SpeechFindings
 class SpeechSearch
 {
 public:
+    // The lengths that are known then outlive it.
+    explicit SpeechSearch(const SpeechLengths& knownLengths) : lengths(knownLengths) {}
+
     // What was found until it was cancelled is of no use.
     SpeechFindings find(BookState& state, const std::atomic<bool>& isCancelled);
 
 private:
-    // How long a file sounded that had this size and time.
-    struct Length
-    {
-        qint64 size = -1;
-        qint64 time = 0;
-        double seconds = 0;
-    };
-
-    double secondsOfFile(const std::string& path);
+    void addRow(SpeechText text, SpeechFindings& findings) const;
 
     Oid::OidProject book;
-    QHash<QString, Length> lengths;
+    const SpeechLengths& lengths;
 };

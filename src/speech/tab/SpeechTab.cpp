@@ -60,6 +60,7 @@ SpeechTab::SpeechTab(BookSource bookSource, QWidget* parent)
     rows->addWidget(makeButtons());
     connectTable();
     connect(&files, &QFileSystemWatcher::directoryChanged, this, &SpeechTab::lookSoon);
+    connect(&lengths, &SpeechLengths::found, this, &SpeechTab::lookSoon);
     connect(&work, &SpeechWork::progressed, this, [this](int done, int total) {
         progress->setMaximum(total);
         progress->setValue(done);
@@ -241,6 +242,7 @@ void SpeechTab::show(SpeechFindings findings)
     problem = findings.problem;
     scriptVoices = findings.voices;
     model.show(std::move(findings.rows));
+    lengths.read(std::move(findings.unread));
     showVoices();
     showSummary();
     watchFolder();
@@ -325,8 +327,12 @@ void SpeechTab::allowCommands()
         return mayMake && std::any_of(selected.begin(), selected.end(),
                                       [&](int row) { return isMeant(model.row(row).text); });
     };
+    const auto isInBook = [&](bool (*isMeant)(const SpeechText&)) {
+        return std::any_of(model.all().begin(), model.all().end(),
+                           [&](const SpeechRow& row) { return isMeant(row.text); });
+    };
     const auto isAnyOrNone = [&](bool (*isMeant)(const SpeechText&)) {
-        return mayMake && (isAny(isMeant) || (selected.empty() && !selectedOrAll(isMeant).empty()));
+        return isAny(isMeant) || (mayMake && selected.empty() && isInBook(isMeant));
     };
     speaking->setEnabled(isAnyOrNone(needsSpeech));
     recording->setEnabled(isAnyOrNone(takesFile));

@@ -141,6 +141,7 @@ private:
     std::vector<std::string> toPlay;  // files, the next one last
     const BookSource source;
     SpeechWork work;
-    SpeechSearch search;  // of the other thread
+    SpeechLengths lengths;
+    SpeechSearch search{lengths};  // of the other thread
     BookWatch<SpeechFindings> watch;
 };
