@@ -58,6 +58,14 @@ struct Kept
     QString problem;
 };
 
+// Authors and strangers may put links into the folder of the audio files, which may be one itself.
+QString whyNotWritten(const std::string& file)
+{
+    return FileSystem::placeOutside(FileSystem::getDirectoryOfPath(file), file).empty()
+               ? QString()
+               : Words::tr("it is a link to a file in another folder");
+}
+
 QString cannotBeKept(const std::string& file, const std::string& reason)
 {
     return Words::tr("The original of %1 cannot be kept: %2")
@@ -73,6 +81,10 @@ Kept keepFile(const std::string& file, const Places& places)
     for (int number = 1;; ++number) {
         const QString place = freePlace(places.originals, name, suffix, number);
         if (!QFileInfo::exists(place)) {
+            const QString link = whyNotWritten(place.toStdString());
+            if (!link.isEmpty()) {
+                return {{}, cannotBeKept(file, link.toStdString())};
+            }
             const bool isKept = Platform::copyFile(file, place.toStdString());
             return isKept ? Kept{place.toStdString(), {}}
                           : Kept{{}, cannotBeKept(file, Platform::lastFileError())};
@@ -91,7 +103,8 @@ Kept keepBytes(const std::string& bytes, const Places& places)
         ++number;
     }
     const std::string place = freePlace(places.originals, name, "flac", number).toStdString();
-    const std::string problem = writeWhole(place, bytes);
+    const std::string link = whyNotWritten(place).toStdString();
+    const std::string problem = link.empty() ? writeWhole(place, bytes) : link;
     return problem.empty() ? Kept{place, {}} : Kept{{}, cannotBeKept(places.target, problem)};
 }
 
@@ -110,6 +123,11 @@ QString shown(double loudness)
 // Replaces the file, which is kept before; the report says the rest already.
 void writeVoice(const std::string& bytes, const Places& places, FileReport& report)
 {
+    const QString link = whyNotWritten(places.target);
+    if (!link.isEmpty()) {
+        report.text = Words::tr("%1 cannot be written: %2").arg(nameOf(places.target), link);
+        return;
+    }
     if (places.keepsEarlier && QFileInfo::exists(qPath(places.target))) {
         const Kept earlier = keepFile(places.target, places);
         report.keptEarlier = earlier.path;

@@ -297,6 +297,34 @@ TEST_F(BookSoundsTest, WhereTheOriginalCannotBeKeptNothingIsReplaced)
     EXPECT_EQ(listing(), "Moo.ogg originals");
 }
 
+TEST_F(BookSoundsTest, NothingIsWrittenThroughLinksToOtherFolders)
+{
+    const std::string wav = folder.file("moo.wav");
+    writeWav(wav, voiceOf(1));
+    writeFile(folder.file("elsewhere"), "of somebody");
+    std::filesystem::create_symlink(folder.file("elsewhere"), audio("Moo.ogg"));
+    expectFailure(recording::adoptSound(wav, places()),
+                  "Moo.ogg cannot be written: it is a link to a file in another folder");
+    EXPECT_EQ(readFile(folder.file("elsewhere")), "of somebody");
+
+    std::filesystem::remove(audio("Moo.ogg"));
+    std::filesystem::remove_all(audio("originals"));
+    std::filesystem::create_directory(audio("originals"));
+    for (const char* const name : {"Moo.wav", "Moo.flac"}) {
+        std::filesystem::create_symlink(folder.file("not-there"), original(name));
+    }
+    expectFailure(
+        recording::adoptSound(wav, places()),
+        "The original of moo.wav cannot be kept: it is a link to a file in another folder");
+    recording::Take take;
+    take.record(voiceOf(1));
+    expectFailure(
+        recording::adoptTake(take, places()),
+        "The original of Moo.ogg cannot be kept: it is a link to a file in another folder");
+    EXPECT_FALSE(std::filesystem::exists(folder.file("not-there")));
+    EXPECT_EQ(listing(), "originals");
+}
+
 TEST_F(BookSoundsTest, AnAudioFolderThatIsNotThereIsMade)
 {
     recording::Take take;
