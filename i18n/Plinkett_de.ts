@@ -25,6 +25,13 @@
     </message>
 </context>
 <context>
+    <name>Application</name>
+    <message>
+        <source>There is not enough memory to go on, so Plinkett ends here. What you had not saved is kept as it was some seconds ago: open the book again to get it back.</source>
+        <translation>Der Speicher reicht nicht mehr aus, darum endet Plinkett hier. Was noch nicht gespeichert war, ist so aufbewahrt, wie es vor einigen Sekunden war: Öffnen Sie das Buch wieder, um es zurückzubekommen.</translation>
+    </message>
+</context>
+<context>
     <name>AreaCommands</name>
     <message>
         <source>Cu&amp;t</source>
@@ -1719,6 +1726,10 @@
 </context>
 <context>
     <name>Recording</name>
+    <message>
+        <source>it is a link to a file in another folder</source>
+        <translation>das ist eine Verknüpfung mit einer Datei in einem anderen Ordner</translation>
+    </message>
     <message>
         <source>%1 cannot be opened: %2</source>
         <translation>%1 lässt sich nicht öffnen: %2</translation>

@@ -25,6 +25,13 @@
     </message>
 </context>
 <context>
+    <name>Application</name>
+    <message>
+        <source>There is not enough memory to go on, so Plinkett ends here. What you had not saved is kept as it was some seconds ago: open the book again to get it back.</source>
+        <translation>There is not enough memory to go on, so Plinkett ends here. What you had not saved is kept as it was some seconds ago: open the book again to get it back.</translation>
+    </message>
+</context>
+<context>
     <name>AreaCommands</name>
     <message>
         <source>Cu&amp;t</source>
@@ -1719,6 +1726,10 @@
 </context>
 <context>
     <name>Recording</name>
+    <message>
+        <source>it is a link to a file in another folder</source>
+        <translation>it is a link to a file in another folder</translation>
+    </message>
     <message>
         <source>%1 cannot be opened: %2</source>
         <translation>%1 cannot be opened: %2</translation>

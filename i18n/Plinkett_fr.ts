@@ -25,6 +25,13 @@
     </message>
 </context>
 <context>
+    <name>Application</name>
+    <message>
+        <source>There is not enough memory to go on, so Plinkett ends here. What you had not saved is kept as it was some seconds ago: open the book again to get it back.</source>
+        <translation>Il n’y a plus assez de mémoire pour continuer, Plinkett s’arrête donc ici. Ce qui n’était pas enregistré est conservé tel qu’il était il y a quelques secondes : rouvrez le livre pour le retrouver.</translation>
+    </message>
+</context>
+<context>
     <name>AreaCommands</name>
     <message>
         <source>Cu&amp;t</source>
@@ -1719,6 +1726,10 @@
 </context>
 <context>
     <name>Recording</name>
+    <message>
+        <source>it is a link to a file in another folder</source>
+        <translation>c’est un lien vers un fichier d’un autre dossier</translation>
+    </message>
     <message>
         <source>%1 cannot be opened: %2</source>
         <translation>%1 ne peut pas être ouvert : %2</translation>

@@ -1,9 +1,9 @@
+#include "app/Application.h"
 #include "app/MainWindow.h"
 #include "app/ScreenFit.h"
 #include "app/Translations.h"
 #include "app/WindowUsage.h"
 
-#include <QApplication>
 #include <QLocale>
 #include <QSettings>
 
@@ -18,7 +18,7 @@ int main(int argc, char* argv[])
     }
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QApplication application(argc, argv);
+    Application application(argc, argv);
     const Translations translations(QLocale::system().uiLanguages());
 
     QSettings settings("Plinkett", "Plinkett");
@@ -32,5 +32,5 @@ int main(int argc, char* argv[])
     } else {
         window.offerUnsavedWork();
     }
-    return QApplication::exec();
+    return Application::exec();
 }
