@@ -198,6 +198,7 @@ private:
     bool keepPicture(const Edit& edit);
     // Says which picture file could not be written or renamed.
     void warnOfPictures();
+    void warnWithPictureProblem(const QString& what);
     // After a save that gave the project another folder or number.
     void takeFilesAlong();
     void warnOfMissingCopies(const std::vector<std::string>& paths);

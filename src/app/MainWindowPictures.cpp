@@ -126,20 +126,22 @@ bool MainWindow::keepPicture(const Edit& edit)
 {
     const bool kept = document.apply(edit);
     if (!kept) {
-        warnOfPictures();
+        warnWithPictureProblem(tr("The picture could not be kept beside the project file."));
     }
     return kept;
 }
 
 void MainWindow::warnOfPictures()
 {
+    warnWithPictureProblem(tr("The pictures could not be brought to their pages."));
+}
+
+void MainWindow::warnWithPictureProblem(const QString& what)
+{
     const FileProblem& problem = document.problem();
-    QString text = tr("The picture could not be kept beside the project file.");
-    if (!problem.file.empty()) {
-        text = tr("The pictures could not be brought to their pages.") + "\n\n" +
-               QString::fromStdString(problem.file) + "\n" + QString::fromStdString(problem.cause);
-    }
-    warn(text);
+    const QString details =
+        QString::fromStdString(problem.file) + "\n" + QString::fromStdString(problem.cause);
+    warn(problem.file.empty() ? what : what + "\n\n" + details);
 }
 
 void MainWindow::takeFilesAlong()

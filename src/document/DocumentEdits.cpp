@@ -5,7 +5,6 @@
 #include <cmath>
 #include <utility>
 
-#include "base/FileSystem.h"
 #include "oid/OidTable.h"
 
 namespace {
@@ -237,8 +236,7 @@ bool Document::replaceFile(int page, const QByteArray& file)
     KeptFile kept;
     kept.page = page;
     const std::string place = record.pathImageSource(page);
-    if (!FileSystem::placeOutside(FileSystem::getDirectoryOfPath(place), place).empty() ||
-        !keptFiles.replace(place, file, kept)) {
+    if (!pictures.mayWrite(place) || !keptFiles.replace(place, file, kept)) {
         return false;
     }
     std::vector<KeptFile>& files = beginStep().files;
@@ -264,8 +262,10 @@ bool Document::carryOut(const edit::AddPage& add)
         return false;
     }
     if (!add.file.isEmpty() && !replaceFile(page, add.file)) {
+        const FileProblem cause = pictures.problem();
         pictures.arrange(contents.pages());
         pictures.drop(id);
+        pictures.noteProblem(cause);
         return false;
     }
     touchPages();

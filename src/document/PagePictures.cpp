@@ -449,16 +449,22 @@ bool PagePictures::writePlaces(const Places& places)
     return write(next);
 }
 
+bool PagePictures::mayWrite(const std::string& file)
+{
+    if (FileSystem::placeOutside(FileSystem::getDirectoryOfPath(file), file).empty()) {
+        return true;
+    }
+    found = {Platform::nativePath(file),
+             QCoreApplication::translate("PagePictures",
+                                         "It is a link to a file outside of the project's folder.")
+                 .toStdString()};
+    return false;
+}
+
 bool PagePictures::write(const Oid::PictureOrder& next)
 {
     const std::string text = Oid::textOf(next);
-    if (text != written &&
-        !FileSystem::placeOutside(FileSystem::getDirectoryOfPath(files.order()), files.order())
-             .empty()) {
-        found = {Platform::nativePath(files.order()),
-                 QCoreApplication::translate(
-                     "PagePictures", "It is a link to a file outside of the project's folder.")
-                     .toStdString()};
+    if (text != written && !mayWrite(files.order())) {
         return false;
     }
     if (text != written && !work.write(files.order(), text)) {

@@ -67,6 +67,9 @@ public:
     // What made the last arrange or beforeSaving fail; no file when it did not.
     const FileProblem& problem() const { return found; }
     void forgetProblem() { found = {}; }
+    void noteProblem(const FileProblem& problem) { found = problem; }
+    // False, and the problem, for a file that is a link to another folder.
+    bool mayWrite(const std::string& file);
 
     // Whether the project file has the page.
     bool isSaved(PageId page) const;

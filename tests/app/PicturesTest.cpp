@@ -331,6 +331,25 @@ private slots:
         QCOMPARE(current(w), 0);
     }
 
+    void aLinkToAnotherFolderIsNotWrittenAndNamed()
+    {
+        WindowFixture w;
+        const TemporaryFolder other;
+        w.open(projectFile({kArea}), 1);
+        const QString elsewhere = QString::fromStdString(other.file("not-there.jpg"));
+        QVERIFY(QFile::link(elsewhere, w.path("900-bkgnd1.jpg")));
+        w.makePicture("scan.png");
+        w.dialogs.chooseFile(w.path("scan.png"));
+        w.dialogs.press("OK");
+        w.click("btNextPicture");
+        QCOMPARE(w.dialogs.seen().last(),
+                 "Warning: The picture could not be kept beside the project file.\n\n" +
+                     w.path("900-bkgnd1.jpg") +
+                     "\nIt is a link to a file outside of the project's folder.");
+        QVERIFY(!QFile::exists(elsewhere));
+        QCOMPARE(current(w), 0);
+    }
+
     void aPictureForAFolderThatHasVanishedIsNotTaken()
     {
         WindowFixture w;
