@@ -112,6 +112,7 @@ Areas grownMost(const Graph& before, const Graph& now, int64_t (*measure)(const 
         }
     }
     std::vector<std::pair<int64_t, size_t>> order;
+    order.reserve(growth.size());
     for (const auto& [area, more] : growth) {
         order.emplace_back(more, area);
     }

@@ -148,6 +148,32 @@ TEST(TestsOnEntry, TheNextScriptAsksForAVariableAndNotForItsCopy)
               "1: P(b)\n");
 }
 
+// What the copy was made of is not there any more when the line is full.
+TEST(TestsOnEntry, ACopyOfAResultIsAskedForItself)
+{
+    std::string scripts = "  cow:\n"
+                          "  - J(asm1) $r0 += $x\n";
+    for (int i = 1; i < 5; ++i) {
+        const std::string number = std::to_string(i);
+        scripts += "  asm" + number + ":\n  - J(asm" + std::to_string(i + 1) + ") $r" + number +
+                   " += $x\n";
+    }
+    EXPECT_EQ(withAll(scripts + "  asm5:\n"
+                                "  - J(asm6) $_stk1 := $q\n"
+                                "  asm6:\n"
+                                "  - J(asm7) $_stk1 *= 2\n"
+                                "  asm7:\n"
+                                "  - J(asm8) $_stk2 := $_stk1\n"
+                                "  asm8:\n"
+                                "  - J(asm9) $_stk3 := 5\n"
+                                "  asm9:\n"
+                                "  - $_stk2 == $_stk3 ? P(a)\n"
+                                "  - P(b)\n"),
+              "cow: J(1) $r0+=$x $r1+=$x $r2+=$x $r3+=$x $r4+=$x $_stk2:=$q $_stk2*=2\n"
+              "1: $_stk2==5? P(a)\n"
+              "1: P(b)\n");
+}
+
 TEST(TestsOnEntry, ASumIsAskedForItsEqual)
 {
     EXPECT_EQ(withAll("  cow:\n"
@@ -193,6 +219,19 @@ std::string branchesThatMeet(int count)
     return scripts + "  asm" + std::to_string(count) + ":\n  - P(a)\n";
 }
 
+const char* const kAnt = "  ant:\n"
+                         "  - J(asm51) $a := 1\n"
+                         "  asm51:\n"
+                         "  - $b < 5 ? J(asm52) $_stk1 := 1\n"
+                         "  - J(asm52) $_stk1 := 0\n"
+                         "  asm52:\n"
+                         "  - $_stk1 == 1 ? J(asm53) P(a)\n"
+                         "  - J(asm53) P(b)\n"
+                         "  asm53:\n"
+                         "  - $c := 1\n";
+const char* const kQuickAnt = "ant: $b<5? J(1) P(a) $a:=1\n"
+                              "ant: J(1) P(b) $a:=1\n";
+
 // The lines of one script in the text of a game.
 std::string linesOf(const std::string& script, const std::string& text)
 {
@@ -214,22 +253,38 @@ TEST(TestsOnEntry, WhatWouldMakeTheGameFileLargerIsNotDone)
 
 TEST(TestsOnEntry, OneSubThatGrowsDoesNotTakeItFromTheOthers)
 {
-    const std::string ant = "  ant:\n"
-                            "  - J(asm51) $a := 1\n"
-                            "  asm51:\n"
-                            "  - $b < 5 ? J(asm52) $_stk1 := 1\n"
-                            "  - J(asm52) $_stk1 := 0\n"
-                            "  asm52:\n"
-                            "  - $_stk1 == 1 ? J(asm53) P(a)\n"
-                            "  - J(asm53) P(b)\n"
-                            "  asm53:\n"
-                            "  - $c := 1\n";
-    const std::string quickAnt = "ant: $b<5? J(1) P(a) $a:=1\n"
-                                 "ant: J(1) P(b) $a:=1\n";
-    EXPECT_EQ(linesOf("ant", optimisedText(ant, {})), quickAnt);
-    const std::string both = optimisedText(ant + branchesThatMeet(12), {});
-    EXPECT_EQ(linesOf("ant", both), quickAnt);
+    EXPECT_EQ(linesOf("ant", optimisedText(kAnt, {})), kQuickAnt);
+    const std::string both = optimisedText(kAnt + branchesThatMeet(12), {});
+    EXPECT_EQ(linesOf("ant", both), kQuickAnt);
     EXPECT_LT(std::count(both.begin(), both.end(), '\n'), 60) << both;
+}
+
+// What a branch has left is asked for behind ten sounds. Scripts for each outcome need codes, and
+// only the steps of a game have some.
+TEST(DoublesScripts, OneSubThatNeedsTooManyCodesDoesNotTakeItFromTheOthers)
+{
+    std::string cow = "  cow:\n"
+                      "  - $a == 1 ? J(asm0) $ifexp1 := 1\n"
+                      "  - J(asm0) $ifexp1 := 0\n";
+    for (int i = 0; i < 10; ++i) {
+        cow += "  asm" + std::to_string(i) + ":\n  - J(asm" + std::to_string(i + 1) + ") P(s" +
+               std::to_string(i) + ")\n";
+    }
+    cow += "  asm10:\n"
+           "  - $ifexp1 == 1 ? P(a)\n"
+           "  - P(b)\n";
+    std::string spare;
+    for (int i = 100; i < 120; ++i) {
+        spare += "  asm" + std::to_string(i) + ":\n  - $x := 1\n";
+    }
+    const std::string oneForAll = "cow: $a==1? J(2) P(s0) $ifexp1:=1\n"
+                                  "cow: J(2) P(s0) $ifexp1:=0\n";
+    const std::string oneForEach = "cow: $a==1? J(2) P(s0)\n"
+                                   "cow: J(3) P(s0)\n";
+    EXPECT_EQ(linesOf("cow", withAll(kAnt + cow + spare)), oneForEach);
+    const std::string both = withAll(kAnt + cow);
+    EXPECT_EQ(linesOf("cow", both), oneForAll);
+    EXPECT_EQ(linesOf("ant", both), kQuickAnt);
 }
 
 TEST(TestsOnEntry, WhatFollowsFromOtherConditionsIsNotAsked)
