@@ -92,7 +92,9 @@ private:
         take("window-script");
         showTab("tabBuild");
         get<QPushButton>("btBuild").click();
-        QTest::qWaitFor([this] { return get<QPushButton>("btBuild").isEnabled(); }, kPatience);
+        allTaken = QTest::qWaitFor([this] { return get<QPushButton>("btBuild").isEnabled(); },
+                                   kPatience) &&
+                   allTaken;
         QTest::qWait(500);
         take("window-build");
         showTab("tabTry");
