@@ -16,7 +16,7 @@
 //
 // Every call adds its arguments, one to a line, and an empty line to NAME.calls.
 
-#include "tests/helpers/fake_program/Words.h"
+#include "tests/helpers/fake_program/System.h"
 
 #include <algorithm>
 #include <chrono>
@@ -134,12 +134,11 @@ void carryOut(const std::string& action, const std::string& rest, const std::str
     } else if (action == "folder") {
         printf("%s\n", std::filesystem::current_path().u8string().c_str());
     } else if (action == "variable") {
-        const char* const value = std::getenv(rest.c_str());
-        printf("%s\n", value != nullptr ? value : "none");
+        printf("%s\n", variable(rest).c_str());
     } else if (action == "answer") {
         answer(arguments, rest);
     } else if (action == "crash") {
-        std::abort();
+        crash();
     } else if (action == "exit") {
         std::exit(std::stoi(rest));
     }
@@ -160,6 +159,7 @@ static std::string nameOf(const std::string& program)
 
 int main(int count, char** words)
 {
+    printBytesAsTheyAre();
     const Words all = utf8Words(count, words);
     const Words arguments(all.begin() + 1, all.end());
     const std::string self = nameOf(all[0]);  // a full path: who starts it has looked it up on PATH
