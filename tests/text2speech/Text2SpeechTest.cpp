@@ -250,6 +250,17 @@ TEST_F(Text2Speech, WrongOptionsAreNamed)
     }
 }
 
+// Where the installer for Windows puts it.
+TEST_F(Text2Speech, ASynthesiserThatIsNotOnPathIsFoundBelowTheProgramsFolder)
+{
+    const TemporaryFolder programs;
+    const FakeProgram installed(programs.file("eSpeak NG"), "espeak-ng", kVoices + "exit 3\n");
+    EXPECT_EQ(resultOf(run({"-f", "out.wav", "-t", "Moo"},
+                           {"PATH=" + folder.path(), "ProgramFiles=" + programs.path()})),
+              failure("espeak-ng failed with status 3"));
+    EXPECT_EQ(installed.callCount(), 2);
+}
+
 TEST_F(WithFakeEspeak, GetsTheTextOnItsStandardInputAsItStands)
 {
     const std::string text = "-" + std::string(100000, 'x') + " \"quoted\" a\\b [[x]] $HOME\n";

@@ -3,6 +3,7 @@
 #include <QProcess>
 
 #include "base/PlatformProcess.h"
+#include "tools/text2speech/Languages.h"
 
 namespace {
 
@@ -26,13 +27,30 @@ std::string whyNotThere(const std::string& program)
                      : program + " is not installed (it is not on PATH)";
 }
 
+// espeak-ng also beside this program, and where its installer for Windows puts it.
+std::string findSpeaker(const std::string& program)
+{
+    if (program != kEspeak) {
+        return Platform::findProgram(program);
+    }
+    const std::string places[] = {Platform::exeDirectory() + "\\" + program, program,
+                                  Platform::programsFolder() + "\\eSpeak NG\\" + program};
+    for (const std::string& place : places) {
+        const std::string found = Platform::findProgram(place);
+        if (!found.empty()) {
+            return found;
+        }
+    }
+    return {};
+}
+
 }  // namespace
 
 std::string runSpeakingProgram(const std::string& program,
                                const std::vector<std::string>& arguments, const std::string& input,
                                const std::function<void(const QByteArray&)>& receive)
 {
-    const std::string found = Platform::findProgram(program);
+    const std::string found = findSpeaker(program);
     if (found.empty()) {
         return whyNotThere(program);
     }
