@@ -108,7 +108,10 @@ std::string GameText::textOf(const gme::Command& command, const gme::ScriptLine&
 
 std::string GameText::textOf(const gme::Operand& operand)
 {
-    return operand.isRegister ? "$" + operand.reg.name : std::to_string(operand.constant);
+    if (!operand.isRegister) {
+        return std::to_string(operand.constant);
+    }
+    return "$" + (operand.reg.name.empty() ? std::to_string(operand.reg.number) : operand.reg.name);
 }
 
 }  // namespace

@@ -513,6 +513,21 @@ TEST(SharesScripts, OfScriptsThatDoTheSameOneStays)
                                                        "2: $a:=2\n");
 }
 
+TEST(SharesScripts, ANumberIsNotTheRegisterOfThatNumber)
+{
+    EXPECT_EQ(with({&Passes::sharesScripts}, "  cow:\n"
+                                             "  - $a == 1 ? J(asm1) P(a)\n"
+                                             "  - J(asm2) P(b)\n"
+                                             "  asm1:\n"
+                                             "  - $b := 7\n"
+                                             "  asm2:\n"
+                                             "  - $b := $7\n"),
+              "cow: $a==1? J(1) P(a)\n"
+              "cow: J(2) P(b)\n"
+              "1: $b:=7\n"
+              "2: $b:=$7\n");
+}
+
 // 30 sounds one after the other, twice.
 TEST(SharesScripts, ChainsThatEndAlikeBecomeOne)
 {
