@@ -189,19 +189,23 @@ bool SpeechIndex::readNumbers(const QJsonObject& sheet)
 
 const Utterance* SpeechIndex::spokenInto(const std::string& audioName)
 {
+    return spokenInto(audioName,
+                      QFileInfo(text(Platform::nativePath(audioFileIn(folder, audioName)))));
+}
+
+const Utterance* SpeechIndex::spokenInto(const std::string& audioName, const QFileInfo& file)
+{
     const auto found = entries.find(audioName);
     if (found == entries.end()) {
         return nullptr;
     }
     Entry& entry = found->second;
-    const std::string path = Platform::nativePath(audioFileIn(folder, audioName));
-    const QFileInfo file(text(path));
     if (!file.isFile() || file.size() != entry.size) {
         return nullptr;
     }
     const std::int64_t time = timeOf(file);
     if (time != entry.time) {
-        if (hashOf(path) != entry.hash) {
+        if (hashOf(file.filePath().toStdString()) != entry.hash) {
             return nullptr;
         }
         entry.time = time;

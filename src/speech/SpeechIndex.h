@@ -6,6 +6,7 @@
 
 #include "speech/Utterance.h"
 
+class QFileInfo;
 class QJsonObject;
 
 // The numbers of texts on reading sheets, from 1, by their audio names.
@@ -39,6 +40,8 @@ public:
     // is the author's own. A file that was only touched, or copied, is still ours: its new time is
     // noted then.
     const Utterance* spokenInto(const std::string& audioName);
+    // The same where one has looked at the file already.
+    const Utterance* spokenInto(const std::string& audioName, const QFileInfo& file);
 
     // Notes that the audio file of that name is there and that we have just made it. False when the
     // file cannot be read.

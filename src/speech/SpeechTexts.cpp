@@ -1,5 +1,8 @@
 #include "speech/SpeechTexts.h"
 
+#include <QDateTime>
+#include <QFileInfo>
+
 #include <map>
 #include <set>
 #include <tuple>
@@ -84,10 +87,10 @@ Refusal refusalOf(const SpeechText& text)
                                      : ::refusalOf(text.audioName, text.said.text);
 }
 
-SpeechState stateOf(const SpeechText& text, SpeechIndex& index)
+SpeechState stateOf(const SpeechText& text, const QFileInfo& file, SpeechIndex& index)
 {
-    const bool isThere = Platform::fileExists(text.file);
-    const Utterance* const spoken = isThere ? index.spokenInto(text.audioName) : nullptr;
+    const bool isThere = file.exists();
+    const Utterance* const spoken = isThere ? index.spokenInto(text.audioName, file) : nullptr;
     if (isThere && spoken == nullptr) {
         return SpeechState::recorded;
     }
@@ -129,7 +132,10 @@ void lookUp(std::vector<SpeechText>& texts, const std::string& audioFolder, Spee
     for (SpeechText& text : texts) {
         text.file = Platform::nativePath(audioFileIn(audioFolder, text.audioName));
         text.refusal = refusalOf(text);
-        text.state = stateOf(text, index);
+        const QFileInfo file(QString::fromStdString(text.file));
+        text.fileSize = file.exists() ? file.size() : -1;
+        text.fileTime = file.exists() ? file.lastModified().toMSecsSinceEpoch() : 0;
+        text.state = stateOf(text, file, index);
         if (text.state != SpeechState::refused) {
             text.refusal = Refusal::none;
         }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,8 @@ struct SpeechText
     SpeechState state = SpeechState::missing;
     Refusal refusal = Refusal::none;  // why it is refused
     std::string file;                 // native path, where the audio file is or would be
+    std::int64_t fileSize = -1;       // bytes; -1 while there is none
+    std::int64_t fileTime = 0;        // of its last change, in milliseconds since 1970
 };
 
 // The texts of a project in the order in which the script says them first, the welcome last. The

@@ -1,9 +1,10 @@
 #include "speech/tab/SpeechFinder.h"
 
+#include "base/PlatformFiles.h"
 #include "base/PrintFunction.h"
 #include "speech/Engines.h"
-#include "speech/SpeechIndex.h"
 
+#include <QDateTime>
 #include <QFileInfo>
 
 #include <tuple>
@@ -41,7 +42,7 @@ SpeechFindings SpeechSearch::find(BookState& state, const std::atomic<bool>& isC
     std::vector<SpeechText> texts = speechTexts(book, currentEngines());
     if (!book.projectPath.empty()) {
         const std::string folder = audioFolder(book);
-        SpeechIndex index(folder);
+        SpeechIndex& index = indexOf(folder);
         lookUp(texts, folder, index);
         findings.problem = QString::fromStdString(index.problem());
         findings.audioFolder = QFileInfo(QString::fromStdString(index.path())).path();
@@ -56,12 +57,31 @@ SpeechFindings SpeechSearch::find(BookState& state, const std::atomic<bool>& isC
     return findings;
 }
 
+// Of thousands of texts it is large, so it is read again only when it has changed. What was written
+// just now may be written again without another time.
+SpeechIndex& SpeechSearch::indexOf(const std::string& folder)
+{
+    constexpr qint64 kJustNow = 2000;  // ms
+    const QFileInfo file(QString::fromStdString(Platform::nativePath(folder)) + '/' +
+                         SpeechIndex::kFileName);
+    const qint64 time = file.exists() ? file.lastModified().toMSecsSinceEpoch() : 0;
+    const qint64 size = file.exists() ? file.size() : -1;
+    const bool isSame = index && index->state() == SpeechIndex::State::good &&
+                        file.filePath() == indexFile.path && time == indexFile.time &&
+                        size == indexFile.size;
+    if (!isSame) {
+        index.emplace(folder);
+        const bool isOld = QDateTime::currentMSecsSinceEpoch() - time > kJustNow;
+        indexFile = {file.filePath(), isOld ? size : -2, time};
+    }
+    return *index;
+}
+
 void SpeechSearch::addRow(SpeechText text, SpeechFindings& findings) const
 {
     double seconds = 0;
-    if (const QFileInfo file(QString::fromStdString(text.file));
-        !text.file.empty() && file.exists()) {
-        const std::optional<double> known = lengths.known(file);
+    if (text.fileSize >= 0) {
+        const std::optional<double> known = lengths.known(text);
         seconds = known.value_or(0);
         if (!known) {
             findings.unread.push_back(text.file);

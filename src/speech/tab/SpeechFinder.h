@@ -1,10 +1,12 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "document/BookWatch.h"
+#include "speech/SpeechIndex.h"
 #include "speech/SpeechTexts.h"
 #include "speech/tab/SpeechLengths.h"
 
@@ -42,8 +44,19 @@ public:
     SpeechFindings find(BookState& state, const std::atomic<bool>& isCancelled);
 
 private:
+    // How the index was when it was read.
+    struct IndexFile
+    {
+        QString path;
+        qint64 size = -1;  // -1: it was not there; -2: it may change without being seen to
+        qint64 time = 0;
+    };
+
+    SpeechIndex& indexOf(const std::string& folder);
     void addRow(SpeechText text, SpeechFindings& findings) const;
 
     Oid::OidProject book;
+    std::optional<SpeechIndex> index;
+    IndexFile indexFile;
     const SpeechLengths& lengths;
 };

@@ -8,11 +8,6 @@
 
 #include <algorithm>
 
-static qint64 timeOf(const QFileInfo& file)
-{
-    return file.lastModified().toMSecsSinceEpoch();
-}
-
 SpeechLengths::~SpeechLengths()
 {
     isCancelled = true;
@@ -21,14 +16,15 @@ SpeechLengths::~SpeechLengths()
     }
 }
 
-std::optional<double> SpeechLengths::known(const QFileInfo& file) const
+std::optional<double> SpeechLengths::known(const SpeechText& text) const
 {
     const std::lock_guard<std::mutex> lock(mutex);
-    const auto length = lengths.find(file.filePath());
-    if (length == lengths.end() || length->size != file.size() || length->time != timeOf(file)) {
+    const auto found = lengths.find(text.file);
+    if (found == lengths.end() || found->second.size != text.fileSize ||
+        found->second.time != text.fileTime) {
         return std::nullopt;
     }
-    return length->seconds;
+    return found->second.seconds;
 }
 
 void SpeechLengths::read(std::vector<std::string> files)
@@ -77,10 +73,10 @@ void SpeechLengths::readAll()
     time.start();
     for (std::string file = next(); !file.empty(); file = next()) {
         const QFileInfo info(QString::fromStdString(file));
-        const Length length{info.size(), timeOf(info), secondsOf(file)};
+        const Length length{info.size(), info.lastModified().toMSecsSinceEpoch(), secondsOf(file)};
         {
             const std::lock_guard<std::mutex> lock(mutex);
-            lengths[info.filePath()] = length;
+            lengths[file] = length;
         }
         if (time.elapsed() > kPause) {
             time.restart();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QHash>
 #include <QObject>
 
 #include <atomic>
@@ -8,9 +7,10 @@
 #include <mutex>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
-class QFileInfo;
+#include "speech/SpeechTexts.h"
 
 // How long audio files sound. Each is read once, on another thread: thousands take seconds, for
 // which nobody is to wait.
@@ -23,9 +23,9 @@ public:
     // Waits for the file that is being read.
     ~SpeechLengths() override;
 
-    // In seconds, 0 of what cannot be read; none while the file, as it is now, was not read. On any
-    // thread.
-    std::optional<double> known(const QFileInfo& file) const;
+    // Of the text's file, as it was looked up: in seconds, 0 of what cannot be read; none while it
+    // was not read. On any thread.
+    std::optional<double> known(const SpeechText& text) const;
     // Reads these, native paths, instead of those that were asked for before.
     void read(std::vector<std::string> files);
 
@@ -47,7 +47,7 @@ private:
     void readAll();
 
     mutable std::mutex mutex;  // of the two behind it
-    QHash<QString, Length> lengths;
+    std::unordered_map<std::string, Length> lengths;
     std::vector<std::string> wanted;
     std::atomic<bool> isCancelled{false};
     std::future<void> work;
