@@ -11,6 +11,7 @@ build_packages=(
 run_packages=(espeak-ng ffmpeg libqt5svg5 qttranslations5-l10n
     fonts-dejavu-core fonts-noto-color-emoji)
 style_packages=(clang-format clang-tidy)
+package_packages=(dpkg-dev file gzip lintian appstream desktop-file-utils)
 bench_packages=(libbenchmark-dev)
 windows_packages=(
     g++-mingw-w64-x86-64-posix libz-mingw-w64-dev nasm dpkg-dev qttools5-dev-tools

@@ -1,7 +1,9 @@
 #include "tests/helpers/RunProgram.h"
 #include "tests/helpers/TemporaryFolder.h"
 
+#include <QFile>
 #include <QMimeDatabase>
+#include <QXmlStreamReader>
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -98,4 +100,56 @@ TEST_F(InstalledPlinkett, TellsItsVersionAndItsHelpWithoutADisplay)
               "  --help       tells this\n"
               "  --version    tells the version, that of Qt, and the licences\n"
               "  --man        prints the manual page, for man\n");
+}
+
+TEST_F(InstalledPlinkett, BringsManualPagesOfBothPrograms)
+{
+    for (const std::string program : {"plinkett", "plinkett-cli"}) {
+        const ProgramRun page =
+            runProgram("gzip", {"-dc", prefix.file("share/man/man1/" + program + ".1.gz")});
+        EXPECT_EQ(resultOf(page), resultOf(runProgram(prefix.file("bin/" + program), {"--man"})));
+        EXPECT_EQ(page.out.substr(0, 4), ".TH ");
+    }
+}
+
+TEST_F(InstalledPlinkett, TeachesBashItsCommands)
+{
+    EXPECT_EQ(readFile(prefix.file("share/bash-completion/completions/plinkett-cli")),
+              runProgram(prefix.file("bin/plinkett-cli"), {"--completion"}).out);
+}
+
+// Where programs are offered, by their description; it names what the desktop entry is called.
+TEST_F(InstalledPlinkett, DescribesItselfInFourLanguages)
+{
+    QFile file(
+        QString::fromStdString(prefix.file("share/metainfo/org.plinkett.plinkett.metainfo.xml")));
+    ASSERT_TRUE(file.open(QFile::ReadOnly));
+    QXmlStreamReader xml(&file);
+    QStringList summaries, launched;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement) {
+            continue;
+        }
+        if (xml.name() == "summary") {
+            summaries << xml.attributes().value("xml:lang").toString();
+        } else if (xml.name() == "launchable") {
+            launched << xml.readElementText();
+        }
+    }
+    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+    EXPECT_EQ(summaries.join(' ').toStdString(), " de fr nl");
+    EXPECT_EQ(launched.join(' ').toStdString(), "plinkett.desktop");
+}
+
+TEST_F(InstalledPlinkett, BringsItsLicenceAndItsNews)
+{
+    const std::string licence = readFile(prefix.file("share/doc/plinkett/copyright"));
+    EXPECT_NE(licence.find("\nCopyright: 2026 The Plinkett founders\nLicense: Expat\n"),
+              std::string::npos)
+        << licence;
+    EXPECT_NE(licence.find("\n Permission is hereby granted, free of charge, to any person"),
+              std::string::npos)
+        << licence;
+    EXPECT_EQ(runProgram("gzip", {"-dc", prefix.file("share/doc/plinkett/changelog.gz")}).out,
+              readFile(PLINKETT_SOURCE_DIR "/CHANGELOG.md"));
 }
