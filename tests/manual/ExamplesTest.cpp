@@ -146,3 +146,18 @@ TEST(ManualExamples, EveryBookTestPassesWithTheSampleBook)
     }
     EXPECT_EQ(tests.size(), manualLanguages().size());
 }
+
+TEST(ManualExamples, TheAnswersOfPlayAreThoseOfTheSampleBook)
+{
+    const ProgramRun run = runProgram(PLINKETT_BIN_DIR "/plinkett-cli",
+                                      {"play", PLINKETT_SOURCE_DIR "/examples/farm/farm.oidpro"},
+                                      {}, "", "start\nfrog\n");
+    std::size_t count = 0;
+    for (const Example& example : examplesOf("text")) {
+        if (example.text.rfind("start\n", 0) == 0) {
+            EXPECT_EQ(run.out, example.text) << example.place;
+            ++count;
+        }
+    }
+    EXPECT_EQ(count, manualLanguages().size());
+}
