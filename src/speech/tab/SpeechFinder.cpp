@@ -42,10 +42,10 @@ SpeechFindings SpeechSearch::find(BookState& state, const std::atomic<bool>& isC
     std::vector<SpeechText> texts = speechTexts(book, currentEngines());
     if (!book.projectPath.empty()) {
         const std::string folder = audioFolder(book);
-        SpeechIndex& index = indexOf(folder);
-        lookUp(texts, folder, index);
-        findings.problem = QString::fromStdString(index.problem());
-        findings.audioFolder = QFileInfo(QString::fromStdString(index.path())).path();
+        SpeechIndex& remembered = indexOf(folder);
+        lookUp(texts, folder, remembered);
+        findings.problem = QString::fromStdString(remembered.problem());
+        findings.audioFolder = QFileInfo(QString::fromStdString(remembered.path())).path();
     }
     findings.rows.reserve(texts.size());
     for (SpeechText& text : texts) {
