@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <ctime>
+#include <sys/resource.h>
 
 namespace {
 
@@ -35,22 +36,47 @@ double processorTime(qint64 processId)
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
+double seconds(const timeval& time)
+{
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+}
+
+// Of all that this process has started and that has ended.
+double timeOfEndedProcesses()
+{
+    rusage usage{};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
 }  // namespace
+
+Cost costOf(const QString& program, const QStringList& arguments, const QByteArray& input)
+{
+    constexpr int kPollInterval = 5;  // ms
+    const double before = timeOfEndedProcesses();
+    QProcess process;
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(program, arguments);
+    Cost cost;
+    if (!process.waitForStarted()) {
+        return cost;
+    }
+    process.write(input);
+    process.closeWriteChannel();
+    while (!process.waitForFinished(kPollInterval) && process.state() != QProcess::NotRunning) {
+        cost.bytes = std::max(cost.bytes, peakSoFar(process.processId()));
+    }
+    cost.seconds = timeOfEndedProcesses() - before;
+    cost.status = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    return cost;
+}
 
 double peakMemoryOf(const QString& program, const QStringList& arguments)
 {
-    constexpr int kPollInterval = 5;  // ms
-    QProcess process;
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.start(program, arguments);
-    if (!process.waitForStarted()) {
-        return 0;
-    }
-    double peak = 0;
-    while (!process.waitForFinished(kPollInterval) && process.state() != QProcess::NotRunning) {
-        peak = std::max(peak, peakSoFar(process.processId()));
-    }
-    return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0 ? peak : 0;
+    const Cost cost = costOf(program, arguments);
+    return cost.status == 0 ? cost.bytes : 0;
 }
 
 double processorTimeUntilRest(const QString& program, const QStringList& arguments)

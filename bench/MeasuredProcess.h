@@ -6,6 +6,19 @@
 // not be run, failed, or the system does not tell.
 double peakMemoryOf(const QString& program, const QStringList& arguments);
 
+// What a run of a program takes: processor time of all its threads and of the programs that it
+// started, in seconds, and the largest memory that it ever had itself, in bytes. With another exit
+// status than 0 it may have done less than asked for; -1 when it could not be run or was killed.
+struct Cost
+{
+    double seconds = 0;
+    double bytes = 0;
+    int status = -1;
+};
+
+// Runs a program to its end, with this on its standard input.
+Cost costOf(const QString& program, const QStringList& arguments, const QByteArray& input = {});
+
 // Starts a program, waits until it has used no processor time for a while, and ends it: the time
 // that all its threads have used until then, in seconds; 0 when it ended by itself.
 double processorTimeUntilRest(const QString& program, const QStringList& arguments);
