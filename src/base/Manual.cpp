@@ -28,7 +28,7 @@ QStringList manualFiles()
 QString manualFile(const QStringList& languages)
 {
     for (const QString& language : languages) {
-        const QString file = fileOf(language);
+        QString file = fileOf(language);
         if (!file.isEmpty()) {
             return file;
         }
