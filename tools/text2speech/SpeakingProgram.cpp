@@ -36,7 +36,7 @@ std::string findSpeaker(const std::string& program)
     const std::string places[] = {Platform::exeDirectory() + "\\" + program, program,
                                   Platform::programsFolder() + "\\eSpeak NG\\" + program};
     for (const std::string& place : places) {
-        const std::string found = Platform::findProgram(place);
+        std::string found = Platform::findProgram(place);
         if (!found.empty()) {
             return found;
         }
