@@ -43,19 +43,6 @@ void rest()
     }
 }
 
-double peakMemory()
-{
-    QFile status("/proc/self/status");
-    if (status.open(QIODevice::ReadOnly)) {
-        for (const QByteArray& line : status.readAll().split('\n')) {
-            if (line.startsWith("VmHWM:")) {
-                return line.simplified().split(' ').value(1).toDouble() * 1024;
-            }
-        }
-    }
-    return 0;
-}
-
 // The window as an author has it.
 class ShownWindow
 {
@@ -73,7 +60,8 @@ public:
         const double before = processorTime();
         what();
         rest();
-        std::printf("%.6f %.0f\n", processorTime() - before, peakMemory());
+        std::printf("%.6f %.0f\n", processorTime() - before,
+                    peakSoFar(QCoreApplication::applicationPid()));
     }
     void showTab(int tab) { get<QTabWidget>("ribbonTab")->setCurrentIndex(tab); }
     void trigger(const char* action) { get<QAction>(action)->trigger(); }

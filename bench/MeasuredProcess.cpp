@@ -9,22 +9,6 @@
 
 namespace {
 
-// "VmHWM:    60344 kB" in the process's status: the peak so far, of this program alone. (The peak
-// that wait4 reports starts with that of the program which forked it.)
-double peakSoFar(qint64 processId)
-{
-    QFile status(QStringLiteral("/proc/%1/status").arg(processId));
-    if (!status.open(QIODevice::ReadOnly)) {
-        return 0;
-    }
-    for (const QByteArray& line : status.readAll().split('\n')) {
-        if (line.startsWith("VmHWM:")) {
-            return line.simplified().split(' ').value(1).toDouble() * 1024;
-        }
-    }
-    return 0;
-}
-
 // All threads of a process, in seconds.
 double processorTime(qint64 processId)
 {
@@ -50,6 +34,22 @@ double timeOfEndedProcesses()
 }
 
 }  // namespace
+
+// "VmHWM:    60344 kB" in the process's status: the peak so far, of this program alone. (The peak
+// that wait4 reports starts with that of the program which forked it.)
+double peakSoFar(qint64 processId)
+{
+    QFile status(QStringLiteral("/proc/%1/status").arg(processId));
+    if (!status.open(QIODevice::ReadOnly)) {
+        return 0;
+    }
+    for (const QByteArray& line : status.readAll().split('\n')) {
+        if (line.startsWith("VmHWM:")) {
+            return line.simplified().split(' ').value(1).toDouble() * 1024;
+        }
+    }
+    return 0;
+}
 
 Cost costOf(const QString& program, const QStringList& arguments, const QByteArray& input)
 {

@@ -6,6 +6,10 @@
 // not be run, failed, or the system does not tell.
 double peakMemoryOf(const QString& program, const QStringList& arguments);
 
+// The largest memory (bytes in RAM) that a running process has had so far; 0 when the system does
+// not tell.
+double peakSoFar(qint64 processId);
+
 // What a run of a program takes: processor time of all its threads and of the programs that it
 // started, in seconds, and the largest memory that it ever had itself, in bytes. With another exit
 // status than 0 it may have done less than asked for; -1 when it could not be run or was killed.
