@@ -27,14 +27,22 @@ std::string fileNow(const std::string& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
 }
 
-void waitUntil(const std::function<bool()>& isSo, const QString& what)
+bool comesAbout(const std::function<bool()>& isSo, int patience)
 {
-    const QDeadlineTimer deadline(kPatience);
+    const QDeadlineTimer deadline(patience);
     while (!isSo()) {
         if (deadline.hasExpired()) {
-            fail("waited in vain: " + what);
+            return false;
         }
         QThread::msleep(20);
+    }
+    return true;
+}
+
+void waitUntil(const std::function<bool()>& isSo, const QString& what)
+{
+    if (!comesAbout(isSo, kPatience)) {
+        fail("waited in vain: " + what);
     }
 }
 
@@ -141,7 +149,19 @@ void DrivenProgram::clickPicture(double x, double y)
             QPoint(qRound(x * area.width() / 100), qRound(y * area.width() / 100)));
 }
 
-void DrivenProgram::drag(QPoint from, QPoint to)
+void DrivenProgram::drag(QPoint from, QPoint to, const std::function<bool()>& hasCome)
+{
+    constexpr int kAttempts = 5;
+    for (int i = 0; i < kAttempts; ++i) {
+        dragOnce(from, to);
+        if (comesAbout(hasCome, kPatience / 4)) {
+            return;
+        }
+    }
+    fail("dragged in vain");
+}
+
+void DrivenProgram::dragOnce(QPoint from, QPoint to)
 {
     constexpr int kSteps = 10;
     constexpr int kPause = 100;       // ms

@@ -23,8 +23,10 @@ public:
     void click(const char* control);
     // On the picture: x and y in percent of its width.
     void clickPicture(double x, double y);
-    // With the button held, slowly enough to be seen as a drag. In pixels of the window.
-    void drag(QPoint from, QPoint to);
+    // With the button held, slowly enough to be seen as a drag. In pixels of the window. Where the
+    // machine keeps the program from its events meanwhile, they come all at once and are no drag:
+    // it is done again when this has not come about for a while.
+    void drag(QPoint from, QPoint to, const std::function<bool()>& hasCome);
     // Replaces what a field holds.
     void fill(const char* field, const QString& text);
     // What ends a line is typed with Return.
@@ -44,6 +46,7 @@ public:
     QImage stillPictureOf(const char* control) const;
 
 private:
+    void dragOnce(QPoint from, QPoint to);
     QString xdotool(const QStringList& words) const;
     QString windowsTitled(const QString& title) const;  // as the X server numbers them
     QString waitForWindow(const QString& title);
@@ -59,5 +62,8 @@ private:
 // What a file holds that the program may be renaming; empty while there is none.
 std::string fileNow(const std::string& path);
 
-// Waits until something is so, looking often; throws with this text after a minute.
+// Waits until something is so, looking often; whether it was in this time, in milliseconds.
+bool comesAbout(const std::function<bool()>& isSo, int patience);
+
+// The same, but throws with this text after a minute.
 void waitUntil(const std::function<bool()>& isSo, const QString& what);

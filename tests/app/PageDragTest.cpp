@@ -45,17 +45,16 @@ private slots:
             const QPoint first(list.left() + 40, list.top() + 40);
             const QPoint below(list.left() + 40, list.bottom() - 8);
 
-            program.drag(first, below);
-            waitForOrder({1, 2, 0});
+            program.drag(first, below, [this] { return areInOrder({1, 2, 0}); });
             const std::string after = saved(program, before);
             QVERIFY(after.find("area1") < after.find("area2"));
             QVERIFY(after.find("area2") < after.find("area0"));
 
             program.press("ctrl+z");
-            waitForOrder({0, 1, 2});
+            waitUntil([this] { return areInOrder({0, 1, 2}); }, "the first order");
             QCOMPARE(saved(program, after), before);
             program.press("ctrl+shift+z");
-            waitForOrder({1, 2, 0});
+            waitUntil([this] { return areInOrder({1, 2, 0}); }, "the new order");
             QCOMPARE(saved(program, before), after);
             program.quit();
         } catch (const std::exception& failure) {
@@ -69,19 +68,16 @@ private:
         return folder.file("905-bkgnd" + std::to_string(page) + ".jpg");
     }
 
-    // Which of the first pictures each page has now.
-    void waitForOrder(const std::vector<int>& order) const
+    // Whether the pages have the first pictures in this order.
+    bool areInOrder(const std::vector<int>& order) const
     {
-        const auto isSo = [&] {
-            for (int page = 0; page < kPages; ++page) {
-                const auto was = static_cast<std::size_t>(order[static_cast<std::size_t>(page)]);
-                if (fileNow(picture(page)) != pictures[was]) {
-                    return false;
-                }
+        for (int page = 0; page < kPages; ++page) {
+            const auto was = static_cast<std::size_t>(order[static_cast<std::size_t>(page)]);
+            if (fileNow(picture(page)) != pictures[was]) {
+                return false;
             }
-            return true;
-        };
-        waitUntil(isSo, "the pictures of the moved pages");
+        }
+        return true;
     }
 
     // The project file, when it is another one than before.

@@ -5,7 +5,8 @@
 XDisplay::XDisplay(const QString& size)
 {
     server.start("Xvfb", {"-displayfd", "1", "-screen", "0", size + "x24"});
-    if (!server.waitForReadyRead()) {
+    constexpr int kPatience = 60000;  // milliseconds, for a machine that is busy with other things
+    if (!server.waitForReadyRead(kPatience)) {
         throw std::runtime_error("Xvfb did not start");
     }
     displayName = ":" + QString::fromLatin1(server.readLine()).trimmed();
