@@ -2,9 +2,14 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
-// The machine: its memory, its keyboard and its screen.
+// The machine: its name, its memory, its keyboard and its screen.
 namespace Platform {
+
+// The name of this machine as Qt's lock files hold it: on Windows the short one in capitals, which
+// is not the one of its network.
+std::string machineName();
 
 // Bytes that this process can still fill without driving the machine out of memory; the largest
 // number when the system does not tell.

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <limits>
 #include <sys/resource.h>
+#include <sys/utsname.h>
 
 #ifdef __GLIBC__
 #include <malloc.h>
@@ -45,6 +46,12 @@ std::uint64_t memoryLimitOfTheProcess()
 }
 
 }  // namespace
+
+std::string machineName()
+{
+    utsname system = {};
+    return uname(&system) == 0 ? system.nodename : std::string();
+}
 
 std::uint64_t availableMemory()
 {

@@ -1,10 +1,17 @@
 #include "base/PlatformMachine.h"
 
+#include "base/PlatformProcess.h"
+
 #include <algorithm>
 #include <limits>
 #include <windows.h>
 
 namespace Platform {
+
+std::string machineName()
+{
+    return environmentVariable("COMPUTERNAME");
+}
 
 std::uint64_t availableMemory()
 {

@@ -2,10 +2,10 @@
 
 #include <QFileInfo>
 #include <QLockFile>
-#include <QSysInfo>
 
 #include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
+#include "base/PlatformMachine.h"
 #include "base/TextHelpers.h"
 #include "oid/OidProject.h"
 
@@ -84,7 +84,7 @@ std::string OutputLock::owner() const
     if (!lock->getLockInfo(&process, &machine, &program)) {
         return "another program";
     }
-    const bool isHere = machine.isEmpty() || machine == QSysInfo::machineHostName();
+    const bool isHere = machine.isEmpty() || machine.toStdString() == Platform::machineName();
     const QString where = isHere ? QString() : " on " + machine;
     return QString("%1%2 (process %3)").arg(program, where).arg(process).toStdString();
 }
