@@ -720,8 +720,12 @@
         <translation>Das Spiel wurde nicht gebaut. Die Konsole sagt, warum.</translation>
     </message>
     <message>
-        <source>The game was copied to the pen</source>
-        <translation>Das Spiel wurde auf den Stift kopiert</translation>
+        <source>The game was copied to the pen, which can be unplugged</source>
+        <translation>Das Spiel wurde auf den Stift kopiert, der abgezogen werden kann</translation>
+    </message>
+    <message>
+        <source>The game was copied to the pen. Eject it before you unplug it</source>
+        <translation>Das Spiel wurde auf den Stift kopiert. Werfen Sie ihn aus, bevor Sie ihn abziehen</translation>
     </message>
     <message>
         <source>The game was not copied to the pen</source>

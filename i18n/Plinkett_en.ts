@@ -720,8 +720,12 @@
         <translation>The game was not built. The console tells why.</translation>
     </message>
     <message>
-        <source>The game was copied to the pen</source>
-        <translation>The game was copied to the pen</translation>
+        <source>The game was copied to the pen, which can be unplugged</source>
+        <translation>The game was copied to the pen, which can be unplugged</translation>
+    </message>
+    <message>
+        <source>The game was copied to the pen. Eject it before you unplug it</source>
+        <translation>The game was copied to the pen. Eject it before you unplug it</translation>
     </message>
     <message>
         <source>The game was not copied to the pen</source>

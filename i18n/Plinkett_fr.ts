@@ -720,8 +720,12 @@
         <translation>Le jeu n'a pas été généré. La console dit pourquoi.</translation>
     </message>
     <message>
-        <source>The game was copied to the pen</source>
-        <translation>Le jeu a été copié sur le stylo</translation>
+        <source>The game was copied to the pen, which can be unplugged</source>
+        <translation>Le jeu a été copié sur le stylo, qui peut être débranché</translation>
+    </message>
+    <message>
+        <source>The game was copied to the pen. Eject it before you unplug it</source>
+        <translation>Le jeu a été copié sur le stylo. Éjectez-le avant de le débrancher</translation>
     </message>
     <message>
         <source>The game was not copied to the pen</source>

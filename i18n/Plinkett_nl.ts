@@ -720,8 +720,12 @@
         <translation>Het spel is niet gebouwd. De console zegt waarom.</translation>
     </message>
     <message>
-        <source>The game was copied to the pen</source>
-        <translation>Het spel is naar de pen gekopieerd</translation>
+        <source>The game was copied to the pen, which can be unplugged</source>
+        <translation>Het spel is naar de pen gekopieerd, die losgekoppeld kan worden</translation>
+    </message>
+    <message>
+        <source>The game was copied to the pen. Eject it before you unplug it</source>
+        <translation>Het spel is naar de pen gekopieerd. Werp die uit voordat u hem loskoppelt</translation>
     </message>
     <message>
         <source>The game was not copied to the pen</source>

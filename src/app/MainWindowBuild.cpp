@@ -261,7 +261,11 @@ void MainWindow::copyGmeToTipToi()
     const std::string script = ui->codeEditor->text().toStdString();
     switch (copyGmeToPen(project, script, *ui->txConsole)) {
     case PenCopy::done:
-        tell(*ui->lbBuildResult, tr("The game was copied to the pen"));
+        tell(*ui->lbBuildResult, tr("The game was copied to the pen, which can be unplugged"));
+        break;
+    case PenCopy::stillInUse:
+        tell(*ui->lbBuildResult,
+             tr("The game was copied to the pen. Eject it before you unplug it"));
         break;
     case PenCopy::failed:
         tell(*ui->lbBuildResult, built ? tr("The game was not copied to the pen")

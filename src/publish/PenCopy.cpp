@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "base/FileSystem.h"
+#include "base/PlatformEject.h"
 #include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
 #include "oid/OidProject.h"
@@ -43,16 +44,26 @@ bool isSameFile(const std::string& one, const std::string& other)
                           fs::u8path(Platform::nativePath(other)), ignored);
 }
 
-void sayOthersOfItsNumber(const std::string& root, const std::string& copy, int productId,
-                          ProcessRunner& runner)
+std::vector<std::string> othersOfItsNumber(const std::string& root, const std::string& copy,
+                                           int productId)
 {
-    for (const std::string& name : gamesWithId(root, static_cast<std::uint32_t>(productId))) {
-        if (!isSameFile(root + FileSystem::directorySeparator + name, copy)) {
-            say("Warning: Another game on the pen has the number " + itostr(productId) +
-                    ", too: " + name,
-                runner);
-        }
+    std::vector<std::string> names = gamesWithId(root, static_cast<std::uint32_t>(productId));
+    const auto isTheCopy = [&](const std::string& name) {
+        return isSameFile(root + FileSystem::directorySeparator + name, copy);
+    };
+    names.erase(std::remove_if(names.begin(), names.end(), isTheCopy), names.end());
+    return names;
+}
+
+PenCopy eject(const std::string& pen, ProcessRunner& runner)
+{
+    const std::string why = Platform::ejectVolume(pen);
+    if (!why.empty()) {
+        say("Eject the pen before you unplug it: " + why, runner);
+        return PenCopy::stillInUse;
     }
+    say("The pen can be unplugged.", runner);
+    return PenCopy::done;
 }
 
 // False, with a message, when the copy would come from outside of the project's folder or go
@@ -100,9 +111,15 @@ PenCopy copyGmeToPen(const Oid::OidProject& project, const std::string& script,
         return PenCopy::failed;
     }
     runner.echo("done.\n");
+    const std::vector<std::string> others = othersOfItsNumber(*pen, copy, project.productId);
+    const PenCopy result = eject(*pen, runner);
     say("Copied to " + Platform::nativePath(copy), runner);
-    sayOthersOfItsNumber(*pen, copy, project.productId, runner);
-    return PenCopy::done;
+    for (const std::string& name : others) {
+        say("Warning: Another game on the pen has the number " + itostr(project.productId) +
+                ", too: " + name,
+            runner);
+    }
+    return result;
 }
 
 PenCopy copyGmeToPen(const Oid::OidProject& project, ProcessRunner& runner,

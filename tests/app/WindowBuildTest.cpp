@@ -1,5 +1,6 @@
 // Building from the window: the console, the speech with its progress, the assembler, the pen.
 #include "base/PlatformDrives.h"
+#include "base/PlatformEject.h"
 #include "oid/PrintImage.h"
 #include "tests/app/ProgressCancel.h"
 #include "tests/app/WindowFixture.h"
@@ -64,6 +65,8 @@ private:
 
 // The drives that this computer has, for these tests.
 std::vector<std::string> pluggedIn;
+// Why none of them can be ejected.
+std::string heldBy;
 
 // A folder that stands for the drive of a pen.
 struct PluggedInPen
@@ -73,7 +76,11 @@ struct PluggedInPen
         writeFile(folder.file("tiptoi.ico"), "");
         pluggedIn = {folder.path()};
     }
-    ~PluggedInPen() { pluggedIn.clear(); }
+    ~PluggedInPen()
+    {
+        pluggedIn.clear();
+        heldBy.clear();
+    }
     PluggedInPen(const PluggedInPen&) = delete;
     PluggedInPen& operator=(const PluggedInPen&) = delete;
 
@@ -91,6 +98,11 @@ std::vector<std::string> Platform::penVolumes()
 bool Platform::folderHolds(const std::string& folder, const std::string& name)
 {
     return QFile::exists(QString::fromStdString(folder + "/" + name));
+}
+
+std::string Platform::ejectVolume(const std::string& /*root*/)
+{
+    return heldBy;
 }
 
 class WindowBuildTest : public QObject
@@ -479,13 +491,28 @@ private slots:
         writeFile(w.folder.file("900-Zoo.gme"), "game");
         w.type("txProjDPI", "600");
         w.click("btCopyToPen");
-        QCOMPARE(w.console(), "Copy to Pen...\ndone.\nCopied to " +
+        QCOMPARE(w.console(), "Copy to Pen...\ndone.\nThe pen can be unplugged.\nCopied to " +
                                   QString::fromStdString(pen.folder.file("900-Zoo.gme")));
-        QCOMPARE(w.status(), "The game was copied to the pen");
-        QCOMPARE(w.text("lbBuildResult"), "The game was copied to the pen");
+        QCOMPARE(w.status(), "The game was copied to the pen, which can be unplugged");
+        QCOMPARE(w.text("lbBuildResult"), "The game was copied to the pen, which can be unplugged");
         QCOMPARE(readFile(pen.folder.file("900-Zoo.gme")), std::string("game"));
         QCOMPARE(readFile(w.folder.file("book.oidpro")), project);
         QCOMPARE(w.folder.listing(), std::string("900-Zoo.gme 900-bkgnd0.jpg book.oidpro"));
+    }
+
+    void aPenThatIsStillInUseIsNotToBeUnplugged()
+    {
+        const PluggedInPen pen;
+        heldBy = "target is busy";
+        WindowFixture w;
+        w.open(projectFile({kCow}, kScript), 1);
+        writeFile(w.folder.file("900-Zoo.gme"), "game");
+        w.click("btCopyToPen");
+        QCOMPARE(w.console(), "Copy to Pen...\ndone.\n"
+                              "Eject the pen before you unplug it: target is busy\nCopied to " +
+                                  QString::fromStdString(pen.folder.file("900-Zoo.gme")));
+        QCOMPARE(w.text("lbBuildResult"),
+                 "The game was copied to the pen. Eject it before you unplug it");
     }
 
     void copyingAGameThatIsNotBuiltYetFails()

@@ -155,7 +155,7 @@ protected:
         book.productName = "Zoo";
         book.projectPath = folder.file("book.oidpro");
         TerminalRunner runner;
-        return copyGmeToPen(book, runner, {folder.file("pen")}) == PenCopy::done;
+        return isCopied(copyGmeToPen(book, runner, {folder.file("pen")}));
     }
 
     bool keepWork()

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
+#include "base/PlatformEject.h"
 #include "base/PrintFunction.h"
 #include "oid/OidProject.h"
 #include "oid/OutputLock.h"
@@ -16,12 +17,29 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// What ejecting a pen comes to, and which were ejected so far.
+std::string whyNotEjected;
+std::vector<std::string> ejected;
+
+}  // namespace
+
+// Linked in place of that of the system.
+std::string Platform::ejectVolume(const std::string& root)
+{
+    ejected.push_back(root);
+    return whyNotEjected;
+}
+
+namespace {
+
 // A built game "900-Zoo.gme", and folders that stand for the volumes "first" and "second".
 class CopyingToThePen : public testing::Test
 {
 protected:
     CopyingToThePen()
     {
+        whyNotEjected.clear();
+        ejected.clear();
         project.productName = "Zoo";
         project.projectPath = folder.path() + "\\zoo.oidpro";
         writeFile(folder.file("900-Zoo.gme"), game);
@@ -61,10 +79,37 @@ TEST_F(CopyingToThePen, TheGameGoesIntoTheRootOfThePen)
 {
     markAsPen("second");
     EXPECT_EQ(copy(), PenCopy::done);
-    EXPECT_EQ(runner.shown(),
-              "Copy to Pen...\ndone.\nCopied to " + folder.file("second/900-Zoo.gme") + "\n");
+    EXPECT_EQ(runner.shown(), "Copy to Pen...\ndone.\nThe pen can be unplugged.\nCopied to " +
+                                  folder.file("second/900-Zoo.gme") + "\n");
     EXPECT_EQ(readFile(folder.file("second/900-Zoo.gme")), game);
     EXPECT_EQ(contentOf("first"), "");
+}
+
+TEST_F(CopyingToThePen, OnlyThePenIsEjectedWhenTheGameIsThere)
+{
+    markAsPen("second");
+    EXPECT_EQ(copy(), PenCopy::done);
+    EXPECT_EQ(ejected, std::vector<std::string>{folder.file("second")});
+}
+
+TEST_F(CopyingToThePen, WhyItCannotBeUnpluggedIsTold)
+{
+    markAsPen("second");
+    whyNotEjected = "target is busy";
+    EXPECT_EQ(copy(), PenCopy::stillInUse);
+    EXPECT_EQ(runner.shown(),
+              "Copy to Pen...\ndone.\nEject the pen before you unplug it: target is busy\n"
+              "Copied to " +
+                  folder.file("second/900-Zoo.gme") + "\n");
+    EXPECT_EQ(readFile(folder.file("second/900-Zoo.gme")), game);
+}
+
+TEST_F(CopyingToThePen, AfterAFailureNothingIsEjected)
+{
+    markAsPen("first");
+    fs::remove(folder.file("900-Zoo.gme"));
+    EXPECT_EQ(copy(), PenCopy::failed);
+    EXPECT_TRUE(ejected.empty());
 }
 
 TEST_F(CopyingToThePen, OfTwoPensOnlyTheFirstIsServed)
@@ -150,6 +195,7 @@ TEST_F(CopyingToThePen, OtherGamesOfItsNumberOnThePenAreNamed)
     EXPECT_EQ(runner.shown(),
               "Copy to Pen...\n"
               "done.\n"
+              "The pen can be unplugged.\n"
               "Copied to " +
                   folder.file("first/900-Zoo.gme") +
                   "\n"
@@ -206,7 +252,8 @@ protected:
     {
         copyGmeToPen(project, script, runner, {folder.file("first")});
         std::string said = runner.shown();
-        const std::string done = "done.\nCopied to " + folder.file("first/900-Zoo.gme") + "\n";
+        const std::string done = "done.\nThe pen can be unplugged.\nCopied to " +
+                                 folder.file("first/900-Zoo.gme") + "\n";
         EXPECT_EQ(said.find("Copy to Pen...\n"), 0U);
         EXPECT_EQ(said.find(done) + done.size(), said.size());
         return said.substr(15, said.size() - 15 - done.size());

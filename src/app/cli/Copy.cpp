@@ -21,7 +21,7 @@ int copy(const Arguments& arguments)
                 "root\n",
                 kPenMark);
     }
-    return result == PenCopy::done ? kFine : kFailed;
+    return isCopied(result) ? kFine : kFailed;
 }
 
 }  // namespace
