@@ -1,5 +1,6 @@
 // What an author is told about quick answers.
 #include "quick/Saving.h"
+#include "base/PlatformRandom.h"
 #include "gme/DescriptionReader.h"
 #include "oid/OpenProject.h"
 #include "quick/Quick.h"
@@ -184,11 +185,15 @@ TEST(Saving, TellsOnlyWhatBecameLess)
     EXPECT_EQ(wordsFor({18, 0}, {20, 0}), "");
 }
 
-// As the pen itself counts them: see SampleBook.AnswersAfterTwoStepsAtMost.
+// As the pen itself counts them: see SampleBook.AnswersAfterTwoStepsAtMost. Among the random
+// numbers that Windows draws for this book two pairs are equal, and so are the steps that hold
+// them.
 TEST(Saving, OnTheSampleBook)
 {
-    EXPECT_EQ(wordsForFarm(false),
-              "Quick answers: 181 steps became 52; the slowest answer takes 2 steps instead of 31");
+    const bool drawsAsWindows = Platform::RandomNumbers(1).next() == 41;
+    EXPECT_EQ(wordsForFarm(false), "Quick answers: 181 steps became " +
+                                       std::string(drawsAsWindows ? "50" : "52") +
+                                       "; the slowest answer takes 2 steps instead of 31");
 }
 
 TEST(Saving, OnTheSampleBookThatSaysItsLineNumbers)
