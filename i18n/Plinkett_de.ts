@@ -207,6 +207,10 @@
         <translation>Dieser Text ist zu lang: Der Name seiner Audiodatei hat %1 Zeichen, höchstens 251 sind möglich</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; cannot be a language, so the texts of this voice are not spoken</source>
+        <translation>„%1“ kann keine Sprache sein, deshalb werden die Texte dieser Stimme nicht gesprochen</translation>
+    </message>
+    <message>
         <source>When this is neither 0 nor 1, the pen does neither what stands behind if nor what stands behind else</source>
         <translation>Ist dies weder 0 noch 1, tut der Stift weder, was hinter if, noch, was hinter else steht</translation>
     </message>

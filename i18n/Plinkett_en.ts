@@ -207,6 +207,10 @@
         <translation>This text is too long: the name of its audio file has %1 characters, and 251 are the most</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; cannot be a language, so the texts of this voice are not spoken</source>
+        <translation>&quot;%1&quot; cannot be a language, so the texts of this voice are not spoken</translation>
+    </message>
+    <message>
         <source>When this is neither 0 nor 1, the pen does neither what stands behind if nor what stands behind else</source>
         <translation>When this is neither 0 nor 1, the pen does neither what stands behind if nor what stands behind else</translation>
     </message>

@@ -207,6 +207,10 @@
         <translation>Ce texte est trop long : le nom de son fichier audio a %1 caractères, 251 au plus sont possibles</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; cannot be a language, so the texts of this voice are not spoken</source>
+        <translation>« %1 » ne peut pas être une langue, les textes de cette voix ne sont donc pas dits</translation>
+    </message>
+    <message>
         <source>When this is neither 0 nor 1, the pen does neither what stands behind if nor what stands behind else</source>
         <translation>Si ce n&apos;est ni 0 ni 1, le stylo ne fait ni ce qui suit if ni ce qui suit else</translation>
     </message>

@@ -207,6 +207,10 @@
         <translation>Deze tekst is te lang: de naam van zijn audiobestand heeft %1 tekens, hoogstens 251 zijn mogelijk</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; cannot be a language, so the texts of this voice are not spoken</source>
+        <translation>„%1” kan geen taal zijn, dus de teksten van deze stem worden niet uitgesproken</translation>
+    </message>
+    <message>
         <source>When this is neither 0 nor 1, the pen does neither what stands behind if nor what stands behind else</source>
         <translation>Is dit noch 0 noch 1, dan doet de pen noch wat achter if noch wat achter else staat</translation>
     </message>

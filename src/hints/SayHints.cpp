@@ -97,6 +97,20 @@ void findLongAudioNames(const Book& book, Report& report)
     }
 }
 
+// An option without its value does not compile.
+void findRefusedLanguages(const Book& book, Report& report)
+{
+    for (const ScriptOutline::Voice& voice : book.script.voices) {
+        for (const ScriptOutline::VoiceOption& option : voice.options) {
+            const bool isLanguage = toLower(std::string(option.word.text)) == "lang";
+            if (isLanguage && option.value.place.line > 0 &&
+                !ScriptLanguage::isLanguage(option.value.text)) {
+                report.add(placeInScript(option.value), {std::string(option.value.text)});
+            }
+        }
+    }
+}
+
 }  // namespace
 
 std::vector<Hint> sayHints()
@@ -116,6 +130,10 @@ std::vector<Hint> sayHints()
          QT_TRANSLATE_NOOP("Hints", "This text is too long: the name of its audio file has %1 "
                                     "characters, and 251 are the most"),
          Subject::book, findLongAudioNames},
+        {"voice-language",
+         QT_TRANSLATE_NOOP("Hints", "\"%1\" cannot be a language, so the texts of this voice are "
+                                    "not spoken"),
+         Subject::book, findRefusedLanguages},
     };
 }
 

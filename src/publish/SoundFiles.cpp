@@ -16,6 +16,7 @@
 #include "speech/SpeechIndex.h"
 #include "speech/SpeechProgram.h"
 #include "speech/Utterance.h"
+#include "ttbasic/ScriptLanguage.h"
 
 namespace {
 
@@ -268,7 +269,7 @@ bool isThere(const std::string& program)
 std::optional<ProgramCall> AudioMaker::speak(Making& text)
 {
     const std::string& language = text.said.settings.language;
-    if (!text.isSpeechOwn && !isLanguage(language)) {
+    if (!text.isSpeechOwn && !ScriptLanguage::isLanguage(language)) {
         text.refused = "is not spoken: '" + shown(language) + "' is not the name of a language";
         return std::nullopt;
     }

@@ -1,7 +1,5 @@
 #include "speech/SpeechProgram.h"
 
-#include <algorithm>
-
 #include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"
@@ -48,12 +46,6 @@ std::string speechProgramFolder()
     return isOnPath(ours)
                ? FileSystem::getDirectoryOfPath(Platform::programToStart("Text2Speech.exe"))
                : ours;
-}
-
-bool isLanguage(const std::string& name)
-{
-    const auto isBlank = [](unsigned char c) { return c <= ' ' || c == 0x7F; };
-    return !name.empty() && name.front() != '-' && std::none_of(name.begin(), name.end(), isBlank);
 }
 
 // Intended: not undone, and only the first of the two folders is looked for, so that a second build

@@ -16,9 +16,5 @@ ProgramCall callToSpeak(const std::string& text, const ttbasic::VOICE& voice,
 // The folder of the speech program that is called, in its native form.
 std::string speechProgramFolder();
 
-// False for what the speech program would take for an option, or for more than one word: a leading
-// dash, blanks, control characters.
-bool isLanguage(const std::string& name);
-
 // Puts the folders of the tools that are shipped with the program in front of PATH, once.
 void putToolsOnPath();

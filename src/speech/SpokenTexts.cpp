@@ -3,6 +3,7 @@
 #include "base/PlatformProcess.h"
 #include "speech/Engines.h"
 #include "speech/SpeechProgram.h"
+#include "ttbasic/ScriptLanguage.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -109,7 +110,7 @@ void SpokenTexts::speak()
         tell(Problem::tooLong);
         return;
     }
-    if (!isLanguage(wanted->voice.language)) {
+    if (!ScriptLanguage::isLanguage(wanted->voice.language)) {
         tell(Problem::failed, QString::fromStdString("'" + wanted->voice.language +
                                                      "' is not the name of a language"));
         return;

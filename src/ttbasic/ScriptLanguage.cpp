@@ -1,5 +1,6 @@
 #include "ttbasic/ScriptLanguage.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "base/TextHelpers.h"
@@ -134,6 +135,12 @@ const std::vector<VoiceOption>& voiceOptions()
          "3"},
     };
     return all;
+}
+
+bool isLanguage(std::string_view name)
+{
+    const auto isBlank = [](unsigned char c) { return c <= ' ' || c == 0x7F; };
+    return !name.empty() && name.front() != '-' && std::none_of(name.begin(), name.end(), isBlank);
 }
 
 const std::vector<Operators>& operators()

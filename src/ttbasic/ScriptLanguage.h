@@ -89,6 +89,9 @@ const std::vector<Keyword>& keywords();
 constexpr const char* kEnd = "end";
 const std::vector<Keyword>& ends();
 const std::vector<VoiceOption>& voiceOptions();
+// Whether texts of a voice with this language are spoken. Not what the speech program would take
+// for an option, or for more than one word: a leading dash, blanks, control characters.
+bool isLanguage(std::string_view name);
 // From those that bind tightest to the loosest.
 const std::vector<Operators>& operators();
 

@@ -184,6 +184,16 @@ TEST(ScriptLanguage, TheRangeOfAVoicesNumbersIsTheOneThatTheCompilerTakes)
     EXPECT_FALSE(isTaken(ScriptLanguage::kLargestVoiceNumber + 1));
 }
 
+TEST(ScriptLanguage, ALanguageIsOneWordAndNoOption)
+{
+    for (const char* const name : {"de", "en-gb-x-rp", "Deutsch", "zh_TW"}) {
+        EXPECT_TRUE(ScriptLanguage::isLanguage(name)) << name;
+    }
+    for (const char* const name : {"", "-de", "de at", "de\t", " ", "de\x7F"}) {
+        EXPECT_FALSE(ScriptLanguage::isLanguage(name)) << name;
+    }
+}
+
 TEST(ScriptLanguage, AKeywordOfTwoWordsIsReadAsOne)
 {
     const StatementHead head = readStatement("\tEnd  IF x");
