@@ -3512,6 +3512,21 @@
     </message>
 </context>
 <context>
+    <name>SettingsBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Hides this line</source>
+        <translation>Blendet diese Zeile aus</translation>
+    </message>
+    <message>
+        <source>How you like the window cannot be kept for the next start, since %1 cannot be written: the disk is full, or the folder is protected.</source>
+        <translation>Wie Sie das Fenster eingerichtet haben, bleibt nicht bis zum nächsten Start erhalten, denn %1 kann nicht geschrieben werden: Der Datenträger ist voll, oder der Ordner ist geschützt.</translation>
+    </message>
+</context>
+<context>
     <name>PagePictures</name>
     <message>
         <source>The book has another number now. Save it before that.</source>

@@ -3512,6 +3512,21 @@
     </message>
 </context>
 <context>
+    <name>SettingsBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Hides this line</source>
+        <translation>Hides this line</translation>
+    </message>
+    <message>
+        <source>How you like the window cannot be kept for the next start, since %1 cannot be written: the disk is full, or the folder is protected.</source>
+        <translation>How you like the window cannot be kept for the next start, since %1 cannot be written: the disk is full, or the folder is protected.</translation>
+    </message>
+</context>
+<context>
     <name>PagePictures</name>
     <message>
         <source>The book has another number now. Save it before that.</source>

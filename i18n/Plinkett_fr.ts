@@ -3512,6 +3512,21 @@
     </message>
 </context>
 <context>
+    <name>SettingsBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Hides this line</source>
+        <translation>Cache cette ligne</translation>
+    </message>
+    <message>
+        <source>How you like the window cannot be kept for the next start, since %1 cannot be written: the disk is full, or the folder is protected.</source>
+        <translation>Vos réglages de la fenêtre ne peuvent pas être conservés jusqu’au prochain démarrage, car %1 ne peut pas être écrit : le disque est plein ou le dossier est protégé.</translation>
+    </message>
+</context>
+<context>
     <name>PagePictures</name>
     <message>
         <source>The book has another number now. Save it before that.</source>

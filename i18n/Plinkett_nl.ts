@@ -3512,6 +3512,21 @@
     </message>
 </context>
 <context>
+    <name>SettingsBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Hides this line</source>
+        <translation>Verbergt deze regel</translation>
+    </message>
+    <message>
+        <source>How you like the window cannot be kept for the next start, since %1 cannot be written: the disk is full, or the folder is protected.</source>
+        <translation>Hoe u het venster hebt ingericht, blijft niet bewaard tot de volgende start, want %1 kan niet worden geschreven: de schijf is vol of de map is beveiligd.</translation>
+    </message>
+</context>
+<context>
     <name>PagePictures</name>
     <message>
         <source>The book has another number now. Save it before that.</source>

@@ -16,6 +16,7 @@
 #include "app/Recovery.h"
 #include "app/RenameEverywhere.h"
 #include "app/ScriptAreas.h"
+#include "app/SettingsBar.h"
 #include "app/SideDocks.h"
 #include "app/StorableName.h"
 #include "app/SubNameNote.h"
@@ -177,6 +178,7 @@ void MainWindow::prepareNotices()
     addNotice(numberBar);
     connect(numberBar, &NumberBar::numberTaken, this, &MainWindow::takeNumber);
     noticeOthers();
+    addNotice(new SettingsBar);
 }
 
 void MainWindow::addNotice(NoticeBar* bar)
@@ -275,6 +277,7 @@ void MainWindow::keepSettingsIn(QSettings& settings)
     printing->keepSettingsIn(settings);
     speechTab->keepSettingsIn(settings);
     keepQuickAnswersIn(settings);
+    findChild<SettingsBar*>()->watch(settings);
     constexpr char kLetterSize[] = "script/letterSize";  // points
     KVQtHighlightEditCtrlInlay& script = ui->codeEditor->surface();
     bool isNumber = false;

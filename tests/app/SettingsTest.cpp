@@ -1,8 +1,14 @@
 // What a window keeps for the next one. The settings lie in a file of the test's own.
 #include "tests/app/WindowFixture.h"
 
+#include "app/NoticeBar.h"
+
+#include <QAccessible>
 #include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
 #include <QSettings>
+#include <QTabWidget>
 
 namespace {
 
@@ -25,6 +31,19 @@ bool isQuickAtTheStart(QSettings& settings)
     MainWindow window;
     window.keepSettingsIn(settings);
     return window.findChild<QCheckBox*>("chQuickAnswers")->isChecked();
+}
+
+bool barIsShown(WindowFixture& w)
+{
+    return w.get<NoticeBar>("settingsBar")->isVisible();
+}
+
+// Makes the letters of the script larger, which is to be kept.
+void makeLettersLarger(WindowFixture& w)
+{
+    w.get<QTabWidget>("ribbonTab")->setCurrentWidget(w.get<QWidget>("tabScript"));
+    QTest::keyClick(&script(w.window), Qt::Key_Plus, Qt::ControlModifier);
+    QCoreApplication::processEvents();  // that is written when nothing else is to be done
 }
 
 }  // namespace
@@ -107,6 +126,67 @@ private slots:
         settings.setValue("build/quickAnswers", "sometimes");
         const ChangedVariable folderOfTool("TIPTOITOOL", "/opt/tttool");
         QVERIFY(!isQuickAtTheStart(settings));
+    }
+
+    void settingsThatCannotBeWrittenAreToldOnceAndWorkGoesOn()
+    {
+        const TemporaryFolder folder;
+        writeFile(folder.file("file"), "no folder");
+        const QString file = QString::fromStdString(folder.file("file/settings.ini"));
+        QSettings settings(file, QSettings::IniFormat);
+        WindowFixture w;
+        w.window.keepSettingsIn(settings);
+        QVERIFY(!barIsShown(w));
+        makeLettersLarger(w);
+        QTRY_VERIFY(barIsShown(w));
+        const QString words = "How you like the window cannot be kept for the next start, since " +
+                              file +
+                              " cannot be written: the disk is full, or the folder is protected.";
+        QCOMPARE(w.get<QLabel>("settingsBarText")->text(), words);
+        QCOMPARE(QAccessible::queryAccessibleInterface(w.get<NoticeBar>("settingsBar"))
+                     ->text(QAccessible::Name),
+                 words);
+
+        w.click("btCloseSettingsBar");
+        QVERIFY(!barIsShown(w));
+        makeLettersLarger(w);
+        QVERIFY(!barIsShown(w));
+        QCOMPARE(script(w.window).letter_size(), 13);
+        w.dialogs.chooseFile(w.path("book.oidpro"));
+        w.trigger("action_Save_As");
+        QVERIFY(!readFile(w.folder.file("book.oidpro")).empty());
+    }
+
+    void aFullDiskIsToldAndTheSettingsOfBeforeStay()
+    {
+        const TemporaryFolder folder;
+        const std::string file = folder.file("settings.ini");
+        const std::string before = "[script]\nletterSize=20\n";
+        writeFile(file, before);
+        QSettings settings(QString::fromStdString(file), QSettings::IniFormat);
+        WindowFixture w;
+        w.window.keepSettingsIn(settings);
+        {
+            const SmallDisk disk(0);
+            makeLettersLarger(w);
+            QTRY_VERIFY(barIsShown(w));
+            QCOMPARE(readFile(file), before);
+        }
+        makeLettersLarger(w);
+        QTRY_VERIFY(readFile(file) != before);
+    }
+
+    void settingsThatAreWrittenAreNotTalkedAbout()
+    {
+        const TemporaryFolder folder;
+        const QString file = QString::fromStdString(folder.file("settings.ini"));
+        QSettings settings(file, QSettings::IniFormat);
+        WindowFixture w;
+        w.window.keepSettingsIn(settings);
+        makeLettersLarger(w);
+        QTRY_VERIFY(QFile::exists(file));
+        makeLettersLarger(w);
+        QVERIFY(!barIsShown(w));
     }
 };
 
