@@ -340,9 +340,18 @@ bool AudioMaker::convertByOurselves(const Making& text)
     return true;
 }
 
+bool isWav(const std::string& file)
+{
+    constexpr char kBeginning[] = "RIFF";
+    QFile opened;
+    return openInput(opened, file) && opened.read(sizeof kBeginning - 1) == kBeginning;
+}
+
+// On a full disk ffmpeg leaves a part of a file, or an empty one, and some of its versions say with
+// their exit code that all went well.
 void AudioMaker::finish(Making& text, int exitCode)
 {
-    if (exitCode != 0) {
+    if (exitCode != 0 || (isCutOff(text.sound) && isWav(text.speech))) {
         FileSystem::deleteFile(text.sound);  // half a file would pass for a whole one ever after
     }
     if (!FileSystem::doesFileExist(text.sound)) {

@@ -48,7 +48,7 @@ protected:
         const bool speaks = command.front() == "Text2Speech.exe";
         if (speaks ? speechStatus == 0 : soundIsWritten) {
             const auto file = command.end() - (speaks ? 3 : 1);
-            writeFile(*file, speaks ? speech : "sound");
+            writeFile(*file, speaks ? speech : converted);
         }
         return speaks ? speechStatus : soundStatus;
     }
@@ -57,7 +57,8 @@ protected:
     const ChangedVariable pathAfterwards{"PATH", Platform::searchPath()};
     Oid::OidProject project;
     RecordingRunner runner;
-    std::string speech = "speech";  // what the speech program writes
+    std::string speech = "speech";    // what the speech program writes
+    std::string converted = "sound";  // what the converter writes
     int speechStatus = 0;
     int soundStatus = 0;
     bool soundIsWritten = true;
@@ -520,6 +521,24 @@ static std::string oggPage(bool isLast)
     page[5] = isLast ? 4 : 0;
     page[26] = 1;
     return page + '\5' + "sound";
+}
+
+// As on a full disk.
+TEST_F(SoundFiles, HalfAnOggFileIsRemovedAlsoWhenTheConverterSaysThatAllWentWell)
+{
+    say("say_eve_Hi", "eve", "Hi");
+    speech = wavFile(1, 22050, tone(1, 22050, 440, 1));
+    for (const std::string& half : {std::string(), oggPage(false)}) {
+        converted = half;
+        EXPECT_EQ(create(), SpeechOutcome::incomplete);
+        EXPECT_FALSE(fs::exists(audio("say_eve_Hi.ogg")));
+        EXPECT_EQ(readFile(audio("say_eve_Hi.wav")), speech);
+    }
+    EXPECT_EQ(runner.shown(), "Error: The text 'Hi' has no audio file\n"
+                              "Error: The text 'Hi' has no audio file\n");
+    converted = oggPage(true);
+    EXPECT_EQ(create(), SpeechOutcome::complete);
+    EXPECT_EQ(readFile(audio("say_eve_Hi.ogg")), converted);
 }
 
 TEST_F(SoundFiles, HalfAnOggFileOfABuildThatWasKilledIsMadeAgain)
