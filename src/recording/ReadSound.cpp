@@ -11,6 +11,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <cmath>
 #include <optional>
 
 namespace recording {
@@ -66,8 +67,8 @@ MonoSound soundOf(SoundFile& file)
     return sound;
 }
 
-// Nothing where the format is not known here, or the file is damaged: another program may do
-// better.
+// Nothing where the format is not known here, or the file is damaged or cut off: another program
+// may do better.
 std::optional<FoundSound> readHere(const std::string& path, const QString& name)
 {
     SoundFile file(path);
@@ -76,6 +77,9 @@ std::optional<FoundSound> readHere(const std::string& path, const QString& name)
             Words::tr("%1 cannot be opened: %2").arg(name, QString::fromStdString(file.reason())));
     }
     if (file.state() != SoundFile::State::good) {
+        return std::nullopt;
+    }
+    if (std::isinf(file.seconds())) {
         return std::nullopt;
     }
     if (file.seconds() > kLongestSound) {

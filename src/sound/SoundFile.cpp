@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <limits>
 #include <sndfile.h>
 
 namespace {
@@ -104,6 +105,9 @@ int SoundFile::rate() const
 
 double SoundFile::seconds() const
 {
+    if (handle != nullptr && handle->info.frames == SF_COUNT_MAX) {
+        return std::numeric_limits<double>::infinity();
+    }
     return rate() > 0 ? static_cast<double>(handle->info.frames) / rate() : 0;
 }
 

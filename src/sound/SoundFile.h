@@ -28,8 +28,8 @@ public:
     const std::string& reason() const { return systemReason; }
     // 0 unless the file was opened as a sound; the next likewise.
     int channels() const;
-    int rate() const;  // frames a second
-    double seconds() const;
+    int rate() const;        // frames a second
+    double seconds() const;  // infinite where the file does not say, as one that is cut off
     bool isOggVorbis() const;
 
     // The next frames, channels interleaved, -1 to 1: at most that many, none at the end.

@@ -269,6 +269,16 @@ TEST_F(BookSoundsTest, ASoundLongerThanAnHourIsRefused)
                   "long.wav is longer than an hour");
 }
 
+TEST_F(BookSoundsTest, AFileThatIsCutOffIsTakenAsFarAsItGoes)
+{
+    const std::string whole = readFile(fileOf("moo.ogg", voiceOf(20)));
+    writeFile(folder.file("cut.ogg"), whole.substr(0, whole.size() / 2));
+    const FileReport report = recording::adoptSound(folder.file("cut.ogg"), places());
+    ASSERT_EQ(report.done, Done::written) << report.text.toStdString();
+    expectVoice(audio("Moo.ogg"));
+    EXPECT_EQ(readFile(original("Moo.ogg")), whole.substr(0, whole.size() / 2));
+}
+
 TEST_F(BookSoundsTest, OnAFullDiskTheEarlierVoiceStays)
 {
     writeFile(audio("Moo.ogg"), "the voice before");
