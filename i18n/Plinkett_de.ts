@@ -748,10 +748,6 @@
         <translation>Handbuch</translation>
     </message>
     <message>
-        <source>The manual cannot be shown: it is not installed, or there is no browser.</source>
-        <translation>Das Handbuch lässt sich nicht zeigen: Es ist nicht installiert, oder es gibt keinen Browser.</translation>
-    </message>
-    <message>
         <source>Opened: %1</source>
         <translation>Geöffnet: %1</translation>
     </message>
@@ -1138,6 +1134,13 @@
     <message>
         <source>Do you really want to delete this picture?</source>
         <translation>Soll dieses Bild wirklich gelöscht werden?</translation>
+    </message>
+</context>
+<context>
+    <name>OpenManual</name>
+    <message>
+        <source>The manual cannot be shown: it is not installed, or there is no browser.</source>
+        <translation>Das Handbuch lässt sich nicht zeigen: Es ist nicht installiert, oder es gibt keinen Browser.</translation>
     </message>
 </context>
 <context>
@@ -3622,6 +3625,17 @@
     <message>
         <source>There is no picture here.</source>
         <translation>Hier ist kein Bild.</translation>
+    </message>
+</context>
+<context>
+    <name>WhyButton</name>
+    <message>
+        <source>Why?</source>
+        <translation>Warum?</translation>
+    </message>
+    <message>
+        <source>Opens the manual in your browser, where it tells what to do (%1)</source>
+        <translation>Öffnet das Handbuch im Browser, wo es sagt, was zu tun ist (%1)</translation>
     </message>
 </context>
 <context>

@@ -748,10 +748,6 @@
         <translation>Manual</translation>
     </message>
     <message>
-        <source>The manual cannot be shown: it is not installed, or there is no browser.</source>
-        <translation>The manual cannot be shown: it is not installed, or there is no browser.</translation>
-    </message>
-    <message>
         <source>Opened: %1</source>
         <translation>Opened: %1</translation>
     </message>
@@ -1138,6 +1134,13 @@
     <message>
         <source>Do you really want to delete this picture?</source>
         <translation>Do you really want to delete this picture?</translation>
+    </message>
+</context>
+<context>
+    <name>OpenManual</name>
+    <message>
+        <source>The manual cannot be shown: it is not installed, or there is no browser.</source>
+        <translation>The manual cannot be shown: it is not installed, or there is no browser.</translation>
     </message>
 </context>
 <context>
@@ -3622,6 +3625,17 @@
     <message>
         <source>There is no picture here.</source>
         <translation>There is no picture here.</translation>
+    </message>
+</context>
+<context>
+    <name>WhyButton</name>
+    <message>
+        <source>Why?</source>
+        <translation>Why?</translation>
+    </message>
+    <message>
+        <source>Opens the manual in your browser, where it tells what to do (%1)</source>
+        <translation>Opens the manual in your browser, where it tells what to do (%1)</translation>
     </message>
 </context>
 <context>

@@ -748,10 +748,6 @@
         <translation>Manuel</translation>
     </message>
     <message>
-        <source>The manual cannot be shown: it is not installed, or there is no browser.</source>
-        <translation>Le manuel ne peut pas être affiché : il n’est pas installé, ou il n’y a pas de navigateur.</translation>
-    </message>
-    <message>
         <source>Opened: %1</source>
         <translation>Ouvert : %1</translation>
     </message>
@@ -1138,6 +1134,13 @@
     <message>
         <source>Do you really want to delete this picture?</source>
         <translation>Voulez-vous vraiment supprimer cette image ?</translation>
+    </message>
+</context>
+<context>
+    <name>OpenManual</name>
+    <message>
+        <source>The manual cannot be shown: it is not installed, or there is no browser.</source>
+        <translation>Le manuel ne peut pas être affiché : il n’est pas installé, ou il n’y a pas de navigateur.</translation>
     </message>
 </context>
 <context>
@@ -3622,6 +3625,17 @@
     <message>
         <source>There is no picture here.</source>
         <translation>Il n&apos;y a pas d&apos;image ici.</translation>
+    </message>
+</context>
+<context>
+    <name>WhyButton</name>
+    <message>
+        <source>Why?</source>
+        <translation>Pourquoi ?</translation>
+    </message>
+    <message>
+        <source>Opens the manual in your browser, where it tells what to do (%1)</source>
+        <translation>Ouvre le manuel dans le navigateur, là où il dit que faire (%1)</translation>
     </message>
 </context>
 <context>

@@ -748,10 +748,6 @@
         <translation>Handleiding</translation>
     </message>
     <message>
-        <source>The manual cannot be shown: it is not installed, or there is no browser.</source>
-        <translation>De handleiding kan niet worden getoond: ze is niet geïnstalleerd, of er is geen browser.</translation>
-    </message>
-    <message>
         <source>Opened: %1</source>
         <translation>Geopend: %1</translation>
     </message>
@@ -1138,6 +1134,13 @@
     <message>
         <source>Do you really want to delete this picture?</source>
         <translation>Wilt u deze afbeelding echt verwijderen?</translation>
+    </message>
+</context>
+<context>
+    <name>OpenManual</name>
+    <message>
+        <source>The manual cannot be shown: it is not installed, or there is no browser.</source>
+        <translation>De handleiding kan niet worden getoond: ze is niet geïnstalleerd, of er is geen browser.</translation>
     </message>
 </context>
 <context>
@@ -3622,6 +3625,17 @@
     <message>
         <source>There is no picture here.</source>
         <translation>Hier is geen afbeelding.</translation>
+    </message>
+</context>
+<context>
+    <name>WhyButton</name>
+    <message>
+        <source>Why?</source>
+        <translation>Waarom?</translation>
+    </message>
+    <message>
+        <source>Opens the manual in your browser, where it tells what to do (%1)</source>
+        <translation>Opent de handleiding in de browser, waar staat wat te doen is (%1)</translation>
     </message>
 </context>
 <context>

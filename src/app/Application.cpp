@@ -1,5 +1,7 @@
 #include "app/Application.h"
 
+#include "qtsync/WhyButton.h"
+
 #include <QMessageBox>
 
 #include <cstdio>
@@ -36,8 +38,11 @@ void Application::tellOutOfMemory()
         return;  // not enough even for the message
     }
     reserve.reset();
-    QMessageBox::critical(
-        nullptr, "Plinkett",
+    QMessageBox box(
+        QMessageBox::Critical, "Plinkett",
         tr("There is not enough memory to go on, so Plinkett ends here. What you had not saved is "
-           "kept as it was some seconds ago: open the book again to get it back."));
+           "kept as it was some seconds ago: open the book again to get it back."),
+        QMessageBox::Ok);
+    new WhyButton(box, "questions-memory");
+    box.exec();
 }

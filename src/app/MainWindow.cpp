@@ -31,6 +31,7 @@
 #include "page/PageScrollArea.h"
 #include "page/PageTouch.h"
 #include "qtsync/KVQtSync.h"
+#include "qtsync/WhyButton.h"
 #include "speech/tab/SpeechTab.h"
 #include "tryout/TryTab.h"
 #include "ttbasic/ttbasic.h"
@@ -42,7 +43,6 @@
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScrollArea>
@@ -416,7 +416,7 @@ void MainWindow::on_action_Save_As_triggered()
     const QString path = askForProjectToSave(this);
     ProjectDataWasChanged(true);
     if (!path.isEmpty() && !saveProject(path.toStdString())) {
-        warn(tr("The file could not be saved to the drive"));
+        warn(tr("The file could not be saved to the drive"), "questions-not-saved");
     }
     ProjectDataWasChanged(false);
 }
@@ -478,9 +478,9 @@ void MainWindow::tell(QLabel& besideButton, const QString& text)
     }
 }
 
-void MainWindow::warn(const QString& text)
+void MainWindow::warn(const QString& text, const QString& placeInManual)
 {
-    QMessageBox::warning(this, tr("Warning"), text, QMessageBox::Ok);
+    warnWithReason(this, tr("Warning"), text, placeInManual);
 }
 
 // The one project file of a drag; an empty text for anything else.

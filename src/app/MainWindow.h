@@ -204,7 +204,8 @@ private:
     void warnOfMissingCopies(const std::vector<std::string>& paths);
     // Which of the buttons, of which No is the safe one, the author pressed.
     int askToOverwrite(const std::string& path, QMessageBox::StandardButtons buttons);
-    void warn(const QString& text);
+    // With "Why?", which opens that place of the manual.
+    void warn(const QString& text, const QString& placeInManual);
     // Says in the status bar what came of an action; with a label also beside its button.
     void tell(const QString& text);
     void tell(QLabel& besideButton, const QString& text);

@@ -1,7 +1,7 @@
 // F1: the manual at the place that fits the tab.
 #include "app/MainWindow.h"
 
-#include "app/OpenManual.h"
+#include "qtsync/OpenManual.h"
 #include "ui_MainWindow.h"
 
 #include <QAction>
@@ -29,6 +29,6 @@ QString MainWindow::placeOfTab() const
 void MainWindow::showManual(const QString& place)
 {
     if (!openManual(place)) {
-        tell(tr("The manual cannot be shown: it is not installed, or there is no browser."));
+        tell(whyNoManual());
     }
 }

@@ -4,6 +4,7 @@
 #include "app/ChangedFileBar.h"
 #include "app/Recovery.h"
 #include "base/PlatformFiles.h"
+#include "qtsync/WhyButton.h"
 
 #include <QFileInfo>
 #include <QPushButton>
@@ -49,6 +50,7 @@ MainWindow::OtherFile MainWindow::askAboutOther()
     const QPushButton* const overwrite =
         box.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
     box.setDefaultButton(saveAs);
+    new WhyButton(box, "files-two-windows");
     box.exec();
     return box.clickedButton() == saveAs      ? OtherFile::saveAs
            : box.clickedButton() == open      ? OtherFile::open
@@ -59,7 +61,8 @@ MainWindow::OtherFile MainWindow::askAboutOther()
 void MainWindow::openOther()
 {
     if (!recovery->keepNow()) {
-        warn(tr("Your unsaved work cannot be kept. Save it under another name first."));
+        warn(tr("Your unsaved work cannot be kept. Save it under another name first."),
+             "questions-not-kept");
         return;
     }
     openProject(QString::fromStdString(Platform::nativePath(project.projectPath)));

@@ -91,7 +91,8 @@ void MainWindow::on_btLoadImage_clicked()
 std::optional<PictureCopy> MainWindow::choosePicture(int n)
 {
     if (project.projectPath.empty()) {
-        warn(tr("Save the project first: its pictures are kept beside the project file."));
+        warn(tr("Save the project first: its pictures are kept beside the project file."),
+             "questions-save-first");
         return std::nullopt;
     }
     const QString path = askForPicture(this);
@@ -101,7 +102,7 @@ std::optional<PictureCopy> MainWindow::choosePicture(int n)
     keepEdits();  // the copy is named by the id; and the paper fields belong to the old picture
     PictureCopy picture(path);
     if (picture.image().isNull()) {
-        warn(tr("Can't load that picture."));
+        warn(tr("Can't load that picture."), "questions-picture");
         return std::nullopt;
     }
     if (FileSystem::doesFileExist(project.pathImageSource(n)) &&
@@ -141,7 +142,7 @@ void MainWindow::warnWithPictureProblem(const QString& what)
     const FileProblem& problem = document.problem();
     const QString details =
         QString::fromStdString(problem.file) + "\n" + QString::fromStdString(problem.cause);
-    warn(problem.file.empty() ? what : what + "\n\n" + details);
+    warn(problem.file.empty() ? what : what + "\n\n" + details, "questions-picture-files");
 }
 
 void MainWindow::takeFilesAlong()
@@ -174,7 +175,8 @@ void MainWindow::warnOfMissingCopies(const std::vector<std::string>& paths)
         shown << QString::fromStdString(path);
     }
     warn(tr("These files could not be copied along. The old ones are still where they were.") +
-         "\n\n" + shown.join('\n'));
+             "\n\n" + shown.join('\n'),
+         "questions-not-copied");
 }
 
 void MainWindow::on_btDeletePicture_clicked()
@@ -186,5 +188,6 @@ void MainWindow::on_btDeletePicture_clicked()
     }
     // Intended: the pictures' files are named by number, so none can go. Not translated, either.
     warn("This is not implemented, yet. You must edit the project file and also RENAME the source "
-         "images!");
+         "images!",
+         "questions-removed-page");
 }

@@ -54,7 +54,7 @@ bool MainWindow::saveBookTest(const std::string& test)
     const auto size = static_cast<qint64>(test.size());
     if (!file.open(QIODevice::WriteOnly) || file.write(test.data(), size) != size ||
         !file.commit()) {
-        warn(tr("The file could not be saved to the drive"));
+        warn(tr("The file could not be saved to the drive"), "questions-not-saved");
         return false;
     }
     tell(tr("Saved: %1").arg(QFileInfo(path).fileName()));

@@ -2,7 +2,7 @@
 
 #include "app/AreasDock.h"
 #include "app/BookSourceOf.h"
-#include "app/OpenManual.h"
+#include "app/PlaceInManual.h"
 #include "app/ProblemsDock.h"
 #include "document/Document.h"
 #include "ui_MainWindow.h"

@@ -1,5 +1,8 @@
 #include "tests/app/DialogAnswers.h"
 
+#include "qtsync/WhyButton.h"
+#include "tests/app/ManualPlaces.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
@@ -46,6 +49,19 @@ void DialogAnswers::look(std::function<void(QWidget&)> lookAt)
     answers.emplace_back(std::move(lookAt));
 }
 
+namespace {
+
+// What tells of something wrong leads to the place of the manual that says what to do.
+bool leadsToManual(const QMessageBox& box)
+{
+    const bool tellsOfTrouble =
+        box.icon() == QMessageBox::Warning || box.icon() == QMessageBox::Critical;
+    const WhyButton* const why = box.findChild<WhyButton*>();
+    return !tellsOfTrouble || (why != nullptr && isInManual(why->place()));
+}
+
+}  // namespace
+
 void DialogAnswers::answer()
 {
     QWidget* const dialog = QApplication::activeModalWidget();
@@ -55,6 +71,9 @@ void DialogAnswers::answer()
     QString line = dialog->windowTitle();
     if (const QMessageBox* const box = qobject_cast<QMessageBox*>(dialog)) {
         line += ": " + box->text();
+        if (!leadsToManual(*box)) {
+            shown << "unexpected: no place in the manual for " + line;
+        }
     }
     if (answers.empty()) {
         shown << "unexpected: " + line;

@@ -9,7 +9,8 @@
 class QWidget;
 
 // Answers the modal dialogs that open while it lives, in the order of the answers given, and notes
-// what they showed. A dialog that nobody expected is closed and noted as such.
+// what they showed. A dialog that nobody expected is closed and noted as such. A box that warns and
+// does not lead to a place of the manual is noted, too.
 class DialogAnswers : public QObject
 {
     Q_OBJECT

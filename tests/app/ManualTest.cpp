@@ -1,51 +1,24 @@
 // F1 and "Why?": what they open, and that it is there.
 #include "base/Manual.h"
-#include "app/OpenManual.h"
+#include "app/PlaceInManual.h"
 #include "app/ProblemList.h"
 #include "hints/Hint.h"
+#include "qtsync/WhyButton.h"
+#include "tests/app/ManualPlaces.h"
 #include "tests/app/WindowFixture.h"
 
-#include <QDesktopServices>
-#include <QRegularExpression>
+#include <QApplication>
+#include <QMessageBox>
 #include <QTabWidget>
 #include <QTreeView>
-#include <QUrl>
 
 #define TRY_VERIFY(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, 30000)
 
 namespace {
 
-// Stands in for the desktop, which would start a browser.
-class Browser : public QObject
+WhyButton* whyOf(QWidget& box)
 {
-    Q_OBJECT
-
-public:
-    Browser() { QDesktopServices::setUrlHandler("file", this, "open"); }
-    ~Browser() override { QDesktopServices::unsetUrlHandler("file"); }
-
-    // Where the last page that was opened leads: "areas-draw".
-    QString place;
-    QString file;
-
-public slots:
-    void open(const QUrl& url)
-    {
-        const QString page = QString::fromStdString(readFile(url.toLocalFile().toStdString()));
-        const auto link = QRegularExpression("<a href=\"([^\"]*)\">").match(page);
-        place = QUrl(link.captured(1)).fragment();
-        file = QUrl(link.captured(1)).toLocalFile();
-    }
-};
-
-// All that the manual has, as id="...".
-bool isInManual(const QString& place)
-{
-    const QStringList files = manualFiles();
-    return files.size() == 2 && std::all_of(files.begin(), files.end(), [&](const QString& file) {
-               const QString html = QString::fromStdString(readFile(file.toStdString()));
-               return html.contains("id=\"" + place + '"');
-           });
+    return box.findChild<WhyButton*>();
 }
 
 }  // namespace
@@ -66,6 +39,14 @@ private slots:
     void everyHintHasItsPlace();
     void anErrorHasAPlace_data();
     void anErrorHasAPlace();
+    void whyInABoxOpensItsPlaceAndLeavesTheBoxOpen();
+    void f1InABoxTellsOfTheBox();
+    void whyChangesNeitherEnterNorEscape_data();
+    void whyChangesNeitherEnterNorEscape();
+    void whyIsReachedByTab();
+    void aBoxTellsWhenThereIsNoManual();
+    void theQuestionBeforeAnotherOneIsOverwrittenHasItsPlace();
+    void theEditorsBoxHasItsPlace();
 
 private:
     TemporaryFolder folder;
@@ -182,6 +163,126 @@ void ManualTest::anErrorHasAPlace()
     problem.line = line;
     problem.page = page;
     QVERIFY(isInManual(placeInManual(problem)));
+}
+
+void ManualTest::whyInABoxOpensItsPlaceAndLeavesTheBoxOpen()
+{
+    Browser browser;
+    WindowFixture author;
+    bool isOpen = false;
+    author.dialogs.look([&](QWidget& box) {
+        QTest::mouseClick(whyOf(box), Qt::LeftButton);
+        isOpen = box.isVisible();
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    author.click("btNextPicture");
+    QVERIFY(isOpen);
+    QCOMPARE(browser.place, QString("questions-save-first"));
+    QVERIFY(isInManual(browser.place));
+}
+
+// Not of the tab behind it.
+void ManualTest::f1InABoxTellsOfTheBox()
+{
+    Browser browser;
+    WindowFixture author;
+    bool isOpen = false;
+    author.dialogs.look([&](QWidget& box) {
+        QApplication::setActiveWindow(&box);
+        QTest::keyClick(&box, Qt::Key_F1);
+        isOpen = box.isVisible();
+        QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    author.click("btNextPicture");
+    QVERIFY(isOpen);
+    QCOMPARE(browser.place, QString("questions-save-first"));
+}
+
+void ManualTest::whyChangesNeitherEnterNorEscape_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Return") << int(Qt::Key_Return);
+    QTest::newRow("Enter") << int(Qt::Key_Enter);
+    QTest::newRow("Escape") << int(Qt::Key_Escape);
+    QTest::newRow("Space") << int(Qt::Key_Space);
+}
+
+// All of them are OK, as in a box without "Why?".
+void ManualTest::whyChangesNeitherEnterNorEscape()
+{
+    QFETCH(int, key);
+    Browser browser;
+    WindowFixture author;
+    QMessageBox::StandardButton pressed = QMessageBox::NoButton;
+    bool isClosed = false;
+    author.dialogs.look([&](QWidget& dialog) {
+        auto& box = *qobject_cast<QMessageBox*>(&dialog);
+        QApplication::setActiveWindow(&box);
+        QPushButton* const ok = qobject_cast<QPushButton*>(box.button(QMessageBox::Ok));
+        QVERIFY(ok->isDefault());
+        QVERIFY(ok->hasFocus());
+        QTest::keyClick(ok, static_cast<Qt::Key>(key));
+        pressed = box.standardButton(box.clickedButton());
+        isClosed = !box.isVisible();
+    });
+    author.click("btNextPicture");
+    QVERIFY(isClosed);
+    QCOMPARE(pressed, QMessageBox::Ok);
+    QCOMPARE(browser.place, QString());
+}
+
+void ManualTest::whyIsReachedByTab()
+{
+    Browser browser;
+    WindowFixture author;
+    author.dialogs.look([](QWidget& box) {
+        QApplication::setActiveWindow(&box);
+        QTest::keyClick(&box, Qt::Key_Tab);
+        QVERIFY(whyOf(box)->hasFocus());
+        QTest::keyClick(whyOf(box), Qt::Key_Space);
+        QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    author.click("btNextPicture");
+    QCOMPARE(browser.place, QString("questions-save-first"));
+}
+
+// Tests run on a screen of no desktop, which opens no page.
+void ManualTest::aBoxTellsWhenThereIsNoManual()
+{
+    WindowFixture author;
+    QStringList told;
+    author.dialogs.look([&](QWidget& dialog) {
+        auto& box = *qobject_cast<QMessageBox*>(&dialog);
+        for (int time = 0; time < 2; ++time) {
+            QTest::mouseClick(whyOf(box), Qt::LeftButton);
+            told << box.informativeText();
+        }
+        QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    author.click("btNextPicture");
+    const QString once = "The manual cannot be shown: it is not installed, or there is no browser.";
+    QCOMPARE(told, QStringList({once, once}));
+}
+
+void ManualTest::theQuestionBeforeAnotherOneIsOverwrittenHasItsPlace()
+{
+    WindowFixture author;
+    author.open(projectFile({""}), 1);
+    writeFile(author.folder.file("book.oidpro"), projectFile({""}, "sub cow\nend sub\n"));
+    QString place;
+    author.dialogs.look([&](QWidget& box) {
+        place = whyOf(box)->place();
+        QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    author.trigger("actionSave");
+    QVERIFY2(isInManual(place), qPrintable(place));
+    QCOMPARE(author.status(), QString("Not saved: book.oidpro"));
+}
+
+// It says so in a test of the editor, which knows no manual.
+void ManualTest::theEditorsBoxHasItsPlace()
+{
+    QVERIFY(isInManual("questions-too-large"));
 }
 
 QTEST_MAIN(ManualTest)

@@ -94,7 +94,8 @@ private slots:
                               "\n\nOverwriting loses what the file holds now. When you open that, "
                               "your unsaved work is kept and offered.");
         buttons.sort();
-        QCOMPARE(buttons, QStringList({"Cancel", "Open the other", "Overwrite", "Save as..."}));
+        QCOMPARE(buttons,
+                 QStringList({"Cancel", "Open the other", "Overwrite", "Save as...", "Why?"}));
         QCOMPARE(usual, QString("Save as..."));
     }
 

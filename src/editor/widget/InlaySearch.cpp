@@ -4,10 +4,10 @@
 #include "editor/widget/KVQtHighlightEditCtrlInlay.h"
 #include "editor/widget/SearchNote.h"
 #include "editor/widget/TextSearch.h"
+#include "qtsync/WhyButton.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QMessageBox>
 #include <QProgressDialog>
 
 #include <utility>
@@ -179,8 +179,9 @@ std::optional<std::u16string> KVQtHighlightEditCtrlInlay::replace_all_in(std::u1
     }
     note.hide();
     if (state == KVTextEditor::ReplaceAll::tooLarge) {
-        QMessageBox::warning(find_dialog, tr("Warning"),
-                             tr("The text would become too large. It stays as it was."));
+        warnWithReason(find_dialog, tr("Warning"),
+                       tr("The text would become too large. It stays as it was."),
+                       "questions-too-large");
         return std::nullopt;
     }
     return pass.takeText();

@@ -1,4 +1,5 @@
 #include "editor/widget/KVQtFindDialog.h"
+#include "qtsync/WhyButton.h"
 #include "tests/editor/widget/EditorWindow.h"
 
 #include <QLineEdit>
@@ -187,13 +188,16 @@ private slots:
         EditorWindow window("a c|ow");
         window.surface.replace_all_limit = 100000;
         QString message;
-        QTimer::singleShot(0, [&message] {
+        QString place;
+        QTimer::singleShot(0, [&message, &place] {
             auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             message = box->text();
+            place = box->findChild<WhyButton*>()->place();
             box->accept();
         });
         replaceAll(window, "cow", "cow cow");
         QCOMPARE(message, QString("The text would become too large. It stays as it was."));
+        QCOMPARE(place, QString("questions-too-large"));
         QCOMPARE(window.shown(), QString("a c|ow"));
         QVERIFY(!window.surface.editor.can_undo());
     }

@@ -1,8 +1,8 @@
-#include "app/OpenManual.h"
+#include "qtsync/OpenManual.h"
 
-#include "base/Diagnostic.h"
 #include "base/Manual.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QLocale>
@@ -40,13 +40,8 @@ bool openManual(const QString& place)
     return QDesktopServices::openUrl(signpostTo(url));
 }
 
-QString placeInManual(const Diagnostic& problem)
+QString whyNoManual()
 {
-    if (problem.severity == Severity::hint) {
-        return "hints-" + QString::fromStdString(problem.kind);
-    }
-    if (problem.line > 0) {
-        return "script-messages";
-    }
-    return problem.page > 0 ? "areas-names" : "questions";
+    return QCoreApplication::translate(
+        "OpenManual", "The manual cannot be shown: it is not installed, or there is no browser.");
 }
