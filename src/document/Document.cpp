@@ -28,7 +28,9 @@ Document::~Document() = default;
 
 void Document::restart()
 {
-    endGesture();
+    naming.finish();
+    open.reset();  // its pages and areas are those of the project that was here before
+    openGesture = Gesture::none;
     history.clear();
     contents.restart();
     pictures.restart(contents.pages());

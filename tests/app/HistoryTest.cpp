@@ -282,6 +282,16 @@ private slots:
         QVERIFY(!w.canUndo());
         QVERIFY(!w.canRedo());
     }
+
+    void aProjectWithoutPagesIsOpenedRightAfterAnEdit()
+    {
+        Book w;
+        w.clickAt(w.at(20, 20));
+        QTest::keyClick(w.get<PolyEditorWidget>("polyArea"), Qt::Key_Right);
+        QVERIFY(w.canUndo());
+        w.open(projectFile({}));
+        QVERIFY(!w.canUndo());
+    }
 };
 
 QTEST_MAIN(HistoryTest)

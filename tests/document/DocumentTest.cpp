@@ -736,6 +736,22 @@ TEST_F(DocumentTest, AllIsNewAfterARestart)
     EXPECT_TRUE(lastChange.has(Change::pages));
 }
 
+TEST_F(DocumentTest, AnotherProjectHasNothingOfTheEditThatWasTheLastOne)
+{
+    const AreaId cow = add("cow");
+    document.apply(edit::SetCorners{cow, {{2, 2}, {6, 2}, {6, 6}}}, document.newGesture());
+    document.projectRecord().pictures.clear();
+    document.projectRecord().oids.clear();
+    document.restart();
+    EXPECT_FALSE(document.canUndo());
+    EXPECT_TRUE(document.isClean());
+    EXPECT_EQ(document.placeOf(cow).page, -1);
+    document.apply(edit::AddPage{});
+    add("pig");
+    EXPECT_TRUE(document.undo());
+    EXPECT_EQ(names(), "");
+}
+
 TEST_F(DocumentTest, TellsWhatChanged)
 {
     const AreaId cow = add("cow");
