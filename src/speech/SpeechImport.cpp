@@ -3,6 +3,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 
 #include "base/PlatformFiles.h"
@@ -30,6 +31,15 @@ std::string asAudioName(const QString& text)
     return replaceNonAscii(text.toStdString());
 }
 
+// What is left of "Who lays eggs?" where a file's name can hold no such sign: letters and digits.
+std::string wordsOf(const QString& text)
+{
+    QString words;
+    std::copy_if(text.begin(), text.end(), std::back_inserter(words),
+                 [](QChar c) { return c.isLetterOrNumber() || c.isSurrogate() || c.isMark(); });
+    return words.toStdString();
+}
+
 class Matcher
 {
 public:
@@ -51,6 +61,7 @@ private:
 
     Texts audioNames;
     Texts saidTexts;
+    Texts saidWords;
     std::map<int, size_t> numbers;
     SpeechImport import;
 };
@@ -64,7 +75,9 @@ Matcher::Matcher(const std::vector<SpeechText>& allTexts, const SheetNumbers& gi
                 numbers[line.number] = line.text;
             }
             add(audioNames, text.audioName, line.text);
-            add(saidTexts, asAudioName(composed(text.said.text)), line.text);
+            const QString said = composed(text.said.text);
+            add(saidTexts, asAudioName(said), line.text);
+            add(saidWords, wordsOf(said), line.text);
         }
     }
 }
@@ -100,9 +113,13 @@ std::vector<size_t> Matcher::findNumber(const QString& name) const
 Meaning Matcher::meaningOf(const QString& name) const
 {
     const std::string plain = asAudioName(name);
-    for (const auto& [way, texts] : {std::pair(Way::byAudioName, find(audioNames, plain)),
-                                     std::pair(Way::byText, find(saidTexts, plain)),
-                                     std::pair(Way::byNumber, findNumber(name))}) {
+    const std::string words = wordsOf(name);
+    for (const auto& [way, texts] :
+         {std::pair(Way::byAudioName, find(audioNames, plain)),
+          std::pair(Way::byText, find(saidTexts, plain)),
+          std::pair(Way::byNumber, findNumber(name)),
+          std::pair(Way::byWords,
+                    words.empty() ? std::vector<size_t>() : find(saidWords, words))}) {
         if (!texts.empty()) {
             return {way, texts};
         }

@@ -10,7 +10,7 @@
 struct SpeechImport
 {
     // How a file names a text, the surest way first.
-    enum Way { byAudioName, byText, byNumber };
+    enum Way { byAudioName, byText, byNumber, byWords };
     struct Match
     {
         std::string file;
@@ -36,9 +36,10 @@ struct SpeechImport
 
 // A file may be named, whatever its extension, like the audio name of a text ("say_adam_Moo"); like
 // the text, where every character that is not an ASCII letter or digit counts as "_" ("Moo!",
-// "Moo_"); or begin with the number of the text on the reading sheet ("07 Moo"). The first that
-// fits is meant; capitals count only where a name fits several texts without them. The files are
-// paths, of which only the last part is looked at. Only numbers that were given count; while none
-// ever was, they are those that a sheet would have now.
+// "Moo_"); begin with the number of the text on the reading sheet ("07 Moo"); or have the letters
+// and digits of the text, whatever else stands between and behind them ("Moo"). The first that fits
+// is meant; capitals count only where a name fits several texts without them. The files are paths,
+// of which only the last part is looked at. Only numbers that were given count; while none ever
+// was, they are those that a sheet would have now.
 SpeechImport matchRecordings(const std::vector<std::string>& files,
                              const std::vector<SpeechText>& texts, const SheetNumbers& given = {});

@@ -184,6 +184,25 @@ TEST(Recordings, ATextOfTwoVoicesIsNotGuessed)
     EXPECT_EQ(matched({"Moo!.wav"}), "several Moo!.wav say_adam_Moo_ say_eve_Moo_\n");
 }
 
+TEST(Recordings, MayLeaveOutWhatIsNeitherLetterNorDigit)
+{
+    const std::vector<SpeechText> texts = textsOf("sub a\n"
+                                                  "say \"Who lays eggs?\"\n"
+                                                  "say \"Right, it's Zoë!\"\n"
+                                                  "say Moo!\n"
+                                                  "say eve Moo.\n"
+                                                  "say \"?!\"\n"
+                                                  "end sub\n");
+    EXPECT_EQ(matched({"Who lays eggs.mp3", "right_its_zoë.wav", "Moo.wav", "-.wav"}, texts),
+              "taken Who lays eggs.mp3 say_adam_Who_lays_eggs_\n"
+              "taken right_its_zoë.wav say_adam_Right__it_s_Zo___\n"
+              "several Moo.wav say_adam_Moo_ say_eve_Moo_\n"
+              "nothing -.wav\n");
+    EXPECT_EQ(matched({"Who lays eggs.mp3", "Who lays eggs_.mp3"}, texts),
+              "taken Who lays eggs_.mp3 say_adam_Who_lays_eggs_\n"
+              "second Who lays eggs.mp3 say_adam_Who_lays_eggs_\n");
+}
+
 TEST(Recordings, OfSeveralForOneTextTheBestNameCounts)
 {
     EXPECT_EQ(matched({"5.wav", "Grün.wav", "say_eve_Gr__n.wav"}),

@@ -94,7 +94,7 @@ QString ImportDialog::nameOfText(std::size_t text) const
 QString ImportDialog::planOf(const SpeechImport::Match& match) const
 {
     QString plan = tr("fits by its name");
-    if (match.way == SpeechImport::byText) {
+    if (match.way == SpeechImport::byText || match.way == SpeechImport::byWords) {
         plan = tr("fits by its text");
     } else if (match.way == SpeechImport::byNumber) {
         plan = tr("fits by its number");
