@@ -46,6 +46,11 @@ std::string findSpeaker(const std::string& program)
 
 }  // namespace
 
+bool isSpeakerThere(const std::string& program)
+{
+    return !findSpeaker(program).empty();
+}
+
 std::string runSpeakingProgram(const std::string& program,
                                const std::vector<std::string>& arguments, const std::string& input,
                                const std::function<void(const QByteArray&)>& receive)

@@ -6,7 +6,6 @@
 #include "base/PlatformProcess.h"
 #include "base/TextHelpers.h"
 #include "speech/Engines.h"
-#include "tools/text2speech/Languages.h"
 #include "tools/text2speech/Speech.h"
 
 namespace {
@@ -71,7 +70,7 @@ int listLanguages(const Engines& engines)
         return fail(engines.problem());
     }
     Languages languages;
-    const std::string problem = findLanguages(languages);
+    const std::string problem = spokenLanguages(languages);
     for (const auto& [name, title] : titlesOf(languages, engines)) {
         print(stdout, name + std::string(name.size() < 20 ? 20 - name.size() : 0, ' ') + ' ' +
                           title + '\n');
