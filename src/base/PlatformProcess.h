@@ -37,8 +37,8 @@ std::string programsFolder();
 // The longest word, in bytes, that the system hands to a program.
 extern const std::size_t longestArgument;
 
-// Makes Qt hand file names and arguments to the system as UTF-8 whatever the locale, as all of our
-// paths and texts are. Called before the first program is started.
+// Has Qt, and on Windows the console while this program runs, take texts as UTF-8 whatever the
+// locale, as all of ours are. Called before the first program is started.
 void useUtf8ForSystemTexts();
 
 }  // namespace Platform

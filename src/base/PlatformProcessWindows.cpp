@@ -121,6 +121,13 @@ std::string programsFolder()
     return !folder.empty() ? folder : "C:\\Program Files";
 }
 
-void useUtf8ForSystemTexts() {}
+// Intended: Qt itself speaks to this system in wide letters.
+void useUtf8ForSystemTexts()
+{
+    static const UINT before = GetConsoleOutputCP();  // 0 without a console
+    if (before != 0 && before != CP_UTF8 && SetConsoleOutputCP(CP_UTF8) != 0) {
+        std::atexit([] { SetConsoleOutputCP(before); });
+    }
+}
 
 }  // namespace Platform

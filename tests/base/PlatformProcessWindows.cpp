@@ -9,6 +9,7 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <windows.h>
 
 namespace fs = std::filesystem;
 
@@ -73,6 +74,14 @@ TEST(RunningACommand, GivesItsExitCodeAlsoWithQuotesAndBlanksInItsPath)
                                       false, false),
               7);
     EXPECT_EQ(program.calls(), "two words\n\"\"\na\"b\n\n");
+}
+
+TEST(Console, TakesUtf8)
+{
+    AllocConsole();
+    ASSERT_NE(SetConsoleOutputCP(850), 0);
+    Platform::useUtf8ForSystemTexts();
+    EXPECT_EQ(GetConsoleOutputCP(), static_cast<UINT>(CP_UTF8));
 }
 
 TEST(CommandLine, AnEmptyWordAndQuotesArriveAsTheyWereSent)

@@ -110,6 +110,7 @@ int usageError(const std::string& message)
 // The C locale is never switched to the user's: what is printed does not depend on it.
 int main()
 {
+    Platform::useUtf8ForSystemTexts();
     std::vector<std::string> words = Platform::commandLineArguments();
     if (!words.empty()) {
         words.erase(words.begin());  // the program
