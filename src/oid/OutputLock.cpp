@@ -57,7 +57,8 @@ bool OutputLock::take(const std::function<void(const char* line)>& say)
             return true;
         }
     }
-    say(("Error: " + owner() + " makes the same files. Try again when it is done. (" + path + ")\n")
+    say(("Error: " + owner() + " makes the same files. Try again when it is done. (" +
+         Platform::nativePath(path) + ")\n")
             .c_str());
     return false;
 }

@@ -110,9 +110,11 @@ std::string SpeechIndex::problem() const
 {
     switch (now) {
     case State::damaged:
-        return "The file '" + path() + "' is damaged: files that were spoken count as your own";
+        return "The file '" + Platform::nativePath(path()) +
+               "' is damaged: files that were spoken count as your own";
     case State::unreadable:
-        return "Can't open file '" + path() + "': files that were spoken count as your own";
+        return "Can't open file '" + Platform::nativePath(path()) +
+               "': files that were spoken count as your own";
     case State::good:
         break;
     }
