@@ -136,6 +136,24 @@ private slots:
         QVERIFY(!w.get<QLabel>("lbSpeechResult")->isVisible());
     }
 
+    // Which another window may have made.
+    void aRecordingThatComesWhileADialogShowsWhatIsToBeTakenIsKept()
+    {
+        FilesWindow w;
+        w.putAudio("say_adam_Moo");
+        w.noteSpoken("say_adam_Moo", "Moo");
+        QTRY_VERIFY_WITH_TIMEOUT(w.rows().value(0).endsWith("|spoken"), kPatience);
+        w.putSound("in/Moo.wav");
+        w.dialogs.chooseFile(w.path("in"));
+        w.dialogs.look([&](QWidget& dialog) {
+            w.putFile("900-audio/say_adam_Moo.ogg", "my voice");
+            FilesWindow::takenIn(dialog);
+        });
+        w.click("btImportFolder");
+        QCOMPARE(readFile(w.path("900-audio/originals/say_adam_Moo.ogg").toStdString()),
+                 std::string("my voice"));
+    }
+
     void whatHasATickIsTakenAndThenShown()
     {
         FilesWindow w;

@@ -262,6 +262,12 @@ TEST_F(Speech, ImportKeepsARecordingThatItReplaces)
     EXPECT_EQ(readFile(audio("originals/say_adam_Moo_.ogg")), "my voice");
 }
 
+TEST_F(Speech, ImportTellsThatAFolderIsEmpty)
+{
+    EXPECT_EQ(run({"import", folder.file("in")}),
+              "status 0\nThere are no files in '" + folder.file("in") + "'\n");
+}
+
 TEST_F(Speech, ImportNeedsAFolderOfTheAuthors)
 {
     EXPECT_EQ(run({"import", folder.file("nowhere")}),

@@ -91,15 +91,30 @@ bool take(OutputLock& lock)
     return lock.take([](const char* line) { fputs(line, stdout); });
 }
 
+// Likewise; what another program has noted until then is read again.
+bool take(OutputLock& lock, SpokenBook& book)
+{
+    if (!take(lock)) {
+        return false;
+    }
+    book.index = SpeechIndex(book.folder);
+    return true;
+}
+
 bool hasFile(const SpeechText& text)
 {
     return text.state == SpeechState::spoken || text.state == SpeechState::recorded ||
            text.state == SpeechState::stale;
 }
 
-bool isOurs(const SpeechText& text)
+// Whose file is replaced is looked at now: the author may have put one there in the meantime.
+recording::Places placesOf(const SpeechText& text, SpokenBook& book)
 {
-    return hasFile(text) && text.state != SpeechState::recorded;
+    recording::Places places;
+    places.target = text.file;
+    places.originals = recording::originalsOf(book.folder);
+    places.keepsEarlier = book.index.spokenInto(text.audioName) == nullptr;
+    return places;
 }
 
 // "901-audio/say_adam_Moo.ogg", as beside the project.
@@ -242,13 +257,9 @@ bool printDoubts(const SpeechImport& import, const SpokenBook& book)
            import.fitNothing.empty();
 }
 
-bool adopt(const SpeechImport::Match& match, const SpokenBook& book)
+bool adopt(const SpeechImport::Match& match, SpokenBook& book)
 {
-    const SpeechText& text = book.texts[match.text];
-    recording::Places places;
-    places.target = text.file;
-    places.originals = recording::originalsOf(book.folder);
-    places.keepsEarlier = !isOurs(text);
+    const recording::Places places = placesOf(book.texts[match.text], book);
     const recording::FileReport report = recording::adoptSound(match.file, places);
     const std::string words = report.text.toStdString();
     if (report.done == recording::FileReport::Done::failed) {
@@ -276,12 +287,15 @@ int import(const Arguments& arguments)
         return kFailed;
     }
     OutputLock lock(book.project, kBuildLock);
-    if (!take(lock)) {
+    if (!take(lock, book)) {
         return kFailed;
     }
     FileSystem::createDirectory(book.folder);
-    const SpeechImport import =
-        matchRecordings(filesIn(folder), book.texts, book.index.sheetNumbers());
+    const std::vector<std::string> files = filesIn(folder);
+    if (files.empty()) {
+        printf("There are no files in '%s'\n", arguments.operands[2].c_str());
+    }
+    const SpeechImport import = matchRecordings(files, book.texts, book.index.sheetNumbers());
     bool isFine = true;
     for (const SpeechImport::Match& match : import.taken) {
         isFine = adopt(match, book) && isFine;
@@ -327,10 +341,7 @@ int tidy(const Arguments& arguments)
 // What we spoke stays ours.
 bool evenOut(const SpeechText& text, SpokenBook& book)
 {
-    recording::Places places;
-    places.target = text.file;
-    places.originals = recording::originalsOf(book.folder);
-    places.keepsEarlier = !isOurs(text);
+    const recording::Places places = placesOf(text, book);
     const Utterance* const spoken = book.index.spokenInto(text.audioName);
     const recording::FileReport report = recording::evenOut(places);
     const bool failed = report.done == recording::FileReport::Done::failed;
@@ -350,7 +361,7 @@ int evenOut(const Arguments& arguments)
         return kFailed;
     }
     OutputLock lock(book.project, kBuildLock);
-    if (!take(lock)) {
+    if (!take(lock, book)) {
         return kFailed;
     }
     bool isFine = true;

@@ -4,6 +4,7 @@
 #include "recording/Silence.h"
 #include "recording/VoiceFile.h"
 #include "speech/AudioFile.h"
+#include "speech/SpeechIndex.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -11,6 +12,15 @@
 #include <memory>
 
 // What the dialog writes and reads.
+
+// Whose file is replaced is looked at now: the author may have put one there since the dialog was
+// opened.
+static recording::FileReport keepNow(const recording::Take& take, recording::Places places,
+                                     SpeechIndex index, const std::string& audioName)
+{
+    places.keepsEarlier = index.spokenInto(audioName) == nullptr;
+    return recording::adoptTake(take, places);
+}
 
 void RecordDialog::keepAndGoOn()
 {
@@ -43,10 +53,10 @@ void RecordDialog::keep(const std::function<void()>& then)
     player.stop();
     enter(State::working);
     say(tr("Saving ..."));
-    const recording::Places places{fileOf(current()), recording::originalsOf(folder),
-                                   !current().isSpoken};
+    const recording::Places places{fileOf(current()), recording::originalsOf(folder)};
     const auto report = std::make_shared<recording::FileReport>();
-    work.start([report, places, kept = take] { *report = recording::adoptTake(kept, places); },
+    work.start([report, places, kept = take, name = current().audioName.toStdString(),
+                folder = folder] { *report = keepNow(kept, places, SpeechIndex(folder), name); },
                [this, report, then] {
                    enter(State::idle);
                    if (report->done == recording::FileReport::Done::failed) {

@@ -28,12 +28,14 @@ QStringList withLock(const Oid::OidProject& book, const Work& work)
     return work();
 }
 
-recording::Places placesOf(const SpeechText& text, const std::string& folder)
+// Whose file is replaced is looked at now: the author may have put one there since the table was
+// made.
+recording::Places placesOf(const SpeechText& text, const std::string& folder, SpeechIndex& index)
 {
     recording::Places places;
     places.target = text.file;
     places.originals = recording::originalsOf(folder);
-    places.keepsEarlier = text.state == SpeechState::recorded;
+    places.keepsEarlier = index.spokenInto(text.audioName) == nullptr;
     return places;
 }
 
@@ -95,6 +97,7 @@ QStringList SpeechJobs::adoptNow(const std::string& folder, const std::vector<Ad
                                  const SpeechWork::Contact& contact)
 {
     FileSystem::createDirectory(folder);
+    SpeechIndex index(folder);
     QStringList problems;
     const int total = static_cast<int>(adoptions.size());
     int taken = 0;
@@ -104,8 +107,8 @@ QStringList SpeechJobs::adoptNow(const std::string& folder, const std::vector<Ad
             break;
         }
         const Adoption& one = adoptions[static_cast<std::size_t>(done)];
-        reports.push_back(recording::adoptSound(one.source.toStdString(),
-                                                placesOf(one.text, folder), contact.isWanted));
+        reports.push_back(recording::adoptSound(
+            one.source.toStdString(), placesOf(one.text, folder, index), contact.isWanted));
         if (reports.back().done == recording::FileReport::Done::failed) {
             problems << reports.back().text;
         } else {
@@ -239,7 +242,7 @@ QStringList SpeechJobs::evenOutNow(const std::string& folder, const std::vector<
         }
         const SpeechText& text = texts[static_cast<std::size_t>(done)];
         const Utterance* const spoken = index.spokenInto(text.audioName);
-        const recording::FileReport report = recording::evenOut(placesOf(text, folder));
+        const recording::FileReport report = recording::evenOut(placesOf(text, folder, index));
         written += report.done == Done::written ? 1 : 0;
         if (report.done == Done::failed) {
             problems << report.text;

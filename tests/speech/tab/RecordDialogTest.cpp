@@ -2,6 +2,7 @@
 
 #include "recording/ReadSound.h"
 #include "recording/VoiceFile.h"
+#include "speech/SpeechIndex.h"
 #include "speech/tab/LevelMeter.h"
 #include "speech/tab/WaveView.h"
 #include "tests/app/DialogAnswers.h"
@@ -45,6 +46,7 @@ private slots:
     void spaceEndsARecordingWhichCanThenBeKept();
     void theLastTextIsFollowedByAWordThatAllIsDone();
     void aFileTheSpeechProgramMadeIsMissingAndNotKept();
+    void aRecordingThatCameInTheMeantimeIsKept();
     void whatIsRecordedAgainReplacesTheFileAndKeepsTheEarlierOne();
     void aCountInIsSeenBeforeARecordingBegins();
     void spaceOrEscapeStopTheCountIn();
@@ -76,6 +78,7 @@ private:
     std::string voiceFile(double height);
     void hear(const std::string& file);
     void open(const QString& audioName = {}, bool hears = true);
+    void aSpokenText();
     void recordFor(double seconds);
     void waitForRecording(double seconds);
 
@@ -248,19 +251,41 @@ void RecordDialogTest::theLastTextIsFollowedByAWordThatAllIsDone()
     QTRY_VERIFY_WITH_TIMEOUT(!dialog->isVisible(), kPatience);
 }
 
-void RecordDialogTest::aFileTheSpeechProgramMadeIsMissingAndNotKept()
+// The only one.
+void RecordDialogTest::aSpokenText()
 {
     texts.resize(1);
     texts[0].hasFile = true;
     texts[0].isSpoken = true;
     QDir().mkpath(audio);
     writeFile((audio + "/say_adam_One.ogg").toStdString(), recording::voiceFileOf(toneOf(1)));
+    SpeechIndex index(audio.toStdString());
+    QVERIFY(index.remember("say_adam_One", {"One cow", "adam", {}, "robot"}) && index.save());
+}
+
+void RecordDialogTest::aFileTheSpeechProgramMadeIsMissingAndNotKept()
+{
+    aSpokenText();
     open();
     QCOMPARE(label("recordProgress"), QString("Text 1 of 1, 1 missing"));
     recordFor(0.4);
     press(Qt::Key_Return);
     QTRY_COMPARE_WITH_TIMEOUT(recorded.size(), 1, kPatience);
     QCOMPARE(originals(), QString("say_adam_One.flac"));
+}
+
+// Which another window may have made.
+void RecordDialogTest::aRecordingThatCameInTheMeantimeIsKept()
+{
+    aSpokenText();
+    open();
+    recordFor(0.4);
+    writeFile((audio + "/say_adam_One.ogg").toStdString(), "my voice");
+    press(Qt::Key_Return);
+    QTRY_COMPARE_WITH_TIMEOUT(recorded.size(), 1, kPatience);
+    QCOMPARE(originals(), QString("say_adam_One.flac say_adam_One.ogg"));
+    QCOMPARE(readFile((audio + "/originals/say_adam_One.ogg").toStdString()),
+             std::string("my voice"));
 }
 
 void RecordDialogTest::whatIsRecordedAgainReplacesTheFileAndKeepsTheEarlierOne()
