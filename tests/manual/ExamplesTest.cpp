@@ -2,9 +2,11 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <map>
 #include <set>
 #include <sstream>
 
+#include "speech/Engines.h"
 #include "tests/helpers/FakeProgram.h"
 #include "tests/helpers/RunProgram.h"
 #include "tests/helpers/Sound.h"
@@ -101,12 +103,28 @@ TEST(ManualExamples, EveryScriptCompiles)
     EXPECT_GT(scripts.size(), 30U);
 }
 
+TEST(ManualExamples, TheSpeechProgramsAreThoseOfTheSettingsFile)
+{
+    const TemporaryFolder folder;
+    const std::vector<Example> files = examplesOf("ini");
+    for (const Example& example : files) {
+        writeFile(folder.file("engines.ini"), example.text);
+        const Engines engines({folder.file("engines.ini")});
+        EXPECT_EQ(engines.problem(), "") << example.place;
+        EXPECT_EQ(engines.programs(),
+                  (std::map<std::string, std::string>{{"de", "/opt/piper/piper"}, {"en", "flite"}}))
+            << example.place;
+    }
+    EXPECT_EQ(files.size(), manualLanguages().size());
+}
+
 TEST(ManualExamples, EveryExampleIsOfAKindThatIsTried)
 {
     for (const std::string& language : manualLanguages()) {
         for (const ManualPage& page : manualPages(language)) {
             for (const Example& example : page.examples) {
-                EXPECT_THAT(example.kind, testing::AnyOf("script", "console", "booktest", "text"))
+                EXPECT_THAT(example.kind,
+                            testing::AnyOf("script", "console", "booktest", "ini", "text"))
                     << example.place;
             }
         }
