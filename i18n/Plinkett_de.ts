@@ -20,8 +20,8 @@
         <translation>Bibliotheken und ihre Lizenzen:</translation>
     </message>
     <message>
-        <source>Tells the version and the licences</source>
-        <translation>Sagt die Version und die Lizenzen</translation>
+        <source>Tells the version, to be named when something goes wrong, and the licences</source>
+        <translation>Sagt die Version, die man nennt, wenn etwas nicht geht, und die Lizenzen</translation>
     </message>
 </context>
 <context>
@@ -426,8 +426,8 @@
         <translation>&amp;Suchen</translation>
     </message>
     <message>
-        <source>Goes to the next place that holds the text</source>
-        <translation>Geht zur nächsten Stelle mit dem Text</translation>
+        <source>Goes to the next place that holds the text (Return); F3 does it in the script</source>
+        <translation>Geht zur nächsten Stelle mit dem Text (Eingabetaste); F3 tut es im Skript</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
@@ -442,24 +442,24 @@
         <translation>&amp;Alle ersetzen</translation>
     </message>
     <message>
-        <source>Replaces the text wherever it stands</source>
-        <translation>Ersetzt den Text, wo immer er steht</translation>
+        <source>Replaces the text wherever it stands in the script; Undo brings all of it back</source>
+        <translation>Ersetzt den Text überall im Skript; Rückgängig bringt alles wieder</translation>
     </message>
     <message>
         <source>Search &amp;backwards</source>
         <translation>&amp;Rückwärts suchen</translation>
     </message>
     <message>
-        <source>Searches toward the beginning</source>
-        <translation>Sucht zum Anfang hin</translation>
+        <source>Searches from the caret toward the beginning instead of the end</source>
+        <translation>Sucht von der Schreibmarke zum Anfang hin statt zum Ende</translation>
     </message>
     <message>
         <source>Replace with:</source>
         <translation>Ersetzen durch:</translation>
     </message>
     <message>
-        <source>The text that takes its place</source>
-        <translation>Der Text, der an seine Stelle tritt</translation>
+        <source>The text that takes its place; empty deletes what is found</source>
+        <translation>Der Text, der an seine Stelle tritt; leer löscht, was gefunden wird</translation>
     </message>
     <message>
         <source>Find and replace</source>
@@ -584,16 +584,16 @@
         <translation>Projektname</translation>
     </message>
     <message>
-        <source>The name of the book, which the pen says when it is switched on</source>
-        <translation>Der Name des Buchs, den der Stift beim Einschalten sagt</translation>
+        <source>The name of the book: the pen says it when the book is switched on, and game and PDF are named after it</source>
+        <translation>Der Name des Buchs: Der Stift sagt ihn, wenn das Buch eingeschaltet wird, und Spiel und PDF heißen danach</translation>
     </message>
     <message>
         <source>Project ID</source>
         <translation>Projekt-ID</translation>
     </message>
     <message>
-        <source>The number of the book, one for each book on the pen</source>
-        <translation>Die Nummer des Buchs, für jedes Buch auf dem Stift eine andere</translation>
+        <source>The number by which the pen knows the book: each book on the pen needs its own, 900 to 950 for those made at home</source>
+        <translation>Die Nummer, an der der Stift das Buch kennt: Jedes Buch auf dem Stift braucht seine eigene, 900 bis 950 für selbst gemachte</translation>
     </message>
     <message>
         <source>Current Picture (Area)</source>
@@ -608,8 +608,8 @@
         <translation>Papierbreite in Millimetern</translation>
     </message>
     <message>
-        <source>The width of the printed page</source>
-        <translation>Die Breite der gedruckten Seite</translation>
+        <source>How wide this page is printed, in millimetres: its picture fills the paper</source>
+        <translation>Wie breit diese Seite gedruckt wird, in Millimetern: Ihr Bild füllt das Papier</translation>
     </message>
     <message>
         <source>X</source>
@@ -620,24 +620,24 @@
         <translation>Papierhöhe in Millimetern</translation>
     </message>
     <message>
-        <source>The height of the printed page</source>
-        <translation>Die Höhe der gedruckten Seite</translation>
+        <source>How high this page is printed, in millimetres: its picture fills the paper</source>
+        <translation>Wie hoch diese Seite gedruckt wird, in Millimetern: Ihr Bild füllt das Papier</translation>
     </message>
     <message>
         <source>DPI:</source>
         <translation>DPI:</translation>
     </message>
     <message>
-        <source>The resolution of the printer: 600 at least, better 1200</source>
-        <translation>Die Auflösung des Druckers: mindestens 600, besser 1200</translation>
+        <source>The dots per inch of the printer, for this page: the pen needs 600 at least, better are 1200</source>
+        <translation>Die Punkte je Zoll des Druckers, für diese Seite: Der Stift braucht mindestens 600, besser sind 1200</translation>
     </message>
     <message>
         <source>Create</source>
         <translation>Erzeugen</translation>
     </message>
     <message>
-        <source>Creates the print images of all pictures</source>
-        <translation>Erzeugt die Druckbilder aller Bilder</translation>
+        <source>Makes a print image (TIFF) of each page, for a print shop; for a printer at home take PDF</source>
+        <translation>Macht von jeder Seite ein Druckbild (TIFF), für eine Druckerei; für einen Drucker zu Hause nehmen Sie PDF</translation>
     </message>
     <message>
         <source>Create the output image now...</source>
@@ -648,8 +648,8 @@
         <translation>PDF</translation>
     </message>
     <message>
-        <source>Makes a PDF of the book for your own printer; in its menu: symbols and the printer&apos;s test page</source>
-        <translation>Macht ein PDF des Buchs für den eigenen Drucker; in seinem Menü: Zeichen und die Testseite des Druckers</translation>
+        <source>Makes a PDF of the book for your own printer, each page in its true size; its menu (key Down) has symbols and the printer&apos;s test page</source>
+        <translation>Macht ein PDF des Buchs für den eigenen Drucker, jede Seite in ihrer wahren Größe; im Menü (Taste Ab): Zeichen und die Testseite des Druckers</translation>
     </message>
     <message>
         <source>Add START &amp;symbol</source>
@@ -676,8 +676,8 @@
         <translation>Für alle Bilder</translation>
     </message>
     <message>
-        <source>Gives the paper and the DPI of this picture to all pictures</source>
-        <translation>Gibt allen Bildern das Papier und die DPI dieses Bildes</translation>
+        <source>Gives the paper and the DPI of this picture to all others, for a book that is printed on one kind of paper</source>
+        <translation>Gibt Papier und DPI dieses Bildes allen anderen, für ein Buch, das auf einerlei Papier gedruckt wird</translation>
     </message>
     <message>
         <source>There is no picture yet</source>
@@ -804,8 +804,8 @@
         <translation>laden...</translation>
     </message>
     <message>
-        <source>Puts another picture file in the place of this one</source>
-        <translation>Setzt eine andere Bilddatei an die Stelle von dieser</translation>
+        <source>Puts another picture file in the place of this one, such as a better scan; paper and areas stay</source>
+        <translation>Setzt eine andere Bilddatei an die Stelle dieser, etwa einen besseren Scan; Papier und Bereiche bleiben</translation>
     </message>
     <message>
         <source>✖</source>
@@ -816,8 +816,8 @@
         <translation>Bild löschen</translation>
     </message>
     <message>
-        <source>Deletes this picture</source>
-        <translation>Löscht dieses Bild</translation>
+        <source>Shows how this page is removed: in the list of the pages (Ctrl+Shift+P), where Delete does it and Undo brings it back</source>
+        <translation>Zeigt, wie diese Seite entfernt wird: in der Liste der Seiten (Strg+Umschalt+P), wo Entf es tut und Rückgängig sie wiederbringt</translation>
     </message>
     <message>
         <source>Area</source>
@@ -864,24 +864,24 @@
         <translation>Name des Bereichs</translation>
     </message>
     <message>
-        <source>The name of the area, as the script knows it</source>
-        <translation>Der Name des Bereichs, wie ihn das Skript kennt</translation>
+        <source>The name of the area: the sub of that name in the script says what is heard. Areas of one name do the same</source>
+        <translation>Der Name des Bereichs: Was zu hören ist, sagt das sub dieses Namens im Skript. Bereiche eines Namens tun dasselbe</translation>
     </message>
     <message>
         <source>OID of the area</source>
         <translation>OID des Bereichs</translation>
     </message>
     <message>
-        <source>The number of the dots that the area is printed with</source>
-        <translation>Die Nummer der Punkte, mit denen der Bereich gedruckt wird</translation>
+        <source>The number of the dots that the area is printed with: it comes by itself and stays, so that printed pages fit</source>
+        <translation>Die Nummer der Punkte, mit denen der Bereich gedruckt wird: Sie kommt von selbst und bleibt, damit gedruckte Seiten passen</translation>
     </message>
     <message>
         <source>Goto code</source>
         <translation>Zum Code</translation>
     </message>
     <message>
-        <source>Goes to the code of the area in the script, or begins it</source>
-        <translation>Geht zum Code des Bereichs im Skript oder beginnt ihn</translation>
+        <source>Goes to the sub of the area in the script, where what it says is written; begins one where there is none</source>
+        <translation>Geht zum sub des Bereichs im Skript, in dem steht, was er sagt; beginnt eines, wo es keines gibt</translation>
     </message>
     <message>
         <source>Picture with its areas</source>
@@ -940,8 +940,8 @@
         <translation>S&amp;chnelle Antworten</translation>
     </message>
     <message>
-        <source>The same game in fewer steps, so that the pen answers at once</source>
-        <translation>Dasselbe Spiel in weniger Schritten, damit der Stift sofort antwortet</translation>
+        <source>Makes the same game in fewer steps, so that the pen answers at once, also where the script reckons much</source>
+        <translation>Macht dasselbe Spiel in weniger Schritten, damit der Stift sofort antwortet, auch wo das Skript viel rechnet</translation>
     </message>
     <message>
         <source>The pen takes its time for every step of the script. With quick answers the game does the same in few of them. They are made by Plinkett&apos;s own assembler, also where tttool is installed.</source>
@@ -960,8 +960,8 @@
         <translation>Ö&amp;ffnen</translation>
     </message>
     <message>
-        <source>Opens a project</source>
-        <translation>Öffnet ein Projekt</translation>
+        <source>Opens another book; of this one, what is not saved is kept and offered again</source>
+        <translation>Öffnet ein anderes Buch; was an diesem nicht gespeichert ist, wird aufbewahrt und wieder angeboten</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
@@ -972,8 +972,8 @@
         <translation>Speichern</translation>
     </message>
     <message>
-        <source>Saves the project</source>
-        <translation>Speichert das Projekt</translation>
+        <source>Writes the book into its project file; pictures and audio files lie beside it</source>
+        <translation>Schreibt das Buch in seine Projektdatei; Bilder und Audiodateien liegen daneben</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
@@ -988,24 +988,24 @@
         <translation>Rückgängig</translation>
     </message>
     <message>
-        <source>Takes back the last step</source>
-        <translation>Nimmt den letzten Schritt zurück</translation>
+        <source>Takes back the last step, on pages and areas, or in the script while that is shown</source>
+        <translation>Nimmt den letzten Schritt zurück, an Seiten und Bereichen, oder im Skript, solange das zu sehen ist</translation>
     </message>
     <message>
         <source>Redo</source>
         <translation>Wiederholen</translation>
     </message>
     <message>
-        <source>Does again what was taken back</source>
-        <translation>Macht noch einmal, was zurückgenommen wurde</translation>
+        <source>Does again what was taken back last, until something else is changed</source>
+        <translation>Macht noch einmal, was zuletzt zurückgenommen wurde, bis etwas anderes geändert wird</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
         <translation>Speichern &amp;unter...</translation>
     </message>
     <message>
-        <source>Saves the project under another name</source>
-        <translation>Speichert das Projekt unter einem anderen Namen</translation>
+        <source>Saves the book under another name or in another folder, and takes pictures and audio files along</source>
+        <translation>Speichert das Buch unter einem anderen Namen oder in einem anderen Ordner und nimmt Bilder und Audiodateien mit</translation>
     </message>
     <message>
         <source>Ctrl+Shift+S</source>
@@ -1084,12 +1084,12 @@
         <translation>Die Bilder konnten nicht zu ihren Seiten gebracht werden.</translation>
     </message>
     <message>
-        <source>Shows or hides the list of the pages</source>
-        <translation>Zeigt oder verbirgt die Liste der Seiten</translation>
+        <source>Shows or hides the list of the pages, in which one goes to pages, moves and removes them</source>
+        <translation>Zeigt oder verbirgt die Liste der Seiten, in der man zu Seiten geht, sie verschiebt und entfernt</translation>
     </message>
     <message>
-        <source>Shows or hides the list of the areas</source>
-        <translation>Zeigt oder verbirgt die Liste der Bereiche</translation>
+        <source>Shows or hides the list of all areas of the book, with what is wrong with them</source>
+        <translation>Zeigt oder verbirgt die Liste aller Bereiche des Buchs, mit dem, was an ihnen nicht stimmt</translation>
     </message>
     <message>
         <source>Another window or program has changed the project file since this window opened or saved it.</source>
@@ -1134,6 +1134,18 @@
     <message>
         <source>Do you really want to delete this picture?</source>
         <translation>Soll dieses Bild wirklich gelöscht werden?</translation>
+    </message>
+    <message>
+        <source>Opens the manual in your browser, at what the shown tab is for</source>
+        <translation>Öffnet das Handbuch im Browser, bei dem, wofür der gezeigte Reiter da ist</translation>
+    </message>
+    <message>
+        <source>Pages are removed in the list of the pages, which opens now: Delete removes this one, and Undo brings it back.</source>
+        <translation>Seiten werden in der Liste der Seiten entfernt, die sich jetzt öffnet: Entf entfernt diese, und Rückgängig bringt sie wieder.</translation>
+    </message>
+    <message>
+        <source>Delete removes page %1, and Undo brings it back.</source>
+        <translation>Entf entfernt Seite %1, und Rückgängig bringt sie wieder.</translation>
     </message>
 </context>
 <context>
@@ -1228,8 +1240,8 @@
         <translation>alle</translation>
     </message>
     <message>
-        <source>Only these pictures, counted from 0, such as 0,2-3</source>
-        <translation>Nur diese Bilder, von 0 an gezählt, etwa 0,2-3</translation>
+        <source>Only these pictures, counted from 0, such as 0,2-3, to print a changed page again; empty prints all</source>
+        <translation>Nur diese Bilder, von 0 an gezählt, wie 0,2-3, um eine geänderte Seite neu zu drucken; leer druckt alle</translation>
     </message>
     <message>
         <source>Pages</source>
@@ -1240,8 +1252,8 @@
         <translation>Seiten:</translation>
     </message>
     <message>
-        <source>Where dots are printed</source>
-        <translation>Wo Punkte gedruckt werden</translation>
+        <source>Whether the whole page gets dots, or only its areas, which leaves the rest as clear as it was</source>
+        <translation>Ob die ganze Seite Punkte bekommt oder nur ihre Bereiche, was den Rest so klar lässt, wie er war</translation>
     </message>
     <message>
         <source>Dots</source>
@@ -1252,20 +1264,20 @@
         <translation>Punkte:</translation>
     </message>
     <message>
-        <source>The rest of the picture stays as it is</source>
-        <translation>Der Rest des Bilds bleibt, wie er ist</translation>
+        <source>Lightens the picture on areas only, where the pen reads; the rest of it stays as it is</source>
+        <translation>Hellt das Bild nur in den Bereichen auf, wo der Stift liest; der Rest bleibt, wie er ist</translation>
     </message>
     <message>
-        <source>For you: in a colour that the pen does not see</source>
-        <translation>Für Sie: in einer Farbe, die der Stift nicht sieht</translation>
+        <source>Draws the areas with their names, to check them on paper, in a colour that the pen does not see</source>
+        <translation>Zeichnet die Bereiche mit ihren Namen, um sie auf dem Papier zu prüfen, in einer Farbe, die der Stift nicht sieht</translation>
     </message>
     <message>
         <source>as needed</source>
         <translation>nach Bedarf</translation>
     </message>
     <message>
-        <source>White paper around each page</source>
-        <translation>Weißes Papier um jede Seite</translation>
+        <source>White paper around each page, for a printer that does not print up to the edge</source>
+        <translation>Weißes Papier um jede Seite, für einen Drucker, der nicht bis zum Rand druckt</translation>
     </message>
     <message>
         <source>Margin</source>
@@ -1276,12 +1288,12 @@
         <translation>Rand:</translation>
     </message>
     <message>
-        <source>Marks in the margin where the page ends</source>
-        <translation>Marken im Rand, wo die Seite endet</translation>
+        <source>Marks in the margin where the page ends, to cut along them</source>
+        <translation>Marken im Rand, wo die Seite endet, um daran zu schneiden</translation>
     </message>
     <message>
-        <source>Pages that are larger than the paper on several sheets that overlap</source>
-        <translation>Seiten, die größer als das Papier sind, auf mehreren Bögen, die sich überlappen</translation>
+        <source>Prints pages that are larger than the paper on several sheets that overlap, to be glued together</source>
+        <translation>Druckt Seiten, die größer als das Papier sind, auf mehrere Blätter, die sich überlappen, zum Zusammenkleben</translation>
     </message>
     <message>
         <source>Poster</source>
@@ -1292,8 +1304,8 @@
         <translation>Plakat:</translation>
     </message>
     <message>
-        <source>A page with START, REPLAY, STOP and a legend of all areas</source>
-        <translation>Eine Seite mit START, REPLAY, STOP und einer Legende aller Bereiche</translation>
+        <source>Adds a page with START, REPLAY, STOP and a legend of all areas, to be cut out; a book needs START somewhere</source>
+        <translation>Fügt eine Seite mit START, REPLAY, STOP und einer Legende aller Bereiche an, zum Ausschneiden; irgendwo braucht ein Buch START</translation>
     </message>
     <message>
         <source>Symbols and legend</source>
@@ -1304,8 +1316,8 @@
         <translation>Zeichen und Legende:</translation>
     </message>
     <message>
-        <source>The file that is written</source>
-        <translation>Die Datei, die geschrieben wird</translation>
+        <source>The PDF file that is written; one of this name that is there is replaced</source>
+        <translation>Die PDF-Datei, die geschrieben wird; eine dieses Namens, die schon da ist, wird ersetzt</translation>
     </message>
     <message>
         <source>File</source>
@@ -1409,12 +1421,12 @@
         <translation>Profil eines Druckers</translation>
     </message>
     <message>
-        <source>What has been kept about a printer</source>
-        <translation>Was über einen Drucker gemerkt wurde</translation>
+        <source>The settings that were kept for a printer: choose the one that the book is printed on</source>
+        <translation>Die Einstellungen, die für einen Drucker aufbewahrt wurden: Wählen Sie den, auf dem das Buch gedruckt wird</translation>
     </message>
     <message>
-        <source>Keeps the settings of this printer under a name</source>
-        <translation>Merkt sich die Einstellungen dieses Druckers unter einem Namen</translation>
+        <source>Keeps the settings below under a name, so that this printer has them the next time, too</source>
+        <translation>Bewahrt die Einstellungen darunter unter einem Namen auf, damit dieser Drucker sie auch das nächste Mal hat</translation>
     </message>
     <message>
         <source>Forgets the chosen profile</source>
@@ -1516,16 +1528,16 @@
         <translation>%1 DPI</translation>
     </message>
     <message>
-        <source>Tries this resolution of the printer</source>
-        <translation>Probiert diese Auflösung des Druckers</translation>
+        <source>Tries this resolution: tick those that your printer has, and the pen tells which one is best</source>
+        <translation>Probiert diese Auflösung: Haken Sie an, was Ihr Drucker hat, und der Stift sagt, welche die beste ist</translation>
     </message>
     <message>
         <source>Folder</source>
         <translation>Ordner</translation>
     </message>
     <message>
-        <source>Where page and game are written</source>
-        <translation>Wohin Seite und Spiel geschrieben werden</translation>
+        <source>The folder in which the page to be printed and the game for the pen are written</source>
+        <translation>Der Ordner, in den die Seite zum Drucken und das Spiel für den Stift geschrieben werden</translation>
     </message>
     <message>
         <source>Chooses another folder</source>
@@ -1661,6 +1673,10 @@
     <message>
         <source>%1 problems</source>
         <translation>%1 Probleme</translation>
+    </message>
+    <message>
+        <source>A click goes to the place (Enter); further clicks put right what can be put right (Alt+Enter) and tell why (F1)</source>
+        <translation>Ein Klick geht zur Stelle (Eingabetaste); weitere Klicks bringen in Ordnung, was sich in Ordnung bringen lässt (Alt+Eingabetaste), und sagen warum (F1)</translation>
     </message>
 </context>
 <context>
@@ -1839,8 +1855,8 @@
         <translation>Mikrofon</translation>
     </message>
     <message>
-        <source>The microphone that is recorded from</source>
-        <translation>Das Mikrofon, von dem aufgenommen wird</translation>
+        <source>The microphone that is recorded from; the level below shows whether it hears you</source>
+        <translation>Das Mikrofon, mit dem aufgenommen wird; der Pegel darunter zeigt, ob es Sie hört</translation>
     </message>
     <message>
         <source>Usual microphone</source>
@@ -1851,8 +1867,8 @@
         <translation>&amp;Einzählen</translation>
     </message>
     <message>
-        <source>Counts 3, 2, 1 before a recording begins</source>
-        <translation>Zählt 3, 2, 1, bevor eine Aufnahme beginnt</translation>
+        <source>Counts 3, 2, 1 before a recording begins, so that you can take a breath</source>
+        <translation>Zählt 3, 2, 1, bevor eine Aufnahme beginnt, damit Sie Luft holen können</translation>
     </message>
     <message>
         <source>Begins and ends a recording (Space)</source>
@@ -2103,6 +2119,10 @@
         <source>Until the first sound: %1 steps</source>
         <translation>Bis zum ersten Ton: %1 Schritte</translation>
     </message>
+    <message>
+        <source>What was tapped and what was heard, the latest at the end</source>
+        <translation>Was angetippt und was gehört wurde, das Neueste am Ende</translation>
+    </message>
 </context>
 <context>
     <name>PageWindow</name>
@@ -2133,8 +2153,8 @@
         <translation>Das laufende Skript</translation>
     </message>
     <message>
-        <source>A double click goes to the line in the script, to change it</source>
-        <translation>Ein Doppelklick führt zur Zeile im Skript, um sie zu ändern</translation>
+        <source>The script that runs, with the line that is next; a double click goes to the line in the tab Script, to change it</source>
+        <translation>Das Skript, das läuft, mit der nächsten Zeile; ein Doppelklick geht zur Zeile auf dem Reiter Skript, um sie zu ändern</translation>
     </message>
 </context>
 <context>
@@ -2290,16 +2310,16 @@
         <translation>In den Texten suchen</translation>
     </message>
     <message>
-        <source>Shows only texts that hold these words</source>
-        <translation>Zeigt nur Texte, die diese Wörter enthalten</translation>
+        <source>Shows only texts that hold these words, to find one among many; empty shows all</source>
+        <translation>Zeigt nur Texte, die diese Wörter enthalten, um einen unter vielen zu finden; leer zeigt alle</translation>
     </message>
     <message>
         <source>State</source>
         <translation>Zustand</translation>
     </message>
     <message>
-        <source>Shows only texts of this state</source>
-        <translation>Zeigt nur Texte in diesem Zustand</translation>
+        <source>Shows only texts of this state, such as those that are missing still</source>
+        <translation>Zeigt nur Texte in diesem Zustand, etwa die, die noch fehlen</translation>
     </message>
     <message>
         <source>All states</source>
@@ -2310,8 +2330,8 @@
         <translation>Stimme</translation>
     </message>
     <message>
-        <source>Shows only texts of this voice</source>
-        <translation>Zeigt nur Texte dieser Stimme</translation>
+        <source>Shows only texts of this voice, such as those that one person records</source>
+        <translation>Zeigt nur Texte dieser Stimme, etwa die, die eine Person aufnimmt</translation>
     </message>
     <message>
         <source>All voices</source>
@@ -2346,8 +2366,8 @@
         <translation>&amp;Aufnehmen...</translation>
     </message>
     <message>
-        <source>Records texts with the microphone, one after the other</source>
-        <translation>Nimmt Texte mit dem Mikrofon auf, einen nach dem anderen</translation>
+        <source>Records texts with the microphone, one after the other, beginning with the selected one</source>
+        <translation>Nimmt Texte mit dem Mikrofon auf, einen nach dem anderen, angefangen beim ausgewählten</translation>
     </message>
     <message>
         <source>&amp;Use file...</source>
@@ -2378,8 +2398,8 @@
         <translation>S&amp;timmen probieren...</translation>
     </message>
     <message>
-        <source>Lets you hear one sentence in many voices</source>
-        <translation>Lässt einen Satz in vielen Stimmen hören</translation>
+        <source>Lets you hear one sentence in many voices, and writes the one that you like into the script</source>
+        <translation>Lässt Sie einen Satz in vielen Stimmen hören und schreibt die, die gefällt, ins Skript</translation>
     </message>
     <message>
         <source>Save the project first: its audio files lie in a folder beside it.</source>
@@ -2548,6 +2568,10 @@
         <source>Space plays a text, Enter goes to its line in the script</source>
         <translation>Die Leertaste spielt einen Text ab, die Eingabetaste geht zu seiner Zeile im Skript</translation>
     </message>
+    <message>
+        <source>Every text of the book. A click on the sign plays it (Space), one on the line goes there (Enter)</source>
+        <translation>Jeder Text des Buchs. Ein Klick auf das Zeichen spielt ihn (Leertaste), einer auf die Zeile geht dorthin (Eingabetaste)</translation>
+    </message>
 </context>
 <context>
     <name>SpeechJobs</name>
@@ -2654,8 +2678,8 @@
         <translation>Die Leertaste setzt oder entfernt den Haken der ausgewählten Dateien</translation>
     </message>
     <message>
-        <source>Sets or takes away all ticks</source>
-        <translation>Setzt oder entfernt alle Haken</translation>
+        <source>Sets or takes away all ticks; only files with a tick are taken</source>
+        <translation>Setzt oder entfernt alle Haken; nur Dateien mit einem Haken werden übernommen</translation>
     </message>
     <message>
         <source>Taking the files...</source>
@@ -2757,8 +2781,8 @@
         <translation>&amp;Alle Dateien</translation>
     </message>
     <message>
-        <source>Sets or takes away all ticks</source>
-        <translation>Setzt oder entfernt alle Haken</translation>
+        <source>Sets or takes away all ticks; only files with a tick go to the trash</source>
+        <translation>Setzt oder entfernt alle Haken; nur Dateien mit einem Haken kommen in den Papierkorb</translation>
     </message>
     <message>
         <source>&amp;Move to the trash</source>
@@ -2780,16 +2804,16 @@
         <translation>Stopp</translation>
     </message>
     <message>
-        <source>Switches the book on: plays the welcome</source>
-        <translation>Schaltet das Buch ein: spielt die Begrüßung</translation>
+        <source>Switches the book on, as START on paper does: plays the welcome</source>
+        <translation>Schaltet das Buch ein, wie START auf dem Papier: spielt die Begrüßung</translation>
     </message>
     <message>
-        <source>Repeats what was played last</source>
-        <translation>Wiederholt, was zuletzt gespielt wurde</translation>
+        <source>Plays once more what was played last, as REPLAY on paper does</source>
+        <translation>Spielt noch einmal, was zuletzt gespielt wurde, wie REPLAY auf dem Papier</translation>
     </message>
     <message>
-        <source>Ends the sound</source>
-        <translation>Beendet den Ton</translation>
+        <source>Ends the sound that plays, as STOP on paper does</source>
+        <translation>Beendet den Ton, der läuft, wie STOP auf dem Papier</translation>
     </message>
     <message>
         <source>Fresh</source>
@@ -2903,6 +2927,10 @@
         <source>Page %1</source>
         <translation>Seite %1</translation>
     </message>
+    <message>
+        <source>How loud the book is on this computer; the pen has keys of its own</source>
+        <translation>Wie laut das Buch auf diesem Computer ist; der Stift hat eigene Tasten</translation>
+    </message>
 </context>
 <context>
     <name>VariableTable</name>
@@ -2911,8 +2939,8 @@
         <translation>Wert</translation>
     </message>
     <message>
-        <source>From 0 to 65535</source>
-        <translation>Von 0 bis 65535</translation>
+        <source>The value that the script goes on with, from 0 to 65535</source>
+        <translation>Der Wert, mit dem das Skript weitergeht, von 0 bis 65535</translation>
     </message>
     <message>
         <source>Variables</source>
@@ -2925,6 +2953,10 @@
     <message>
         <source>Before</source>
         <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>What the script remembers. A click on a value changes it, to try what would come then</source>
+        <translation>Was sich das Skript merkt. Ein Klick auf einen Wert ändert ihn, um zu probieren, was dann käme</translation>
     </message>
 </context>
 <context>
@@ -2954,8 +2986,8 @@
         <translation>Stimmen</translation>
     </message>
     <message>
-        <source>What all voices of this language say</source>
-        <translation>Was alle Stimmen dieser Sprache sagen</translation>
+        <source>What all voices of this language say; write what your book will say</source>
+        <translation>Was alle Stimmen dieser Sprache sagen; schreiben Sie, was Ihr Buch sagen wird</translation>
     </message>
     <message>
         <source>Sentence</source>
@@ -2966,8 +2998,8 @@
         <translation>Sprache</translation>
     </message>
     <message>
-        <source>The language of the other voices</source>
-        <translation>Die Sprache der anderen Stimmen</translation>
+        <source>The language of the voices below those of the script, by age and sex</source>
+        <translation>Die Sprache der Stimmen unter denen des Skripts, nach Alter und Geschlecht</translation>
     </message>
     <message>
         <source>&amp;Sentence:</source>
@@ -2998,12 +3030,12 @@
         <translation>S&amp;topp</translation>
     </message>
     <message>
-        <source>Ends the sound</source>
-        <translation>Beendet den Ton</translation>
+        <source>Ends the sound, also while one voice after the other speaks</source>
+        <translation>Beendet den Ton, auch während eine Stimme nach der anderen spricht</translation>
     </message>
     <message>
-        <source>The name of the voice in the script</source>
-        <translation>Der Name der Stimme im Skript</translation>
+        <source>The name of the voice in the script, which stands behind say</source>
+        <translation>Der Name der Stimme im Skript, der hinter say steht</translation>
     </message>
     <message>
         <source>Name</source>
@@ -3014,8 +3046,8 @@
         <translation>In das Skript &amp;einfügen</translation>
     </message>
     <message>
-        <source>Declares the voice in the script</source>
-        <translation>Deklariert die Stimme im Skript</translation>
+        <source>Writes the statement below into the script, so that texts can be said by this voice</source>
+        <translation>Schreibt die Anweisung darunter ins Skript, sodass Texte mit dieser Stimme gesprochen werden können</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
@@ -3383,8 +3415,8 @@
         <translation>Hilfe beim Schreiben</translation>
     </message>
     <message>
-        <source>What comes by itself while you write the script</source>
-        <translation>Was beim Schreiben des Skripts von selbst kommt</translation>
+        <source>Switches on and off what comes by itself while you write the script: names, indentation, explanations, marks</source>
+        <translation>Schaltet ein und aus, was beim Schreiben des Skripts von selbst kommt: Namen, Einrückung, Erklärungen, Markierungen</translation>
     </message>
     <message>
         <source>&amp;Suggest names while typing</source>
@@ -3634,8 +3666,8 @@
         <translation>Warum?</translation>
     </message>
     <message>
-        <source>Opens the manual in your browser, where it tells what to do (%1)</source>
-        <translation>Öffnet das Handbuch im Browser, wo es sagt, was zu tun ist (%1)</translation>
+        <source>Opens the manual in your browser, where it tells what to do</source>
+        <translation>Öffnet das Handbuch im Browser, wo es sagt, was zu tun ist</translation>
     </message>
 </context>
 <context>
@@ -3645,24 +3677,24 @@
         <translation>Vergrößern</translation>
     </message>
     <message>
-        <source>Shows the page larger</source>
-        <translation>Zeigt die Seite größer</translation>
+        <source>Shows the page larger, for small areas; Ctrl and the wheel do it around the mouse</source>
+        <translation>Zeigt die Seite größer, für kleine Bereiche; Strg und das Rad tun es um die Maus herum</translation>
     </message>
     <message>
         <source>Zoom out</source>
         <translation>Verkleinern</translation>
     </message>
     <message>
-        <source>Shows the page smaller</source>
-        <translation>Zeigt die Seite kleiner</translation>
+        <source>Shows the page smaller, to see more of it at once; Ctrl and the wheel do it, too</source>
+        <translation>Zeigt die Seite kleiner, um mehr davon auf einmal zu sehen; Strg und das Rad tun es auch</translation>
     </message>
     <message>
         <source>Fit</source>
         <translation>Einpassen</translation>
     </message>
     <message>
-        <source>Shows the page&apos;s whole width</source>
-        <translation>Zeigt die Seite in ihrer ganzen Breite</translation>
+        <source>Shows the page as wide as the window, however it was zoomed</source>
+        <translation>Zeigt die Seite so breit wie das Fenster, wie immer sie gezoomt war</translation>
     </message>
     <message>
         <source>Zoom: %1 %</source>
@@ -3727,12 +3759,16 @@
         <translation>Filter der Bereiche</translation>
     </message>
     <message>
-        <source>Shows only areas whose name has this text</source>
-        <translation>Zeigt nur Bereiche, deren Name diesen Text enthält</translation>
+        <source>Shows only areas whose name has this text, to find one among many; empty shows all</source>
+        <translation>Zeigt nur Bereiche, deren Name diesen Text enthält, um einen unter vielen zu finden; leer zeigt alle</translation>
     </message>
     <message>
         <source>Areas of all pages</source>
         <translation>Bereiche aller Seiten</translation>
+    </message>
+    <message>
+        <source>A click selects an area, a double click goes to its code, F2 renames it</source>
+        <translation>Ein Klick wählt einen Bereich aus, ein Doppelklick geht zu seinem Code, F2 benennt ihn um</translation>
     </message>
 </context>
 <context>
@@ -3779,6 +3815,10 @@
     <message>
         <source>Page %1 of %2</source>
         <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>A click goes to a page. Drag it to move it (Ctrl+Up, Ctrl+Down); Delete removes it, and Undo brings it back</source>
+        <translation>Ein Klick geht zu einer Seite. Ziehen verschiebt sie (Strg+Auf, Strg+Ab); Entf entfernt sie, und Rückgängig bringt sie wieder</translation>
     </message>
 </context>
 </TS>

@@ -20,8 +20,8 @@
         <translation>Libraries and their licences:</translation>
     </message>
     <message>
-        <source>Tells the version and the licences</source>
-        <translation>Tells the version and the licences</translation>
+        <source>Tells the version, to be named when something goes wrong, and the licences</source>
+        <translation>Tells the version, to be named when something goes wrong, and the licences</translation>
     </message>
 </context>
 <context>
@@ -426,8 +426,8 @@
         <translation>&amp;Find</translation>
     </message>
     <message>
-        <source>Goes to the next place that holds the text</source>
-        <translation>Goes to the next place that holds the text</translation>
+        <source>Goes to the next place that holds the text (Return); F3 does it in the script</source>
+        <translation>Goes to the next place that holds the text (Return); F3 does it in the script</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
@@ -442,24 +442,24 @@
         <translation>Replace &amp;All</translation>
     </message>
     <message>
-        <source>Replaces the text wherever it stands</source>
-        <translation>Replaces the text wherever it stands</translation>
+        <source>Replaces the text wherever it stands in the script; Undo brings all of it back</source>
+        <translation>Replaces the text wherever it stands in the script; Undo brings all of it back</translation>
     </message>
     <message>
         <source>Search &amp;backwards</source>
         <translation>Search &amp;backwards</translation>
     </message>
     <message>
-        <source>Searches toward the beginning</source>
-        <translation>Searches toward the beginning</translation>
+        <source>Searches from the caret toward the beginning instead of the end</source>
+        <translation>Searches from the caret toward the beginning instead of the end</translation>
     </message>
     <message>
         <source>Replace with:</source>
         <translation>Replace with:</translation>
     </message>
     <message>
-        <source>The text that takes its place</source>
-        <translation>The text that takes its place</translation>
+        <source>The text that takes its place; empty deletes what is found</source>
+        <translation>The text that takes its place; empty deletes what is found</translation>
     </message>
     <message>
         <source>Find and replace</source>
@@ -584,16 +584,16 @@
         <translation>Project Name</translation>
     </message>
     <message>
-        <source>The name of the book, which the pen says when it is switched on</source>
-        <translation>The name of the book, which the pen says when it is switched on</translation>
+        <source>The name of the book: the pen says it when the book is switched on, and game and PDF are named after it</source>
+        <translation>The name of the book: the pen says it when the book is switched on, and game and PDF are named after it</translation>
     </message>
     <message>
         <source>Project ID</source>
         <translation>Project ID</translation>
     </message>
     <message>
-        <source>The number of the book, one for each book on the pen</source>
-        <translation>The number of the book, one for each book on the pen</translation>
+        <source>The number by which the pen knows the book: each book on the pen needs its own, 900 to 950 for those made at home</source>
+        <translation>The number by which the pen knows the book: each book on the pen needs its own, 900 to 950 for those made at home</translation>
     </message>
     <message>
         <source>Current Picture (Area)</source>
@@ -608,8 +608,8 @@
         <translation>Paper width in millimetres</translation>
     </message>
     <message>
-        <source>The width of the printed page</source>
-        <translation>The width of the printed page</translation>
+        <source>How wide this page is printed, in millimetres: its picture fills the paper</source>
+        <translation>How wide this page is printed, in millimetres: its picture fills the paper</translation>
     </message>
     <message>
         <source>X</source>
@@ -620,24 +620,24 @@
         <translation>Paper height in millimetres</translation>
     </message>
     <message>
-        <source>The height of the printed page</source>
-        <translation>The height of the printed page</translation>
+        <source>How high this page is printed, in millimetres: its picture fills the paper</source>
+        <translation>How high this page is printed, in millimetres: its picture fills the paper</translation>
     </message>
     <message>
         <source>DPI:</source>
         <translation>DPI:</translation>
     </message>
     <message>
-        <source>The resolution of the printer: 600 at least, better 1200</source>
-        <translation>The resolution of the printer: 600 at least, better 1200</translation>
+        <source>The dots per inch of the printer, for this page: the pen needs 600 at least, better are 1200</source>
+        <translation>The dots per inch of the printer, for this page: the pen needs 600 at least, better are 1200</translation>
     </message>
     <message>
         <source>Create</source>
         <translation>Create</translation>
     </message>
     <message>
-        <source>Creates the print images of all pictures</source>
-        <translation>Creates the print images of all pictures</translation>
+        <source>Makes a print image (TIFF) of each page, for a print shop; for a printer at home take PDF</source>
+        <translation>Makes a print image (TIFF) of each page, for a print shop; for a printer at home take PDF</translation>
     </message>
     <message>
         <source>Create the output image now...</source>
@@ -648,8 +648,8 @@
         <translation>PDF</translation>
     </message>
     <message>
-        <source>Makes a PDF of the book for your own printer; in its menu: symbols and the printer&apos;s test page</source>
-        <translation>Makes a PDF of the book for your own printer; in its menu: symbols and the printer&apos;s test page</translation>
+        <source>Makes a PDF of the book for your own printer, each page in its true size; its menu (key Down) has symbols and the printer&apos;s test page</source>
+        <translation>Makes a PDF of the book for your own printer, each page in its true size; its menu (key Down) has symbols and the printer&apos;s test page</translation>
     </message>
     <message>
         <source>Add START &amp;symbol</source>
@@ -676,8 +676,8 @@
         <translation>For all pictures</translation>
     </message>
     <message>
-        <source>Gives the paper and the DPI of this picture to all pictures</source>
-        <translation>Gives the paper and the DPI of this picture to all pictures</translation>
+        <source>Gives the paper and the DPI of this picture to all others, for a book that is printed on one kind of paper</source>
+        <translation>Gives the paper and the DPI of this picture to all others, for a book that is printed on one kind of paper</translation>
     </message>
     <message>
         <source>There is no picture yet</source>
@@ -804,8 +804,8 @@
         <translation>load...</translation>
     </message>
     <message>
-        <source>Puts another picture file in the place of this one</source>
-        <translation>Puts another picture file in the place of this one</translation>
+        <source>Puts another picture file in the place of this one, such as a better scan; paper and areas stay</source>
+        <translation>Puts another picture file in the place of this one, such as a better scan; paper and areas stay</translation>
     </message>
     <message>
         <source>✖</source>
@@ -816,8 +816,8 @@
         <translation>Delete picture</translation>
     </message>
     <message>
-        <source>Deletes this picture</source>
-        <translation>Deletes this picture</translation>
+        <source>Shows how this page is removed: in the list of the pages (Ctrl+Shift+P), where Delete does it and Undo brings it back</source>
+        <translation>Shows how this page is removed: in the list of the pages (Ctrl+Shift+P), where Delete does it and Undo brings it back</translation>
     </message>
     <message>
         <source>Area</source>
@@ -864,24 +864,24 @@
         <translation>Area name</translation>
     </message>
     <message>
-        <source>The name of the area, as the script knows it</source>
-        <translation>The name of the area, as the script knows it</translation>
+        <source>The name of the area: the sub of that name in the script says what is heard. Areas of one name do the same</source>
+        <translation>The name of the area: the sub of that name in the script says what is heard. Areas of one name do the same</translation>
     </message>
     <message>
         <source>OID of the area</source>
         <translation>OID of the area</translation>
     </message>
     <message>
-        <source>The number of the dots that the area is printed with</source>
-        <translation>The number of the dots that the area is printed with</translation>
+        <source>The number of the dots that the area is printed with: it comes by itself and stays, so that printed pages fit</source>
+        <translation>The number of the dots that the area is printed with: it comes by itself and stays, so that printed pages fit</translation>
     </message>
     <message>
         <source>Goto code</source>
         <translation>Goto code</translation>
     </message>
     <message>
-        <source>Goes to the code of the area in the script, or begins it</source>
-        <translation>Goes to the code of the area in the script, or begins it</translation>
+        <source>Goes to the sub of the area in the script, where what it says is written; begins one where there is none</source>
+        <translation>Goes to the sub of the area in the script, where what it says is written; begins one where there is none</translation>
     </message>
     <message>
         <source>Picture with its areas</source>
@@ -940,8 +940,8 @@
         <translation>&amp;Quick answers</translation>
     </message>
     <message>
-        <source>The same game in fewer steps, so that the pen answers at once</source>
-        <translation>The same game in fewer steps, so that the pen answers at once</translation>
+        <source>Makes the same game in fewer steps, so that the pen answers at once, also where the script reckons much</source>
+        <translation>Makes the same game in fewer steps, so that the pen answers at once, also where the script reckons much</translation>
     </message>
     <message>
         <source>The pen takes its time for every step of the script. With quick answers the game does the same in few of them. They are made by Plinkett&apos;s own assembler, also where tttool is installed.</source>
@@ -960,8 +960,8 @@
         <translation>&amp;Open</translation>
     </message>
     <message>
-        <source>Opens a project</source>
-        <translation>Opens a project</translation>
+        <source>Opens another book; of this one, what is not saved is kept and offered again</source>
+        <translation>Opens another book; of this one, what is not saved is kept and offered again</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
@@ -972,8 +972,8 @@
         <translation>Save</translation>
     </message>
     <message>
-        <source>Saves the project</source>
-        <translation>Saves the project</translation>
+        <source>Writes the book into its project file; pictures and audio files lie beside it</source>
+        <translation>Writes the book into its project file; pictures and audio files lie beside it</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
@@ -988,24 +988,24 @@
         <translation>Undo</translation>
     </message>
     <message>
-        <source>Takes back the last step</source>
-        <translation>Takes back the last step</translation>
+        <source>Takes back the last step, on pages and areas, or in the script while that is shown</source>
+        <translation>Takes back the last step, on pages and areas, or in the script while that is shown</translation>
     </message>
     <message>
         <source>Redo</source>
         <translation>Redo</translation>
     </message>
     <message>
-        <source>Does again what was taken back</source>
-        <translation>Does again what was taken back</translation>
+        <source>Does again what was taken back last, until something else is changed</source>
+        <translation>Does again what was taken back last, until something else is changed</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
         <translation>&amp;Save As...</translation>
     </message>
     <message>
-        <source>Saves the project under another name</source>
-        <translation>Saves the project under another name</translation>
+        <source>Saves the book under another name or in another folder, and takes pictures and audio files along</source>
+        <translation>Saves the book under another name or in another folder, and takes pictures and audio files along</translation>
     </message>
     <message>
         <source>Ctrl+Shift+S</source>
@@ -1084,12 +1084,12 @@
         <translation>The pictures could not be brought to their pages.</translation>
     </message>
     <message>
-        <source>Shows or hides the list of the pages</source>
-        <translation>Shows or hides the list of the pages</translation>
+        <source>Shows or hides the list of the pages, in which one goes to pages, moves and removes them</source>
+        <translation>Shows or hides the list of the pages, in which one goes to pages, moves and removes them</translation>
     </message>
     <message>
-        <source>Shows or hides the list of the areas</source>
-        <translation>Shows or hides the list of the areas</translation>
+        <source>Shows or hides the list of all areas of the book, with what is wrong with them</source>
+        <translation>Shows or hides the list of all areas of the book, with what is wrong with them</translation>
     </message>
     <message>
         <source>Another window or program has changed the project file since this window opened or saved it.</source>
@@ -1134,6 +1134,18 @@
     <message>
         <source>Do you really want to delete this picture?</source>
         <translation>Do you really want to delete this picture?</translation>
+    </message>
+    <message>
+        <source>Opens the manual in your browser, at what the shown tab is for</source>
+        <translation>Opens the manual in your browser, at what the shown tab is for</translation>
+    </message>
+    <message>
+        <source>Pages are removed in the list of the pages, which opens now: Delete removes this one, and Undo brings it back.</source>
+        <translation>Pages are removed in the list of the pages, which opens now: Delete removes this one, and Undo brings it back.</translation>
+    </message>
+    <message>
+        <source>Delete removes page %1, and Undo brings it back.</source>
+        <translation>Delete removes page %1, and Undo brings it back.</translation>
     </message>
 </context>
 <context>
@@ -1228,8 +1240,8 @@
         <translation>all</translation>
     </message>
     <message>
-        <source>Only these pictures, counted from 0, such as 0,2-3</source>
-        <translation>Only these pictures, counted from 0, such as 0,2-3</translation>
+        <source>Only these pictures, counted from 0, such as 0,2-3, to print a changed page again; empty prints all</source>
+        <translation>Only these pictures, counted from 0, such as 0,2-3, to print a changed page again; empty prints all</translation>
     </message>
     <message>
         <source>Pages</source>
@@ -1240,8 +1252,8 @@
         <translation>Pages:</translation>
     </message>
     <message>
-        <source>Where dots are printed</source>
-        <translation>Where dots are printed</translation>
+        <source>Whether the whole page gets dots, or only its areas, which leaves the rest as clear as it was</source>
+        <translation>Whether the whole page gets dots, or only its areas, which leaves the rest as clear as it was</translation>
     </message>
     <message>
         <source>Dots</source>
@@ -1252,20 +1264,20 @@
         <translation>Dots:</translation>
     </message>
     <message>
-        <source>The rest of the picture stays as it is</source>
-        <translation>The rest of the picture stays as it is</translation>
+        <source>Lightens the picture on areas only, where the pen reads; the rest of it stays as it is</source>
+        <translation>Lightens the picture on areas only, where the pen reads; the rest of it stays as it is</translation>
     </message>
     <message>
-        <source>For you: in a colour that the pen does not see</source>
-        <translation>For you: in a colour that the pen does not see</translation>
+        <source>Draws the areas with their names, to check them on paper, in a colour that the pen does not see</source>
+        <translation>Draws the areas with their names, to check them on paper, in a colour that the pen does not see</translation>
     </message>
     <message>
         <source>as needed</source>
         <translation>as needed</translation>
     </message>
     <message>
-        <source>White paper around each page</source>
-        <translation>White paper around each page</translation>
+        <source>White paper around each page, for a printer that does not print up to the edge</source>
+        <translation>White paper around each page, for a printer that does not print up to the edge</translation>
     </message>
     <message>
         <source>Margin</source>
@@ -1276,12 +1288,12 @@
         <translation>Margin:</translation>
     </message>
     <message>
-        <source>Marks in the margin where the page ends</source>
-        <translation>Marks in the margin where the page ends</translation>
+        <source>Marks in the margin where the page ends, to cut along them</source>
+        <translation>Marks in the margin where the page ends, to cut along them</translation>
     </message>
     <message>
-        <source>Pages that are larger than the paper on several sheets that overlap</source>
-        <translation>Pages that are larger than the paper on several sheets that overlap</translation>
+        <source>Prints pages that are larger than the paper on several sheets that overlap, to be glued together</source>
+        <translation>Prints pages that are larger than the paper on several sheets that overlap, to be glued together</translation>
     </message>
     <message>
         <source>Poster</source>
@@ -1292,8 +1304,8 @@
         <translation>Poster:</translation>
     </message>
     <message>
-        <source>A page with START, REPLAY, STOP and a legend of all areas</source>
-        <translation>A page with START, REPLAY, STOP and a legend of all areas</translation>
+        <source>Adds a page with START, REPLAY, STOP and a legend of all areas, to be cut out; a book needs START somewhere</source>
+        <translation>Adds a page with START, REPLAY, STOP and a legend of all areas, to be cut out; a book needs START somewhere</translation>
     </message>
     <message>
         <source>Symbols and legend</source>
@@ -1304,8 +1316,8 @@
         <translation>Symbols and legend:</translation>
     </message>
     <message>
-        <source>The file that is written</source>
-        <translation>The file that is written</translation>
+        <source>The PDF file that is written; one of this name that is there is replaced</source>
+        <translation>The PDF file that is written; one of this name that is there is replaced</translation>
     </message>
     <message>
         <source>File</source>
@@ -1409,12 +1421,12 @@
         <translation>Profile of a printer</translation>
     </message>
     <message>
-        <source>What has been kept about a printer</source>
-        <translation>What has been kept about a printer</translation>
+        <source>The settings that were kept for a printer: choose the one that the book is printed on</source>
+        <translation>The settings that were kept for a printer: choose the one that the book is printed on</translation>
     </message>
     <message>
-        <source>Keeps the settings of this printer under a name</source>
-        <translation>Keeps the settings of this printer under a name</translation>
+        <source>Keeps the settings below under a name, so that this printer has them the next time, too</source>
+        <translation>Keeps the settings below under a name, so that this printer has them the next time, too</translation>
     </message>
     <message>
         <source>Forgets the chosen profile</source>
@@ -1516,16 +1528,16 @@
         <translation>%1 DPI</translation>
     </message>
     <message>
-        <source>Tries this resolution of the printer</source>
-        <translation>Tries this resolution of the printer</translation>
+        <source>Tries this resolution: tick those that your printer has, and the pen tells which one is best</source>
+        <translation>Tries this resolution: tick those that your printer has, and the pen tells which one is best</translation>
     </message>
     <message>
         <source>Folder</source>
         <translation>Folder</translation>
     </message>
     <message>
-        <source>Where page and game are written</source>
-        <translation>Where page and game are written</translation>
+        <source>The folder in which the page to be printed and the game for the pen are written</source>
+        <translation>The folder in which the page to be printed and the game for the pen are written</translation>
     </message>
     <message>
         <source>Chooses another folder</source>
@@ -1661,6 +1673,10 @@
     <message>
         <source>%1 problems</source>
         <translation>%1 problems</translation>
+    </message>
+    <message>
+        <source>A click goes to the place (Enter); further clicks put right what can be put right (Alt+Enter) and tell why (F1)</source>
+        <translation>A click goes to the place (Enter); further clicks put right what can be put right (Alt+Enter) and tell why (F1)</translation>
     </message>
 </context>
 <context>
@@ -1839,8 +1855,8 @@
         <translation>Microphone</translation>
     </message>
     <message>
-        <source>The microphone that is recorded from</source>
-        <translation>The microphone that is recorded from</translation>
+        <source>The microphone that is recorded from; the level below shows whether it hears you</source>
+        <translation>The microphone that is recorded from; the level below shows whether it hears you</translation>
     </message>
     <message>
         <source>Usual microphone</source>
@@ -1851,8 +1867,8 @@
         <translation>Count &amp;in</translation>
     </message>
     <message>
-        <source>Counts 3, 2, 1 before a recording begins</source>
-        <translation>Counts 3, 2, 1 before a recording begins</translation>
+        <source>Counts 3, 2, 1 before a recording begins, so that you can take a breath</source>
+        <translation>Counts 3, 2, 1 before a recording begins, so that you can take a breath</translation>
     </message>
     <message>
         <source>Begins and ends a recording (Space)</source>
@@ -2103,6 +2119,10 @@
         <source>Until the first sound: %1 steps</source>
         <translation>Until the first sound: %1 steps</translation>
     </message>
+    <message>
+        <source>What was tapped and what was heard, the latest at the end</source>
+        <translation>What was tapped and what was heard, the latest at the end</translation>
+    </message>
 </context>
 <context>
     <name>PageWindow</name>
@@ -2133,8 +2153,8 @@
         <translation>The script that runs</translation>
     </message>
     <message>
-        <source>A double click goes to the line in the script, to change it</source>
-        <translation>A double click goes to the line in the script, to change it</translation>
+        <source>The script that runs, with the line that is next; a double click goes to the line in the tab Script, to change it</source>
+        <translation>The script that runs, with the line that is next; a double click goes to the line in the tab Script, to change it</translation>
     </message>
 </context>
 <context>
@@ -2290,16 +2310,16 @@
         <translation>Search in the texts</translation>
     </message>
     <message>
-        <source>Shows only texts that hold these words</source>
-        <translation>Shows only texts that hold these words</translation>
+        <source>Shows only texts that hold these words, to find one among many; empty shows all</source>
+        <translation>Shows only texts that hold these words, to find one among many; empty shows all</translation>
     </message>
     <message>
         <source>State</source>
         <translation>State</translation>
     </message>
     <message>
-        <source>Shows only texts of this state</source>
-        <translation>Shows only texts of this state</translation>
+        <source>Shows only texts of this state, such as those that are missing still</source>
+        <translation>Shows only texts of this state, such as those that are missing still</translation>
     </message>
     <message>
         <source>All states</source>
@@ -2310,8 +2330,8 @@
         <translation>Voice</translation>
     </message>
     <message>
-        <source>Shows only texts of this voice</source>
-        <translation>Shows only texts of this voice</translation>
+        <source>Shows only texts of this voice, such as those that one person records</source>
+        <translation>Shows only texts of this voice, such as those that one person records</translation>
     </message>
     <message>
         <source>All voices</source>
@@ -2346,8 +2366,8 @@
         <translation>Re&amp;cord...</translation>
     </message>
     <message>
-        <source>Records texts with the microphone, one after the other</source>
-        <translation>Records texts with the microphone, one after the other</translation>
+        <source>Records texts with the microphone, one after the other, beginning with the selected one</source>
+        <translation>Records texts with the microphone, one after the other, beginning with the selected one</translation>
     </message>
     <message>
         <source>&amp;Use file...</source>
@@ -2378,8 +2398,8 @@
         <translation>Try &amp;voices...</translation>
     </message>
     <message>
-        <source>Lets you hear one sentence in many voices</source>
-        <translation>Lets you hear one sentence in many voices</translation>
+        <source>Lets you hear one sentence in many voices, and writes the one that you like into the script</source>
+        <translation>Lets you hear one sentence in many voices, and writes the one that you like into the script</translation>
     </message>
     <message>
         <source>Save the project first: its audio files lie in a folder beside it.</source>
@@ -2548,6 +2568,10 @@
         <source>Space plays a text, Enter goes to its line in the script</source>
         <translation>Space plays a text, Enter goes to its line in the script</translation>
     </message>
+    <message>
+        <source>Every text of the book. A click on the sign plays it (Space), one on the line goes there (Enter)</source>
+        <translation>Every text of the book. A click on the sign plays it (Space), one on the line goes there (Enter)</translation>
+    </message>
 </context>
 <context>
     <name>SpeechJobs</name>
@@ -2654,8 +2678,8 @@
         <translation>Space sets or takes away the tick of the selected files</translation>
     </message>
     <message>
-        <source>Sets or takes away all ticks</source>
-        <translation>Sets or takes away all ticks</translation>
+        <source>Sets or takes away all ticks; only files with a tick are taken</source>
+        <translation>Sets or takes away all ticks; only files with a tick are taken</translation>
     </message>
     <message>
         <source>Taking the files...</source>
@@ -2757,8 +2781,8 @@
         <translation>&amp;All files</translation>
     </message>
     <message>
-        <source>Sets or takes away all ticks</source>
-        <translation>Sets or takes away all ticks</translation>
+        <source>Sets or takes away all ticks; only files with a tick go to the trash</source>
+        <translation>Sets or takes away all ticks; only files with a tick go to the trash</translation>
     </message>
     <message>
         <source>&amp;Move to the trash</source>
@@ -2780,16 +2804,16 @@
         <translation>Stop</translation>
     </message>
     <message>
-        <source>Switches the book on: plays the welcome</source>
-        <translation>Switches the book on: plays the welcome</translation>
+        <source>Switches the book on, as START on paper does: plays the welcome</source>
+        <translation>Switches the book on, as START on paper does: plays the welcome</translation>
     </message>
     <message>
-        <source>Repeats what was played last</source>
-        <translation>Repeats what was played last</translation>
+        <source>Plays once more what was played last, as REPLAY on paper does</source>
+        <translation>Plays once more what was played last, as REPLAY on paper does</translation>
     </message>
     <message>
-        <source>Ends the sound</source>
-        <translation>Ends the sound</translation>
+        <source>Ends the sound that plays, as STOP on paper does</source>
+        <translation>Ends the sound that plays, as STOP on paper does</translation>
     </message>
     <message>
         <source>Fresh</source>
@@ -2903,6 +2927,10 @@
         <source>Page %1</source>
         <translation>Page %1</translation>
     </message>
+    <message>
+        <source>How loud the book is on this computer; the pen has keys of its own</source>
+        <translation>How loud the book is on this computer; the pen has keys of its own</translation>
+    </message>
 </context>
 <context>
     <name>VariableTable</name>
@@ -2911,8 +2939,8 @@
         <translation>Value</translation>
     </message>
     <message>
-        <source>From 0 to 65535</source>
-        <translation>From 0 to 65535</translation>
+        <source>The value that the script goes on with, from 0 to 65535</source>
+        <translation>The value that the script goes on with, from 0 to 65535</translation>
     </message>
     <message>
         <source>Variables</source>
@@ -2925,6 +2953,10 @@
     <message>
         <source>Before</source>
         <translation>Before</translation>
+    </message>
+    <message>
+        <source>What the script remembers. A click on a value changes it, to try what would come then</source>
+        <translation>What the script remembers. A click on a value changes it, to try what would come then</translation>
     </message>
 </context>
 <context>
@@ -2954,8 +2986,8 @@
         <translation>Voices</translation>
     </message>
     <message>
-        <source>What all voices of this language say</source>
-        <translation>What all voices of this language say</translation>
+        <source>What all voices of this language say; write what your book will say</source>
+        <translation>What all voices of this language say; write what your book will say</translation>
     </message>
     <message>
         <source>Sentence</source>
@@ -2966,8 +2998,8 @@
         <translation>Language</translation>
     </message>
     <message>
-        <source>The language of the other voices</source>
-        <translation>The language of the other voices</translation>
+        <source>The language of the voices below those of the script, by age and sex</source>
+        <translation>The language of the voices below those of the script, by age and sex</translation>
     </message>
     <message>
         <source>&amp;Sentence:</source>
@@ -2998,12 +3030,12 @@
         <translation>S&amp;top</translation>
     </message>
     <message>
-        <source>Ends the sound</source>
-        <translation>Ends the sound</translation>
+        <source>Ends the sound, also while one voice after the other speaks</source>
+        <translation>Ends the sound, also while one voice after the other speaks</translation>
     </message>
     <message>
-        <source>The name of the voice in the script</source>
-        <translation>The name of the voice in the script</translation>
+        <source>The name of the voice in the script, which stands behind say</source>
+        <translation>The name of the voice in the script, which stands behind say</translation>
     </message>
     <message>
         <source>Name</source>
@@ -3014,8 +3046,8 @@
         <translation>&amp;Insert into the script</translation>
     </message>
     <message>
-        <source>Declares the voice in the script</source>
-        <translation>Declares the voice in the script</translation>
+        <source>Writes the statement below into the script, so that texts can be said by this voice</source>
+        <translation>Writes the statement below into the script, so that texts can be said by this voice</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
@@ -3383,8 +3415,8 @@
         <translation>Help while writing</translation>
     </message>
     <message>
-        <source>What comes by itself while you write the script</source>
-        <translation>What comes by itself while you write the script</translation>
+        <source>Switches on and off what comes by itself while you write the script: names, indentation, explanations, marks</source>
+        <translation>Switches on and off what comes by itself while you write the script: names, indentation, explanations, marks</translation>
     </message>
     <message>
         <source>&amp;Suggest names while typing</source>
@@ -3634,8 +3666,8 @@
         <translation>Why?</translation>
     </message>
     <message>
-        <source>Opens the manual in your browser, where it tells what to do (%1)</source>
-        <translation>Opens the manual in your browser, where it tells what to do (%1)</translation>
+        <source>Opens the manual in your browser, where it tells what to do</source>
+        <translation>Opens the manual in your browser, where it tells what to do</translation>
     </message>
 </context>
 <context>
@@ -3645,24 +3677,24 @@
         <translation>Zoom in</translation>
     </message>
     <message>
-        <source>Shows the page larger</source>
-        <translation>Shows the page larger</translation>
+        <source>Shows the page larger, for small areas; Ctrl and the wheel do it around the mouse</source>
+        <translation>Shows the page larger, for small areas; Ctrl and the wheel do it around the mouse</translation>
     </message>
     <message>
         <source>Zoom out</source>
         <translation>Zoom out</translation>
     </message>
     <message>
-        <source>Shows the page smaller</source>
-        <translation>Shows the page smaller</translation>
+        <source>Shows the page smaller, to see more of it at once; Ctrl and the wheel do it, too</source>
+        <translation>Shows the page smaller, to see more of it at once; Ctrl and the wheel do it, too</translation>
     </message>
     <message>
         <source>Fit</source>
         <translation>Fit</translation>
     </message>
     <message>
-        <source>Shows the page&apos;s whole width</source>
-        <translation>Shows the page&apos;s whole width</translation>
+        <source>Shows the page as wide as the window, however it was zoomed</source>
+        <translation>Shows the page as wide as the window, however it was zoomed</translation>
     </message>
     <message>
         <source>Zoom: %1 %</source>
@@ -3727,12 +3759,16 @@
         <translation>Filter of the areas</translation>
     </message>
     <message>
-        <source>Shows only areas whose name has this text</source>
-        <translation>Shows only areas whose name has this text</translation>
+        <source>Shows only areas whose name has this text, to find one among many; empty shows all</source>
+        <translation>Shows only areas whose name has this text, to find one among many; empty shows all</translation>
     </message>
     <message>
         <source>Areas of all pages</source>
         <translation>Areas of all pages</translation>
+    </message>
+    <message>
+        <source>A click selects an area, a double click goes to its code, F2 renames it</source>
+        <translation>A click selects an area, a double click goes to its code, F2 renames it</translation>
     </message>
 </context>
 <context>
@@ -3779,6 +3815,10 @@
     <message>
         <source>Page %1 of %2</source>
         <translation>Page %1 of %2</translation>
+    </message>
+    <message>
+        <source>A click goes to a page. Drag it to move it (Ctrl+Up, Ctrl+Down); Delete removes it, and Undo brings it back</source>
+        <translation>A click goes to a page. Drag it to move it (Ctrl+Up, Ctrl+Down); Delete removes it, and Undo brings it back</translation>
     </message>
 </context>
 </TS>

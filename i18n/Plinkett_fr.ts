@@ -20,8 +20,8 @@
         <translation>Bibliothèques et leurs licences :</translation>
     </message>
     <message>
-        <source>Tells the version and the licences</source>
-        <translation>Indique la version et les licences</translation>
+        <source>Tells the version, to be named when something goes wrong, and the licences</source>
+        <translation>Dit la version, à nommer quand quelque chose ne va pas, et les licences</translation>
     </message>
 </context>
 <context>
@@ -426,8 +426,8 @@
         <translation>&amp;Rechercher</translation>
     </message>
     <message>
-        <source>Goes to the next place that holds the text</source>
-        <translation>Va au prochain endroit qui contient le texte</translation>
+        <source>Goes to the next place that holds the text (Return); F3 does it in the script</source>
+        <translation>Va au prochain endroit qui contient le texte (Entrée) ; F3 le fait dans le script</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
@@ -442,24 +442,24 @@
         <translation>&amp;Tout remplacer</translation>
     </message>
     <message>
-        <source>Replaces the text wherever it stands</source>
-        <translation>Remplace le texte partout où il se trouve</translation>
+        <source>Replaces the text wherever it stands in the script; Undo brings all of it back</source>
+        <translation>Remplace le texte partout dans le script ; Annuler rétablit tout</translation>
     </message>
     <message>
         <source>Search &amp;backwards</source>
         <translation>Rechercher en &amp;arrière</translation>
     </message>
     <message>
-        <source>Searches toward the beginning</source>
-        <translation>Recherche vers le début</translation>
+        <source>Searches from the caret toward the beginning instead of the end</source>
+        <translation>Cherche du curseur vers le début au lieu de la fin</translation>
     </message>
     <message>
         <source>Replace with:</source>
         <translation>Remplacer par :</translation>
     </message>
     <message>
-        <source>The text that takes its place</source>
-        <translation>Le texte qui prend sa place</translation>
+        <source>The text that takes its place; empty deletes what is found</source>
+        <translation>Le texte qui le remplace ; vide, il efface ce qui est trouvé</translation>
     </message>
     <message>
         <source>Find and replace</source>
@@ -584,16 +584,16 @@
         <translation>Nom du projet</translation>
     </message>
     <message>
-        <source>The name of the book, which the pen says when it is switched on</source>
-        <translation>Le nom du livre, que le stylo dit à la mise en marche</translation>
+        <source>The name of the book: the pen says it when the book is switched on, and game and PDF are named after it</source>
+        <translation>Le nom du livre : le stylo le dit quand le livre est mis en marche, et le jeu et le PDF portent ce nom</translation>
     </message>
     <message>
         <source>Project ID</source>
         <translation>ID du projet</translation>
     </message>
     <message>
-        <source>The number of the book, one for each book on the pen</source>
-        <translation>Le numéro du livre, différent pour chaque livre du stylo</translation>
+        <source>The number by which the pen knows the book: each book on the pen needs its own, 900 to 950 for those made at home</source>
+        <translation>Le numéro auquel le stylo reconnaît le livre : chaque livre sur le stylo a le sien, de 900 à 950 pour ceux faits à la maison</translation>
     </message>
     <message>
         <source>Current Picture (Area)</source>
@@ -608,8 +608,8 @@
         <translation>Largeur du papier en millimètres</translation>
     </message>
     <message>
-        <source>The width of the printed page</source>
-        <translation>La largeur de la page imprimée</translation>
+        <source>How wide this page is printed, in millimetres: its picture fills the paper</source>
+        <translation>La largeur à laquelle cette page est imprimée, en millimètres : son image remplit le papier</translation>
     </message>
     <message>
         <source>X</source>
@@ -620,24 +620,24 @@
         <translation>Hauteur du papier en millimètres</translation>
     </message>
     <message>
-        <source>The height of the printed page</source>
-        <translation>La hauteur de la page imprimée</translation>
+        <source>How high this page is printed, in millimetres: its picture fills the paper</source>
+        <translation>La hauteur à laquelle cette page est imprimée, en millimètres : son image remplit le papier</translation>
     </message>
     <message>
         <source>DPI:</source>
         <translation>PPP :</translation>
     </message>
     <message>
-        <source>The resolution of the printer: 600 at least, better 1200</source>
-        <translation>La résolution de l&apos;imprimante : au moins 600, mieux 1200</translation>
+        <source>The dots per inch of the printer, for this page: the pen needs 600 at least, better are 1200</source>
+        <translation>Les points par pouce de l’imprimante, pour cette page : il en faut au moins 600 au stylo, mieux vaut 1200</translation>
     </message>
     <message>
         <source>Create</source>
         <translation>Créer</translation>
     </message>
     <message>
-        <source>Creates the print images of all pictures</source>
-        <translation>Crée les images à imprimer de toutes les images</translation>
+        <source>Makes a print image (TIFF) of each page, for a print shop; for a printer at home take PDF</source>
+        <translation>Crée une image d’impression (TIFF) de chaque page, pour une imprimerie ; chez soi, on prend PDF</translation>
     </message>
     <message>
         <source>Create the output image now...</source>
@@ -648,8 +648,8 @@
         <translation>PDF</translation>
     </message>
     <message>
-        <source>Makes a PDF of the book for your own printer; in its menu: symbols and the printer&apos;s test page</source>
-        <translation>Fait un PDF du livre pour votre imprimante ; dans son menu : symboles et page de test de l&apos;imprimante</translation>
+        <source>Makes a PDF of the book for your own printer, each page in its true size; its menu (key Down) has symbols and the printer&apos;s test page</source>
+        <translation>Crée un PDF du livre pour votre imprimante, chaque page à sa vraie taille ; dans son menu (touche Bas) : symboles et page d’essai</translation>
     </message>
     <message>
         <source>Add START &amp;symbol</source>
@@ -676,8 +676,8 @@
         <translation>Pour toutes les images</translation>
     </message>
     <message>
-        <source>Gives the paper and the DPI of this picture to all pictures</source>
-        <translation>Donne à toutes les images le papier et les DPI de celle-ci</translation>
+        <source>Gives the paper and the DPI of this picture to all others, for a book that is printed on one kind of paper</source>
+        <translation>Donne le papier et les DPI de cette image à toutes les autres, pour un livre imprimé sur un seul format</translation>
     </message>
     <message>
         <source>There is no picture yet</source>
@@ -804,8 +804,8 @@
         <translation>charger...</translation>
     </message>
     <message>
-        <source>Puts another picture file in the place of this one</source>
-        <translation>Met un autre fichier d&apos;image à la place de celui-ci</translation>
+        <source>Puts another picture file in the place of this one, such as a better scan; paper and areas stay</source>
+        <translation>Met un autre fichier d’image à la place de celui-ci, un meilleur scan par exemple ; le papier et les zones restent</translation>
     </message>
     <message>
         <source>✖</source>
@@ -816,8 +816,8 @@
         <translation>Supprimer l&apos;image</translation>
     </message>
     <message>
-        <source>Deletes this picture</source>
-        <translation>Supprime cette image</translation>
+        <source>Shows how this page is removed: in the list of the pages (Ctrl+Shift+P), where Delete does it and Undo brings it back</source>
+        <translation>Montre comment supprimer cette page : dans la liste des pages (Ctrl+Maj+P), Suppr le fait et Annuler la rétablit</translation>
     </message>
     <message>
         <source>Area</source>
@@ -864,24 +864,24 @@
         <translation>Nom de la zone</translation>
     </message>
     <message>
-        <source>The name of the area, as the script knows it</source>
-        <translation>Le nom de la zone, tel que le script la connaît</translation>
+        <source>The name of the area: the sub of that name in the script says what is heard. Areas of one name do the same</source>
+        <translation>Le nom de la zone : le sub de ce nom dans le script dit ce qu’on entend. Les zones de même nom font la même chose</translation>
     </message>
     <message>
         <source>OID of the area</source>
         <translation>OID de la zone</translation>
     </message>
     <message>
-        <source>The number of the dots that the area is printed with</source>
-        <translation>Le numéro des points avec lesquels la zone est imprimée</translation>
+        <source>The number of the dots that the area is printed with: it comes by itself and stays, so that printed pages fit</source>
+        <translation>Le numéro des points imprimés sur la zone : il vient tout seul et reste, pour que les pages imprimées conviennent</translation>
     </message>
     <message>
         <source>Goto code</source>
         <translation>Aller au code</translation>
     </message>
     <message>
-        <source>Goes to the code of the area in the script, or begins it</source>
-        <translation>Va au code de la zone dans le script, ou le commence</translation>
+        <source>Goes to the sub of the area in the script, where what it says is written; begins one where there is none</source>
+        <translation>Va au sub de la zone dans le script, où l’on écrit ce qu’elle dit ; en commence un s’il n’y en a pas</translation>
     </message>
     <message>
         <source>Picture with its areas</source>
@@ -940,8 +940,8 @@
         <translation>Réponses rapi&amp;des</translation>
     </message>
     <message>
-        <source>The same game in fewer steps, so that the pen answers at once</source>
-        <translation>Le même jeu en moins d&apos;étapes, pour que le stylo réponde aussitôt</translation>
+        <source>Makes the same game in fewer steps, so that the pen answers at once, also where the script reckons much</source>
+        <translation>Fait le même jeu en moins d’étapes, pour que le stylo réponde tout de suite, même si le script calcule beaucoup</translation>
     </message>
     <message>
         <source>The pen takes its time for every step of the script. With quick answers the game does the same in few of them. They are made by Plinkett&apos;s own assembler, also where tttool is installed.</source>
@@ -960,8 +960,8 @@
         <translation>&amp;Ouvrir</translation>
     </message>
     <message>
-        <source>Opens a project</source>
-        <translation>Ouvre un projet</translation>
+        <source>Opens another book; of this one, what is not saved is kept and offered again</source>
+        <translation>Ouvre un autre livre ; de celui-ci, ce qui n’est pas enregistré est gardé et proposé de nouveau</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
@@ -972,8 +972,8 @@
         <translation>Enregistrer</translation>
     </message>
     <message>
-        <source>Saves the project</source>
-        <translation>Enregistre le projet</translation>
+        <source>Writes the book into its project file; pictures and audio files lie beside it</source>
+        <translation>Écrit le livre dans son fichier de projet ; les images et les fichiers audio sont à côté</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
@@ -988,24 +988,24 @@
         <translation>Annuler</translation>
     </message>
     <message>
-        <source>Takes back the last step</source>
-        <translation>Annule la dernière étape</translation>
+        <source>Takes back the last step, on pages and areas, or in the script while that is shown</source>
+        <translation>Annule la dernière étape, sur les pages et les zones, ou dans le script tant qu’on le voit</translation>
     </message>
     <message>
         <source>Redo</source>
         <translation>Rétablir</translation>
     </message>
     <message>
-        <source>Does again what was taken back</source>
-        <translation>Refait ce qui a été annulé</translation>
+        <source>Does again what was taken back last, until something else is changed</source>
+        <translation>Refait ce qui vient d’être annulé, tant que rien d’autre n’est changé</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
         <translation>Enregistrer &amp;sous...</translation>
     </message>
     <message>
-        <source>Saves the project under another name</source>
-        <translation>Enregistre le projet sous un autre nom</translation>
+        <source>Saves the book under another name or in another folder, and takes pictures and audio files along</source>
+        <translation>Enregistre le livre sous un autre nom ou dans un autre dossier, et emporte images et fichiers audio</translation>
     </message>
     <message>
         <source>Ctrl+Shift+S</source>
@@ -1084,12 +1084,12 @@
         <translation>Les images n&apos;ont pas pu être placées avec leurs pages.</translation>
     </message>
     <message>
-        <source>Shows or hides the list of the pages</source>
-        <translation>Affiche ou masque la liste des pages</translation>
+        <source>Shows or hides the list of the pages, in which one goes to pages, moves and removes them</source>
+        <translation>Montre ou cache la liste des pages, où l’on va d’une page à l’autre, les déplace et les supprime</translation>
     </message>
     <message>
-        <source>Shows or hides the list of the areas</source>
-        <translation>Affiche ou masque la liste des zones</translation>
+        <source>Shows or hides the list of all areas of the book, with what is wrong with them</source>
+        <translation>Montre ou cache la liste de toutes les zones du livre, avec ce qui ne va pas</translation>
     </message>
     <message>
         <source>Another window or program has changed the project file since this window opened or saved it.</source>
@@ -1134,6 +1134,18 @@
     <message>
         <source>Do you really want to delete this picture?</source>
         <translation>Voulez-vous vraiment supprimer cette image ?</translation>
+    </message>
+    <message>
+        <source>Opens the manual in your browser, at what the shown tab is for</source>
+        <translation>Ouvre le manuel dans le navigateur, à ce qui concerne l’onglet affiché</translation>
+    </message>
+    <message>
+        <source>Pages are removed in the list of the pages, which opens now: Delete removes this one, and Undo brings it back.</source>
+        <translation>Les pages se suppriment dans la liste des pages, qui s’ouvre maintenant : Suppr supprime celle-ci, et Annuler la rétablit.</translation>
+    </message>
+    <message>
+        <source>Delete removes page %1, and Undo brings it back.</source>
+        <translation>Suppr supprime la page %1, et Annuler la rétablit.</translation>
     </message>
 </context>
 <context>
@@ -1228,8 +1240,8 @@
         <translation>toutes</translation>
     </message>
     <message>
-        <source>Only these pictures, counted from 0, such as 0,2-3</source>
-        <translation>Seulement ces images, comptées à partir de 0, par exemple 0,2-3</translation>
+        <source>Only these pictures, counted from 0, such as 0,2-3, to print a changed page again; empty prints all</source>
+        <translation>Seulement ces images, comptées à partir de 0, comme 0,2-3, pour réimprimer une page changée ; vide, toutes</translation>
     </message>
     <message>
         <source>Pages</source>
@@ -1240,8 +1252,8 @@
         <translation>Pages :</translation>
     </message>
     <message>
-        <source>Where dots are printed</source>
-        <translation>Où des points sont imprimés</translation>
+        <source>Whether the whole page gets dots, or only its areas, which leaves the rest as clear as it was</source>
+        <translation>Si toute la page reçoit des points, ou seulement ses zones, ce qui laisse le reste aussi net qu’avant</translation>
     </message>
     <message>
         <source>Dots</source>
@@ -1252,20 +1264,20 @@
         <translation>Points :</translation>
     </message>
     <message>
-        <source>The rest of the picture stays as it is</source>
-        <translation>Le reste de l&apos;image reste tel quel</translation>
+        <source>Lightens the picture on areas only, where the pen reads; the rest of it stays as it is</source>
+        <translation>N’éclaircit l’image que sur les zones, là où lit le stylo ; le reste ne change pas</translation>
     </message>
     <message>
-        <source>For you: in a colour that the pen does not see</source>
-        <translation>Pour vous : dans une couleur que le stylo ne voit pas</translation>
+        <source>Draws the areas with their names, to check them on paper, in a colour that the pen does not see</source>
+        <translation>Dessine les zones avec leurs noms, pour les vérifier sur le papier, dans une couleur que le stylo ne voit pas</translation>
     </message>
     <message>
         <source>as needed</source>
         <translation>selon le besoin</translation>
     </message>
     <message>
-        <source>White paper around each page</source>
-        <translation>Du papier blanc autour de chaque page</translation>
+        <source>White paper around each page, for a printer that does not print up to the edge</source>
+        <translation>Du papier blanc autour de chaque page, pour une imprimante qui n’imprime pas jusqu’au bord</translation>
     </message>
     <message>
         <source>Margin</source>
@@ -1276,12 +1288,12 @@
         <translation>Marge :</translation>
     </message>
     <message>
-        <source>Marks in the margin where the page ends</source>
-        <translation>Des traits dans la marge là où la page finit</translation>
+        <source>Marks in the margin where the page ends, to cut along them</source>
+        <translation>Des repères dans la marge là où finit la page, pour couper le long</translation>
     </message>
     <message>
-        <source>Pages that are larger than the paper on several sheets that overlap</source>
-        <translation>Les pages plus grandes que le papier sur plusieurs feuilles qui se chevauchent</translation>
+        <source>Prints pages that are larger than the paper on several sheets that overlap, to be glued together</source>
+        <translation>Imprime les pages plus grandes que le papier sur plusieurs feuilles qui se chevauchent, à coller ensemble</translation>
     </message>
     <message>
         <source>Poster</source>
@@ -1292,8 +1304,8 @@
         <translation>Affiche :</translation>
     </message>
     <message>
-        <source>A page with START, REPLAY, STOP and a legend of all areas</source>
-        <translation>Une page avec START, REPLAY, STOP et une légende de toutes les zones</translation>
+        <source>Adds a page with START, REPLAY, STOP and a legend of all areas, to be cut out; a book needs START somewhere</source>
+        <translation>Ajoute une page avec START, REPLAY, STOP et une légende de toutes les zones, à découper ; un livre a besoin de START quelque part</translation>
     </message>
     <message>
         <source>Symbols and legend</source>
@@ -1304,8 +1316,8 @@
         <translation>Symboles et légende :</translation>
     </message>
     <message>
-        <source>The file that is written</source>
-        <translation>Le fichier qui est écrit</translation>
+        <source>The PDF file that is written; one of this name that is there is replaced</source>
+        <translation>Le fichier PDF qui est écrit ; s’il y en a un de ce nom, il est remplacé</translation>
     </message>
     <message>
         <source>File</source>
@@ -1409,12 +1421,12 @@
         <translation>Profil d&apos;une imprimante</translation>
     </message>
     <message>
-        <source>What has been kept about a printer</source>
-        <translation>Ce qui a été gardé d&apos;une imprimante</translation>
+        <source>The settings that were kept for a printer: choose the one that the book is printed on</source>
+        <translation>Les réglages gardés pour une imprimante : choisissez celle qui imprime le livre</translation>
     </message>
     <message>
-        <source>Keeps the settings of this printer under a name</source>
-        <translation>Garde les réglages de cette imprimante sous un nom</translation>
+        <source>Keeps the settings below under a name, so that this printer has them the next time, too</source>
+        <translation>Garde les réglages ci-dessous sous un nom, pour que cette imprimante les ait aussi la prochaine fois</translation>
     </message>
     <message>
         <source>Forgets the chosen profile</source>
@@ -1516,16 +1528,16 @@
         <translation>%1 DPI</translation>
     </message>
     <message>
-        <source>Tries this resolution of the printer</source>
-        <translation>Essaie cette résolution de l&apos;imprimante</translation>
+        <source>Tries this resolution: tick those that your printer has, and the pen tells which one is best</source>
+        <translation>Essaie cette résolution : cochez celles de votre imprimante, et le stylo dit laquelle est la meilleure</translation>
     </message>
     <message>
         <source>Folder</source>
         <translation>Dossier</translation>
     </message>
     <message>
-        <source>Where page and game are written</source>
-        <translation>Où la page et le jeu sont écrits</translation>
+        <source>The folder in which the page to be printed and the game for the pen are written</source>
+        <translation>Le dossier où sont écrits la page à imprimer et le jeu pour le stylo</translation>
     </message>
     <message>
         <source>Chooses another folder</source>
@@ -1661,6 +1673,10 @@
     <message>
         <source>%1 problems</source>
         <translation>%1 problèmes</translation>
+    </message>
+    <message>
+        <source>A click goes to the place (Enter); further clicks put right what can be put right (Alt+Enter) and tell why (F1)</source>
+        <translation>Un clic va à l’endroit (Entrée) ; d’autres corrigent ce qui peut l’être (Alt+Entrée) et disent pourquoi (F1)</translation>
     </message>
 </context>
 <context>
@@ -1839,8 +1855,8 @@
         <translation>Microphone</translation>
     </message>
     <message>
-        <source>The microphone that is recorded from</source>
-        <translation>Le microphone avec lequel on enregistre</translation>
+        <source>The microphone that is recorded from; the level below shows whether it hears you</source>
+        <translation>Le micro qui enregistre ; le niveau au-dessous montre s’il vous entend</translation>
     </message>
     <message>
         <source>Usual microphone</source>
@@ -1851,8 +1867,8 @@
         <translation>&amp;Décompte</translation>
     </message>
     <message>
-        <source>Counts 3, 2, 1 before a recording begins</source>
-        <translation>Compte 3, 2, 1 avant le début d&apos;un enregistrement</translation>
+        <source>Counts 3, 2, 1 before a recording begins, so that you can take a breath</source>
+        <translation>Compte 3, 2, 1 avant un enregistrement, le temps de respirer</translation>
     </message>
     <message>
         <source>Begins and ends a recording (Space)</source>
@@ -2103,6 +2119,10 @@
         <source>Until the first sound: %1 steps</source>
         <translation>Avant le premier son : %1 pas</translation>
     </message>
+    <message>
+        <source>What was tapped and what was heard, the latest at the end</source>
+        <translation>Ce qui a été touché et ce qui a été entendu, le plus récent à la fin</translation>
+    </message>
 </context>
 <context>
     <name>PageWindow</name>
@@ -2133,8 +2153,8 @@
         <translation>Le script en cours</translation>
     </message>
     <message>
-        <source>A double click goes to the line in the script, to change it</source>
-        <translation>Un double clic mène à la ligne dans le script, pour la modifier</translation>
+        <source>The script that runs, with the line that is next; a double click goes to the line in the tab Script, to change it</source>
+        <translation>Le script qui tourne, avec la ligne suivante ; un double clic va à la ligne dans l’onglet Script, pour la changer</translation>
     </message>
 </context>
 <context>
@@ -2290,16 +2310,16 @@
         <translation>Rechercher dans les textes</translation>
     </message>
     <message>
-        <source>Shows only texts that hold these words</source>
-        <translation>N&apos;affiche que les textes qui contiennent ces mots</translation>
+        <source>Shows only texts that hold these words, to find one among many; empty shows all</source>
+        <translation>Ne montre que les textes qui contiennent ces mots, pour en trouver un parmi beaucoup ; vide, tous</translation>
     </message>
     <message>
         <source>State</source>
         <translation>État</translation>
     </message>
     <message>
-        <source>Shows only texts of this state</source>
-        <translation>N&apos;affiche que les textes dans cet état</translation>
+        <source>Shows only texts of this state, such as those that are missing still</source>
+        <translation>Ne montre que les textes dans cet état, par exemple ceux qui manquent encore</translation>
     </message>
     <message>
         <source>All states</source>
@@ -2310,8 +2330,8 @@
         <translation>Voix</translation>
     </message>
     <message>
-        <source>Shows only texts of this voice</source>
-        <translation>N&apos;affiche que les textes de cette voix</translation>
+        <source>Shows only texts of this voice, such as those that one person records</source>
+        <translation>Ne montre que les textes de cette voix, par exemple ceux qu’une personne enregistre</translation>
     </message>
     <message>
         <source>All voices</source>
@@ -2346,8 +2366,8 @@
         <translation>&amp;Enregistrer...</translation>
     </message>
     <message>
-        <source>Records texts with the microphone, one after the other</source>
-        <translation>Enregistre les textes au microphone, l&apos;un après l&apos;autre</translation>
+        <source>Records texts with the microphone, one after the other, beginning with the selected one</source>
+        <translation>Enregistre des textes au micro, l’un après l’autre, en commençant par celui qui est choisi</translation>
     </message>
     <message>
         <source>&amp;Use file...</source>
@@ -2378,8 +2398,8 @@
         <translation>Essayer les &amp;voix...</translation>
     </message>
     <message>
-        <source>Lets you hear one sentence in many voices</source>
-        <translation>Fait entendre une phrase dans de nombreuses voix</translation>
+        <source>Lets you hear one sentence in many voices, and writes the one that you like into the script</source>
+        <translation>Fait entendre une phrase dans beaucoup de voix, et écrit celle qui plaît dans le script</translation>
     </message>
     <message>
         <source>Save the project first: its audio files lie in a folder beside it.</source>
@@ -2548,6 +2568,10 @@
         <source>Space plays a text, Enter goes to its line in the script</source>
         <translation>Espace lit un texte, Entrée va à sa ligne dans le script</translation>
     </message>
+    <message>
+        <source>Every text of the book. A click on the sign plays it (Space), one on the line goes there (Enter)</source>
+        <translation>Chaque texte du livre. Un clic sur le signe le joue (Espace), un clic sur la ligne y mène (Entrée)</translation>
+    </message>
 </context>
 <context>
     <name>SpeechJobs</name>
@@ -2654,8 +2678,8 @@
         <translation>La barre d&apos;espace coche ou décoche les fichiers sélectionnés</translation>
     </message>
     <message>
-        <source>Sets or takes away all ticks</source>
-        <translation>Coche ou décoche tout</translation>
+        <source>Sets or takes away all ticks; only files with a tick are taken</source>
+        <translation>Coche ou décoche tout ; seuls les fichiers cochés sont repris</translation>
     </message>
     <message>
         <source>Taking the files...</source>
@@ -2757,8 +2781,8 @@
         <translation>&amp;Tous les fichiers</translation>
     </message>
     <message>
-        <source>Sets or takes away all ticks</source>
-        <translation>Coche ou décoche tout</translation>
+        <source>Sets or takes away all ticks; only files with a tick go to the trash</source>
+        <translation>Coche ou décoche tout ; seuls les fichiers cochés vont à la corbeille</translation>
     </message>
     <message>
         <source>&amp;Move to the trash</source>
@@ -2780,16 +2804,16 @@
         <translation>Stop</translation>
     </message>
     <message>
-        <source>Switches the book on: plays the welcome</source>
-        <translation>Met le livre en marche : joue l’accueil</translation>
+        <source>Switches the book on, as START on paper does: plays the welcome</source>
+        <translation>Met le livre en marche, comme START sur le papier : joue l’accueil</translation>
     </message>
     <message>
-        <source>Repeats what was played last</source>
-        <translation>Répète ce qui a été joué en dernier</translation>
+        <source>Plays once more what was played last, as REPLAY on paper does</source>
+        <translation>Rejoue ce qui vient d’être joué, comme REPLAY sur le papier</translation>
     </message>
     <message>
-        <source>Ends the sound</source>
-        <translation>Arrête le son</translation>
+        <source>Ends the sound that plays, as STOP on paper does</source>
+        <translation>Arrête le son en cours, comme STOP sur le papier</translation>
     </message>
     <message>
         <source>Fresh</source>
@@ -2903,6 +2927,10 @@
         <source>Page %1</source>
         <translation>Page %1</translation>
     </message>
+    <message>
+        <source>How loud the book is on this computer; the pen has keys of its own</source>
+        <translation>Le volume du livre sur cet ordinateur ; le stylo a ses propres touches</translation>
+    </message>
 </context>
 <context>
     <name>VariableTable</name>
@@ -2911,8 +2939,8 @@
         <translation>Valeur</translation>
     </message>
     <message>
-        <source>From 0 to 65535</source>
-        <translation>De 0 à 65535</translation>
+        <source>The value that the script goes on with, from 0 to 65535</source>
+        <translation>La valeur avec laquelle le script continue, de 0 à 65535</translation>
     </message>
     <message>
         <source>Variables</source>
@@ -2925,6 +2953,10 @@
     <message>
         <source>Before</source>
         <translation>Avant</translation>
+    </message>
+    <message>
+        <source>What the script remembers. A click on a value changes it, to try what would come then</source>
+        <translation>Ce que retient le script. Un clic sur une valeur la change, pour essayer ce qui viendrait alors</translation>
     </message>
 </context>
 <context>
@@ -2954,8 +2986,8 @@
         <translation>Voix</translation>
     </message>
     <message>
-        <source>What all voices of this language say</source>
-        <translation>Ce que disent toutes les voix de cette langue</translation>
+        <source>What all voices of this language say; write what your book will say</source>
+        <translation>Ce que disent toutes les voix de cette langue ; écrivez ce que dira votre livre</translation>
     </message>
     <message>
         <source>Sentence</source>
@@ -2966,8 +2998,8 @@
         <translation>Langue</translation>
     </message>
     <message>
-        <source>The language of the other voices</source>
-        <translation>La langue des autres voix</translation>
+        <source>The language of the voices below those of the script, by age and sex</source>
+        <translation>La langue des voix au-dessous de celles du script, par âge et par sexe</translation>
     </message>
     <message>
         <source>&amp;Sentence:</source>
@@ -2998,12 +3030,12 @@
         <translation>&amp;Arrêter</translation>
     </message>
     <message>
-        <source>Ends the sound</source>
-        <translation>Termine le son</translation>
+        <source>Ends the sound, also while one voice after the other speaks</source>
+        <translation>Arrête le son, même pendant que les voix parlent l’une après l’autre</translation>
     </message>
     <message>
-        <source>The name of the voice in the script</source>
-        <translation>Le nom de la voix dans le script</translation>
+        <source>The name of the voice in the script, which stands behind say</source>
+        <translation>Le nom de la voix dans le script, placé derrière say</translation>
     </message>
     <message>
         <source>Name</source>
@@ -3014,8 +3046,8 @@
         <translation>&amp;Insérer dans le script</translation>
     </message>
     <message>
-        <source>Declares the voice in the script</source>
-        <translation>Déclare la voix dans le script</translation>
+        <source>Writes the statement below into the script, so that texts can be said by this voice</source>
+        <translation>Écrit l’instruction ci-dessous dans le script, pour que des textes soient dits par cette voix</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
@@ -3383,8 +3415,8 @@
         <translation>Aide à l’écriture</translation>
     </message>
     <message>
-        <source>What comes by itself while you write the script</source>
-        <translation>Ce qui vient de lui-même pendant l’écriture du script</translation>
+        <source>Switches on and off what comes by itself while you write the script: names, indentation, explanations, marks</source>
+        <translation>Active et désactive ce qui vient tout seul pendant l’écriture du script : noms, retrait, explications, marques</translation>
     </message>
     <message>
         <source>&amp;Suggest names while typing</source>
@@ -3634,8 +3666,8 @@
         <translation>Pourquoi ?</translation>
     </message>
     <message>
-        <source>Opens the manual in your browser, where it tells what to do (%1)</source>
-        <translation>Ouvre le manuel dans le navigateur, là où il dit que faire (%1)</translation>
+        <source>Opens the manual in your browser, where it tells what to do</source>
+        <translation>Ouvre le manuel dans le navigateur, là où il dit que faire</translation>
     </message>
 </context>
 <context>
@@ -3645,24 +3677,24 @@
         <translation>Agrandir</translation>
     </message>
     <message>
-        <source>Shows the page larger</source>
-        <translation>Montre la page plus grande</translation>
+        <source>Shows the page larger, for small areas; Ctrl and the wheel do it around the mouse</source>
+        <translation>Montre la page en plus grand, pour les petites zones ; Ctrl et la molette le font autour de la souris</translation>
     </message>
     <message>
         <source>Zoom out</source>
         <translation>Réduire</translation>
     </message>
     <message>
-        <source>Shows the page smaller</source>
-        <translation>Montre la page plus petite</translation>
+        <source>Shows the page smaller, to see more of it at once; Ctrl and the wheel do it, too</source>
+        <translation>Montre la page en plus petit, pour en voir davantage ; Ctrl et la molette le font aussi</translation>
     </message>
     <message>
         <source>Fit</source>
         <translation>Ajuster</translation>
     </message>
     <message>
-        <source>Shows the page&apos;s whole width</source>
-        <translation>Montre la page sur toute sa largeur</translation>
+        <source>Shows the page as wide as the window, however it was zoomed</source>
+        <translation>Montre la page à la largeur de la fenêtre, quel que soit le zoom</translation>
     </message>
     <message>
         <source>Zoom: %1 %</source>
@@ -3727,12 +3759,16 @@
         <translation>Filtre des zones</translation>
     </message>
     <message>
-        <source>Shows only areas whose name has this text</source>
-        <translation>N&apos;affiche que les zones dont le nom contient ce texte</translation>
+        <source>Shows only areas whose name has this text, to find one among many; empty shows all</source>
+        <translation>Ne montre que les zones dont le nom contient ce texte, pour en trouver une parmi beaucoup ; vide, toutes</translation>
     </message>
     <message>
         <source>Areas of all pages</source>
         <translation>Zones de toutes les pages</translation>
+    </message>
+    <message>
+        <source>A click selects an area, a double click goes to its code, F2 renames it</source>
+        <translation>Un clic choisit une zone, un double clic va à son code, F2 la renomme</translation>
     </message>
 </context>
 <context>
@@ -3779,6 +3815,10 @@
     <message>
         <source>Page %1 of %2</source>
         <translation>Page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>A click goes to a page. Drag it to move it (Ctrl+Up, Ctrl+Down); Delete removes it, and Undo brings it back</source>
+        <translation>Un clic va à une page. La tirer la déplace (Ctrl+Haut, Ctrl+Bas) ; Suppr la supprime, et Annuler la rétablit</translation>
     </message>
 </context>
 </TS>

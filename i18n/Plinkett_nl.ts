@@ -20,8 +20,8 @@
         <translation>Bibliotheken en hun licenties:</translation>
     </message>
     <message>
-        <source>Tells the version and the licences</source>
-        <translation>Toont de versie en de licenties</translation>
+        <source>Tells the version, to be named when something goes wrong, and the licences</source>
+        <translation>Zegt de versie, te noemen als er iets misgaat, en de licenties</translation>
     </message>
 </context>
 <context>
@@ -426,8 +426,8 @@
         <translation>&amp;Zoeken</translation>
     </message>
     <message>
-        <source>Goes to the next place that holds the text</source>
-        <translation>Gaat naar de volgende plaats met de tekst</translation>
+        <source>Goes to the next place that holds the text (Return); F3 does it in the script</source>
+        <translation>Gaat naar de volgende plaats met de tekst (Enter); F3 doet het in het script</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
@@ -442,24 +442,24 @@
         <translation>&amp;Alles vervangen</translation>
     </message>
     <message>
-        <source>Replaces the text wherever it stands</source>
-        <translation>Vervangt de tekst overal waar hij staat</translation>
+        <source>Replaces the text wherever it stands in the script; Undo brings all of it back</source>
+        <translation>Vervangt de tekst overal in het script; Ongedaan maken brengt alles terug</translation>
     </message>
     <message>
         <source>Search &amp;backwards</source>
         <translation>&amp;Achteruit zoeken</translation>
     </message>
     <message>
-        <source>Searches toward the beginning</source>
-        <translation>Zoekt in de richting van het begin</translation>
+        <source>Searches from the caret toward the beginning instead of the end</source>
+        <translation>Zoekt vanaf de cursor naar het begin in plaats van het einde</translation>
     </message>
     <message>
         <source>Replace with:</source>
         <translation>Vervangen door:</translation>
     </message>
     <message>
-        <source>The text that takes its place</source>
-        <translation>De tekst die ervoor in de plaats komt</translation>
+        <source>The text that takes its place; empty deletes what is found</source>
+        <translation>De tekst die ervoor in de plaats komt; leeg verwijdert wat is gevonden</translation>
     </message>
     <message>
         <source>Find and replace</source>
@@ -584,16 +584,16 @@
         <translation>Projectnaam</translation>
     </message>
     <message>
-        <source>The name of the book, which the pen says when it is switched on</source>
-        <translation>De naam van het boek, die de pen bij het inschakelen zegt</translation>
+        <source>The name of the book: the pen says it when the book is switched on, and game and PDF are named after it</source>
+        <translation>De naam van het boek: de pen zegt hem als het boek wordt ingeschakeld, en spel en pdf heten ernaar</translation>
     </message>
     <message>
         <source>Project ID</source>
         <translation>Project-ID</translation>
     </message>
     <message>
-        <source>The number of the book, one for each book on the pen</source>
-        <translation>Het nummer van het boek, voor elk boek op de pen een ander</translation>
+        <source>The number by which the pen knows the book: each book on the pen needs its own, 900 to 950 for those made at home</source>
+        <translation>Het nummer waaraan de pen het boek kent: elk boek op de pen heeft zijn eigen, 900 tot 950 voor zelfgemaakte</translation>
     </message>
     <message>
         <source>Current Picture (Area)</source>
@@ -608,8 +608,8 @@
         <translation>Papierbreedte in millimeters</translation>
     </message>
     <message>
-        <source>The width of the printed page</source>
-        <translation>De breedte van de afgedrukte pagina</translation>
+        <source>How wide this page is printed, in millimetres: its picture fills the paper</source>
+        <translation>Hoe breed deze pagina wordt afgedrukt, in millimeters: de afbeelding vult het papier</translation>
     </message>
     <message>
         <source>X</source>
@@ -620,24 +620,24 @@
         <translation>Papierhoogte in millimeters</translation>
     </message>
     <message>
-        <source>The height of the printed page</source>
-        <translation>De hoogte van de afgedrukte pagina</translation>
+        <source>How high this page is printed, in millimetres: its picture fills the paper</source>
+        <translation>Hoe hoog deze pagina wordt afgedrukt, in millimeters: de afbeelding vult het papier</translation>
     </message>
     <message>
         <source>DPI:</source>
         <translation>DPI:</translation>
     </message>
     <message>
-        <source>The resolution of the printer: 600 at least, better 1200</source>
-        <translation>De resolutie van de printer: ten minste 600, liever 1200</translation>
+        <source>The dots per inch of the printer, for this page: the pen needs 600 at least, better are 1200</source>
+        <translation>De punten per inch van de printer, voor deze pagina: de pen heeft er minstens 600 nodig, beter is 1200</translation>
     </message>
     <message>
         <source>Create</source>
         <translation>Maken</translation>
     </message>
     <message>
-        <source>Creates the print images of all pictures</source>
-        <translation>Maakt de afdrukafbeeldingen van alle afbeeldingen</translation>
+        <source>Makes a print image (TIFF) of each page, for a print shop; for a printer at home take PDF</source>
+        <translation>Maakt van elke pagina een afdrukbeeld (TIFF), voor een drukkerij; voor een printer thuis is er PDF</translation>
     </message>
     <message>
         <source>Create the output image now...</source>
@@ -648,8 +648,8 @@
         <translation>PDF</translation>
     </message>
     <message>
-        <source>Makes a PDF of the book for your own printer; in its menu: symbols and the printer&apos;s test page</source>
-        <translation>Maakt een PDF van het boek voor uw eigen printer; in het menu: symbolen en de testpagina van de printer</translation>
+        <source>Makes a PDF of the book for your own printer, each page in its true size; its menu (key Down) has symbols and the printer&apos;s test page</source>
+        <translation>Maakt een pdf van het boek voor uw eigen printer, elke pagina op ware grootte; in het menu (toets Omlaag): tekens en de testpagina</translation>
     </message>
     <message>
         <source>Add START &amp;symbol</source>
@@ -676,8 +676,8 @@
         <translation>Voor alle afbeeldingen</translation>
     </message>
     <message>
-        <source>Gives the paper and the DPI of this picture to all pictures</source>
-        <translation>Geeft alle afbeeldingen het papier en de DPI van deze</translation>
+        <source>Gives the paper and the DPI of this picture to all others, for a book that is printed on one kind of paper</source>
+        <translation>Geeft het papier en de DPI van deze afbeelding aan alle andere, voor een boek op één soort papier</translation>
     </message>
     <message>
         <source>There is no picture yet</source>
@@ -804,8 +804,8 @@
         <translation>laden...</translation>
     </message>
     <message>
-        <source>Puts another picture file in the place of this one</source>
-        <translation>Zet een ander afbeeldingsbestand op de plaats van dit</translation>
+        <source>Puts another picture file in the place of this one, such as a better scan; paper and areas stay</source>
+        <translation>Zet een ander afbeeldingsbestand in de plaats van dit, zoals een betere scan; papier en gebieden blijven</translation>
     </message>
     <message>
         <source>✖</source>
@@ -816,8 +816,8 @@
         <translation>Afbeelding verwijderen</translation>
     </message>
     <message>
-        <source>Deletes this picture</source>
-        <translation>Verwijdert deze afbeelding</translation>
+        <source>Shows how this page is removed: in the list of the pages (Ctrl+Shift+P), where Delete does it and Undo brings it back</source>
+        <translation>Toont hoe deze pagina wordt verwijderd: in de lijst van pagina&apos;s (Ctrl+Shift+P), waar Delete het doet en Ongedaan maken haar terugbrengt</translation>
     </message>
     <message>
         <source>Area</source>
@@ -864,24 +864,24 @@
         <translation>Naam van het gebied</translation>
     </message>
     <message>
-        <source>The name of the area, as the script knows it</source>
-        <translation>De naam van het gebied, zoals het script het kent</translation>
+        <source>The name of the area: the sub of that name in the script says what is heard. Areas of one name do the same</source>
+        <translation>De naam van het gebied: de sub met die naam in het script zegt wat er klinkt. Gebieden met dezelfde naam doen hetzelfde</translation>
     </message>
     <message>
         <source>OID of the area</source>
         <translation>OID van het gebied</translation>
     </message>
     <message>
-        <source>The number of the dots that the area is printed with</source>
-        <translation>Het nummer van de punten waarmee het gebied wordt afgedrukt</translation>
+        <source>The number of the dots that the area is printed with: it comes by itself and stays, so that printed pages fit</source>
+        <translation>Het nummer van de punten waarmee het gebied wordt afgedrukt: het komt vanzelf en blijft, zodat afgedrukte pagina&apos;s passen</translation>
     </message>
     <message>
         <source>Goto code</source>
         <translation>Naar de code</translation>
     </message>
     <message>
-        <source>Goes to the code of the area in the script, or begins it</source>
-        <translation>Gaat naar de code van het gebied in het script, of begint die</translation>
+        <source>Goes to the sub of the area in the script, where what it says is written; begins one where there is none</source>
+        <translation>Gaat naar de sub van het gebied in het script, waar staat wat het zegt; begint er een als er geen is</translation>
     </message>
     <message>
         <source>Picture with its areas</source>
@@ -940,8 +940,8 @@
         <translation>Sn&amp;elle antwoorden</translation>
     </message>
     <message>
-        <source>The same game in fewer steps, so that the pen answers at once</source>
-        <translation>Hetzelfde spel in minder stappen, zodat de pen meteen antwoordt</translation>
+        <source>Makes the same game in fewer steps, so that the pen answers at once, also where the script reckons much</source>
+        <translation>Maakt hetzelfde spel in minder stappen, zodat de pen meteen antwoordt, ook waar het script veel rekent</translation>
     </message>
     <message>
         <source>The pen takes its time for every step of the script. With quick answers the game does the same in few of them. They are made by Plinkett&apos;s own assembler, also where tttool is installed.</source>
@@ -960,8 +960,8 @@
         <translation>&amp;Openen</translation>
     </message>
     <message>
-        <source>Opens a project</source>
-        <translation>Opent een project</translation>
+        <source>Opens another book; of this one, what is not saved is kept and offered again</source>
+        <translation>Opent een ander boek; wat van dit niet is opgeslagen, wordt bewaard en weer aangeboden</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
@@ -972,8 +972,8 @@
         <translation>Opslaan</translation>
     </message>
     <message>
-        <source>Saves the project</source>
-        <translation>Slaat het project op</translation>
+        <source>Writes the book into its project file; pictures and audio files lie beside it</source>
+        <translation>Schrijft het boek in zijn projectbestand; afbeeldingen en audiobestanden liggen ernaast</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
@@ -988,24 +988,24 @@
         <translation>Ongedaan maken</translation>
     </message>
     <message>
-        <source>Takes back the last step</source>
-        <translation>Maakt de laatste stap ongedaan</translation>
+        <source>Takes back the last step, on pages and areas, or in the script while that is shown</source>
+        <translation>Maakt de laatste stap ongedaan, aan pagina&apos;s en gebieden, of in het script zolang dat te zien is</translation>
     </message>
     <message>
         <source>Redo</source>
         <translation>Opnieuw</translation>
     </message>
     <message>
-        <source>Does again what was taken back</source>
-        <translation>Doet opnieuw wat ongedaan is gemaakt</translation>
+        <source>Does again what was taken back last, until something else is changed</source>
+        <translation>Doet opnieuw wat het laatst ongedaan is gemaakt, tot er iets anders wordt veranderd</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
         <translation>Opslaan &amp;als...</translation>
     </message>
     <message>
-        <source>Saves the project under another name</source>
-        <translation>Slaat het project onder een andere naam op</translation>
+        <source>Saves the book under another name or in another folder, and takes pictures and audio files along</source>
+        <translation>Slaat het boek op onder een andere naam of in een andere map en neemt afbeeldingen en audiobestanden mee</translation>
     </message>
     <message>
         <source>Ctrl+Shift+S</source>
@@ -1084,12 +1084,12 @@
         <translation>De afbeeldingen konden niet bij hun pagina&apos;s worden gezet.</translation>
     </message>
     <message>
-        <source>Shows or hides the list of the pages</source>
-        <translation>Toont of verbergt de lijst van de pagina&apos;s</translation>
+        <source>Shows or hides the list of the pages, in which one goes to pages, moves and removes them</source>
+        <translation>Toont of verbergt de lijst van de pagina&apos;s, waarin men naar pagina&apos;s gaat, ze verplaatst en verwijdert</translation>
     </message>
     <message>
-        <source>Shows or hides the list of the areas</source>
-        <translation>Toont of verbergt de lijst van de gebieden</translation>
+        <source>Shows or hides the list of all areas of the book, with what is wrong with them</source>
+        <translation>Toont of verbergt de lijst van alle gebieden van het boek, met wat er niet klopt</translation>
     </message>
     <message>
         <source>Another window or program has changed the project file since this window opened or saved it.</source>
@@ -1134,6 +1134,18 @@
     <message>
         <source>Do you really want to delete this picture?</source>
         <translation>Wilt u deze afbeelding echt verwijderen?</translation>
+    </message>
+    <message>
+        <source>Opens the manual in your browser, at what the shown tab is for</source>
+        <translation>Opent de handleiding in de browser, bij waar het getoonde tabblad voor is</translation>
+    </message>
+    <message>
+        <source>Pages are removed in the list of the pages, which opens now: Delete removes this one, and Undo brings it back.</source>
+        <translation>Pagina&apos;s worden verwijderd in de lijst van de pagina&apos;s, die nu opengaat: Delete verwijdert deze, en Ongedaan maken brengt haar terug.</translation>
+    </message>
+    <message>
+        <source>Delete removes page %1, and Undo brings it back.</source>
+        <translation>Delete verwijdert pagina %1, en Ongedaan maken brengt haar terug.</translation>
     </message>
 </context>
 <context>
@@ -1228,8 +1240,8 @@
         <translation>alle</translation>
     </message>
     <message>
-        <source>Only these pictures, counted from 0, such as 0,2-3</source>
-        <translation>Alleen deze plaatjes, geteld vanaf 0, bijvoorbeeld 0,2-3</translation>
+        <source>Only these pictures, counted from 0, such as 0,2-3, to print a changed page again; empty prints all</source>
+        <translation>Alleen deze afbeeldingen, geteld vanaf 0, zoals 0,2-3, om een gewijzigde pagina opnieuw af te drukken; leeg drukt alle af</translation>
     </message>
     <message>
         <source>Pages</source>
@@ -1240,8 +1252,8 @@
         <translation>Pagina&apos;s:</translation>
     </message>
     <message>
-        <source>Where dots are printed</source>
-        <translation>Waar punten worden gedrukt</translation>
+        <source>Whether the whole page gets dots, or only its areas, which leaves the rest as clear as it was</source>
+        <translation>Of de hele pagina punten krijgt of alleen haar gebieden, wat de rest zo helder laat als hij was</translation>
     </message>
     <message>
         <source>Dots</source>
@@ -1252,20 +1264,20 @@
         <translation>Punten:</translation>
     </message>
     <message>
-        <source>The rest of the picture stays as it is</source>
-        <translation>De rest van het plaatje blijft zoals het is</translation>
+        <source>Lightens the picture on areas only, where the pen reads; the rest of it stays as it is</source>
+        <translation>Maakt de afbeelding alleen in de gebieden lichter, waar de pen leest; de rest blijft zoals hij is</translation>
     </message>
     <message>
-        <source>For you: in a colour that the pen does not see</source>
-        <translation>Voor u: in een kleur die de pen niet ziet</translation>
+        <source>Draws the areas with their names, to check them on paper, in a colour that the pen does not see</source>
+        <translation>Tekent de gebieden met hun namen, om ze op papier te controleren, in een kleur die de pen niet ziet</translation>
     </message>
     <message>
         <source>as needed</source>
         <translation>naar behoefte</translation>
     </message>
     <message>
-        <source>White paper around each page</source>
-        <translation>Wit papier om elke pagina</translation>
+        <source>White paper around each page, for a printer that does not print up to the edge</source>
+        <translation>Wit papier rond elke pagina, voor een printer die niet tot de rand afdrukt</translation>
     </message>
     <message>
         <source>Margin</source>
@@ -1276,12 +1288,12 @@
         <translation>Marge:</translation>
     </message>
     <message>
-        <source>Marks in the margin where the page ends</source>
-        <translation>Tekens in de marge waar de pagina eindigt</translation>
+        <source>Marks in the margin where the page ends, to cut along them</source>
+        <translation>Tekens in de marge waar de pagina eindigt, om langs te snijden</translation>
     </message>
     <message>
-        <source>Pages that are larger than the paper on several sheets that overlap</source>
-        <translation>Pagina&apos;s die groter zijn dan het papier op meer vellen die elkaar overlappen</translation>
+        <source>Prints pages that are larger than the paper on several sheets that overlap, to be glued together</source>
+        <translation>Drukt pagina&apos;s die groter zijn dan het papier af op meer bladen die elkaar overlappen, om aan elkaar te plakken</translation>
     </message>
     <message>
         <source>Poster</source>
@@ -1292,8 +1304,8 @@
         <translation>Poster:</translation>
     </message>
     <message>
-        <source>A page with START, REPLAY, STOP and a legend of all areas</source>
-        <translation>Een pagina met START, REPLAY, STOP en een legenda van alle gebieden</translation>
+        <source>Adds a page with START, REPLAY, STOP and a legend of all areas, to be cut out; a book needs START somewhere</source>
+        <translation>Voegt een pagina toe met START, REPLAY, STOP en een legenda van alle gebieden, om uit te knippen; een boek heeft ergens START nodig</translation>
     </message>
     <message>
         <source>Symbols and legend</source>
@@ -1304,8 +1316,8 @@
         <translation>Symbolen en legenda:</translation>
     </message>
     <message>
-        <source>The file that is written</source>
-        <translation>Het bestand dat wordt geschreven</translation>
+        <source>The PDF file that is written; one of this name that is there is replaced</source>
+        <translation>Het pdf-bestand dat wordt geschreven; een bestaand bestand met die naam wordt vervangen</translation>
     </message>
     <message>
         <source>File</source>
@@ -1409,12 +1421,12 @@
         <translation>Profiel van een printer</translation>
     </message>
     <message>
-        <source>What has been kept about a printer</source>
-        <translation>Wat over een printer is bewaard</translation>
+        <source>The settings that were kept for a printer: choose the one that the book is printed on</source>
+        <translation>De instellingen die voor een printer zijn bewaard: kies die waarop het boek wordt afgedrukt</translation>
     </message>
     <message>
-        <source>Keeps the settings of this printer under a name</source>
-        <translation>Bewaart de instellingen van deze printer onder een naam</translation>
+        <source>Keeps the settings below under a name, so that this printer has them the next time, too</source>
+        <translation>Bewaart de instellingen hieronder onder een naam, zodat deze printer ze ook de volgende keer heeft</translation>
     </message>
     <message>
         <source>Forgets the chosen profile</source>
@@ -1516,16 +1528,16 @@
         <translation>%1 DPI</translation>
     </message>
     <message>
-        <source>Tries this resolution of the printer</source>
-        <translation>Probeert deze resolutie van de printer</translation>
+        <source>Tries this resolution: tick those that your printer has, and the pen tells which one is best</source>
+        <translation>Probeert deze resolutie: vink aan wat uw printer heeft, en de pen zegt welke de beste is</translation>
     </message>
     <message>
         <source>Folder</source>
         <translation>Map</translation>
     </message>
     <message>
-        <source>Where page and game are written</source>
-        <translation>Waar pagina en spel worden geschreven</translation>
+        <source>The folder in which the page to be printed and the game for the pen are written</source>
+        <translation>De map waarin de af te drukken pagina en het spel voor de pen worden geschreven</translation>
     </message>
     <message>
         <source>Chooses another folder</source>
@@ -1661,6 +1673,10 @@
     <message>
         <source>%1 problems</source>
         <translation>%1 problemen</translation>
+    </message>
+    <message>
+        <source>A click goes to the place (Enter); further clicks put right what can be put right (Alt+Enter) and tell why (F1)</source>
+        <translation>Een klik gaat naar de plaats (Enter); andere klikken zetten recht wat rechtgezet kan worden (Alt+Enter) en zeggen waarom (F1)</translation>
     </message>
 </context>
 <context>
@@ -1839,8 +1855,8 @@
         <translation>Microfoon</translation>
     </message>
     <message>
-        <source>The microphone that is recorded from</source>
-        <translation>De microfoon waarmee wordt opgenomen</translation>
+        <source>The microphone that is recorded from; the level below shows whether it hears you</source>
+        <translation>De microfoon waarmee wordt opgenomen; het niveau eronder toont of die u hoort</translation>
     </message>
     <message>
         <source>Usual microphone</source>
@@ -1851,8 +1867,8 @@
         <translation>&amp;Aftellen</translation>
     </message>
     <message>
-        <source>Counts 3, 2, 1 before a recording begins</source>
-        <translation>Telt 3, 2, 1 voordat een opname begint</translation>
+        <source>Counts 3, 2, 1 before a recording begins, so that you can take a breath</source>
+        <translation>Telt 3, 2, 1 voordat een opname begint, zodat u adem kunt halen</translation>
     </message>
     <message>
         <source>Begins and ends a recording (Space)</source>
@@ -2103,6 +2119,10 @@
         <source>Until the first sound: %1 steps</source>
         <translation>Tot het eerste geluid: %1 stappen</translation>
     </message>
+    <message>
+        <source>What was tapped and what was heard, the latest at the end</source>
+        <translation>Wat is aangetikt en wat is gehoord, het nieuwste aan het eind</translation>
+    </message>
 </context>
 <context>
     <name>PageWindow</name>
@@ -2133,8 +2153,8 @@
         <translation>Het script dat loopt</translation>
     </message>
     <message>
-        <source>A double click goes to the line in the script, to change it</source>
-        <translation>Dubbelklikken leidt naar de regel in het script, om die te veranderen</translation>
+        <source>The script that runs, with the line that is next; a double click goes to the line in the tab Script, to change it</source>
+        <translation>Het script dat loopt, met de volgende regel; een dubbelklik gaat naar de regel op het tabblad Script, om die te wijzigen</translation>
     </message>
 </context>
 <context>
@@ -2290,16 +2310,16 @@
         <translation>In de teksten zoeken</translation>
     </message>
     <message>
-        <source>Shows only texts that hold these words</source>
-        <translation>Toont alleen teksten die deze woorden bevatten</translation>
+        <source>Shows only texts that hold these words, to find one among many; empty shows all</source>
+        <translation>Toont alleen teksten met deze woorden, om er een onder vele te vinden; leeg toont alle</translation>
     </message>
     <message>
         <source>State</source>
         <translation>Toestand</translation>
     </message>
     <message>
-        <source>Shows only texts of this state</source>
-        <translation>Toont alleen teksten in deze toestand</translation>
+        <source>Shows only texts of this state, such as those that are missing still</source>
+        <translation>Toont alleen teksten in deze toestand, zoals die nog ontbreken</translation>
     </message>
     <message>
         <source>All states</source>
@@ -2310,8 +2330,8 @@
         <translation>Stem</translation>
     </message>
     <message>
-        <source>Shows only texts of this voice</source>
-        <translation>Toont alleen teksten van deze stem</translation>
+        <source>Shows only texts of this voice, such as those that one person records</source>
+        <translation>Toont alleen teksten van deze stem, zoals die één persoon opneemt</translation>
     </message>
     <message>
         <source>All voices</source>
@@ -2346,8 +2366,8 @@
         <translation>&amp;Opnemen...</translation>
     </message>
     <message>
-        <source>Records texts with the microphone, one after the other</source>
-        <translation>Neemt teksten op met de microfoon, de ene na de andere</translation>
+        <source>Records texts with the microphone, one after the other, beginning with the selected one</source>
+        <translation>Neemt teksten op met de microfoon, de een na de ander, te beginnen bij de geselecteerde</translation>
     </message>
     <message>
         <source>&amp;Use file...</source>
@@ -2378,8 +2398,8 @@
         <translation>Ste&amp;mmen proberen...</translation>
     </message>
     <message>
-        <source>Lets you hear one sentence in many voices</source>
-        <translation>Laat één zin in veel stemmen horen</translation>
+        <source>Lets you hear one sentence in many voices, and writes the one that you like into the script</source>
+        <translation>Laat één zin in veel stemmen horen, en schrijft degene die bevalt in het script</translation>
     </message>
     <message>
         <source>Save the project first: its audio files lie in a folder beside it.</source>
@@ -2548,6 +2568,10 @@
         <source>Space plays a text, Enter goes to its line in the script</source>
         <translation>De spatiebalk speelt een tekst af, Enter gaat naar zijn regel in het script</translation>
     </message>
+    <message>
+        <source>Every text of the book. A click on the sign plays it (Space), one on the line goes there (Enter)</source>
+        <translation>Elke tekst van het boek. Een klik op het teken speelt hem (spatiebalk), een op de regel gaat erheen (Enter)</translation>
+    </message>
 </context>
 <context>
     <name>SpeechJobs</name>
@@ -2654,8 +2678,8 @@
         <translation>De spatiebalk zet het vinkje van de geselecteerde bestanden of haalt het weg</translation>
     </message>
     <message>
-        <source>Sets or takes away all ticks</source>
-        <translation>Zet alle vinkjes of haalt ze weg</translation>
+        <source>Sets or takes away all ticks; only files with a tick are taken</source>
+        <translation>Zet of verwijdert alle vinkjes; alleen bestanden met een vinkje worden overgenomen</translation>
     </message>
     <message>
         <source>Taking the files...</source>
@@ -2757,8 +2781,8 @@
         <translation>&amp;Alle bestanden</translation>
     </message>
     <message>
-        <source>Sets or takes away all ticks</source>
-        <translation>Zet alle vinkjes of haalt ze weg</translation>
+        <source>Sets or takes away all ticks; only files with a tick go to the trash</source>
+        <translation>Zet of verwijdert alle vinkjes; alleen bestanden met een vinkje gaan naar de prullenbak</translation>
     </message>
     <message>
         <source>&amp;Move to the trash</source>
@@ -2780,16 +2804,16 @@
         <translation>Stop</translation>
     </message>
     <message>
-        <source>Switches the book on: plays the welcome</source>
-        <translation>Zet het boek aan: speelt het welkom</translation>
+        <source>Switches the book on, as START on paper does: plays the welcome</source>
+        <translation>Schakelt het boek in, zoals START op papier: speelt de begroeting</translation>
     </message>
     <message>
-        <source>Repeats what was played last</source>
-        <translation>Herhaalt wat het laatst gespeeld werd</translation>
+        <source>Plays once more what was played last, as REPLAY on paper does</source>
+        <translation>Speelt nog eens wat het laatst werd gespeeld, zoals REPLAY op papier</translation>
     </message>
     <message>
-        <source>Ends the sound</source>
-        <translation>Stopt het geluid</translation>
+        <source>Ends the sound that plays, as STOP on paper does</source>
+        <translation>Beëindigt het geluid dat speelt, zoals STOP op papier</translation>
     </message>
     <message>
         <source>Fresh</source>
@@ -2903,6 +2927,10 @@
         <source>Page %1</source>
         <translation>Pagina %1</translation>
     </message>
+    <message>
+        <source>How loud the book is on this computer; the pen has keys of its own</source>
+        <translation>Hoe luid het boek op deze computer is; de pen heeft eigen toetsen</translation>
+    </message>
 </context>
 <context>
     <name>VariableTable</name>
@@ -2911,8 +2939,8 @@
         <translation>Waarde</translation>
     </message>
     <message>
-        <source>From 0 to 65535</source>
-        <translation>Van 0 tot 65535</translation>
+        <source>The value that the script goes on with, from 0 to 65535</source>
+        <translation>De waarde waarmee het script verdergaat, van 0 tot 65535</translation>
     </message>
     <message>
         <source>Variables</source>
@@ -2925,6 +2953,10 @@
     <message>
         <source>Before</source>
         <translation>Eerder</translation>
+    </message>
+    <message>
+        <source>What the script remembers. A click on a value changes it, to try what would come then</source>
+        <translation>Wat het script onthoudt. Een klik op een waarde verandert die, om te proberen wat er dan zou komen</translation>
     </message>
 </context>
 <context>
@@ -2954,8 +2986,8 @@
         <translation>Stemmen</translation>
     </message>
     <message>
-        <source>What all voices of this language say</source>
-        <translation>Wat alle stemmen van deze taal zeggen</translation>
+        <source>What all voices of this language say; write what your book will say</source>
+        <translation>Wat alle stemmen van deze taal zeggen; schrijf wat uw boek zal zeggen</translation>
     </message>
     <message>
         <source>Sentence</source>
@@ -2966,8 +2998,8 @@
         <translation>Taal</translation>
     </message>
     <message>
-        <source>The language of the other voices</source>
-        <translation>De taal van de andere stemmen</translation>
+        <source>The language of the voices below those of the script, by age and sex</source>
+        <translation>De taal van de stemmen onder die van het script, naar leeftijd en geslacht</translation>
     </message>
     <message>
         <source>&amp;Sentence:</source>
@@ -2998,12 +3030,12 @@
         <translation>&amp;Stoppen</translation>
     </message>
     <message>
-        <source>Ends the sound</source>
-        <translation>Beëindigt het geluid</translation>
+        <source>Ends the sound, also while one voice after the other speaks</source>
+        <translation>Beëindigt het geluid, ook terwijl de ene stem na de andere spreekt</translation>
     </message>
     <message>
-        <source>The name of the voice in the script</source>
-        <translation>De naam van de stem in het script</translation>
+        <source>The name of the voice in the script, which stands behind say</source>
+        <translation>De naam van de stem in het script, die achter say staat</translation>
     </message>
     <message>
         <source>Name</source>
@@ -3014,8 +3046,8 @@
         <translation>In het script &amp;invoegen</translation>
     </message>
     <message>
-        <source>Declares the voice in the script</source>
-        <translation>Declareert de stem in het script</translation>
+        <source>Writes the statement below into the script, so that texts can be said by this voice</source>
+        <translation>Schrijft de opdracht hieronder in het script, zodat teksten met deze stem gezegd kunnen worden</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
@@ -3383,8 +3415,8 @@
         <translation>Hulp bij het schrijven</translation>
     </message>
     <message>
-        <source>What comes by itself while you write the script</source>
-        <translation>Wat vanzelf komt terwijl je het script schrijft</translation>
+        <source>Switches on and off what comes by itself while you write the script: names, indentation, explanations, marks</source>
+        <translation>Zet aan en uit wat tijdens het schrijven van het script vanzelf komt: namen, inspringen, uitleg, markeringen</translation>
     </message>
     <message>
         <source>&amp;Suggest names while typing</source>
@@ -3634,8 +3666,8 @@
         <translation>Waarom?</translation>
     </message>
     <message>
-        <source>Opens the manual in your browser, where it tells what to do (%1)</source>
-        <translation>Opent de handleiding in de browser, waar staat wat te doen is (%1)</translation>
+        <source>Opens the manual in your browser, where it tells what to do</source>
+        <translation>Opent de handleiding in de browser, waar staat wat te doen is</translation>
     </message>
 </context>
 <context>
@@ -3645,24 +3677,24 @@
         <translation>Inzoomen</translation>
     </message>
     <message>
-        <source>Shows the page larger</source>
-        <translation>Toont de pagina groter</translation>
+        <source>Shows the page larger, for small areas; Ctrl and the wheel do it around the mouse</source>
+        <translation>Toont de pagina groter, voor kleine gebieden; Ctrl en het wiel doen het rond de muis</translation>
     </message>
     <message>
         <source>Zoom out</source>
         <translation>Uitzoomen</translation>
     </message>
     <message>
-        <source>Shows the page smaller</source>
-        <translation>Toont de pagina kleiner</translation>
+        <source>Shows the page smaller, to see more of it at once; Ctrl and the wheel do it, too</source>
+        <translation>Toont de pagina kleiner, om er meer van te zien; Ctrl en het wiel doen het ook</translation>
     </message>
     <message>
         <source>Fit</source>
         <translation>Passend</translation>
     </message>
     <message>
-        <source>Shows the page&apos;s whole width</source>
-        <translation>Toont de pagina over haar hele breedte</translation>
+        <source>Shows the page as wide as the window, however it was zoomed</source>
+        <translation>Toont de pagina zo breed als het venster, hoe er ook was gezoomd</translation>
     </message>
     <message>
         <source>Zoom: %1 %</source>
@@ -3727,12 +3759,16 @@
         <translation>Filter van de gebieden</translation>
     </message>
     <message>
-        <source>Shows only areas whose name has this text</source>
-        <translation>Toont alleen gebieden met deze tekst in hun naam</translation>
+        <source>Shows only areas whose name has this text, to find one among many; empty shows all</source>
+        <translation>Toont alleen gebieden waarvan de naam deze tekst bevat, om er een onder vele te vinden; leeg toont alle</translation>
     </message>
     <message>
         <source>Areas of all pages</source>
         <translation>Gebieden van alle pagina&apos;s</translation>
+    </message>
+    <message>
+        <source>A click selects an area, a double click goes to its code, F2 renames it</source>
+        <translation>Een klik selecteert een gebied, een dubbelklik gaat naar de code, F2 hernoemt het</translation>
     </message>
 </context>
 <context>
@@ -3779,6 +3815,10 @@
     <message>
         <source>Page %1 of %2</source>
         <translation>Pagina %1 van %2</translation>
+    </message>
+    <message>
+        <source>A click goes to a page. Drag it to move it (Ctrl+Up, Ctrl+Down); Delete removes it, and Undo brings it back</source>
+        <translation>Een klik gaat naar een pagina. Slepen verplaatst haar (Ctrl+Omhoog, Ctrl+Omlaag); Delete verwijdert haar, en Ongedaan maken brengt haar terug</translation>
     </message>
 </context>
 </TS>

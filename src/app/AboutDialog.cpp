@@ -60,7 +60,8 @@ void AboutDialog::addButton(QStatusBar& bar)
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::StrongFocus);
     button->setAccessibleName(tr("About Plinkett"));
-    button->setToolTip(tr("Tells the version and the licences"));
+    button->setToolTip(
+        tr("Tells the version, to be named when something goes wrong, and the licences"));
     bar.addPermanentWidget(button);
     connect(button, &QToolButton::clicked, &bar, [button] {
         auto* const dialog = new AboutDialog(button->window());

@@ -1,6 +1,7 @@
 #include "app/AreaTools.h"
 
 #include "page/PolyEditorWidget.h"
+#include "qtsync/ToolTip.h"
 
 #include <QAction>
 #include <QEvent>
@@ -84,7 +85,7 @@ void AreaTools::addHint(PageTool& tool, const QString& hint, const QKeySequence&
     hints[&tool] = hint;
     const auto button = buttons.find(&tool);
     if (button != buttons.end()) {
-        button->second->setToolTip(hint + " (" + key.toString(QKeySequence::NativeText) + ")");
+        button->second->setToolTip(withKey(hint, key));
         button->second->setShortcut(key);
         button->second->setShortcutContext(Qt::WidgetShortcut);
     }

@@ -61,7 +61,8 @@ AreasDock::AreasDock(Document& shown, QWidget* parent)
     filter->setObjectName("areaFilter");
     filter->setPlaceholderText(tr("Filter"));
     filter->setAccessibleName(tr("Filter of the areas"));
-    filter->setToolTip(tr("Shows only areas whose name has this text"));
+    filter->setToolTip(
+        tr("Shows only areas whose name has this text, to find one among many; empty shows all"));
     filter->setAcceptDrops(false);
     prepareTable();
     auto* const content = new QWidget;
@@ -111,9 +112,11 @@ void AreasDock::prepareTable()
     sorted->setFilterKeyColumn(AreaTableModel::name);
     table->setObjectName("areaTable");
     table->setAccessibleName(tr("Areas of all pages"));
+    table->setToolTip(
+        tr("A click selects an area, a double click goes to its code, F2 renames it"));
     table->setModel(sorted);
     table->setCornerButtonEnabled(false);
-    table->findChild<QAbstractButton*>()->setToolTip(table->accessibleName());
+    table->findChild<QAbstractButton*>()->setToolTip(table->toolTip());
     table->setItemDelegateForColumn(AreaTableModel::name, new NameDelegate(table));
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setEditTriggers(QAbstractItemView::EditKeyPressed);

@@ -31,6 +31,7 @@
 #include "page/PageScrollArea.h"
 #include "page/PageTouch.h"
 #include "qtsync/KVQtSync.h"
+#include "qtsync/ToolTip.h"
 #include "qtsync/WhyButton.h"
 #include "speech/tab/SpeechTab.h"
 #include "tryout/TryTab.h"
@@ -97,6 +98,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     connect(problems, &ProblemsGuide::manualAsked, this, &MainWindow::showManual);
     prepareManual();
     AboutDialog::addButton(*statusBar());
+    tellKeys();
     new ToolBarFit(this);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
         if (focused != nullptr && focused == windowHandle()) {
@@ -164,6 +166,15 @@ void MainWindow::letProjectScroll()
     tab->addWidget(projectScroll);
 }
 
+// Those that stand in no list of their own, which has them behind each name.
+void MainWindow::tellKeys()
+{
+    for (QAction* const action :
+         {ui->action_Open, ui->actionSave, ui->action_Save_As, ui->actionUndo, ui->actionRedo}) {
+        tellKeyOf(*action);
+    }
+}
+
 void MainWindow::takeDecimalCommas()
 {
     ui->txProjPaperWidth->setValidator(new DecimalComma(this));
@@ -222,9 +233,11 @@ void MainWindow::prepareTextEditor()
 // The lists of pages and areas, beside the page.
 void MainWindow::prepareDocks()
 {
-    auto* const pages = new PagesDock(document, this);
+    pages = new PagesDock(document, this);
     docks->add(pages, Qt::RightDockWidgetArea, *ui->editBar, "actionDockPages", "dock-pages",
-               tr("Shows or hides the list of the pages"), QKeySequence("Ctrl+Shift+P"));
+               tr("Shows or hides the list of the pages, in which one goes to pages, moves and "
+                  "removes them"),
+               QKeySequence("Ctrl+Shift+P"));
     const auto goToPage = [this] {
         if (ui->polyArea->isVisible()) {
             ui->polyArea->setFocus();
@@ -240,7 +253,8 @@ void MainWindow::prepareDocks()
 
     auto* const areas = new AreasDock(document, this);
     docks->add(areas, Qt::RightDockWidgetArea, *ui->editBar, "actionDockAreas", "dock-areas",
-               tr("Shows or hides the list of the areas"), QKeySequence("Ctrl+Shift+A"));
+               tr("Shows or hides the list of all areas of the book, with what is wrong with them"),
+               QKeySequence("Ctrl+Shift+A"));
     connect(areas, &AreasDock::pageAsked, this, goToPage);
     for (const char* const command :
          {"actionCutAreas", "actionCopyAreas", "actionPasteAreas", "actionDuplicateAreas",
@@ -478,9 +492,9 @@ void MainWindow::tell(QLabel& besideButton, const QString& text)
     }
 }
 
-void MainWindow::warn(const QString& text, const QString& placeInManual)
+void MainWindow::warn(const QString& text, const QString& placeInManual, const QString& advice)
 {
-    warnWithReason(this, tr("Warning"), text, placeInManual);
+    warnWithReason(this, tr("Warning"), text, placeInManual, advice);
 }
 
 // The one project file of a drag; an empty text for anything else.

@@ -24,6 +24,7 @@ class ChangedFileBar;
 class NoticeBar;
 class NumberBar;
 class PageScrollArea;
+class PagesDock;
 class PictureCopy;
 class QLabel;
 class QScrollArea;
@@ -115,6 +116,7 @@ private:
     void preparePrinting();
     void letProjectScroll();
     void takeDecimalCommas();
+    void tellKeys();
     void prepareNotices();
     void addNotice(NoticeBar* bar);
     void makeRoomForNotice(bool visible);
@@ -127,7 +129,7 @@ private:
     // MainWindowSpeech.cpp: the tab with the audio files of the texts
     void prepareSpeech();
 
-    // MainWindowManual.cpp: F1
+    // MainWindowManual.cpp: its button, and F1
     void prepareManual();
     // Where the manual tells of the tab that is shown.
     QString placeOfTab() const;
@@ -191,6 +193,8 @@ private:
     void keepEdits();
     void showPicture(int index);
     void showTopOfPicture();
+    // In the list of pages, with the keys that do it.
+    void showHowToRemovePage();
     // Asks for a picture that is to be picture n of the project. Nothing when the author cancelled
     // or it cannot be read (then that was said).
     std::optional<PictureCopy> choosePicture(int n);
@@ -205,7 +209,7 @@ private:
     // Which of the buttons, of which No is the safe one, the author pressed.
     int askToOverwrite(const std::string& path, QMessageBox::StandardButtons buttons);
     // With "Why?", which opens that place of the manual.
-    void warn(const QString& text, const QString& placeInManual);
+    void warn(const QString& text, const QString& placeInManual, const QString& advice = {});
     // Says in the status bar what came of an action; with a label also beside its button.
     void tell(const QString& text);
     void tell(QLabel& besideButton, const QString& text);
@@ -252,6 +256,7 @@ private:
     ChangedFileBar* changedFileBar = nullptr;
     BookPrinting* printing = nullptr;
     SideDocks* docks = nullptr;
+    PagesDock* pages = nullptr;
     TryTab* tryTab = nullptr;
     SpeechTab* speechTab = nullptr;
     std::unique_ptr<Recovery> recovery;  // ends first: it reads the form

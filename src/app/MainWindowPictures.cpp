@@ -2,6 +2,8 @@
 #include "app/MainWindow.h"
 
 #include "app/FileDialogs.h"
+#include "app/PagesDock.h"
+#include "app/SideDocks.h"
 #include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
 #include "oid/PictureFile.h"
@@ -186,8 +188,22 @@ void MainWindow::on_btDeletePicture_clicked()
                               QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes) {
         return;
     }
+    const bool hasPage = document.pageAt(document.currentPage()) != PageId::none;
     // Intended: the pictures' files are named by number, so none can go. Not translated, either.
     warn("This is not implemented, yet. You must edit the project file and also RENAME the source "
          "images!",
-         "questions-removed-page");
+         "questions-removed-page",
+         hasPage ? tr("Pages are removed in the list of the pages, which opens now: Delete removes "
+                      "this one, and Undo brings it back.")
+                 : QString());
+    if (hasPage) {
+        showHowToRemovePage();
+    }
+}
+
+// There the picture goes along with its page.
+void MainWindow::showHowToRemovePage()
+{
+    docks->open(*pages);
+    tell(tr("Delete removes page %1, and Undo brings it back.").arg(document.currentPage() + 1));
 }

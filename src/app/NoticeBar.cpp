@@ -1,5 +1,7 @@
 #include "app/NoticeBar.h"
 
+#include "qtsync/ToolTip.h"
+
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -36,7 +38,7 @@ QPushButton* NoticeBar::addButton(const QString& name, const QString& buttonText
 {
     QPushButton* const button = new QPushButton(buttonText);
     button->setObjectName(name);
-    button->setToolTip(toolTip + " (" + keys.toString(QKeySequence::NativeText) + ")");
+    button->setToolTip(withKey(toolTip, keys));
     button->setPalette(QPalette());
     line->addWidget(button);
     // A button's own shortcut presses it only after a while, when the next key has come already.

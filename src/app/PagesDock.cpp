@@ -68,6 +68,8 @@ PagesDock::PagesDock(Document& shown, QWidget* parent)
     setObjectName("dockPages");
     list->setObjectName("pageList");
     list->setAccessibleName(tr("Pages of the book"));
+    list->setToolTip(tr("A click goes to a page. Drag it to move it (Ctrl+Up, Ctrl+Down); Delete "
+                        "removes it, and Undo brings it back"));
     list->setModel(model);
     list->setIconSize({Thumbnails::kSide, Thumbnails::kSide});
     list->setUniformItemSizes(true);

@@ -1,5 +1,7 @@
 #include "app/ProblemsDock.h"
 
+#include "qtsync/ToolTip.h"
+
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
@@ -42,6 +44,8 @@ void ProblemsDock::prepareView()
     view->setAccessibleName(tr("Problems"));
     view->setAccessibleDescription(
         tr("Enter goes to the place, Alt+Enter puts right what can be put right, F1 tells why"));
+    view->setToolTip(tr("A click goes to the place (Enter); further clicks put right what can be "
+                        "put right (Alt+Enter) and tell why (F1)"));
     view->setModel(&list);
     view->setRootIsDecorated(false);
     view->setUniformRowHeights(true);
@@ -87,8 +91,7 @@ void ProblemsDock::prepareKey()
     action->setShortcut(QKeySequence("Ctrl+Shift+M"));
     addAction(action);
     connect(action, &QAction::triggered, this, &ProblemsDock::toggleByKey);
-    title->setToolTip(title->toolTip() + " (" +
-                      action->shortcut().toString(QKeySequence::NativeText) + ")");
+    title->setToolTip(withKey(title->toolTip(), action->shortcut()));
 }
 
 void ProblemsDock::toggle()

@@ -1,5 +1,7 @@
 #include "app/SideDocks.h"
 
+#include "qtsync/ToolTip.h"
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
@@ -41,7 +43,7 @@ void SideDocks::add(QDockWidget* dock, Qt::DockWidgetArea area, QToolBar& bar,
     }
     auto* const action = new QAction(QIcon(":/icons/" + icon + ".svg"), dock->windowTitle(), this);
     action->setObjectName(actionName);
-    const QString toolTip = what + " (" + keys.toString(QKeySequence::NativeText) + ")";
+    const QString toolTip = withKey(what, keys);
     action->setToolTip(toolTip);
     action->setShortcut(keys);
     action->installEventFilter(this);
@@ -60,6 +62,17 @@ void SideDocks::add(QDockWidget* dock, Qt::DockWidgetArea area, QToolBar& bar,
     const Entry entry = docks.back();
     connect(action, &QAction::toggled, this, [this, entry] { toggle(entry); });
     update();
+}
+
+void SideDocks::open(QDockWidget& dock)
+{
+    for (const Entry& entry : docks) {
+        if (entry.dock == &dock) {
+            entry.action->setChecked(true);
+        }
+    }
+    dock.raise();
+    dock.setFocus();
 }
 
 void SideDocks::enableActions(bool enable)

@@ -23,6 +23,8 @@ public:
     // completed with them.
     void add(QDockWidget* dock, Qt::DockWidgetArea area, QToolBar& bar, const char* actionName,
              const QString& icon, const QString& toolTip, const QKeySequence& keys);
+    // Opens one of them, if it is not, and goes into it.
+    void open(QDockWidget& dock);
     // Whether the tab of the docks is shown, so that they can be opened and closed.
     void enableActions(bool enable);
     // Takes over where they were and which were open. The settings outlive the window.

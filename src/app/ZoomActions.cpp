@@ -1,6 +1,7 @@
 #include "app/ZoomActions.h"
 
 #include "page/PageScrollArea.h"
+#include "qtsync/ToolTip.h"
 
 #include <QAction>
 #include <QEvent>
@@ -12,13 +13,21 @@ ZoomActions::ZoomActions(PageScrollArea* zoomed, QToolBar& bar, QStatusBar& stat
     : QObject(zoomed), area(zoomed), label(new QLabel)
 {
     bar.addSeparator();
-    in = add(bar, "actionZoomIn", "zoom-in", tr("Zoom in"), tr("Shows the page larger"));
-    out = add(bar, "actionZoomOut", "zoom-out", tr("Zoom out"), tr("Shows the page smaller"));
-    fit = add(bar, "actionZoomFit", "zoom-fit", tr("Fit"), tr("Shows the page's whole width"));
+    in = add(
+        bar, "actionZoomIn", "zoom-in", tr("Zoom in"),
+        tr("Shows the page larger, for small areas; Ctrl and the wheel do it around the mouse"));
+    out =
+        add(bar, "actionZoomOut", "zoom-out", tr("Zoom out"),
+            tr("Shows the page smaller, to see more of it at once; Ctrl and the wheel do it, too"));
+    fit = add(bar, "actionZoomFit", "zoom-fit", tr("Fit"),
+              tr("Shows the page as wide as the window, however it was zoomed"));
     // The plus is typed with Shift on some keyboards and without on others.
     in->setShortcuts({QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")});
     out->setShortcut(QKeySequence("Ctrl+-"));
     fit->setShortcut(QKeySequence("Ctrl+0"));
+    for (QAction* const action : {in, out, fit}) {
+        tellKeyOf(*action);
+    }
     connect(in, &QAction::triggered, area, &PageScrollArea::zoomIn);
     connect(out, &QAction::triggered, area, &PageScrollArea::zoomOut);
     connect(fit, &QAction::triggered, area, &PageScrollArea::fit);

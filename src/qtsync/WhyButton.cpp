@@ -1,6 +1,7 @@
 #include "qtsync/WhyButton.h"
 
 #include "qtsync/OpenManual.h"
+#include "qtsync/ToolTip.h"
 
 #include <QMessageBox>
 #include <QShortcut>
@@ -14,8 +15,8 @@ WhyButton::WhyButton(QMessageBox& box, QString placeInManual)
     // One of the button's own would press it only after a while.
     const auto* const key = new QShortcut(QKeySequence(Qt::Key_F1), this);
     connect(key, &QShortcut::activated, this, &QPushButton::click);
-    setToolTip(tr("Opens the manual in your browser, where it tells what to do (%1)")
-                   .arg(key->key().toString(QKeySequence::NativeText)));
+    setToolTip(
+        withKey(tr("Opens the manual in your browser, where it tells what to do"), key->key()));
     // Escape presses the only button there is; with a second one it has to be said which.
     const QList<QAbstractButton*> others = box.buttons();
     if (others.size() == 1) {
@@ -38,9 +39,10 @@ void WhyButton::showReason()
 }
 
 void warnWithReason(QWidget* parent, const QString& title, const QString& text,
-                    const QString& placeInManual)
+                    const QString& placeInManual, const QString& advice)
 {
     QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Ok, parent);
+    box.setInformativeText(advice);
     new WhyButton(box, placeInManual);
     box.exec();
 }

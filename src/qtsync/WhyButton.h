@@ -25,6 +25,7 @@ private:
     QString placeOfReason;
 };
 
-// What QMessageBox::warning shows with an OK button, and "Why?".
+// What QMessageBox::warning shows with an OK button, and "Why?"; below the text an advice, unless
+// empty.
 void warnWithReason(QWidget* parent, const QString& title, const QString& text,
-                    const QString& placeInManual);
+                    const QString& placeInManual, const QString& advice = {});

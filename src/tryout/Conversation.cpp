@@ -8,6 +8,7 @@ Conversation::Conversation(QWidget* parent) : QTreeWidget(parent)
 {
     setObjectName("tryConversation");
     setAccessibleName(tr("What was said"));
+    setToolTip(tr("What was tapped and what was heard, the latest at the end"));
     setHeaderLabels({tr("Tapped"), tr("Voice"), tr("Said"), tr("Waited")});
     setRootIsDecorated(false);
     setWordWrap(true);

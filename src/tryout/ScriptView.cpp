@@ -74,7 +74,8 @@ ScriptView::ScriptView(QWidget* parent) : QPlainTextEdit(parent), margin(new Mar
 {
     setObjectName("tryScript");
     setAccessibleName(tr("The script that runs"));
-    setToolTip(tr("A double click goes to the line in the script, to change it"));
+    setToolTip(tr("The script that runs, with the line that is next; a double click goes to the "
+                  "line in the tab Script, to change it"));
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setTabChangesFocus(true);

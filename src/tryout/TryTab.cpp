@@ -3,6 +3,7 @@
 #include "document/Document.h"
 #include "page/PolyEditorWidget.h"
 #include "qtsync/FlowLayout.h"
+#include "qtsync/ToolTip.h"
 #include "tryout/Conversation.h"
 #include "tryout/PageWindow.h"
 #include "tryout/ReaderPage.h"
@@ -82,8 +83,7 @@ QPushButton* TryTab::addButton(QLayout& row, const char* name, const QString& te
         // At once; a shortcut of the button's own would first show it pressed for a while.
         auto* const shortcut = new QShortcut(QKeySequence(key), this);
         connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
-        button->setToolTip(toolTip + " (" + shortcut->key().toString(QKeySequence::NativeText) +
-                           ")");
+        button->setToolTip(withKey(toolTip, shortcut->key()));
     }
     row.addWidget(button);
     return button;
@@ -93,12 +93,15 @@ QWidget* TryTab::makeControls()
 {
     auto* const controls = new QWidget;
     auto* const row = new FlowLayout(controls);
-    connect(addButton(*row, "btStart", tr("Start"), tr("Switches the book on: plays the welcome")),
+    connect(addButton(*row, "btStart", tr("Start"),
+                      tr("Switches the book on, as START on paper does: plays the welcome")),
             &QPushButton::clicked, &book, &TriedBook::start);
-    connect(addButton(*row, "btTryAgain", tr("Again"), tr("Repeats what was played last")),
+    connect(addButton(*row, "btTryAgain", tr("Again"),
+                      tr("Plays once more what was played last, as REPLAY on paper does")),
             &QPushButton::clicked, &book, &TriedBook::again);
-    connect(addButton(*row, "btTryStop", tr("Stop"), tr("Ends the sound")), &QPushButton::clicked,
-            &book, &TriedBook::stop);
+    connect(addButton(*row, "btTryStop", tr("Stop"),
+                      tr("Ends the sound that plays, as STOP on paper does")),
+            &QPushButton::clicked, &book, &TriedBook::stop);
     connect(addButton(*row, "btTryFresh", tr("Fresh"),
                       tr("All as in the beginning: nothing was tapped, no variable changed")),
             &QPushButton::clicked, &book, &TriedBook::fresh);
@@ -138,7 +141,7 @@ QWidget* TryTab::makeControls()
     volume->setValue(kFullVolume);
     volume->setFixedSize(70, pages->sizeHint().height());
     volume->setAccessibleName(tr("Volume"));
-    volume->setToolTip(tr("Volume"));
+    volume->setToolTip(tr("How loud the book is on this computer; the pen has keys of its own"));
     row->addWidget(volume);
     connect(volume, &QSlider::valueChanged, this,
             [this](int value) { book.setVolume(static_cast<double>(value) / kFullVolume); });

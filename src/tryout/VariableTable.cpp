@@ -23,7 +23,8 @@ public:
         box->setRange(0, 65535);
         box->setFrame(false);
         box->setAccessibleName(VariableTable::tr("Value"));
-        box->setToolTip(VariableTable::tr("From 0 to 65535"));
+        box->setToolTip(
+            VariableTable::tr("The value that the script goes on with, from 0 to 65535"));
         return box;
     }
 };
@@ -34,6 +35,8 @@ VariableTable::VariableTable(QWidget* parent) : QTableWidget(0, 3, parent)
 {
     setObjectName("tryVariables");
     setAccessibleName(tr("Variables"));
+    setToolTip(tr(
+        "What the script remembers. A click on a value changes it, to try what would come then"));
     setHorizontalHeaderLabels({tr("Variable"), tr("Value"), tr("Before")});
     setItemDelegateForColumn(value, new ValueDelegate(this));
     setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -41,7 +44,7 @@ VariableTable::VariableTable(QWidget* parent) : QTableWidget(0, 3, parent)
     setTabKeyNavigation(false);
     setMinimumSize(60, 40);
     for (QAbstractButton* const corner : findChildren<QAbstractButton*>()) {
-        corner->setToolTip(tr("Variables"));
+        corner->setToolTip(toolTip());
     }
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);

@@ -34,7 +34,9 @@ private slots:
         WindowFixture w;
         QToolButton& button = *w.get<QToolButton>("btAbout");
         QCOMPARE(button.accessibleName(), QString("About Plinkett"));
-        QCOMPARE(button.toolTip(), QString("Tells the version and the licences"));
+        QCOMPARE(
+            button.toolTip(),
+            QString("Tells the version, to be named when something goes wrong, and the licences"));
         QVERIFY((button.focusPolicy() & Qt::TabFocus) != 0);
         button.setFocus();
         QTest::keyClick(&button, Qt::Key_Space);

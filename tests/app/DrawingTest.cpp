@@ -832,7 +832,8 @@ private slots:
         }
         QCOMPARE(names.join(' '),
                  "actionUndo actionRedo | actionAddBox actionAddEllipse actionMagicArea | "
-                 "actionZoomIn actionZoomOut actionZoomFit | actionDockPages actionDockAreas");
+                 "actionZoomIn actionZoomOut actionZoomFit | actionDockPages actionDockAreas | "
+                 "actionManual");
     }
 };
 

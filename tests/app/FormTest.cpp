@@ -22,7 +22,10 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QToolBar>
+#include <QToolButton>
 #include <QTranslator>
+
+#include <algorithm>
 
 class FormTest : public QObject
 {
@@ -46,29 +49,38 @@ private slots:
         row("groupBox_3", "QGroupBox", "Project");
         row("label_8", "QLabel", "Project Name");
         row("txProjectName", "QLineEdit", "",
-            "The name of the book, which the pen says when it is switched on");
+            "The name of the book: the pen says it when the book is switched on, and game and PDF "
+            "are named after it");
         row("lbProjectNameProblems", "QLabel");
         row("label_9", "QLabel", "Project ID");
         row("widget", "QWidget");
-        row("txProjectId", "QSpinBox", "", "The number of the book, one for each book on the pen");
+        row("txProjectId", "QSpinBox", "",
+            "The number by which the pen knows the book: each book on the pen needs its own, 900 "
+            "to 950 for those made at home");
         row("frCurrentPicture", "QGroupBox", "Current Picture (Area)");
         row("label_3", "QLabel", "Paper: [mm]");
         row("widget_2", "QWidget");
-        row("txProjPaperWidth", "QLineEdit", "", "The width of the printed page");
+        row("txProjPaperWidth", "QLineEdit", "",
+            "How wide this page is printed, in millimetres: its picture fills the paper");
         row("label_4", "QLabel", "X");
-        row("txProjPaperHeight", "QLineEdit", "", "The height of the printed page");
+        row("txProjPaperHeight", "QLineEdit", "",
+            "How high this page is printed, in millimetres: its picture fills the paper");
         row("label_5", "QLabel", "DPI:");
         row("widget_4", "QWidget");
         row("txProjDPI", "QLineEdit", "",
-            "The resolution of the printer: 600 at least, better 1200");
+            "The dots per inch of the printer, for this page: the pen needs 600 at least, better "
+            "are 1200");
         row("btSizeForAll", "QPushButton", "For all pictures",
-            "Gives the paper and the DPI of this picture to all pictures");
+            "Gives the paper and the DPI of this picture to all others, for a book that is printed "
+            "on one kind of paper");
         row("widget_6", "QWidget");
-        row("btCreateImage", "QPushButton", "Create", "Creates the print images of all pictures");
+        row("btCreateImage", "QPushButton", "Create",
+            "Makes a print image (TIFF) of each page, for a print shop; for a printer at home take "
+            "PDF");
         row("label_7", "QLabel", "Create the output image now...");
         row("btCreatePdf", "QToolButton", "PDF",
-            "Makes a PDF of the book for your own printer; in its menu: symbols and the printer's "
-            "test page");
+            "Makes a PDF of the book for your own printer, each page in its true size; its menu "
+            "(key Down) has symbols and the printer's test page");
         row("lbCreateResult", "QLabel");
         row("tabAreas", "QWidget");
         row("widget_7", "QWidget");
@@ -76,17 +88,25 @@ private slots:
         row("btPreviousPicture", "QPushButton", "<-", "Show the previous picture");
         row("btNextPicture", "QPushButton", "->", "Shows the next picture or appends a new one");
         row("btLoadImage", "QPushButton", "load...",
-            "Puts another picture file in the place of this one");
-        row("btDeletePicture", "QPushButton", u8"\u2716", "Deletes this picture");
+            "Puts another picture file in the place of this one, such as a better scan; paper and "
+            "areas stay");
+        row("btDeletePicture", "QPushButton", u8"\u2716",
+            "Shows how this page is removed: in the list of the pages (Ctrl+Shift+P), where Delete "
+            "does it and Undo brings it back");
         row("groupBox_2", "QGroupBox", "Area");
         row("btPickPoly", "QPushButton", u8"\u2196", "Pick area mode");
         row("btAddPoly", "QPushButton", "+", "Add a new polygon mode");
         row("btDelPoly", "QPushButton", u8"\u2716", "Delete selected polygon");
         row("label", "QLabel", "ID:");
-        row("txPolyName", "QLineEdit", "", "The name of the area, as the script knows it");
-        row("txOidOfArea", "QSpinBox", "", "The number of the dots that the area is printed with");
+        row("txPolyName", "QLineEdit", "",
+            "The name of the area: the sub of that name in the script says what is heard. Areas of "
+            "one name do the same");
+        row("txOidOfArea", "QSpinBox", "",
+            "The number of the dots that the area is printed with: it comes by itself and stays, "
+            "so that printed pages fit");
         row("btEditPolyCode", "QPushButton", "Goto code",
-            "Goes to the code of the area in the script, or begins it");
+            "Goes to the sub of the area in the script, where what it says is written; begins one "
+            "where there is none");
         row("polyArea", "PolyEditorWidget");
         row("tabScript", "QWidget");
         row("codeEditor", "KVQtHighlightEditCtrl");
@@ -98,13 +118,17 @@ private slots:
         row("btCopyToPen", "QPushButton", "Copy to Device",
             "Copies the binary to the attached USB device");
         row("chQuickAnswers", "QCheckBox", "&Quick answers",
-            "The same game in fewer steps, so that the pen answers at once");
+            "Makes the same game in fewer steps, so that the pen answers at once, also where the "
+            "script reckons much");
         row("lbBuildResult", "QLabel");
         row("txConsole", "KVQtStdoutWidget");
         row("tabTry", "QWidget");
-        row("btStart", "QPushButton", "Start", "Switches the book on: plays the welcome");
+        row("btStart", "QPushButton", "Start",
+            "Switches the book on, as START on paper does: plays the welcome");
         row("tabSpeech", "QWidget");
-        row("speechTable", "SpeechView");
+        row("speechTable", "SpeechView", "",
+            "Every text of the book. A click on the sign plays it (Space), one on the line goes "
+            "there (Enter)");
     }
 
     void hasItsObjects()
@@ -175,10 +199,15 @@ private slots:
             QCOMPARE(actions[i]->shortcut().toString(), shortcut);
             QVERIFY(!actions[i]->icon().pixmap(24).isNull());
         };
-        check(0, "action_Open", "&Open", "Ctrl+O", "Opens a project");
-        check(1, "actionSave", "Save", "Ctrl+S", "Saves the project");
+        check(0, "action_Open", "&Open", "Ctrl+O",
+              "Opens another book; of this one, what is not saved is kept and offered again "
+              "(Ctrl+O)");
+        check(1, "actionSave", "Save", "Ctrl+S",
+              "Writes the book into its project file; pictures and audio files lie beside it "
+              "(Ctrl+S)");
         check(2, "action_Save_As", "&Save As...", "Ctrl+Shift+S",
-              "Saves the project under another name");
+              "Saves the book under another name or in another folder, and takes pictures and "
+              "audio files along (Ctrl+Shift+S)");
         QCOMPARE(w.window.toolBarArea(w.get<QToolBar>("toolBar")), Qt::TopToolBarArea);
     }
 
@@ -377,21 +406,67 @@ private slots:
         }
     }
 
-    void everyButtonAndFieldHasAToolTip()
+    void everyControlHasAToolTipThatSaysMoreThanItsName_data() { fitsOnASmallScreen_data(); }
+
+    void everyControlHasAToolTipThatSaysMoreThanItsName()
     {
+        QFETCH(QString, language);
+        QTranslator translator;
+        QVERIFY(loadTranslation(translator, {language}));
+        QCoreApplication::installTranslator(&translator);
         WindowFixture w;
-        QStringList without;
+        QStringList silent;
         for (const QWidget* const control : w.window.findChildren<QWidget*>()) {
-            const bool isPart = control->objectName().startsWith("qt_") ||
-                                control->parentWidget()->inherits("QTabBar");
-            const bool wantsOne = control->inherits("QAbstractButton") ||
-                                  control->inherits("QLineEdit") ||
-                                  control->inherits("QAbstractSpinBox");
-            if (wantsOne && !isPart && control->toolTip().isEmpty()) {
-                without << control->window()->objectName() + "/" + control->objectName();
+            if (isControl(*control) && saysNoMore(control->toolTip(), *control)) {
+                silent << control->window()->objectName() + "/" + control->objectName();
             }
         }
-        QCOMPARE(without, QStringList());
+        for (const QToolBar* const bar : w.window.findChildren<QToolBar*>()) {
+            for (const QAction* const action : bar->actions()) {
+                if (!action->isSeparator() && saysNoMore(action->toolTip(), *action)) {
+                    silent << action->objectName();
+                }
+            }
+        }
+        QCOMPARE(silent, QStringList());
+    }
+
+    static bool isControl(const QWidget& control)
+    {
+        const bool isPart = control.objectName().startsWith("qt_") ||
+                            control.parentWidget()->inherits("QTabBar") ||
+                            control.parentWidget()->inherits("QToolBar");
+        const QStringList types = {"QAbstractButton", "QLineEdit", "QAbstractSpinBox", "QComboBox",
+                                   "QSlider",         "QTreeView", "QTableView"};
+        return !isPart && std::any_of(types.begin(), types.end(), [&](const QString& type) {
+            return control.inherits(type.toLatin1());
+        });
+    }
+
+    // An empty tool tip, or one that repeats what stands there or is read out.
+    static bool saysNoMore(const QString& toolTip, const QObject& control)
+    {
+        const auto plain = [](QString text) {
+            return text.remove('&').remove("...").simplified().toLower();
+        };
+        return toolTip.isEmpty() || plain(toolTip) == plain(control.property("text").toString()) ||
+               plain(toolTip) == plain(control.property("accessibleName").toString());
+    }
+
+    void theManualHasAButtonThatOpensIt()
+    {
+        WindowFixture w;
+        const QAction* const manual = w.get<QAction>("actionManual");
+        const auto* const button = qobject_cast<QToolButton*>(
+            w.get<QToolBar>("editBar")->widgetForAction(w.get<QAction>("actionManual")));
+        QVERIFY(button->isVisible());
+        QVERIFY(!manual->icon().pixmap(24).isNull());
+        QCOMPARE(QAccessible::queryAccessibleInterface(
+                     w.get<QToolBar>("editBar")->widgetForAction(w.get<QAction>("actionManual")))
+                     ->text(QAccessible::Name),
+                 "Manual");
+        QCOMPARE(manual->toolTip(),
+                 "Opens the manual in your browser, at what the shown tab is for (F1)");
     }
 
     void quickAnswersHaveAKeyOfTheirOwn_data() { fitsOnASmallScreen_data(); }

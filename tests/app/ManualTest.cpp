@@ -7,9 +7,11 @@
 #include "tests/app/ManualPlaces.h"
 #include "tests/app/WindowFixture.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QMessageBox>
 #include <QTabWidget>
+#include <QToolBar>
 #include <QTreeView>
 
 #define TRY_VERIFY(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, 30000)
@@ -33,6 +35,7 @@ private slots:
 
     void f1OpensThePlaceOfEachTab_data();
     void f1OpensThePlaceOfEachTab();
+    void aClickOnTheButtonOpensThePlaceOfTheTab();
     void f1WorksWhileOneWrites();
     void aClickOnWhyOpensThePlaceOfTheHint();
     void f1InTheListTellsOfTheProblemThere();
@@ -83,6 +86,16 @@ void ManualTest::f1OpensThePlaceOfEachTab()
     QCOMPARE(browser.place, place);
     QVERIFY(isInManual(place));
     QCOMPARE(browser.file, manualFile(QLocale::system().uiLanguages()));
+}
+
+void ManualTest::aClickOnTheButtonOpensThePlaceOfTheTab()
+{
+    Browser browser;
+    WindowFixture author;
+    QWidget* const button =
+        author.get<QToolBar>("editBar")->widgetForAction(author.get<QAction>("actionManual"));
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(browser.place, QString("areas"));
 }
 
 void ManualTest::f1WorksWhileOneWrites()

@@ -3,6 +3,7 @@
 #include "tests/app/WindowFixture.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QBuffer>
 #include <QComboBox>
 #include <QDir>
@@ -483,6 +484,39 @@ private slots:
                               "Warning: This is not implemented, yet. You must edit the project "
                               "file and also RENAME the source images!"}));
         QCOMPARE(w.saved(), projectFile({kArea}));
+    }
+
+    void whoWantsToDeleteAPictureIsShownHowAPageIsRemoved()
+    {
+        WindowFixture w;
+        w.open(projectFile({"", kArea}), 2);
+        w.get<QTabWidget>("ribbonTab")->setCurrentWidget(w.get<QWidget>("tabAreas"));
+        w.click("btNextPicture");
+        w.get<QAction>("actionDockPages")->setChecked(false);
+        w.dialogs.press("Yes");
+        QString advice;
+        w.dialogs.look([&](QWidget& box) {
+            advice = qobject_cast<QMessageBox*>(&box)->informativeText();
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        w.click("btDeletePicture");
+        QCOMPARE(advice, "Pages are removed in the list of the pages, which opens now: Delete "
+                         "removes this one, and Undo brings it back.");
+        QCOMPARE(w.status(), "Delete removes page 2, and Undo brings it back.");
+        auto* const list = w.get<QWidget>("pageList");
+        QVERIFY(list->isVisible());
+        QCOMPARE(w.window.focusWidget(), list);
+    }
+
+    void withoutAPageThereIsNothingToShow()
+    {
+        WindowFixture w;
+        w.get<QAction>("actionDockPages")->setChecked(false);
+        w.dialogs.press("Yes");
+        w.dialogs.press("OK");
+        w.click("btDeletePicture");
+        QVERIFY(!w.get<QWidget>("pageList")->isVisible());
+        QCOMPARE(w.status(), "");
     }
 
     void createMakesThePrintImageOfEachPicture()

@@ -63,3 +63,13 @@ TEST_P(ManualPictures, AreThoseOfTheListAndAllAreShown)
     }
     EXPECT_EQ(shown, listed());
 }
+
+TEST_P(ManualPictures, NoTwoAreTheSame)
+{
+    std::map<std::string, std::string> names;  // by what they show
+    for (const Picture& picture : picturesOfManual()) {
+        const std::string file = manualFolder(GetParam()) + "/images/" + picture.file;
+        const auto [other, isNew] = names.emplace(readFile(file), picture.file);
+        EXPECT_TRUE(isNew) << picture.file << " is " << other->second;
+    }
+}

@@ -168,21 +168,25 @@ void PdfDialog::addPages(QFormLayout& form)
 {
     pages->setObjectName("pdfPages");
     pages->setPlaceholderText(tr("all"));
-    pages->setToolTip(tr("Only these pictures, counted from 0, such as 0,2-3"));
+    pages->setToolTip(tr("Only these pictures, counted from 0, such as 0,2-3, to print a changed "
+                         "page again; empty prints all"));
     pages->setAccessibleName(tr("Pages"));
     form.addRow(tr("Pages:"), pages);
 }
 
 void PdfDialog::addDots(QFormLayout& form)
 {
-    dots->setToolTip(tr("Where dots are printed"));
+    dots->setToolTip(tr("Whether the whole page gets dots, or only its areas, which leaves the "
+                        "rest as clear as it was"));
     dots->setAccessibleName(tr("Dots"));
     form.addRow(tr("Dots:"), dots);
     lightenAreas->setObjectName("pdfLightenAreas");
-    lightenAreas->setToolTip(tr("The rest of the picture stays as it is"));
+    lightenAreas->setToolTip(tr(
+        "Lightens the picture on areas only, where the pen reads; the rest of it stays as it is"));
     form.addRow(lightenAreas);
     outlines->setObjectName("pdfOutlines");
-    outlines->setToolTip(tr("For you: in a colour that the pen does not see"));
+    outlines->setToolTip(tr("Draws the areas with their names, to check them on paper, in a colour "
+                            "that the pen does not see"));
     form.addRow(outlines);
 }
 
@@ -192,16 +196,19 @@ void PdfDialog::addPaper(QFormLayout& form)
     margin->setRange(kUsualMargin, kLargestMargin);
     margin->setSpecialValueText(tr("as needed"));
     margin->setSuffix(" mm");
-    margin->setToolTip(tr("White paper around each page"));
+    margin->setToolTip(
+        tr("White paper around each page, for a printer that does not print up to the edge"));
     margin->setAccessibleName(tr("Margin"));
     form.addRow(tr("Margin:"), margin);
     cropMarks->setObjectName("pdfCropMarks");
-    cropMarks->setToolTip(tr("Marks in the margin where the page ends"));
+    cropMarks->setToolTip(tr("Marks in the margin where the page ends, to cut along them"));
     form.addRow(cropMarks);
-    poster->setToolTip(tr("Pages that are larger than the paper on several sheets that overlap"));
+    poster->setToolTip(tr("Prints pages that are larger than the paper on several sheets that "
+                          "overlap, to be glued together"));
     poster->setAccessibleName(tr("Poster"));
     form.addRow(tr("Poster:"), poster);
-    symbols->setToolTip(tr("A page with START, REPLAY, STOP and a legend of all areas"));
+    symbols->setToolTip(tr("Adds a page with START, REPLAY, STOP and a legend of all areas, to be "
+                           "cut out; a book needs START somewhere"));
     symbols->setAccessibleName(tr("Symbols and legend"));
     form.addRow(tr("Symbols and legend:"), symbols);
 }
@@ -209,7 +216,8 @@ void PdfDialog::addPaper(QFormLayout& form)
 void PdfDialog::addFile(QFormLayout& form)
 {
     path->setObjectName("pdfFile");
-    path->setToolTip(tr("The file that is written"));
+    path->setToolTip(
+        tr("The PDF file that is written; one of this name that is there is replaced"));
     path->setAccessibleName(tr("File"));
     auto* const browse = new QPushButton("...");
     browse->setObjectName("pdfBrowse");

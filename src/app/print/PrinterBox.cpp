@@ -83,12 +83,14 @@ void PrinterBox::prepareProfiles()
 {
     profile->setObjectName("printerProfile");
     profile->setAccessibleName(tr("Profile of a printer"));
-    profile->setToolTip(tr("What has been kept about a printer"));
+    profile->setToolTip(tr(
+        "The settings that were kept for a printer: choose the one that the book is printed on"));
     profile->setMinimumContentsLength(6);
     profile->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     profile->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     keep->setObjectName("keepProfile");
-    keep->setToolTip(tr("Keeps the settings of this printer under a name"));
+    keep->setToolTip(tr(
+        "Keeps the settings below under a name, so that this printer has them the next time, too"));
     remove->setObjectName("removeProfile");
     remove->setToolTip(tr("Forgets the chosen profile"));
     for (QPushButton* const button : {keep, remove, takeOver}) {

@@ -41,7 +41,8 @@ PrinterTestDialog::PrinterTestDialog(QSettings& userSettings,
         auto* const box = new QCheckBox(QString::number(offered));
         box->setObjectName("testDpi" + QString::number(offered));
         box->setAccessibleName(tr("%1 DPI").arg(offered));
-        box->setToolTip(tr("Tries this resolution of the printer"));
+        box->setToolTip(tr("Tries this resolution: tick those that your printer has, and the pen "
+                           "tells which one is best"));
         box->setChecked(std::count(kept.resolutions.begin(), kept.resolutions.end(), offered) > 0);
         connect(box, &QCheckBox::toggled, this, &PrinterTestDialog::checkComplete);
         dpi->addWidget(box);
@@ -50,7 +51,8 @@ PrinterTestDialog::PrinterTestDialog(QSettings& userSettings,
     addLanguages(languages, kept.language);
     path->setObjectName("testFolder");
     path->setAccessibleName(tr("Folder"));
-    path->setToolTip(tr("Where page and game are written"));
+    path->setToolTip(
+        tr("The folder in which the page to be printed and the game for the pen are written"));
     path->setAcceptDrops(false);
     connect(path, &QLineEdit::textChanged, this, &PrinterTestDialog::checkComplete);
     auto* const browse = new QPushButton("...");

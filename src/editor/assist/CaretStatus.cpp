@@ -15,7 +15,8 @@ CaretStatus::CaretStatus(KVQtHighlightEditCtrlInlay& shown, ScriptHelp& help)
     mode->setObjectName("lbTypingMode");
     button->setObjectName("btScriptHelp");
     button->setText(tr("Help while writing"));
-    button->setToolTip(tr("What comes by itself while you write the script"));
+    button->setToolTip(tr("Switches on and off what comes by itself while you write the script: "
+                          "names, indentation, explanations, marks"));
     button->setPopupMode(QToolButton::InstantPopup);
     button->setMenu(new QMenu(button));
     addSwitch("actionSuggestWhileTyping", tr("&Suggest names while typing"),

@@ -37,12 +37,14 @@ KVQtFindDialog::KVQtFindDialog(QWidget* parent)
     connect(txFind, &QLineEdit::textChanged, this, [this] { say(QString()); });
 
     txFind->setToolTip(tr("The text that is searched for; capital and small letters differ"));
-    txReplace->setToolTip(tr("The text that takes its place"));
-    btFind->setToolTip(tr("Goes to the next place that holds the text"));
+    txReplace->setToolTip(tr("The text that takes its place; empty deletes what is found"));
+    btFind->setToolTip(
+        tr("Goes to the next place that holds the text (Return); F3 does it in the script"));
     btReplace->setToolTip(
         tr("Replaces what is selected, or else the next place that holds the text"));
-    btReplaceAll->setToolTip(tr("Replaces the text wherever it stands"));
-    chBackwards->setToolTip(tr("Searches toward the beginning"));
+    btReplaceAll->setToolTip(
+        tr("Replaces the text wherever it stands in the script; Undo brings all of it back"));
+    chBackwards->setToolTip(tr("Searches from the caret toward the beginning instead of the end"));
 
     QLabel* const lbFind = new QLabel(tr("Find &what:"), this);
     lbFind->setBuddy(txFind);

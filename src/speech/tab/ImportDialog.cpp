@@ -63,7 +63,7 @@ ImportDialog::ImportDialog(const SpeechImport& found, const std::vector<SpeechTe
 QWidget* ImportDialog::makeEnd()
 {
     all->setObjectName("importAll");
-    all->setToolTip(tr("Sets or takes away all ticks"));
+    all->setToolTip(tr("Sets or takes away all ticks; only files with a tick are taken"));
     connect(all, &QCheckBox::clicked, table, &TickTable::tickAll);
     progress->setObjectName("importProgress");
     progress->setAccessibleName(tr("Taking the files..."));

@@ -53,13 +53,15 @@ void RecordDialog::makeControls()
     microphones = new QComboBox;
     microphones->setObjectName("recordMicrophone");
     microphones->setAccessibleName(tr("Microphone"));
-    microphones->setToolTip(tr("The microphone that is recorded from"));
+    microphones->setToolTip(
+        tr("The microphone that is recorded from; the level below shows whether it hears you"));
     microphones->setMinimumContentsLength(12);
     microphones->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     microphones->addItem(tr("Usual microphone"));
     countIn = new QCheckBox(tr("Count &in"));
     countIn->setObjectName("recordCountIn");
-    countIn->setToolTip(tr("Counts 3, 2, 1 before a recording begins"));
+    countIn->setToolTip(
+        tr("Counts 3, 2, 1 before a recording begins, so that you can take a breath"));
     countIn->setChecked(settings.value(kCountIn, true).toBool());
     meter = new LevelMeter;
     wave = new WaveView;

@@ -1,6 +1,7 @@
 #include "speech/tab/SpeechTab.h"
 
 #include "qtsync/FlowLayout.h"
+#include "qtsync/ToolTip.h"
 #include "speech/tab/SpeechView.h"
 
 #include <QAction>
@@ -84,14 +85,15 @@ QWidget* SpeechTab::makeFilters()
     words->setObjectName("txSpeechSearch");
     words->setPlaceholderText(tr("Search"));
     words->setAccessibleName(tr("Search in the texts"));
-    words->setToolTip(tr("Shows only texts that hold these words"));
+    words->setToolTip(
+        tr("Shows only texts that hold these words, to find one among many; empty shows all"));
     words->setAcceptDrops(false);
     connect(words, &QLineEdit::textChanged, &filter, &SpeechFilter::search);
 
     states = new QComboBox;
     states->setObjectName("cbSpeechState");
     states->setAccessibleName(tr("State"));
-    states->setToolTip(tr("Shows only texts of this state"));
+    states->setToolTip(tr("Shows only texts of this state, such as those that are missing still"));
     states->addItem(tr("All states"));
     for (const SpeechState state : kStates) {
         states->addItem(SpeechModel::nameOf(state));
@@ -104,7 +106,7 @@ QWidget* SpeechTab::makeFilters()
     voices = new QComboBox;
     voices->setObjectName("cbSpeechVoice");
     voices->setAccessibleName(tr("Voice"));
-    voices->setToolTip(tr("Shows only texts of this voice"));
+    voices->setToolTip(tr("Shows only texts of this voice, such as those that one person records"));
     voices->addItem(tr("All voices"));
     voices->setMinimumContentsLength(10);
     connect(voices, qOverload<int>(&QComboBox::currentIndexChanged), this,
@@ -125,15 +127,16 @@ QAction* SpeechTab::addCommand(QLayout& row, const char* name, const QString& te
 {
     auto* const button = new QPushButton(text);
     button->setObjectName(name);
-    button->setToolTip(toolTip);
+    button->setToolTip(withKey(toolTip, button->shortcut()));
     button->setAutoDefault(false);
     row.addWidget(button);
     auto* const action = new QAction(text, this);
     table->addAction(action);
     connect(button, &QPushButton::clicked, action, &QAction::trigger);
     connect(action, &QAction::triggered, this, command);
-    connect(action, &QAction::changed, button, [button, action] {
+    connect(action, &QAction::changed, button, [button, action, toolTip] {
         button->setText(action->text());
+        button->setToolTip(withKey(toolTip, button->shortcut()));
         button->setEnabled(action->isEnabled());
     });
     return action;
@@ -169,7 +172,8 @@ QWidget* SpeechTab::makeButtons()
                              "without a selection all of them"),
                           &SpeechTab::speak);
     recording = addCommand(*row, "btRecord", tr("Re&cord..."),
-                           tr("Records texts with the microphone, one after the other"),
+                           tr("Records texts with the microphone, one after the other, beginning "
+                              "with the selected one"),
                            &SpeechTab::record);
     usingFile = addCommand(*row, "btUseFile", tr("&Use file..."),
                            tr("Takes a sound file for the selected text; one can also be dropped "
@@ -183,7 +187,9 @@ QWidget* SpeechTab::makeButtons()
                             tr("Makes the selected texts equally loud; without a selection all"),
                             &SpeechTab::evenOut);
     addCommand(*row, "btTryVoices", tr("Try &voices..."),
-               tr("Lets you hear one sentence in many voices"), &SpeechTab::tryVoices);
+               tr("Lets you hear one sentence in many voices, and writes the one that you like "
+                  "into the script"),
+               &SpeechTab::tryVoices);
     importing = addCommand(*row, "btImportFolder", tr("&Import folder..."),
                            tr("Takes recordings from a folder; one can also be dropped on the "
                               "table"),

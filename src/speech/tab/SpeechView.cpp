@@ -51,6 +51,8 @@ SpeechView::SpeechView(SpeechFilter& shown, QWidget* parent) : QTableView(parent
     setObjectName("speechTable");
     setAccessibleName(tr("Texts of the book"));
     setAccessibleDescription(tr("Space plays a text, Enter goes to its line in the script"));
+    setToolTip(tr("Every text of the book. A click on the sign plays it (Space), one on the line "
+                  "goes there (Enter)"));
     setModel(&shown);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -59,7 +61,7 @@ SpeechView::SpeechView(SpeechFilter& shown, QWidget* parent) : QTableView(parent
     setAcceptDrops(true);
     setWordWrap(false);
     setCornerButtonEnabled(false);
-    findChild<QAbstractButton*>()->setToolTip(accessibleName());
+    findChild<QAbstractButton*>()->setToolTip(toolTip());
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setMinimumSize(60, 3 * fontMetrics().height());
     verticalHeader()->hide();

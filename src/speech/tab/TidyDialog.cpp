@@ -32,7 +32,7 @@ TidyDialog::TidyDialog(std::vector<File> unused, QWidget* parent)
     table->setCurrentCell(0, 0);
     auto* const all = new QCheckBox(tr("&All files"));
     all->setObjectName("tidyAll");
-    all->setToolTip(tr("Sets or takes away all ticks"));
+    all->setToolTip(tr("Sets or takes away all ticks; only files with a tick go to the trash"));
     all->setChecked(true);
     connect(all, &QCheckBox::clicked, table, &TickTable::tickAll);
     QPushButton* const move = buttons->button(QDialogButtonBox::Ok);

@@ -98,11 +98,12 @@ TryVoicesDialog::~TryVoicesDialog() = default;
 QLayout* TryVoicesDialog::makeFields()
 {
     sentence->setObjectName("voiceSentence");
-    sentence->setToolTip(tr("What all voices of this language say"));
+    sentence->setToolTip(tr("What all voices of this language say; write what your book will say"));
     sentence->setAccessibleName(tr("Sentence"));
     languages->setAccessibleName(tr("Language"));
     languages->setObjectName("voiceLanguage");
-    languages->setToolTip(tr("The language of the other voices"));
+    languages->setToolTip(
+        tr("The language of the voices below those of the script, by age and sex"));
     auto* const form = new QFormLayout;
     form->addRow(tr("&Sentence:"), sentence);
     form->addRow(tr("&Language:"), languages);
@@ -133,8 +134,9 @@ QLayout* TryVoicesDialog::makePlayButtons()
     playAllButton = makeButton("btPlayVoices", tr("Play &all"),
                                tr("Lets one voice after the other say the sentence"),
                                &TryVoicesDialog::playAll);
-    stopButton =
-        makeButton("btStopVoice", tr("S&top"), tr("Ends the sound"), &TryVoicesDialog::stop);
+    stopButton = makeButton("btStopVoice", tr("S&top"),
+                            tr("Ends the sound, also while one voice after the other speaks"),
+                            &TryVoicesDialog::stop);
     auto* const row = new QHBoxLayout;
     row->addWidget(playButton);
     row->addWidget(playAllButton);
@@ -146,7 +148,7 @@ QLayout* TryVoicesDialog::makePlayButtons()
 QLayout* TryVoicesDialog::makeChoice()
 {
     name->setObjectName("voiceName");
-    name->setToolTip(tr("The name of the voice in the script"));
+    name->setToolTip(tr("The name of the voice in the script, which stands behind say"));
     name->setAccessibleName(tr("Name"));
     preview->setObjectName("voiceStatement");
     preview->setTextFormat(Qt::PlainText);
@@ -155,7 +157,8 @@ QLayout* TryVoicesDialog::makeChoice()
     buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Close);
     QPushButton* const insert = buttons->button(QDialogButtonBox::Ok);
     insert->setText(tr("&Insert into the script"));
-    insert->setToolTip(tr("Declares the voice in the script"));
+    insert->setToolTip(
+        tr("Writes the statement below into the script, so that texts can be said by this voice"));
     insert->setAutoDefault(false);
     buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::accepted, this, &TryVoicesDialog::accept);

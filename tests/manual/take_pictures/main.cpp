@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
@@ -137,8 +138,7 @@ private:
         get<QPushButton>("btPickPoly").click();
         clickAt(70, 22);
         take("window-areas");
-        QTest::mouseMove(&get<PolyEditorWidget>("polyArea"), at(70, 22));
-        take("window-corners");
+        takeCorner();
         get<QPushButton>("btAddPoly").click();
         for (const auto& [x, y] : {std::pair(28, 8), {32, 5}, {37, 6}, {40, 10}, {34, 12}}) {
             clickAt(x, y);
@@ -149,6 +149,22 @@ private:
         clickAt(33, 9);
         take("window-magic");
         QTest::keyClick(&get<PolyEditorWidget>("polyArea"), Qt::Key_Escape);
+    }
+
+    // One of the roof, while it is dragged.
+    void takeCorner()
+    {
+        auto& page = get<PolyEditorWidget>("polyArea");
+        QTest::mousePress(&page, Qt::LeftButton, Qt::NoModifier, at(63.3, 13.7));
+        for (const auto& [x, y] : {std::pair(62, 12), {58, 9}, {55, 7}}) {
+            const QPoint to = at(x, y);
+            QMouseEvent move(QEvent::MouseMove, to, page.mapToGlobal(to), Qt::NoButton,
+                             Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&page, &move);
+        }
+        take("window-corners");
+        QTest::keyClick(&page, Qt::Key_Escape);
+        QTest::mouseRelease(&page, Qt::LeftButton, Qt::NoModifier, at(55, 7));
     }
 
     void takeProblems()
