@@ -30,7 +30,7 @@ class ManualTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { cache.reset(new ChangedVariable("XDG_CACHE_HOME", folder.path())); }
+    void initTestCase() { cache.reset(new ChangedVariable(kUserCache, folder.path())); }
     void cleanupTestCase() { cache.reset(); }
 
     void f1OpensThePlaceOfEachTab_data();

@@ -345,7 +345,7 @@ private slots:
     void whatNoTextUsesGoesToTheTrashIfItHasATick()
     {
         FilesWindow w;
-        const ChangedVariable trash{"XDG_DATA_HOME", w.path("data").toStdString()};
+        const ChangedVariable trash{kUserData, w.path("data").toStdString()};
         QVERIFY(QDir().mkdir(w.path("data")));
         for (const char* name : {"say_adam_Moo", "old", "older", "mine"}) {
             w.putAudio(name);
@@ -373,7 +373,7 @@ private slots:
     {
         FilesWindow w;
         w.putFile("data", "no folder");
-        const ChangedVariable trash{"XDG_DATA_HOME", w.path("data").toStdString()};
+        const ChangedVariable trash{kUserData, w.path("data").toStdString()};
         w.putAudio("old");
         QTRY_COMPARE_WITH_TIMEOUT(w.rows(), kNothingSpoken, kPatience);
         w.dialogs.look([](QWidget& dialog) { press(dialog, QDialogButtonBox::Ok); });

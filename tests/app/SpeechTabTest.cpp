@@ -335,7 +335,7 @@ private slots:
     void aRecordingThatIsTakenBackIsInTheTrash()
     {
         SpeechWindow w;
-        ChangedVariable trash{"XDG_DATA_HOME", w.path("data").toStdString()};
+        ChangedVariable trash{kUserData, w.path("data").toStdString()};
         QVERIFY(QDir().mkdir(w.path("data")));
         w.putAudio("say_adam_Moo");
         QTRY_COMPARE_WITH_TIMEOUT(w.rows().value(0), "adam|Moo|2|0.5 s|recorded", kPatience);
@@ -351,7 +351,7 @@ private slots:
     {
         SpeechWindow w;
         writeFile(w.path("data").toStdString(), "no folder");
-        ChangedVariable trash{"XDG_DATA_HOME", w.path("data").toStdString()};
+        ChangedVariable trash{kUserData, w.path("data").toStdString()};
         w.putAudio("say_adam_Moo");
         QTRY_COMPARE_WITH_TIMEOUT(w.rows().value(0), "adam|Moo|2|0.5 s|recorded", kPatience);
         w.clickCell(0, text);

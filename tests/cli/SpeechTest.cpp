@@ -39,8 +39,8 @@ protected:
         all.insert(all.end(), words.begin(), words.end());
         return resultOf(cli(all, {"PATH=" + tools.path() + ":" + PLINKETT_BIN_DIR +
                                       "/tools/text2speech_win:/usr/bin:/bin",
-                                  "XDG_DATA_HOME=" + folder.file("data"),
-                                  "XDG_CONFIG_HOME=" + folder.file("data")}));
+                                  std::string(kUserData) + "=" + folder.file("data"),
+                                  std::string(kUserSettings) + "=" + folder.file("data")}));
     }
 
     std::string audio(const std::string& name) const { return folder.file("901-audio/" + name); }

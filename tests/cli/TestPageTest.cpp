@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/cli/RunCli.h"
+#include "tests/helpers/Environment.h"
 #include "tests/helpers/TemporaryFolder.h"
 
 namespace {
@@ -12,7 +13,8 @@ protected:
     // With settings of its own.
     ProgramRun run(const std::vector<std::string>& words)
     {
-        return cli(words, {"XDG_CONFIG_HOME=" + settings.path(), "TIPTOITOOL="}, folder.path());
+        return cli(words, {std::string(kUserSettings) + "=" + settings.path(), "TIPTOITOOL="},
+                   folder.path());
     }
     static std::string usageError(const std::string& message)
     {

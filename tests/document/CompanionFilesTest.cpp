@@ -52,8 +52,7 @@ protected:
         std::string text;
         for (const char* const part : {"here", "there"}) {
             for (const std::string& name : sortedFiles(folder.file(part))) {
-                const bool old = name.find("here/900-") != std::string::npos &&
-                                 name.find("there") == std::string::npos;
+                const bool old = below(name).find("here/900-") == 0;
                 text += old ? "" : below(name) + ": " + readFile(name) + "\n";
             }
         }
@@ -62,7 +61,7 @@ protected:
 
     std::string below(const std::string& path) const
     {
-        return path.substr(folder.path().size() + 1);
+        return fs::u8path(path.substr(folder.path().size() + 1)).generic_u8string();
     }
 
     const TemporaryFolder folder;
@@ -76,7 +75,7 @@ private:
         std::vector<std::string> names;
         for (const auto& entry : fs::recursive_directory_iterator(top)) {
             if (entry.is_regular_file()) {
-                names.push_back(entry.path().string());
+                names.push_back(entry.path().u8string());
             }
         }
         std::sort(names.begin(), names.end());
@@ -175,7 +174,7 @@ TEST_F(Companions, AudioFilesThatAreThereStay)
 
 TEST_F(Companions, FoldersWithinTheAudioFolderComeAlong)
 {
-    fs::create_directories(folder.file("here/900-audio/songs/K\xC3\xBCken"));
+    fs::create_directories(fs::u8path(folder.file("here/900-audio/songs/K\xC3\xBCken")));
     writeFile(folder.file("here/900-audio/songs/K\xC3\xBCken/la.ogg"), "la!");
     save("there/book.oidpro", 905);
     EXPECT_EQ(readFile(folder.file("there/905-audio/songs/K\xC3\xBCken/la.ogg")), "la!");

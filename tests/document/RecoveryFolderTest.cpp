@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 
+#include "base/PlatformFiles.h"
 #include "tests/helpers/Environment.h"
 
 #include <filesystem>
@@ -54,7 +55,7 @@ protected:
 
 TEST_F(RecoveryFolderTest, LiesInTheUsersDataFolder)
 {
-    EXPECT_EQ(folder.path().toStdString(), userData.recovery());
+    EXPECT_EQ(Platform::nativePath(folder.path().toStdString()), userData.recovery());
 }
 
 TEST_F(RecoveryFolderTest, ACopyIsFoundByItsProject)

@@ -18,11 +18,18 @@ private:
     std::string before;
 };
 
+// The variables that name the folders of the user's data, settings and caches: XDG_DATA_HOME and
+// its like. For programs on Windows it is one, LOCALAPPDATA, with the caches in "cache" below it;
+// that the system goes by it is set up by tools/windows/under-wine.
+extern const char kUserData[];
+extern const char kUserSettings[];
+extern const char kUserCache[];
+
 // While it lives, what this process keeps for its user lies in a folder that is gone afterwards.
 class OwnDataFolder
 {
 public:
-    OwnDataFolder() : variable("XDG_DATA_HOME", folder.path()) {}
+    OwnDataFolder() : variable(kUserData, folder.path()) {}
 
     // The folder of the recovery copies.
     std::string recovery() const { return folder.file("plinkett/recovery"); }

@@ -5,6 +5,10 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+const char kUserData[] = "XDG_DATA_HOME";
+const char kUserSettings[] = "XDG_CONFIG_HOME";
+const char kUserCache[] = "XDG_CACHE_HOME";
+
 static void limitFiles(unsigned long bytes, unsigned long& before)
 {
     rlimit limit = {};

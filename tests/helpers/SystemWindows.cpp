@@ -4,6 +4,10 @@
 
 #include <stdexcept>
 
+const char kUserData[] = "LOCALAPPDATA";
+const char kUserSettings[] = "LOCALAPPDATA";
+const char kUserCache[] = "LOCALAPPDATA";
+
 SmallDisk::SmallDisk(unsigned long bytes) : before(bytes), handlerBefore(nullptr)
 {
     throw std::runtime_error("Windows limits no files");

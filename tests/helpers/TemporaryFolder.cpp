@@ -1,5 +1,7 @@
 #include "tests/helpers/TemporaryFolder.h"
 
+#include "base/PlatformFiles.h"
+
 #include <QDateTime>
 #include <QFile>
 
@@ -19,8 +21,7 @@ TemporaryFolder::TemporaryFolder()
 {
     std::random_device random;
     do {
-        folder = (fs::temp_directory_path() / ("plinkett-" + std::to_string(random())))
-                     .generic_u8string();
+        folder = (fs::temp_directory_path() / ("plinkett-" + std::to_string(random()))).u8string();
     } while (!fs::create_directory(fs::u8path(folder)));
 }
 
@@ -28,6 +29,11 @@ TemporaryFolder::~TemporaryFolder()
 {
     std::error_code ignored;
     fs::remove_all(fs::u8path(folder), ignored);
+}
+
+std::string TemporaryFolder::file(const std::string& name) const
+{
+    return Platform::nativePath(folder + "/" + name);
 }
 
 std::string TemporaryFolder::listing() const

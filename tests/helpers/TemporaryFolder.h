@@ -13,7 +13,7 @@ public:
 
     const std::string& path() const { return folder; }
     // The path of a file in this folder.
-    std::string file(const std::string& name) const { return folder + "/" + name; }
+    std::string file(const std::string& name) const;
     // The names of what lies directly in the folder, sorted and joined by blanks.
     std::string listing() const;
 

@@ -110,7 +110,7 @@ std::string messagesForBackground(const std::string& bytes)
     EXPECT_EQ(readFile(book.printFile()), "an earlier image");
     EXPECT_EQ(book.folder.listing(), "900-bkgnd0.jpg 900-print0.tiff");
     std::string messages = book.messages;
-    strReplace(messages, book.folder.path(), "FOLDER");
+    strReplace(messages, book.backgroundFile(), "FOLDER/900-bkgnd0.jpg");
     return messages;
 }
 

@@ -104,9 +104,10 @@ TEST(PrintFile, QtReadsTheResolutionThatItWouldHaveSaved)
         PrintedBook book(20.0 / dpi * 25.4, 20.0 / dpi * 25.4, dpi);
         book.setBackground(colourfulPicture(20, 20));
         ASSERT_TRUE(book.print()) << book.messages;
-        EXPECT_EQ(book.printed().dotsPerMeterX(), static_cast<int>(dpi * 39.37)) << dpi;
-        EXPECT_EQ(book.printed().dotsPerMeterY(), static_cast<int>(dpi * 39.37)) << dpi;
-        EXPECT_FALSE(book.printed().hasAlphaChannel());
+        const QImage image(QString::fromStdString(book.printFile()));
+        EXPECT_EQ(image.dotsPerMeterX(), static_cast<int>(dpi * 39.37)) << dpi;
+        EXPECT_EQ(image.dotsPerMeterY(), static_cast<int>(dpi * 39.37)) << dpi;
+        EXPECT_FALSE(image.hasAlphaChannel());
     }
 }
 

@@ -36,7 +36,10 @@ public:
     PrintedPages& operator=(const PrintedPages&) = delete;
 
     QString background(int n) const { return path("900-bkgnd" + std::to_string(n) + ".jpg"); }
-    QImage printed(int n) const { return QImage(path("900-print" + std::to_string(n) + ".tiff")); }
+    QImage printed(int n) const
+    {
+        return readTiff(folder.file("900-print" + std::to_string(n) + ".tiff"));
+    }
 
     const TemporaryFolder folder;
     CapturedMessages messages;

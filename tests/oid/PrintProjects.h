@@ -12,6 +12,7 @@
 #include "tests/helpers/TemporaryFolder.h"
 #include "tests/oid/Builders.h"
 #include "tests/oid/PlainPrintImage.h"
+#include "tests/oid/TiffImage.h"
 
 // A book with one picture in a folder of its own, printed by the tests.
 class PrintedBook
@@ -46,7 +47,7 @@ public:
         return written;
     }
 
-    QImage printed() const { return QImage(QString::fromStdString(printFile())); }
+    QImage printed() const { return readTiff(printFile()); }
     // Empty when the book is printed pixel for pixel as the slow way prints it.
     std::string differenceToPlainWay()
     {

@@ -23,9 +23,9 @@ TEST(ProjectReader, AFileThatCannotBeOpenedIsReportedAndLeavesAFreshProject)
     project.projectPath = "before";
     CapturedMessages captured;
     setDefaultPrintf(CapturedMessages::print);
-    EXPECT_FALSE(project.open("no/such/file.oidpro"));
+    EXPECT_FALSE(project.open("none.oidpro"));
     setDefaultPrintf(nullptr);
-    EXPECT_EQ(captured.text(), "Error: Can't open file 'no/such/file.oidpro'\n");
+    EXPECT_EQ(captured.text(), "Error: Can't open file 'none.oidpro'\n");
     EXPECT_TRUE(project.pictures.empty());
     EXPECT_EQ(project.projectPath, "");
 }

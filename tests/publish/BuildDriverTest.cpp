@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include "base/FileSystem.h"
+#include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
 #include "oid/OutputLock.h"
@@ -26,7 +27,9 @@ const std::string kInstructions =
     "I'll have the gme file built for you.\n"
     "-Download tttool for your system from its release page.\n"
     "-Unzip the tool.\n"
-    "-Copy files to /usr/local.\n"
+    "-Copy files to " +
+    Platform::programsFolder() +
+    ".\n"
     "-Set the environment variable TIPTOITOOL to this directory.\n";
 
 // A book with one area, product 900 "Zoo", in a folder of its own, whose texts have their audio
@@ -61,6 +64,25 @@ protected:
     Oid::OidProject project;
     RecordingRunner runner;
     BuildOptions options;
+};
+
+// Where it is found without a variable that tells: on PATH, or, on Windows, in its own folder below
+// ProgramFiles.
+class InstalledTttool
+{
+public:
+    InstalledTttool()
+    {
+        fs::create_directory(programs.file("tttool"));
+        const std::string file = programs.file("tttool/" + programFile("tttool"));
+        writeFile(file, "");
+        fs::permissions(file, fs::perms::owner_all);
+    }
+
+private:
+    const TemporaryFolder programs;
+    const ChangedVariable onPath{"PATH", programs.file("tttool")};
+    const ChangedVariable below{"ProgramFiles", programs.path()};
 };
 
 // The words of a call of our assembler.
@@ -189,7 +211,8 @@ TEST_F(BuildingAGame, AProjectThatWasNeverSavedIsBuiltInTheCurrentFolder)
     project.projectPath = "";
     EXPECT_TRUE(build());
     EXPECT_TRUE(fs::exists(yaml()));
-    EXPECT_THAT(runner.commands, ElementsAre(ours("assemble --quick ./900-Zoo.yaml &")));
+    EXPECT_THAT(runner.commands, ElementsAre(ours("assemble --quick " +
+                                                  Platform::nativePath("./900-Zoo.yaml") + " &")));
 }
 
 TEST_F(BuildingAGame, ADescriptionThatCannotBeWrittenStopsTheBuild)
@@ -224,16 +247,14 @@ TEST_F(BuildingAGame, TheToolFolderStandsAtTheEndOfPathOnlyWhileTttoolStarts)
         return 0;
     };
     build();
-    EXPECT_THAT(during, testing::EndsWith(":/nowhere:/opt/tttool"));
-    EXPECT_EQ(during, Platform::environmentVariable("PATH") + ":/opt/tttool");
+    const std::string behind = Platform::searchPathSeparator + std::string("/opt/tttool");
+    EXPECT_THAT(during, testing::EndsWith("/nowhere" + behind));
+    EXPECT_EQ(during, Platform::environmentVariable("PATH") + behind);
 }
 
 TEST_F(BuildingAGame, AnInstalledTttoolHasPrecedence)
 {
-    const TemporaryFolder tools;
-    writeFile(tools.file("tttool"), "");
-    fs::permissions(tools.file("tttool"), fs::perms::owner_all);
-    Platform::setEnvironmentVariable("PATH", tools.path());
+    const InstalledTttool tttool;
     EXPECT_EQ(standardOutputOf([&] { build(); }), "");
     EXPECT_THAT(runner.commands, ElementsAre(commandWords("tttool assemble \"" + yaml() + "\" &")));
 }
@@ -293,10 +314,7 @@ TEST_F(BuildingAGame, TttoolIsThereWhereTheVariableTellsOrOnPath)
         const ChangedVariable folderOfTool("TIPTOITOOL", "/opt/tttool");
         EXPECT_TRUE(isTttoolThere());
     }
-    const TemporaryFolder tools;
-    writeFile(tools.file("tttool"), "");
-    fs::permissions(tools.file("tttool"), fs::perms::owner_all);
-    const ChangedVariable pathWithTool("PATH", tools.path());
+    const InstalledTttool tttool;
     EXPECT_TRUE(isTttoolThere());
     EXPECT_EQ(Platform::environmentVariable("TIPTOITOOL"), "");
 }

@@ -1,9 +1,11 @@
 #include "publish/SoundFiles.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <gmock/gmock.h>
 
 #include "base/FileSystem.h"
+#include "base/PlatformFiles.h"
 #include "base/PlatformProcess.h"
 #include "oid/OidProject.h"
 #include "sound/SoundFile.h"
@@ -15,11 +17,14 @@
 #include "tests/sound/WavFile.h"
 
 namespace fs = std::filesystem;
+using Platform::nativePath;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace {
+
+const std::string kSeparator(1, Platform::searchPathSeparator);
 
 // A project of the product 900 in a folder of its own, with texts to speak, and stand-ins for the
 // two programs.
@@ -146,9 +151,11 @@ TEST_F(SoundFiles, WithoutTextsOnlyThePathIsChanged)
 
 TEST_F(SoundFiles, TheFoldersOfTheToolsComeFirstOnPathAndOnlyOnce)
 {
-    Platform::setEnvironmentVariable("PATH", "/bin:/usr/bin");
+    const std::string before = "/bin" + kSeparator + "/usr/bin";
+    Platform::setEnvironmentVariable("PATH", before);
     const std::string tools = FileSystem::exeDirectory() + "/tools/";
-    const std::string expected = tools + "text2speech_win:" + tools + "ffmpeg/bin:/bin:/usr/bin";
+    const std::string expected = nativePath(tools + "text2speech_win") + kSeparator +
+                                 nativePath(tools + "ffmpeg/bin") + kSeparator + before;
     create();
     EXPECT_EQ(Platform::searchPath(), expected);
     create();
@@ -157,8 +164,9 @@ TEST_F(SoundFiles, TheFoldersOfTheToolsComeFirstOnPathAndOnlyOnce)
 
 TEST_F(SoundFiles, AnotherSynthesiserMayStandBeforeOursOnPath)
 {
-    const std::string path =
-        "/my/tools:" + FileSystem::exeDirectory() + "/tools/text2speech_win:/bin";
+    const std::string path = "/my/tools" + kSeparator +
+                             nativePath(FileSystem::exeDirectory() + "/tools/text2speech_win") +
+                             kSeparator + "/bin";
     Platform::setEnvironmentVariable("PATH", path);
     create();
     EXPECT_EQ(Platform::searchPath(), path);
@@ -640,7 +648,8 @@ TEST_F(SoundFiles, ALongTextIsNotCutWithinACharacter)
 
 TEST_F(SoundFiles, ATextOfAHundredThousandLettersIsHandedOver)
 {
-    say("_welcome_message_text", "eve", std::string(100000, 'x'));
+    const std::size_t size = std::min<std::size_t>(100000, Platform::longestArgument);
+    say("_welcome_message_text", "eve", std::string(size, 'x'));
     EXPECT_EQ(create(), SpeechOutcome::complete);
 }
 

@@ -1,6 +1,7 @@
 #include "recording/BookSounds.h"
 
 #include "base/FileSystem.h"
+#include "base/PlatformFiles.h"
 #include "recording/ReadSound.h"
 #include "recording/VoiceFile.h"
 #include "tests/helpers/Environment.h"
@@ -12,6 +13,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
+using Platform::nativePath;
 using recording::FileReport;
 using recording::Places;
 using Done = FileReport::Done;
@@ -100,7 +102,7 @@ TEST_F(BookSoundsTest, AFileBecomesAVoiceAndIsKeptAsItWas)
     EXPECT_EQ(report.text.toStdString(), "Moo.ogg: -16.0 LUFS, before -43.7 LUFS");
     EXPECT_EQ(listing(), "Moo.ogg originals");
     expectVoice(audio("Moo.ogg"));
-    EXPECT_EQ(report.keptSource, original("Moo.wav"));
+    EXPECT_EQ(nativePath(report.keptSource), original("Moo.wav"));
     EXPECT_EQ(readFile(original("Moo.wav")), readFile(wav));
     EXPECT_EQ(report.keptEarlier, "");
 }
@@ -152,8 +154,8 @@ TEST_F(BookSoundsTest, WhatIsReplacedIsKeptAndNothingThatIsKeptIsOverwritten)
     EXPECT_EQ(originals(), "Moo-2.ogg Moo-2.wav Moo.ogg Moo.wav");
     EXPECT_EQ(readFile(original("Moo.ogg")), "the first voice");
     EXPECT_EQ(readFile(original("Moo-2.ogg")), second);
-    EXPECT_EQ(report.keptSource, original("Moo-2.wav"));
-    EXPECT_EQ(report.keptEarlier, original("Moo-2.ogg"));
+    EXPECT_EQ(nativePath(report.keptSource), original("Moo-2.wav"));
+    EXPECT_EQ(nativePath(report.keptEarlier), original("Moo-2.ogg"));
 }
 
 TEST_F(BookSoundsTest, TheSameOriginalIsKeptOnce)
@@ -174,7 +176,7 @@ TEST_F(BookSoundsTest, ARecordingIsKeptWholeAndItsVoiceIsWhatWasTrimmed)
     EXPECT_EQ(report.done, Done::written) << report.text.toStdString();
     expectVoice(audio("Moo.ogg"));
     EXPECT_LT(recording::readSound(audio("Moo.ogg")).sound.seconds(), 2.3);
-    EXPECT_EQ(report.keptSource, original("Moo.flac"));
+    EXPECT_EQ(nativePath(report.keptSource), original("Moo.flac"));
     const MonoSound kept = recording::soundOfFile(readFile(original("Moo.flac")));
     ASSERT_EQ(kept.samples.size(), sound.samples.size());
     for (size_t i = 0; i < sound.samples.size(); ++i) {

@@ -25,8 +25,8 @@ public:
 
     TemporaryFolder programs;
     ChangedVariable searchPath{"PATH", programs.path() + ":/usr/bin:/bin"};
-    ChangedVariable cache{"XDG_CACHE_HOME", programs.file("cache")};
-    ChangedVariable settings{"XDG_CONFIG_HOME", programs.file("settings")};
+    ChangedVariable cache{kUserCache, programs.file("cache")};
+    ChangedVariable settings{kUserSettings, programs.file("settings")};
     ChangedVariable driver{"SDL_AUDIODRIVER", "disk"};
     ChangedVariable output{"SDL_DISKAUDIOFILE", programs.file("heard.raw")};
 };

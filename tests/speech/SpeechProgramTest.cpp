@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include "base/PlatformFiles.h"
+
 using testing::ElementsAre;
 
 namespace {
@@ -20,8 +22,8 @@ TEST(SpeechProgram, SpeedAndPitchAreNoArguments)
 {
     const ProgramCall call = callToSpeak("Moo", fastVoice(), "a\\b.wav", false);
     EXPECT_EQ(call.program, "Text2Speech.exe");
-    EXPECT_THAT(call.arguments,
-                ElementsAre("-q", "-v", "en", "-a", "30", "-g", "m", "-f", "a/b.wav", "-t", "Moo"));
+    EXPECT_THAT(call.arguments, ElementsAre("-q", "-v", "en", "-a", "30", "-g", "m", "-f",
+                                            Platform::nativePath("a/b.wav"), "-t", "Moo"));
 }
 
 TEST(SpeechProgram, SpeedAndPitchAreInTheEnvironment)

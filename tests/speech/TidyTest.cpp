@@ -46,7 +46,7 @@ TEST(Tidying, AFolderThatIsNotThereIsTidy)
 TEST(Tidying, WhatIsMovedToTheTrashCanBeTakenBack)
 {
     const TemporaryFolder folder;
-    const ChangedVariable trash("XDG_DATA_HOME", folder.file("data"));
+    const ChangedVariable trash(kUserData, folder.file("data"));
     fs::create_directory(folder.file("data"));
     writeFile(folder.file("old.ogg"), "sound");
     EXPECT_TRUE(moveToTrash(folder.file("old.ogg")));
@@ -58,7 +58,7 @@ TEST(Tidying, WithoutATrashTheFileStays)
 {
     const TemporaryFolder folder;
     writeFile(folder.file("data"), "no folder");
-    const ChangedVariable trash("XDG_DATA_HOME", folder.file("data"));
+    const ChangedVariable trash(kUserData, folder.file("data"));
     writeFile(folder.file("old.ogg"), "sound");
     fs::create_directory(folder.file("here"));
     const std::string before = Platform::currentDirectory();
@@ -72,7 +72,7 @@ TEST(Tidying, WithoutATrashTheFileStays)
 TEST(Tidying, TheTrashIsMadeWhereThereIsNoneYet)
 {
     const TemporaryFolder folder;
-    const ChangedVariable trash("XDG_DATA_HOME", folder.file("new/data"));
+    const ChangedVariable trash(kUserData, folder.file("new/data"));
     writeFile(folder.file("old.ogg"), "sound");
     EXPECT_TRUE(moveToTrash(folder.file("old.ogg")));
     EXPECT_EQ(readFile(folder.file("new/data/Trash/files/old.ogg")), "sound");

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include "base/PlatformProcess.h"
+#include "tests/helpers/Environment.h"
 #include "tests/helpers/FakeProgram.h"
 #include "tests/helpers/RunProgram.h"
 #include "tests/helpers/Sound.h"
@@ -15,6 +17,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
+const std::string kSeparator(1, Platform::searchPathSeparator);
 const std::string kProgram = PLINKETT_BIN_DIR "/tools/text2speech_win/Text2Speech";
 const std::string kSentence = "The cow lives on the green meadow behind our farm house.";
 
@@ -50,7 +53,7 @@ protected:
                    std::vector<std::string> environment = {}) const
     {
         environment.insert(environment.begin(),
-                           {"XDG_CONFIG_HOME=" + settings.path(), "PATH=" + path});
+                           {std::string(kUserSettings) + "=" + settings.path(), "PATH=" + path});
         return runProgram(kProgram, words, environment, folder.path());
     }
 
@@ -92,7 +95,7 @@ protected:
     const TemporaryFolder settings;
     const TemporaryFolder tools;
     const std::string settingsFile = settings.file("plinkett/engines.ini");
-    const std::string path = tools.path() + ":/usr/bin:/bin";
+    const std::string path = tools.path() + kSeparator + "/usr/bin" + kSeparator + "/bin";
     const FakeProgram talker{tools.path(), "talker"};
 };
 
@@ -207,7 +210,7 @@ TEST_F(OtherEngine, TheFileBesideTheProgramCountsWhereTheUserHasNone)
     fs::copy_file(kProgram, copy);
     writeFile(tools.file("engines.ini"), "[en]\ncommand = beside\n[de]\ncommand = beside\n");
     set("[en]\ncommand = users\n");
-    const std::string home = "XDG_CONFIG_HOME=" + settings.path();
+    const std::string home = std::string(kUserSettings) + "=" + settings.path();
     EXPECT_EQ(resultOf(runProgram(copy, {"-e", "-v", "en"}, {home})), "status 0\nusers\n");
     EXPECT_EQ(resultOf(runProgram(copy, {"-e", "-v", "de"}, {home})), "status 0\nbeside\n");
 }

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "base/PlatformProcess.h"
+#include "tests/helpers/Environment.h"
 #include "tests/helpers/FakeProgram.h"
 #include "tests/helpers/RunProgram.h"
 #include "tests/helpers/Sound.h"
@@ -32,7 +33,8 @@ protected:
     ProgramRun run(const std::vector<std::string>& words,
                    std::vector<std::string> environment = {}) const
     {
-        environment.push_back("XDG_CONFIG_HOME=" + settings.path());  // no other engines
+        environment.push_back(std::string(kUserSettings) + "=" +
+                              settings.path());  // no other engines
         return runProgram(kProgram, words, environment, folder.path());
     }
 
