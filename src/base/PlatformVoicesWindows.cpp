@@ -240,7 +240,10 @@ std::vector<SystemVoice> systemVoices()
     const ComLibrary library;
     std::vector<SystemVoice> voices;
     for (const Token& token : allTokens()) {
-        voices.push_back(describe(*token.get()));
+        SystemVoice voice = describe(*token.get());
+        if (!voice.languages.empty()) {  // else nobody could ask for it
+            voices.push_back(std::move(voice));
+        }
     }
     return voices;
 }
