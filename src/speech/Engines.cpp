@@ -2,6 +2,7 @@
 
 #include <QStandardPaths>
 
+#include "base/PlatformFiles.h"
 #include "base/TextHelpers.h"
 #include "speech/SpeechProgram.h"
 
@@ -83,7 +84,8 @@ std::vector<std::string> engineFiles(const std::string& speechProgramFolder)
 {
     const QString settings =
         QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    return {settings.toStdString() + "/plinkett/engines.ini", speechProgramFolder + "/engines.ini"};
+    return {Platform::nativePath(settings.toStdString() + "/plinkett/engines.ini"),
+            speechProgramFolder + "/engines.ini"};
 }
 
 Engines currentEngines()
