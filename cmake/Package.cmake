@@ -50,7 +50,8 @@ configure_file(${CMAKE_SOURCE_DIR}/cmake/debian/copyright.in ${packaging}/copyri
 configure_file(${CMAKE_SOURCE_DIR}/cmake/debian/changelog.in ${packaging}/changelog.Debian @ONLY)
 plinkett_compressed(changelog.Debian ${packaging}/changelog.Debian share/doc/plinkett)
 plinkett_compressed(changelog ${CMAKE_SOURCE_DIR}/CHANGELOG.md share/doc/plinkett)
-install(FILES ${packaging}/copyright DESTINATION share/doc/plinkett)
+install(FILES ${packaging}/copyright ${CMAKE_SOURCE_DIR}/cmake/debian/README.Debian
+        DESTINATION share/doc/plinkett)
 install(FILES ${CMAKE_SOURCE_DIR}/cmake/debian/lintian-overrides
         DESTINATION share/lintian/overrides RENAME plinkett)
 
