@@ -6,6 +6,7 @@
 #include "app/SideDocks.h"
 #include "base/FileSystem.h"
 #include "base/PlatformFiles.h"
+#include "document/NewPage.h"
 #include "oid/PictureFile.h"
 #include "page/PageScrollArea.h"
 #include "ui_MainWindow.h"
@@ -54,13 +55,7 @@ void MainWindow::on_btNextPicture_clicked()
     if (!chosen) {
         return;
     }
-    constexpr double kDotsPerMetre = 39.37;  // of one dot per inch
-    const QImage& image = chosen->image();
-    Oid::PICTURE picture;
-    picture.paperWidth = image.widthMM();
-    picture.paperHeight = image.heightMM();
-    picture.dpi = static_cast<int>(image.dotsPerMeterX() / kDotsPerMetre + 0.4444);
-    if (keepPicture(edit::AddPage{picture, chosen->file()})) {
+    if (keepPicture(newPage(*chosen))) {
         showPicture(count);
     }
 }
