@@ -8,10 +8,9 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include <set>
-
 namespace {
 
+const QDir::Filters kAll = QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot;
 constexpr int kNoNumber = 0;
 constexpr qint64 kLongestLine = 1024;  // bytes, as the reader of projects has it
 constexpr int kFirstNumber = 900;      // from here on home-made books have theirs
@@ -71,14 +70,14 @@ QStringList projectsOfSameNumber(const std::string& projectPath, int number)
     return names;
 }
 
-int nextFreeNumber(const std::string& projectPath)
+int nextFreeNumber(const std::string& projectPath, const std::set<int>& ofOthers)
 {
     const QDir folder = fileInfo(projectPath).absoluteDir();
-    std::set<int> taken;
+    std::set<int> taken = ofOthers;
     for (const QFileInfo& project : projectsIn(folder)) {
         taken.insert(numberOfProject(project.filePath()));
     }
-    for (const QString& name : folder.entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot)) {
+    for (const QString& name : folder.entryList(kAll)) {
         taken.insert(numberOfFile(name));
     }
     for (int number = kFirstNumber; number <= kLastNumber; ++number) {
@@ -87,4 +86,20 @@ int nextFreeNumber(const std::string& projectPath)
         }
     }
     return kNoNumber;
+}
+
+int numberOfBook(const std::string& projectPath)
+{
+    return numberOfProject(fileInfo(projectPath).filePath());
+}
+
+QStringList filesOfNumber(const QString& folder, int number)
+{
+    QStringList names;
+    for (const QString& name : QDir(folder).entryList(kAll, QDir::Name)) {
+        if (numberOfFile(name) == number) {
+            names << name;
+        }
+    }
+    return names;
 }

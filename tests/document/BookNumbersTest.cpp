@@ -73,3 +73,29 @@ TEST(BookNumbers, WhenAllAreTakenThereIsNone)
     }
     EXPECT_EQ(nextFreeNumber(folder.file("book.oidpro")), 0);
 }
+
+TEST(BookNumbers, ANumberOfAnotherBookIsNotFree)
+{
+    const TemporaryFolder folder;
+    writeProject(folder, "zoo.oidpro", 901);
+    EXPECT_EQ(nextFreeNumber(folder.file("book.oidpro"), {900, 902}), 903);
+}
+
+TEST(BookNumbers, TheNumberOfABookIsRead)
+{
+    const TemporaryFolder folder;
+    writeProject(folder, "zoo.oidpro", 917);
+    EXPECT_EQ(numberOfBook(folder.file("zoo.oidpro")), 917);
+    EXPECT_EQ(numberOfBook(folder.file("missing.oidpro")), 0);
+}
+
+TEST(BookNumbers, FilesAreFoundByTheirNumber)
+{
+    const TemporaryFolder folder;
+    for (const char* const name : {"900-bkgnd1.jpg", "900-bkgnd0.jpg", "9000-bkgnd0.jpg", "900"}) {
+        writeFile(folder.file(name), "");
+    }
+    std::filesystem::create_directory(folder.file("900-audio"));
+    EXPECT_EQ(filesOfNumber(QString::fromStdString(folder.path()), 900).join(' ').toStdString(),
+              "900-audio 900-bkgnd0.jpg 900-bkgnd1.jpg");
+}
