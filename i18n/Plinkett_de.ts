@@ -1028,6 +1028,30 @@
         <translation>Bild importieren</translation>
     </message>
     <message>
+        <source>Pictures of the pages</source>
+        <translation>Bilder der Seiten</translation>
+    </message>
+    <message>
+        <source>New book...</source>
+        <translation>Neues Buch...</translation>
+    </message>
+    <message>
+        <source>Makes a book with the pictures of its pages (%1)</source>
+        <translation>Legt ein Buch mit den Bildern seiner Seiten an (%1)</translation>
+    </message>
+    <message>
+        <source>Folder for your copy of the book</source>
+        <translation>Ordner für Ihre Kopie des Buchs</translation>
+    </message>
+    <message>
+        <source>The book could not be copied to %1.</source>
+        <translation>Das Buch konnte nicht nach %1 kopiert werden.</translation>
+    </message>
+    <message>
+        <source>Your copy of the book lies in %1.</source>
+        <translation>Ihre Kopie des Buchs liegt in %1.</translation>
+    </message>
+    <message>
         <source>Picture files (*.png; *.jpg; *.jpeg; *.bmp)</source>
         <translation>Bilddateien (*.png; *.jpg; *.jpeg; *.bmp)</translation>
     </message>
@@ -1146,6 +1170,172 @@
     <message>
         <source>Delete removes page %1, and Undo brings it back.</source>
         <translation>Entf entfernt Seite %1, und Rückgängig bringt sie wieder.</translation>
+    </message>
+</context>
+<context>
+    <name>NewBook</name>
+    <message>
+        <source>The book needs a name.</source>
+        <translation>Das Buch braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>The number must be from %1 to %2.</source>
+        <translation>Die Nummer muss zwischen %1 und %2 liegen.</translation>
+    </message>
+    <message>
+        <source>The book needs a folder.</source>
+        <translation>Das Buch braucht einen Ordner.</translation>
+    </message>
+    <message>
+        <source>The folder needs its whole path.</source>
+        <translation>Der Ordner braucht seinen ganzen Pfad.</translation>
+    </message>
+    <message>
+        <source>%1 is a file and no folder.</source>
+        <translation>%1 ist eine Datei und kein Ordner.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into the folder %1.</source>
+        <translation>In den Ordner %1 kann nichts geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>There is a book already: %1. Take another name or folder.</source>
+        <translation>Dort ist schon ein Buch: %1. Nehmen Sie einen anderen Namen oder Ordner.</translation>
+    </message>
+    <message>
+        <source>The book %1 in this folder has the number %2, too. Take another number or folder.</source>
+        <translation>Auch das Buch %1 in diesem Ordner hat die Nummer %2. Nehmen Sie eine andere Nummer oder einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>In this folder is %1, which belongs to a book of the number %2. Take another number or folder.</source>
+        <translation>In diesem Ordner liegt %1, das zu einem Buch mit der Nummer %2 gehört. Nehmen Sie eine andere Nummer oder einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>%1 is no picture, or cannot be read.</source>
+        <translation>%1 ist kein Bild oder kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The picture %1 cannot be kept in the folder of the book.</source>
+        <translation>Das Bild %1 kann nicht im Ordner des Buchs aufbewahrt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>NewBookDialog</name>
+    <message>
+        <source>New book</source>
+        <translation>Neues Buch</translation>
+    </message>
+    <message>
+        <source>Make the book</source>
+        <translation>Buch anlegen</translation>
+    </message>
+    <message>
+        <source>The name of the book, which the pen says when it is switched on</source>
+        <translation>Der Name des Buchs, den der Stift beim Einschalten sagt</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>%1 to %2, another one for each book on the pen; 900 to 950 are for books of your own</source>
+        <translation>%1 bis %2, für jedes Buch auf dem Stift eine andere; 900 bis 950 sind für selbst gemachte Bücher</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>Nummer:</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Ordner:</translation>
+    </message>
+    <message>
+        <source>Pictures of the pages, which can also come later:</source>
+        <translation>Bilder der Seiten, die auch später kommen können:</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Where all files of the book lie; it is made when it is not there</source>
+        <translation>Wo alle Dateien des Buchs liegen; er wird angelegt, wenn es ihn nicht gibt</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Wählen...</translation>
+    </message>
+    <message>
+        <source>Chooses a folder that is there</source>
+        <translation>Wählt einen Ordner, den es schon gibt</translation>
+    </message>
+    <message>
+        <source>Pictures of the pages</source>
+        <translation>Bilder der Seiten</translation>
+    </message>
+    <message>
+        <source>Add...</source>
+        <translation>Hinzufügen...</translation>
+    </message>
+    <message>
+        <source>Adds picture files, several at once</source>
+        <translation>Fügt Bilddateien hinzu, mehrere auf einmal</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Moves the picture to the page before</source>
+        <translation>Setzt das Bild auf die Seite davor</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Moves the picture to the next page</source>
+        <translation>Setzt das Bild auf die nächste Seite</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Takes the picture off this list; its file stays</source>
+        <translation>Nimmt das Bild aus dieser Liste; seine Datei bleibt</translation>
+    </message>
+    <message>
+        <source>Folder of the book</source>
+        <translation>Ordner des Buchs</translation>
+    </message>
+    <message>
+        <source>No picture, so it is not in the list: %1</source>
+        <translation>Kein Bild, darum nicht in der Liste: %1</translation>
+    </message>
+    <message>
+        <source>The book %1 has this number, too: they cannot both be on the pen.</source>
+        <translation>Auch das Buch %1 hat diese Nummer: Beide zusammen können nicht auf dem Stift sein.</translation>
+    </message>
+    <message>
+        <source>Making the book...</source>
+        <translation>Das Buch wird angelegt...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was made.</source>
+        <translation>Abgebrochen: Es wurde nichts angelegt.</translation>
     </message>
 </context>
 <context>
@@ -2043,6 +2233,73 @@
     <message>
         <source>%1 of %2 s are kept</source>
         <translation>%1 von %2 s bleiben</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Welcome</source>
+        <translation>Willkommen</translation>
+    </message>
+    <message>
+        <source>Begin with a book</source>
+        <translation>Mit einem Buch beginnen</translation>
+    </message>
+    <message>
+        <source>New book...</source>
+        <translation>Neues Buch...</translation>
+    </message>
+    <message>
+        <source>Asks for name, number, folder and pictures, and makes the book</source>
+        <translation>Fragt nach Name, Nummer, Ordner und Bildern und legt das Buch an</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>Öffnen...</translation>
+    </message>
+    <message>
+        <source>Opens a project that is there</source>
+        <translation>Öffnet ein Projekt, das es schon gibt</translation>
+    </message>
+    <message>
+        <source>Sample books, to try out and to change</source>
+        <translation>Beispielbücher zum Ausprobieren und Ändern</translation>
+    </message>
+    <message>
+        <source>Last books</source>
+        <translation>Letzte Bücher</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>Aus der Liste entfernen</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Takes the book off this list; its files stay (Delete)</source>
+        <translation>Nimmt das Buch aus dieser Liste; seine Dateien bleiben (Entf)</translation>
+    </message>
+    <message>
+        <source>Copies this sample book to a folder of yours, and opens the copy</source>
+        <translation>Kopiert dieses Beispielbuch in einen Ihrer Ordner und öffnet die Kopie</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 (not there any more)</source>
+        <translation>%1 in %2 (nicht mehr da)</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more. It can be removed from the list.</source>
+        <translation>%1 ist nicht mehr da. Das Buch kann aus der Liste entfernt werden.</translation>
+    </message>
+    <message>
+        <source>%1 is off the list.</source>
+        <translation>%1 steht nicht mehr in der Liste.</translation>
     </message>
 </context>
 <context>

@@ -1028,6 +1028,30 @@
         <translation>Import Picture</translation>
     </message>
     <message>
+        <source>Pictures of the pages</source>
+        <translation>Pictures of the pages</translation>
+    </message>
+    <message>
+        <source>New book...</source>
+        <translation>New book...</translation>
+    </message>
+    <message>
+        <source>Makes a book with the pictures of its pages (%1)</source>
+        <translation>Makes a book with the pictures of its pages (%1)</translation>
+    </message>
+    <message>
+        <source>Folder for your copy of the book</source>
+        <translation>Folder for your copy of the book</translation>
+    </message>
+    <message>
+        <source>The book could not be copied to %1.</source>
+        <translation>The book could not be copied to %1.</translation>
+    </message>
+    <message>
+        <source>Your copy of the book lies in %1.</source>
+        <translation>Your copy of the book lies in %1.</translation>
+    </message>
+    <message>
         <source>Picture files (*.png; *.jpg; *.jpeg; *.bmp)</source>
         <translation>Picture files (*.png; *.jpg; *.jpeg; *.bmp)</translation>
     </message>
@@ -1146,6 +1170,172 @@
     <message>
         <source>Delete removes page %1, and Undo brings it back.</source>
         <translation>Delete removes page %1, and Undo brings it back.</translation>
+    </message>
+</context>
+<context>
+    <name>NewBook</name>
+    <message>
+        <source>The book needs a name.</source>
+        <translation>The book needs a name.</translation>
+    </message>
+    <message>
+        <source>The number must be from %1 to %2.</source>
+        <translation>The number must be from %1 to %2.</translation>
+    </message>
+    <message>
+        <source>The book needs a folder.</source>
+        <translation>The book needs a folder.</translation>
+    </message>
+    <message>
+        <source>The folder needs its whole path.</source>
+        <translation>The folder needs its whole path.</translation>
+    </message>
+    <message>
+        <source>%1 is a file and no folder.</source>
+        <translation>%1 is a file and no folder.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into the folder %1.</source>
+        <translation>Nothing can be written into the folder %1.</translation>
+    </message>
+    <message>
+        <source>There is a book already: %1. Take another name or folder.</source>
+        <translation>There is a book already: %1. Take another name or folder.</translation>
+    </message>
+    <message>
+        <source>The book %1 in this folder has the number %2, too. Take another number or folder.</source>
+        <translation>The book %1 in this folder has the number %2, too. Take another number or folder.</translation>
+    </message>
+    <message>
+        <source>In this folder is %1, which belongs to a book of the number %2. Take another number or folder.</source>
+        <translation>In this folder is %1, which belongs to a book of the number %2. Take another number or folder.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>The folder %1 cannot be made.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 cannot be written.</translation>
+    </message>
+    <message>
+        <source>%1 is no picture, or cannot be read.</source>
+        <translation>%1 is no picture, or cannot be read.</translation>
+    </message>
+    <message>
+        <source>The picture %1 cannot be kept in the folder of the book.</source>
+        <translation>The picture %1 cannot be kept in the folder of the book.</translation>
+    </message>
+</context>
+<context>
+    <name>NewBookDialog</name>
+    <message>
+        <source>New book</source>
+        <translation>New book</translation>
+    </message>
+    <message>
+        <source>Make the book</source>
+        <translation>Make the book</translation>
+    </message>
+    <message>
+        <source>The name of the book, which the pen says when it is switched on</source>
+        <translation>The name of the book, which the pen says when it is switched on</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>%1 to %2, another one for each book on the pen; 900 to 950 are for books of your own</source>
+        <translation>%1 to %2, another one for each book on the pen; 900 to 950 are for books of your own</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>Number:</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Folder:</translation>
+    </message>
+    <message>
+        <source>Pictures of the pages, which can also come later:</source>
+        <translation>Pictures of the pages, which can also come later:</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>Where all files of the book lie; it is made when it is not there</source>
+        <translation>Where all files of the book lie; it is made when it is not there</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Choose...</translation>
+    </message>
+    <message>
+        <source>Chooses a folder that is there</source>
+        <translation>Chooses a folder that is there</translation>
+    </message>
+    <message>
+        <source>Pictures of the pages</source>
+        <translation>Pictures of the pages</translation>
+    </message>
+    <message>
+        <source>Add...</source>
+        <translation>Add...</translation>
+    </message>
+    <message>
+        <source>Adds picture files, several at once</source>
+        <translation>Adds picture files, several at once</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Up</translation>
+    </message>
+    <message>
+        <source>Moves the picture to the page before</source>
+        <translation>Moves the picture to the page before</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Down</translation>
+    </message>
+    <message>
+        <source>Moves the picture to the next page</source>
+        <translation>Moves the picture to the next page</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Takes the picture off this list; its file stays</source>
+        <translation>Takes the picture off this list; its file stays</translation>
+    </message>
+    <message>
+        <source>Folder of the book</source>
+        <translation>Folder of the book</translation>
+    </message>
+    <message>
+        <source>No picture, so it is not in the list: %1</source>
+        <translation>No picture, so it is not in the list: %1</translation>
+    </message>
+    <message>
+        <source>The book %1 has this number, too: they cannot both be on the pen.</source>
+        <translation>The book %1 has this number, too: they cannot both be on the pen.</translation>
+    </message>
+    <message>
+        <source>Making the book...</source>
+        <translation>Making the book...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was made.</source>
+        <translation>Cancelled: nothing was made.</translation>
     </message>
 </context>
 <context>
@@ -2043,6 +2233,73 @@
     <message>
         <source>%1 of %2 s are kept</source>
         <translation>%1 of %2 s are kept</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Welcome</source>
+        <translation>Welcome</translation>
+    </message>
+    <message>
+        <source>Begin with a book</source>
+        <translation>Begin with a book</translation>
+    </message>
+    <message>
+        <source>New book...</source>
+        <translation>New book...</translation>
+    </message>
+    <message>
+        <source>Asks for name, number, folder and pictures, and makes the book</source>
+        <translation>Asks for name, number, folder and pictures, and makes the book</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>Open...</translation>
+    </message>
+    <message>
+        <source>Opens a project that is there</source>
+        <translation>Opens a project that is there</translation>
+    </message>
+    <message>
+        <source>Sample books, to try out and to change</source>
+        <translation>Sample books, to try out and to change</translation>
+    </message>
+    <message>
+        <source>Last books</source>
+        <translation>Last books</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>Remove from the list</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Takes the book off this list; its files stay (Delete)</source>
+        <translation>Takes the book off this list; its files stay (Delete)</translation>
+    </message>
+    <message>
+        <source>Copies this sample book to a folder of yours, and opens the copy</source>
+        <translation>Copies this sample book to a folder of yours, and opens the copy</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 (not there any more)</source>
+        <translation>%1 in %2 (not there any more)</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more. It can be removed from the list.</source>
+        <translation>%1 is not there any more. It can be removed from the list.</translation>
+    </message>
+    <message>
+        <source>%1 is off the list.</source>
+        <translation>%1 is off the list.</translation>
     </message>
 </context>
 <context>

@@ -1028,6 +1028,30 @@
         <translation>Importer une image</translation>
     </message>
     <message>
+        <source>Pictures of the pages</source>
+        <translation>Images des pages</translation>
+    </message>
+    <message>
+        <source>New book...</source>
+        <translation>Nouveau livre...</translation>
+    </message>
+    <message>
+        <source>Makes a book with the pictures of its pages (%1)</source>
+        <translation>Crée un livre avec les images de ses pages (%1)</translation>
+    </message>
+    <message>
+        <source>Folder for your copy of the book</source>
+        <translation>Dossier pour votre copie du livre</translation>
+    </message>
+    <message>
+        <source>The book could not be copied to %1.</source>
+        <translation>Le livre n&apos;a pas pu être copié dans %1.</translation>
+    </message>
+    <message>
+        <source>Your copy of the book lies in %1.</source>
+        <translation>Votre copie du livre se trouve dans %1.</translation>
+    </message>
+    <message>
         <source>Picture files (*.png; *.jpg; *.jpeg; *.bmp)</source>
         <translation>Fichiers d&apos;image (*.png; *.jpg; *.jpeg; *.bmp)</translation>
     </message>
@@ -1146,6 +1170,172 @@
     <message>
         <source>Delete removes page %1, and Undo brings it back.</source>
         <translation>Suppr supprime la page %1, et Annuler la rétablit.</translation>
+    </message>
+</context>
+<context>
+    <name>NewBook</name>
+    <message>
+        <source>The book needs a name.</source>
+        <translation>Le livre a besoin d’un nom.</translation>
+    </message>
+    <message>
+        <source>The number must be from %1 to %2.</source>
+        <translation>Le numéro doit être compris entre %1 et %2.</translation>
+    </message>
+    <message>
+        <source>The book needs a folder.</source>
+        <translation>Le livre a besoin d’un dossier.</translation>
+    </message>
+    <message>
+        <source>The folder needs its whole path.</source>
+        <translation>Le dossier doit être indiqué avec son chemin complet.</translation>
+    </message>
+    <message>
+        <source>%1 is a file and no folder.</source>
+        <translation>%1 est un fichier et non un dossier.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into the folder %1.</source>
+        <translation>Rien ne peut être écrit dans le dossier %1.</translation>
+    </message>
+    <message>
+        <source>There is a book already: %1. Take another name or folder.</source>
+        <translation>Il y a déjà un livre : %1. Prenez un autre nom ou un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The book %1 in this folder has the number %2, too. Take another number or folder.</source>
+        <translation>Le livre %1 de ce dossier a aussi le numéro %2. Prenez un autre numéro ou un autre dossier.</translation>
+    </message>
+    <message>
+        <source>In this folder is %1, which belongs to a book of the number %2. Take another number or folder.</source>
+        <translation>Ce dossier contient %1, qui appartient à un livre portant le numéro %2. Prenez un autre numéro ou un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Le dossier %1 ne peut pas être créé.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>%1 is no picture, or cannot be read.</source>
+        <translation>%1 n&apos;est pas une image ou ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>The picture %1 cannot be kept in the folder of the book.</source>
+        <translation>L&apos;image %1 ne peut pas être conservée dans le dossier du livre.</translation>
+    </message>
+</context>
+<context>
+    <name>NewBookDialog</name>
+    <message>
+        <source>New book</source>
+        <translation>Nouveau livre</translation>
+    </message>
+    <message>
+        <source>Make the book</source>
+        <translation>Créer le livre</translation>
+    </message>
+    <message>
+        <source>The name of the book, which the pen says when it is switched on</source>
+        <translation>Le nom du livre, que le stylo dit à la mise en marche</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nom :</translation>
+    </message>
+    <message>
+        <source>%1 to %2, another one for each book on the pen; 900 to 950 are for books of your own</source>
+        <translation>De %1 à %2, un autre pour chaque livre du stylo ; 900 à 950 sont pour vos propres livres</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>Numéro :</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Dossier :</translation>
+    </message>
+    <message>
+        <source>Pictures of the pages, which can also come later:</source>
+        <translation>Images des pages, qui peuvent aussi venir plus tard :</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Where all files of the book lie; it is made when it is not there</source>
+        <translation>Où se trouvent tous les fichiers du livre ; il est créé s&apos;il n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Choisir...</translation>
+    </message>
+    <message>
+        <source>Chooses a folder that is there</source>
+        <translation>Choisit un dossier qui existe</translation>
+    </message>
+    <message>
+        <source>Pictures of the pages</source>
+        <translation>Images des pages</translation>
+    </message>
+    <message>
+        <source>Add...</source>
+        <translation>Ajouter...</translation>
+    </message>
+    <message>
+        <source>Adds picture files, several at once</source>
+        <translation>Ajoute des fichiers d&apos;images, plusieurs à la fois</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Vers le haut</translation>
+    </message>
+    <message>
+        <source>Moves the picture to the page before</source>
+        <translation>Déplace l&apos;image à la page précédente</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Vers le bas</translation>
+    </message>
+    <message>
+        <source>Moves the picture to the next page</source>
+        <translation>Déplace l&apos;image à la page suivante</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Takes the picture off this list; its file stays</source>
+        <translation>Retire l&apos;image de cette liste ; son fichier reste</translation>
+    </message>
+    <message>
+        <source>Folder of the book</source>
+        <translation>Dossier du livre</translation>
+    </message>
+    <message>
+        <source>No picture, so it is not in the list: %1</source>
+        <translation>Pas une image, donc absent de la liste : %1</translation>
+    </message>
+    <message>
+        <source>The book %1 has this number, too: they cannot both be on the pen.</source>
+        <translation>Le livre %1 a aussi ce numéro : les deux ne peuvent pas être ensemble sur le stylo.</translation>
+    </message>
+    <message>
+        <source>Making the book...</source>
+        <translation>Création du livre...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was made.</source>
+        <translation>Annulé : rien n&apos;a été créé.</translation>
     </message>
 </context>
 <context>
@@ -2043,6 +2233,73 @@
     <message>
         <source>%1 of %2 s are kept</source>
         <translation>%1 s sur %2 sont gardées</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Welcome</source>
+        <translation>Bienvenue</translation>
+    </message>
+    <message>
+        <source>Begin with a book</source>
+        <translation>Commencer un livre</translation>
+    </message>
+    <message>
+        <source>New book...</source>
+        <translation>Nouveau livre...</translation>
+    </message>
+    <message>
+        <source>Asks for name, number, folder and pictures, and makes the book</source>
+        <translation>Demande le nom, le numéro, le dossier et les images, puis crée le livre</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>Ouvrir...</translation>
+    </message>
+    <message>
+        <source>Opens a project that is there</source>
+        <translation>Ouvre un projet qui existe</translation>
+    </message>
+    <message>
+        <source>Sample books, to try out and to change</source>
+        <translation>Livres d&apos;exemple, à essayer et à modifier</translation>
+    </message>
+    <message>
+        <source>Last books</source>
+        <translation>Derniers livres</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>Retirer de la liste</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Takes the book off this list; its files stay (Delete)</source>
+        <translation>Retire le livre de cette liste ; ses fichiers restent (Suppr)</translation>
+    </message>
+    <message>
+        <source>Copies this sample book to a folder of yours, and opens the copy</source>
+        <translation>Copie ce livre d&apos;exemple dans un de vos dossiers et ouvre la copie</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 dans %2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 (not there any more)</source>
+        <translation>%1 dans %2 (n&apos;est plus là)</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more. It can be removed from the list.</source>
+        <translation>%1 n&apos;est plus là. Le livre peut être retiré de la liste.</translation>
+    </message>
+    <message>
+        <source>%1 is off the list.</source>
+        <translation>%1 n&apos;est plus dans la liste.</translation>
     </message>
 </context>
 <context>

@@ -1028,6 +1028,30 @@
         <translation>Afbeelding importeren</translation>
     </message>
     <message>
+        <source>Pictures of the pages</source>
+        <translation>Afbeeldingen van de pagina&apos;s</translation>
+    </message>
+    <message>
+        <source>New book...</source>
+        <translation>Nieuw boek...</translation>
+    </message>
+    <message>
+        <source>Makes a book with the pictures of its pages (%1)</source>
+        <translation>Maakt een boek met de afbeeldingen van zijn pagina&apos;s (%1)</translation>
+    </message>
+    <message>
+        <source>Folder for your copy of the book</source>
+        <translation>Map voor uw kopie van het boek</translation>
+    </message>
+    <message>
+        <source>The book could not be copied to %1.</source>
+        <translation>Het boek kon niet naar %1 worden gekopieerd.</translation>
+    </message>
+    <message>
+        <source>Your copy of the book lies in %1.</source>
+        <translation>Uw kopie van het boek staat in %1.</translation>
+    </message>
+    <message>
         <source>Picture files (*.png; *.jpg; *.jpeg; *.bmp)</source>
         <translation>Afbeeldingsbestanden (*.png; *.jpg; *.jpeg; *.bmp)</translation>
     </message>
@@ -1146,6 +1170,172 @@
     <message>
         <source>Delete removes page %1, and Undo brings it back.</source>
         <translation>Delete verwijdert pagina %1, en Ongedaan maken brengt haar terug.</translation>
+    </message>
+</context>
+<context>
+    <name>NewBook</name>
+    <message>
+        <source>The book needs a name.</source>
+        <translation>Het boek heeft een naam nodig.</translation>
+    </message>
+    <message>
+        <source>The number must be from %1 to %2.</source>
+        <translation>Het nummer moet tussen %1 en %2 liggen.</translation>
+    </message>
+    <message>
+        <source>The book needs a folder.</source>
+        <translation>Het boek heeft een map nodig.</translation>
+    </message>
+    <message>
+        <source>The folder needs its whole path.</source>
+        <translation>De map moet met het hele pad worden opgegeven.</translation>
+    </message>
+    <message>
+        <source>%1 is a file and no folder.</source>
+        <translation>%1 is een bestand en geen map.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into the folder %1.</source>
+        <translation>In de map %1 kan niets worden geschreven.</translation>
+    </message>
+    <message>
+        <source>There is a book already: %1. Take another name or folder.</source>
+        <translation>Er is al een boek: %1. Neem een andere naam of map.</translation>
+    </message>
+    <message>
+        <source>The book %1 in this folder has the number %2, too. Take another number or folder.</source>
+        <translation>Ook het boek %1 in deze map heeft het nummer %2. Neem een ander nummer of een andere map.</translation>
+    </message>
+    <message>
+        <source>In this folder is %1, which belongs to a book of the number %2. Take another number or folder.</source>
+        <translation>In deze map staat %1, dat bij een boek met het nummer %2 hoort. Neem een ander nummer of een andere map.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>De map %1 kan niet worden gemaakt.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 kan niet worden geschreven.</translation>
+    </message>
+    <message>
+        <source>%1 is no picture, or cannot be read.</source>
+        <translation>%1 is geen afbeelding of kan niet worden gelezen.</translation>
+    </message>
+    <message>
+        <source>The picture %1 cannot be kept in the folder of the book.</source>
+        <translation>De afbeelding %1 kan niet in de map van het boek worden bewaard.</translation>
+    </message>
+</context>
+<context>
+    <name>NewBookDialog</name>
+    <message>
+        <source>New book</source>
+        <translation>Nieuw boek</translation>
+    </message>
+    <message>
+        <source>Make the book</source>
+        <translation>Boek maken</translation>
+    </message>
+    <message>
+        <source>The name of the book, which the pen says when it is switched on</source>
+        <translation>De naam van het boek, die de pen bij het inschakelen zegt</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Naam:</translation>
+    </message>
+    <message>
+        <source>%1 to %2, another one for each book on the pen; 900 to 950 are for books of your own</source>
+        <translation>%1 tot %2, een ander voor elk boek op de pen; 900 tot 950 zijn voor eigen boeken</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>Nummer:</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Map:</translation>
+    </message>
+    <message>
+        <source>Pictures of the pages, which can also come later:</source>
+        <translation>Afbeeldingen van de pagina&apos;s, die ook later kunnen komen:</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Map</translation>
+    </message>
+    <message>
+        <source>Where all files of the book lie; it is made when it is not there</source>
+        <translation>Waar alle bestanden van het boek staan; wordt gemaakt als hij er niet is</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Kiezen...</translation>
+    </message>
+    <message>
+        <source>Chooses a folder that is there</source>
+        <translation>Kiest een map die er al is</translation>
+    </message>
+    <message>
+        <source>Pictures of the pages</source>
+        <translation>Afbeeldingen van de pagina&apos;s</translation>
+    </message>
+    <message>
+        <source>Add...</source>
+        <translation>Toevoegen...</translation>
+    </message>
+    <message>
+        <source>Adds picture files, several at once</source>
+        <translation>Voegt afbeeldingsbestanden toe, meerdere tegelijk</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Omhoog</translation>
+    </message>
+    <message>
+        <source>Moves the picture to the page before</source>
+        <translation>Verplaatst de afbeelding naar de vorige pagina</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Omlaag</translation>
+    </message>
+    <message>
+        <source>Moves the picture to the next page</source>
+        <translation>Verplaatst de afbeelding naar de volgende pagina</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Takes the picture off this list; its file stays</source>
+        <translation>Haalt de afbeelding van deze lijst; het bestand blijft</translation>
+    </message>
+    <message>
+        <source>Folder of the book</source>
+        <translation>Map van het boek</translation>
+    </message>
+    <message>
+        <source>No picture, so it is not in the list: %1</source>
+        <translation>Geen afbeelding, dus niet in de lijst: %1</translation>
+    </message>
+    <message>
+        <source>The book %1 has this number, too: they cannot both be on the pen.</source>
+        <translation>Ook het boek %1 heeft dit nummer: ze kunnen niet allebei op de pen staan.</translation>
+    </message>
+    <message>
+        <source>Making the book...</source>
+        <translation>Het boek wordt gemaakt...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was made.</source>
+        <translation>Geannuleerd: er is niets gemaakt.</translation>
     </message>
 </context>
 <context>
@@ -2043,6 +2233,73 @@
     <message>
         <source>%1 of %2 s are kept</source>
         <translation>%1 van %2 s blijven</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Welcome</source>
+        <translation>Welkom</translation>
+    </message>
+    <message>
+        <source>Begin with a book</source>
+        <translation>Met een boek beginnen</translation>
+    </message>
+    <message>
+        <source>New book...</source>
+        <translation>Nieuw boek...</translation>
+    </message>
+    <message>
+        <source>Asks for name, number, folder and pictures, and makes the book</source>
+        <translation>Vraagt naar naam, nummer, map en afbeeldingen en maakt het boek</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>Openen...</translation>
+    </message>
+    <message>
+        <source>Opens a project that is there</source>
+        <translation>Opent een project dat er al is</translation>
+    </message>
+    <message>
+        <source>Sample books, to try out and to change</source>
+        <translation>Voorbeeldboeken om te proberen en te veranderen</translation>
+    </message>
+    <message>
+        <source>Last books</source>
+        <translation>Laatste boeken</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>Van de lijst halen</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Openen</translation>
+    </message>
+    <message>
+        <source>Takes the book off this list; its files stay (Delete)</source>
+        <translation>Haalt het boek van deze lijst; de bestanden blijven (Delete)</translation>
+    </message>
+    <message>
+        <source>Copies this sample book to a folder of yours, and opens the copy</source>
+        <translation>Kopieert dit voorbeeldboek naar een van uw mappen en opent de kopie</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 (not there any more)</source>
+        <translation>%1 in %2 (niet meer aanwezig)</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more. It can be removed from the list.</source>
+        <translation>%1 is er niet meer. Het boek kan van de lijst worden gehaald.</translation>
+    </message>
+    <message>
+        <source>%1 is off the list.</source>
+        <translation>%1 staat niet meer op de lijst.</translation>
     </message>
 </context>
 <context>

@@ -3,9 +3,13 @@
 #include "app/MainWindow.h"
 #include "app/ScreenFit.h"
 
+#include <QCollator>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLocale>
+
+#include <algorithm>
 
 static QString chosenFile(QFileDialog& dialog)
 {
@@ -49,6 +53,27 @@ QString askForPicture(QWidget* parent)
     QFileDialog dialog(parent, MainWindow::tr("Import Picture"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     setPictureFilter(dialog, MainWindow::tr("Picture files (*.png; *.jpg; *.jpeg; *.bmp)"));
+    return chosenFile(dialog);
+}
+
+QStringList askForPictures(QWidget* parent)
+{
+    QFileDialog dialog(parent, MainWindow::tr("Pictures of the pages"));
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    setPictureFilter(dialog, MainWindow::tr("Picture files (*.png; *.jpg; *.jpeg; *.bmp)"));
+    shrinkOntoScreen(dialog);
+    QStringList files = dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+    QCollator byNumbers(QLocale(QLocale::English));  // that of the locale "C" has no numbers
+    byNumbers.setNumericMode(true);
+    std::sort(files.begin(), files.end(), byNumbers);
+    return files;
+}
+
+QString askForFolder(QWidget* parent, const QString& title, const QString& beginIn)
+{
+    QFileDialog dialog(parent, title, beginIn);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
     return chosenFile(dialog);
 }
 

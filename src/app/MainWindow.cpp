@@ -90,6 +90,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), ui(new Ui::MainWi
     helpWithScript(*rename);
     prepareRecovery();
     prepareDocks();
+    prepareWelcome();
     prepareTrying();
     prepareSpeech();
     preparePrinting();
@@ -288,6 +289,7 @@ void MainWindow::keepSettingsIn(QSettings& settings)
 {
     findChild<CaretStatus*>()->keepSettingsIn(settings);
     docks->keepSettingsIn(settings);
+    recentBooks.keepIn(settings);
     printing->keepSettingsIn(settings);
     speechTab->keepSettingsIn(settings);
     keepQuickAnswersIn(settings);
@@ -384,6 +386,9 @@ void MainWindow::openProject(const QString& path)
     noteFiles();
     changedFileBar->follow();
     recovery->opened(file, opened);
+    if (opened) {
+        rememberBook();
+    }
     const QString name = QFileInfo(path).fileName();
     tell(opened ? tr("Opened: %1").arg(name) : tr("Not opened: %1").arg(name));
     if (foundMoved && project.movedPictures.empty()) {
@@ -464,6 +469,7 @@ bool MainWindow::saveProject(const std::string& path)
         changedFileBar->follow();
         numberBar->saved(project);
         recovery->saved(path);
+        rememberBook();
         takeFilesAlong();
         companions.wereRenamed(document.wentElsewhere());
     } else if (!document.problem().file.empty()) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/RecentBooks.h"
 #include "document/CompanionFiles.h"
 #include "document/Document.h"
 #include "document/SavedFile.h"
@@ -34,7 +35,9 @@ class RenameEverywhere;
 class SideDocks;
 class SpeechTab;
 class TryTab;
+class WelcomePage;
 struct RecoveryHead;
+struct SampleBook;
 
 // The one window. It owns the one document, which all its controls edit; form and project are kept
 // in step by ProjectDataWasChanged alone, and what an edit changes is shown by showChange. The
@@ -121,6 +124,17 @@ private:
     void addNotice(NoticeBar* bar);
     void makeRoomForNotice(bool visible);
     void takeNumber(int number);
+    // MainWindowBooks.cpp: the way to a book
+    void prepareWelcome();
+    // The welcome page is there while nothing else is.
+    void updateWelcome();
+    void rememberBook();
+    // Where a folder for another book is suggested.
+    QString folderOfBooks() const;
+    void makeNewBook();
+    // A copy of it, in a folder that the author chooses.
+    void openSample(const SampleBook& book);
+
     // MainWindowTrying.cpp: the tab on which the book is tried
     void prepareTrying();
     void showScriptLine(int line);
@@ -241,6 +255,7 @@ private:
     Oid::OidProject& project = document.projectRecord();
     CompanionFiles companions;
     SavedFile savedFile;
+    RecentBooks recentBooks;
     PickTool pickTool{document};
     // What is typed into a field without a pause is one step of the history.
     const Gesture typedName = document.newGesture();
@@ -259,5 +274,6 @@ private:
     PagesDock* pages = nullptr;
     TryTab* tryTab = nullptr;
     SpeechTab* speechTab = nullptr;
+    WelcomePage* welcome = nullptr;
     std::unique_ptr<Recovery> recovery;  // ends first: it reads the form
 };

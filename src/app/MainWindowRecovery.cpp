@@ -3,6 +3,7 @@
 
 #include "app/ChangedFileBar.h"
 #include "app/Recovery.h"
+#include "app/WelcomePage.h"
 #include "oid/OpenProject.h"
 #include "ui_MainWindow.h"
 
@@ -42,6 +43,7 @@ Oid::OidProject MainWindow::projectToSave() const
 void MainWindow::offerUnsavedWork()
 {
     recovery->begun();
+    welcome->setFocus();
 }
 
 bool MainWindow::restore(const QString& file, const RecoveryHead& head)

@@ -833,7 +833,7 @@ private slots:
         QCOMPARE(names.join(' '),
                  "actionUndo actionRedo | actionAddBox actionAddEllipse actionMagicArea | "
                  "actionZoomIn actionZoomOut actionZoomFit | actionDockPages actionDockAreas | "
-                 "actionManual");
+                 "actionNewBook | actionManual");
     }
 };
 

@@ -334,6 +334,11 @@ private slots:
                                               "txOidOfArea",
                                               "btEditPolyCode",
                                               "polyArea",
+                                              "btNewBook",
+                                              "btOpenBook",
+                                              "btSample_dictionary",
+                                              "btSample_farm",
+                                              "btSample_quiz",
                                               about,
                                               tabs};
         QTest::newRow("Script") << QStringList{tabs, "inlay"};
