@@ -101,10 +101,11 @@ QWidget* NewBookDialog::makeForm()
 
     number->setObjectName("txNewBookNumber");
     number->setRange(0, kMostTyped);
-    number->setToolTip(tr("%1 to %2, another one for each book on the pen; 900 to 950 are for books "
-                          "of your own")
-                           .arg(NewBook::kFirstNumber)
-                           .arg(NewBook::kLastNumber));
+    number->setToolTip(
+        tr("%1 to %2, another one for each book on the pen; 900 to 950 are for books "
+           "of your own")
+            .arg(NewBook::kFirstNumber)
+            .arg(NewBook::kLastNumber));
     connect(number, qOverload<int>(&QSpinBox::valueChanged), this, [this] {
         numberChosen = true;
         showState();
@@ -179,9 +180,8 @@ QPushButton* NewBookDialog::addButton(QVBoxLayout& column, const char* buttonNam
 {
     auto* const button = new QPushButton(text);
     button->setObjectName(buttonName);
-    button->setToolTip(keys.isEmpty()
-                           ? toolTip
-                           : toolTip + " (" + keys.toString(QKeySequence::NativeText) + ")");
+    button->setToolTip(
+        keys.isEmpty() ? toolTip : toolTip + " (" + keys.toString(QKeySequence::NativeText) + ")");
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, asked);
     column.addWidget(button);

@@ -11,8 +11,7 @@ void RecentBooks::keepIn(QSettings& kept)
 
 QStringList RecentBooks::files() const
 {
-    const QStringList all =
-        settings != nullptr ? settings->value(kKey).toStringList() : remembered;
+    const QStringList all = settings != nullptr ? settings->value(kKey).toStringList() : remembered;
     return all.mid(0, kMost);
 }
 

@@ -158,10 +158,10 @@ void WelcomePage::findSamples()
     samplesKnown = true;
     QWidget* before = beginning->findChild<QPushButton*>("btOpenBook");
     for (const SampleBook& book : sampleBooks(samplesFolder(), QLocale::system().uiLanguages())) {
-        auto* const sample = button(qPrintable("btSample_" + book.name),
-                                    QString(book.title).replace('&', "&&"),
-                                    tr("Copies this sample book to a folder of yours, and opens "
-                                       "the copy"));
+        auto* const sample =
+            button(qPrintable("btSample_" + book.name), QString(book.title).replace('&', "&&"),
+                   tr("Copies this sample book to a folder of yours, and opens "
+                      "the copy"));
         connect(sample, &QPushButton::clicked, this, [this, book] { emit sampleAsked(book); });
         samples->addWidget(sample);
         setTabOrder(before, sample);
@@ -254,7 +254,7 @@ void WelcomePage::resizeEvent(QResizeEvent* event)
 // Side by side where there is room for both.
 void WelcomePage::arrange()
 {
-    const int both = beginning->sizeHint().width() + last->sizeHint().width() +
-                     columns->spacing() + columns->contentsMargins().left() * 2;
+    const int both = beginning->sizeHint().width() + last->sizeHint().width() + columns->spacing() +
+                     columns->contentsMargins().left() * 2;
     columns->setDirection(both <= width() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }

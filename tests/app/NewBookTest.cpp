@@ -63,10 +63,7 @@ public:
         number.selectAll();
         QTest::keyClicks(&number, text);
     }
-    void click(const char* button)
-    {
-        QTest::mouseClick(&get<QPushButton>(button), Qt::LeftButton);
-    }
+    void click(const char* button) { QTest::mouseClick(&get<QPushButton>(button), Qt::LeftButton); }
     QPushButton& make()
     {
         return *dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
@@ -130,10 +127,7 @@ public:
         }
         chooseFileNext(files.join(' '));
     }
-    QString in(const char* name) const
-    {
-        return QDir::toNativeSeparators(path("books/") + name);
-    }
+    QString in(const char* name) const { return QDir::toNativeSeparators(path("books/") + name); }
 };
 
 }  // namespace
@@ -372,9 +366,8 @@ private slots:
             author.choosePictures({"cover.jpg", "letter.png"});
             asked.click("btNewBookAdd");
             QCOMPARE(asked.pages(), QStringList("cover.jpg"));
-            QCOMPARE(asked.problem(),
-                     "No picture, so it is not in the list: " +
-                         QDir::toNativeSeparators(author.path("letter.png")));
+            QCOMPARE(asked.problem(), "No picture, so it is not in the list: " +
+                                          QDir::toNativeSeparators(author.path("letter.png")));
             asked.close();
         });
     }
@@ -418,8 +411,8 @@ private slots:
             asked.type("txNewBookName", "Zoo");
             const SmallDisk disk(10);
             QTest::mouseClick(&asked.make(), Qt::LeftButton);
-            QVERIFY(asked.problem().startsWith(author.in("Zoo/Zoo.oidpro") +
-                                               " cannot be written."));
+            QVERIFY(
+                asked.problem().startsWith(author.in("Zoo/Zoo.oidpro") + " cannot be written."));
             QVERIFY(!QFileInfo::exists(author.in("Zoo")));
             asked.close();
         });
@@ -458,10 +451,9 @@ private slots:
     {
         Author author;
         author.newBook([&](Asked& asked) {
-            for (const char* const name :
-                 {"txNewBookName", "txNewBookNumber", "txNewBookFolder", "btNewBookFolder",
-                  "newBookPages", "btNewBookAdd", "btNewBookUp", "btNewBookDown",
-                  "btNewBookRemove"}) {
+            for (const char* const name : {"txNewBookName", "txNewBookNumber", "txNewBookFolder",
+                                           "btNewBookFolder", "newBookPages", "btNewBookAdd",
+                                           "btNewBookUp", "btNewBookDown", "btNewBookRemove"}) {
                 QWidget& control = asked.get<QWidget>(name);
                 QAccessibleInterface* const read = QAccessible::queryAccessibleInterface(&control);
                 QVERIFY2(!read->text(QAccessible::Name).isEmpty(), name);
@@ -496,8 +488,8 @@ private slots:
             QVERIFY(asked.dialog.height() <= 280 && asked.dialog.width() <= 512);
             const QRect inside = asked.dialog.rect();
             const auto seen = [&](const QWidget& control) {
-                return inside.contains(QRect(control.mapTo(&asked.dialog, QPoint()),
-                                             control.size()));
+                return inside.contains(
+                    QRect(control.mapTo(&asked.dialog, QPoint()), control.size()));
             };
             QVERIFY(seen(asked.make()));
             QVERIFY(seen(asked.get<QLabel>("lbNewBookProblem")));

@@ -168,9 +168,9 @@ private slots:
         author.dialogs.chooseFile(author.path(""));
         author.dialogs.press("OK");
         author.click("btSample_farm");
-        QCOMPARE(author.dialogs.seen().value(1),
-                 "Warning: The book could not be copied to " +
-                     QDir::toNativeSeparators(author.path("farm")) + ".");
+        QCOMPARE(author.dialogs.seen().value(1), "Warning: The book could not be copied to " +
+                                                     QDir::toNativeSeparators(author.path("farm")) +
+                                                     ".");
         QVERIFY(author.page().isVisible());
         QVERIFY(!QFileInfo::exists(author.path("farm")));
     }
@@ -298,11 +298,10 @@ private slots:
             QTest::keyClick(&author.window, Qt::Key_Tab);
             reached << QApplication::focusWidget()->objectName();
         }
-        reached.erase(std::remove_if(reached.begin(), reached.end(),
-                                     [](const QString& name) {
-                                         return name.startsWith("btSample_");
-                                     }),
-                      reached.end());
+        reached.erase(
+            std::remove_if(reached.begin(), reached.end(),
+                           [](const QString& name) { return name.startsWith("btSample_"); }),
+            reached.end());
         QCOMPARE(reached, QStringList({"btNewBook", "btOpenBook", "recentBooks", "btRemoveRecent",
                                        "btAbout"}));
         QAccessibleInterface* const read = QAccessible::queryAccessibleInterface(&author.list());

@@ -64,10 +64,7 @@ protected:
     }
 
     // With the path of the folder left out.
-    std::string problem() const
-    {
-        return book.problem().remove(inFolder("")).toStdString();
-    }
+    std::string problem() const { return book.problem().remove(inFolder("")).toStdString(); }
 
     std::string listing(const std::string& name = "zoo") const
     {
@@ -262,8 +259,7 @@ TEST_F(NewBooks, LeaveNothingBehindOnAFullDisk)
     book.pictures = QStringList{picture("a.png"), picture("b.png", {900, 700})};
     const SmallDisk disk(100000);
     EXPECT_EQ(madeProblem().substr(0, madeProblem().find('\n')),
-              "The picture " + folder.file("b.png") +
-                  " cannot be kept in the folder of the book.");
+              "The picture " + folder.file("b.png") + " cannot be kept in the folder of the book.");
     EXPECT_EQ(listing(), "notes.txt");
 }
 

@@ -11,8 +11,10 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTabWidget>
@@ -40,11 +42,12 @@ public:
         const fs::path source(projectFile.toStdString());
         fs::copy(source.parent_path(), book.path(), fs::copy_options::recursive);
         project = QString::fromStdString(book.file(source.filename().string()));
-        open();
     }
 
     bool takeAll()
     {
+        takeBeginning();
+        open();
         takeTabs();
         takeAreas();
         takeProblems();
@@ -83,6 +86,51 @@ private:
         const QString file = pictures + "/" + name + ".png";
         allTaken =
             picture.toImage().convertToFormat(QImage::Format_Indexed8).save(file) && allTaken;
+    }
+
+    // An empty window, and what "New book..." asks there.
+    void takeBeginning()
+    {
+        window = std::make_unique<MainWindow>();
+        window->resize(kWindow);
+        window->show();
+        QTest::qWait(500);
+        take("window-welcome");
+        QTimer::singleShot(1000, window.get(), [this] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            if (dialog == nullptr) {
+                allTaken = false;
+                return;
+            }
+            fillNewBook(*dialog);
+            keep(dialog->grab(), "new-book");
+            dialog->close();
+        });
+        get<QAction>("actionNewBook").trigger();
+    }
+
+    void fillNewBook(QWidget& dialog)
+    {
+        const QString name = QFileInfo(project).completeBaseName();
+        const QString title = name.left(1).toUpper() + name.mid(1);
+        QTest::keyClicks(dialog.findChild<QLineEdit*>("txNewBookName"), title);
+        auto* const folder = dialog.findChild<QLineEdit*>("txNewBookFolder");
+        folder->selectAll();
+        QTest::keyClicks(folder, QDir::tempPath() + "/" + title);
+        QTimer::singleShot(500, &dialog, [this] {
+            QWidget* const question = QApplication::activeModalWidget();
+            auto* const files = question->findChild<QLineEdit*>("fileNameEdit");
+            QStringList pages;
+            for (const QString& page :
+                 QDir(QFileInfo(project).path()).entryList({"*-bkgnd*.jpg"})) {
+                pages << '"' + QFileInfo(project).path() + '/' + page + '"';
+            }
+            files->setText(pages.join(' '));
+            QTest::keyClick(files, Qt::Key_Return);
+        });
+        dialog.findChild<QPushButton*>("btNewBookAdd")->click();
+        allTaken = allTaken && dialog.findChild<QListWidget*>("newBookPages")->count() > 0;
+        QTest::qWait(200);
     }
 
     void takeTabs()
