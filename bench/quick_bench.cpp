@@ -19,7 +19,6 @@ namespace {
 
 constexpr double kLeastGain = 6;   // how many times fewer steps
 constexpr double kMostTime = 300;  // ms for as many steps as a game can have
-constexpr double kMostTimeOfSums = 1000;
 // Of the time that a step takes, from a small book to the largest: what does not fit into the
 // caches takes longer. Time that grows with the square of the steps would be ten times and more.
 constexpr double kMostGrowth = 2.5;
@@ -216,9 +215,8 @@ Book bookOfSums(size_t subs)
     return bookOf(book);
 }
 
-// Books from the smallest to the largest one, which takes so many ms at most.
-bool measureTimes(const char* what, const std::vector<std::function<Book()>>& books,
-                  double mostTime = kMostTime)
+// Books from the smallest to the largest one.
+bool measureTimes(const char* what, const std::vector<std::function<Book()>>& books)
 {
     std::printf("\n%s\n%12s %12s %16s %12s\n", what, "steps", "ms", "us for a step", "growth");
     double time = 0;
@@ -234,7 +232,7 @@ bool measureTimes(const char* what, const std::vector<std::function<Book()>>& bo
         std::printf("%12.0f %12.1f %16.2f %12.2f\n", steps, time, ofAStep, growth);
     }
     const bool isQuick =
-        isFine("ms for the largest book", time, "at most", mostTime, time <= mostTime);
+        isFine("ms for the largest book", time, "at most", kMostTime, time <= kMostTime);
     const bool isLinear = isFine("growth of the time for a step", growth, "at most", kMostGrowth,
                                  growth <= kMostGrowth);
     return isQuick && isLinear;
@@ -262,7 +260,7 @@ bool measureTime()
     const bool isFineForCases = measureTimes("one select of 10 to 2,600 cases", cases);
     const bool isFineForSubs = measureTimes("1 to 100 subs, a select of 20 cases in each", subs);
     const bool isFineForSums =
-        measureTimes("10 to 90 subs of 12 branches that only calculate", sums, kMostTimeOfSums);
+        measureTimes("10 to 90 subs of 12 branches that only calculate", sums);
     return isFineForPages && isFineForCases && isFineForSubs && isFineForSums;
 }
 

@@ -4,11 +4,16 @@
 
 namespace gme {
 
+void Registers::noteUse(const Register& reg)
+{
+    useOf(reg).inScripts = true;
+}
+
 void Registers::noteUseIn(const ScriptLine& line)
 {
     const auto noteOperand = [this](const Operand& operand) {
         if (operand.isRegister) {
-            noteInScripts(operand.reg);
+            noteUse(operand.reg);
         }
     };
     for (const Condition& condition : line.conditions) {
@@ -17,7 +22,7 @@ void Registers::noteUseIn(const ScriptLine& line)
     }
     for (const Command& command : line.commands) {
         if (command.hasTarget) {
-            noteInScripts(command.target);
+            noteUse(command.target);
         }
         noteOperand(command.value);
     }
@@ -32,11 +37,6 @@ void Registers::noteInitialValue(const InitialValue& initial)
 Registers::Use& Registers::useOf(const Register& reg)
 {
     return reg.name.empty() ? numbered[reg.number] : named[reg.name];
-}
-
-void Registers::noteInScripts(const Register& reg)
-{
-    useOf(reg).inScripts = true;
 }
 
 bool Registers::assignNumbers()

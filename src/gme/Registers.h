@@ -18,6 +18,7 @@ class Registers
 public:
     static constexpr uint32_t kMost = 65535;  // entries of the table, which counts them in 16 bits
 
+    void noteUse(const Register& reg);
     void noteUseIn(const ScriptLine& line);
     void noteInitialValue(const InitialValue& initial);
     // False when the table would be larger than kMost.
@@ -37,7 +38,6 @@ private:
     };
 
     Use& useOf(const Register& reg);
-    void noteInScripts(const Register& reg);
     size_t tableSize() const;
 
     std::map<std::string, Use> named;

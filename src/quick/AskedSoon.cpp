@@ -8,15 +8,13 @@ namespace {
 
 constexpr size_t kFewNodes = 32;
 
-using Registers = std::set<Register>;
-
-bool isIn(const Registers& registers, const Operand& operand)
+bool isIn(const RegisterSet& registers, const Operand& operand)
 {
-    return operand.isRegister && registers.count(operand.value) != 0;
+    return operand.isRegister && registers.has(operand.value);
 }
 
 // The registers that depend on these when the commands have been carried out.
-Registers behind(const Commands& commands, Registers registers)
+RegisterSet behind(const Commands& commands, RegisterSet registers)
 {
     for (const Command& command : commands) {
         if (isIn(registers, command.value)) {
@@ -32,10 +30,11 @@ Registers behind(const Commands& commands, Registers registers)
 
 bool isAskedSoon(const Graph& graph, size_t node, Register reg)
 {
-    std::vector<std::pair<size_t, Registers>> waiting = {{node, {reg}}};
+    std::vector<std::pair<size_t, RegisterSet>> waiting = {{node, RegisterSet()}};
+    waiting.front().second.insert(reg);
     std::set<size_t> seen = {node};
     for (size_t i = 0; i < waiting.size() && i < kFewNodes; ++i) {
-        const auto [place, registers] = waiting[i];
+        const auto [place, registers] = std::move(waiting[i]);
         for (const Line& line : graph.nodes[place].lines) {
             if (std::any_of(line.conditions.begin(), line.conditions.end(),
                             [&known = registers](const Condition& condition) {
@@ -43,7 +42,7 @@ bool isAskedSoon(const Graph& graph, size_t node, Register reg)
                             })) {
                 return true;
             }
-            Registers next = behind(line.commands, registers);
+            RegisterSet next = behind(line.commands, registers);
             if (line.jump && !next.empty() && seen.insert(*line.jump).second) {
                 waiting.emplace_back(*line.jump, std::move(next));
             }

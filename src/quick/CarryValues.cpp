@@ -11,22 +11,21 @@ namespace {
 constexpr uint16_t kSmall = 0x4000;  // a summand up to this size is written as one
 
 // A number, else a register that is no temporary and holds the same.
-Operand simplest(const Operand& operand, const Values& values,
-                 const std::set<Register>& temporaries)
+Operand simplest(const Operand& operand, const Values& values, const RegisterFlags& temporaries)
 {
     const Value value = values.of(operand);
     if (value.isNumber()) {
         return {false, static_cast<uint16_t>(value.number)};
     }
-    if (temporaries.count(operand.value) == 0) {
+    if (!temporaries.has(operand.value)) {
         return operand;
     }
-    if (value.kind == Value::Kind::sum && temporaries.count(value.base) == 0 &&
+    if (value.kind == Value::Kind::sum && !temporaries.has(value.base) &&
         values.of(value.base) == value) {
         return {true, value.base};
     }
     for (const auto& [reg, known] : values.known()) {
-        if (known == value && temporaries.count(reg) == 0) {
+        if (known == value && !temporaries.has(reg)) {
             return {true, reg};
         }
     }
@@ -50,7 +49,7 @@ Command simplifiedAssignment(const Command& command, const Values& values)
 }  // namespace
 
 std::optional<Command> carried(Command command, const Values& values,
-                               const std::set<Register>& temporaries)
+                               const RegisterFlags& temporaries)
 {
     command.value = simplest(command.value, values, temporaries);
     if (command.mayFail()) {
@@ -67,7 +66,7 @@ std::optional<Command> carried(Command command, const Values& values,
     return command.opcode == gme::Opcode::kAssign ? simplifiedAssignment(command, values) : command;
 }
 
-void carryValues(Commands& commands, Values values, const std::set<Register>& temporaries)
+void carryValues(Commands& commands, Values values, const RegisterFlags& temporaries)
 {
     Commands result;
     for (const Command& command : commands) {

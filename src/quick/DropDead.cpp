@@ -13,14 +13,18 @@ namespace {
 void passBackwards(const Command& command, Live& live)
 {
     const auto read = [&live](Register reg) {
-        live.alive.insert(reg);
-        live.overwritten.erase(reg);
+        if (live.temporaries.has(reg)) {
+            live.alive.insert(reg);
+        } else {
+            live.overwritten.erase(reg);
+        }
     };
-    if (command.opcode == gme::Opcode::kAssign) {
-        live.alive.erase(command.target);
-        live.overwritten.insert(command.target);
-    } else {
+    if (command.opcode != gme::Opcode::kAssign) {
         read(command.target);
+    } else if (live.temporaries.has(command.target)) {
+        live.alive.erase(command.target);
+    } else {
+        live.overwritten.insert(command.target);
     }
     if (command.value.isRegister) {
         read(command.value.value);
@@ -29,18 +33,16 @@ void passBackwards(const Command& command, Live& live)
 
 }  // namespace
 
-void dropDead(Commands& commands, const Live& behind)
+void dropDead(Commands& commands, Live behind)
 {
-    Live live = behind;
-    Commands kept;
+    auto kept = commands.rbegin();
     for (auto command = commands.rbegin(); command != commands.rend(); ++command) {
-        if (live.has(command->target) || command->mayFail()) {
-            passBackwards(*command, live);
-            kept.push_back(*command);
+        if (behind.has(command->target) || command->mayFail()) {
+            passBackwards(*command, behind);
+            *kept++ = *command;
         }
     }
-    std::reverse(kept.begin(), kept.end());
-    commands = std::move(kept);
+    commands.erase(commands.begin(), kept.base());
 }
 
 void dropDead(Graph& graph)
@@ -48,8 +50,8 @@ void dropDead(Graph& graph)
     const std::vector<RegisterSet> live = liveAtBeginning(graph);
     for (Node& node : graph.nodes) {
         for (Line& line : node.lines) {
-            const RegisterSet behind = line.jump ? live[*line.jump] : RegisterSet();
-            dropDead(line.commands, {graph.temporaries, behind});
+            dropDead(line.commands,
+                     {graph.temporaries, line.jump ? live[*line.jump] : RegisterSet()});
         }
     }
 }
@@ -59,7 +61,7 @@ RegisterSet liveBefore(const Commands& commands, Live behind)
     for (auto command = commands.rbegin(); command != commands.rend(); ++command) {
         passBackwards(*command, behind);
     }
-    return behind.alive;
+    return std::move(behind.alive);
 }
 
 }  // namespace quick

@@ -62,8 +62,13 @@ Choice chooseLine(const Node& step, const Values& values)
 }
 
 // Whether a division of the line may be by zero.
-bool mayFail(const Line& line, Values values)
+bool mayFail(const Line& line, const Values& before)
 {
+    if (std::none_of(line.commands.begin(), line.commands.end(),
+                     [](const Command& command) { return command.mayFail(); })) {
+        return false;
+    }
+    Values values = before;
     for (Command command : line.commands) {
         const Value value = values.of(command.value);
         if (value.isNumber()) {
@@ -154,7 +159,7 @@ private:
     bool makeRoom(Path& path, const Line& line) const;
     Live liveBehind(const std::optional<size_t>& step) const;
     void append(const Commands& more, Commands& commands, Values& values) const;
-    void reduce(Commands& commands, const Live& behind) const;
+    void reduce(Commands& commands, Live behind) const;
 
     const Graph& plain;
     const Passes allPasses;
@@ -207,6 +212,7 @@ size_t StepFollower::nodeFor(const Place& place)
         const bool staysReachable = node.isKept || (node.isEntry && place.numbers.empty());
         made.nodes.push_back(
             {staysReachable ? node.code : uint16_t{0}, staysReachable, node.isKept, node.area, {}});
+        made.nodes.back().named = node.named;
         ++variants[place.step];
         if (!node.isKept) {
             waiting.emplace_back(entry->second, place);
@@ -270,7 +276,7 @@ Path StepFollower::beginningOf(const Place& place) const
     }
     path.now = path.start;
     for (const auto& [reg, number] : place.numbers) {
-        if (plain.temporaries.count(reg) != 0) {
+        if (plain.temporaries.has(reg)) {
             path.commands.push_back({reg, gme::Opcode::kAssign, {false, number}});
         } else {
             path.start.setNumber(reg, number);
@@ -326,7 +332,8 @@ void StepFollower::go(Path path)
         if (choice.open != nullptr) {
             const std::optional<Condition> condition = path.now.onEntry(*choice.open);
             if (!condition || !mayBranch(path)) {
-                end(path, beforeCopies(path), std::nullopt);
+                const size_t next = beforeCopies(path);
+                end(std::move(path), next, std::nullopt);
                 return;
             }
             branch(path, *condition);
@@ -334,7 +341,7 @@ void StepFollower::go(Path path)
                 return;
             }
         } else if (choice.line == nullptr) {
-            end(path, std::nullopt, std::nullopt);
+            end(std::move(path), std::nullopt, std::nullopt);
             return;
         } else {
             if (!makeRoom(path, *choice.line)) {
@@ -345,7 +352,8 @@ void StepFollower::go(Path path)
             }
         }
     }
-    end(path, path.step, std::nullopt);
+    const size_t next = path.step;
+    end(std::move(path), next, std::nullopt);
 }
 
 // Where the line of a path ends that cannot answer what its next step asks: before the steps that
@@ -370,7 +378,7 @@ bool StepFollower::onlyCopies(size_t step, size_t next) const
                        [&](Register reg) { return live[next].has(reg); }) &&
            std::all_of(lines.front().commands.begin(), lines.front().commands.end(),
                        [&](const Command& command) {
-                           return plain.temporaries.count(command.target) != 0 &&
+                           return plain.temporaries.has(command.target) &&
                                   !live[step].has(command.target) && !command.mayFail();
                        });
 }
@@ -435,7 +443,7 @@ bool StepFollower::makeRoom(Path& path, const Line& line) const
             behind.alive.erase(reg);
         }
     }
-    reduce(commands, behind);
+    reduce(commands, std::move(behind));
     return commands.size() + others <= kMostCommands;
 }
 
@@ -449,7 +457,7 @@ bool StepFollower::take(Path& path, const Line& line)
     path.hasJumped = path.hasJumped || line.jump;
     append(line.commands, path.commands, path.now);
     if (isLast) {
-        end(path, line.jump, line.sound);
+        end(std::move(path), line.jump, line.sound);
         return false;
     }
     path.step = *line.jump;
@@ -493,7 +501,7 @@ void StepFollower::write(const Draft& draft)
     if (passes.carriesValues) {
         carryValues(line.commands, draft.path.start, plain.temporaries);
     }
-    reduce(line.commands, behind);
+    reduce(line.commands, std::move(behind));
     made.nodes[current].lines.push_back(std::move(line));
 }
 
@@ -526,8 +534,7 @@ Place StepFollower::placeOf(const Path& path, size_t step)
 
 bool StepFollower::isWorthKnowing(size_t step, Register reg)
 {
-    if (plain.temporaries.count(reg) != 0 || plain.constants.count(reg) != 0 ||
-        plain.unsteady.count(reg) != 0) {
+    if (plain.temporaries.has(reg) || plain.constants.has(reg) || plain.unsteady.has(reg)) {
         return false;
     }
     const auto [entry, isNew] = asked.emplace(std::make_pair(step, reg), false);
@@ -548,7 +555,7 @@ void StepFollower::append(const Commands& more, Commands& commands, Values& valu
 {
     for (const Command& command : more) {
         const bool beginsAnew =
-            command.opcode == gme::Opcode::kAssign && plain.temporaries.count(command.target) != 0;
+            command.opcode == gme::Opcode::kAssign && plain.temporaries.has(command.target);
         const auto simple = passes.carriesValues && !beginsAnew
                                 ? carried(command, values, plain.temporaries)
                                 : std::make_optional(command);
@@ -559,7 +566,7 @@ void StepFollower::append(const Commands& more, Commands& commands, Values& valu
     }
 }
 
-void StepFollower::reduce(Commands& commands, const Live& behind) const
+void StepFollower::reduce(Commands& commands, Live behind) const
 {
     if (passes.writesDirectly) {
         writeDirectly(commands, behind);
@@ -568,7 +575,7 @@ void StepFollower::reduce(Commands& commands, const Live& behind) const
         sumAdditions(commands);
     }
     if (passes.dropsDead) {
-        dropDead(commands, behind);
+        dropDead(commands, std::move(behind));
     }
 }
 

@@ -47,7 +47,7 @@ private:
     Line lineOf(const gme::ScriptLine& line);
     Operand operandOf(const gme::Operand& operand);
     uint16_t targetOf(const gme::Command& jump) const;
-    void noteKept(const gme::ScriptLine& line);
+    void noteKept(Node& node, const gme::ScriptLine& line);
     void chooseTemporaries();
     void chooseAreas();
 
@@ -56,8 +56,8 @@ private:
     Graph graph;
     std::unordered_map<std::string, Register> numbers;  // of the registers with names
     std::set<Register> changed;
-    std::set<Register> taken;    // on from one command to another
-    std::set<Register> noticed;  // by more than the steps of one script
+    std::set<Register> taken;  // on from one command to another
+    RegisterFlags noticed;     // by more than the steps of one script
     bool hasOpenJump = false;
 };
 
@@ -153,7 +153,7 @@ void GraphReader::readScript(Node& node, const std::vector<gme::ScriptLine>& lin
                                [this](const gme::ScriptLine& line) { return canBeFollowed(line); });
     for (const gme::ScriptLine& line : lines) {
         if (node.isKept) {
-            noteKept(line);
+            noteKept(node, line);
         } else {
             node.lines.push_back(lineOf(line));
         }
@@ -220,12 +220,16 @@ uint16_t GraphReader::targetOf(const gme::Command& jump) const
     return jump.jumpTarget.empty() ? jump.value.constant : game.codes.scripts.at(jump.jumpTarget);
 }
 
-void GraphReader::noteKept(const gme::ScriptLine& line)
+void GraphReader::noteKept(Node& node, const gme::ScriptLine& line)
 {
+    const auto note = [&](const gme::Register& reg) {
+        node.named.insert(numberOf(reg));
+        noticed.insert(numberOf(reg));
+    };
     for (const gme::Condition& condition : line.conditions) {
         for (const gme::Operand& operand : {condition.left, condition.right}) {
             if (operand.isRegister) {
-                noticed.insert(numberOf(operand.reg));
+                note(operand.reg);
             }
         }
     }
@@ -234,10 +238,10 @@ void GraphReader::noteKept(const gme::ScriptLine& line)
             graph.nodes[graph.byCode.at(targetOf(command))].isEntry = true;
         }
         if (command.hasTarget) {
-            noticed.insert(numberOf(command.target));
+            note(command.target);
         }
         if (command.value.isRegister) {
-            noticed.insert(numberOf(command.value.reg));
+            note(command.value.reg);
         }
     }
 }
@@ -251,14 +255,14 @@ void GraphReader::chooseTemporaries()
         const std::string& name = graph.registers[i].name;
         const bool isTemporary =
             isNumbered(name, "_stk") || (isNumbered(name, "ifexp") && taken.count(reg) == 0);
-        if (isTemporary && noticed.count(reg) == 0) {
+        if (isTemporary && !noticed.has(reg)) {
             graph.temporaries.insert(reg);
         }
         if (changed.count(reg) == 0 && !name.empty() && name[0] == '_') {
             graph.constants.insert(reg);
         }
     }
-    graph.unsteady = noticed;
+    graph.unsteady = std::move(noticed);
 }
 
 // A step is part of the first entry that leads to it without another entry in between.
@@ -293,14 +297,16 @@ public:
 
 private:
     bool assignCodes();
-    gme::ScriptLine lineOf(const Line& line) const;
-    gme::Operand operandOf(const Operand& operand) const;
+    gme::ScriptLine lineOf(const Line& line);
+    gme::Operand operandOf(const Operand& operand);
+    const gme::Register& registerOf(Register number);
     gme::Registers registersOf(const std::map<uint16_t, std::vector<gme::ScriptLine>>& scripts);
 
     const Graph& graph;
     gme::Game& game;
     std::set<uint16_t> free;      // codes
     std::vector<uint16_t> codes;  // of the nodes
+    RegisterFlags used;
 };
 
 GraphWriter::GraphWriter(const Graph& source, const std::set<uint16_t>& inner, gme::Game& target)
@@ -316,6 +322,9 @@ bool GraphWriter::write()
     for (size_t i = 0; i < graph.nodes.size(); ++i) {
         const Node& node = graph.nodes[i];
         if (node.isKept) {
+            for (const Register reg : node.named) {
+                used.insert(reg);
+            }
             const auto script = game.scripts.find(node.code);
             if (script != game.scripts.end()) {
                 scripts.insert(*script);
@@ -348,7 +357,7 @@ bool GraphWriter::assignCodes()
 }
 
 // The jump comes first, as the compiler writes it.
-gme::ScriptLine GraphWriter::lineOf(const Line& line) const
+gme::ScriptLine GraphWriter::lineOf(const Line& line)
 {
     gme::ScriptLine result;
     for (const Condition& condition : line.conditions) {
@@ -364,7 +373,7 @@ gme::ScriptLine GraphWriter::lineOf(const Line& line) const
         gme::Command& calculation = result.commands.emplace_back();
         calculation.opcode = command.opcode;
         calculation.hasTarget = true;
-        calculation.target = graph.registers[command.target];
+        calculation.target = registerOf(command.target);
         calculation.value = operandOf(command.value);
     }
     if (line.sound) {
@@ -376,16 +385,22 @@ gme::ScriptLine GraphWriter::lineOf(const Line& line) const
     return result;
 }
 
-gme::Operand GraphWriter::operandOf(const Operand& operand) const
+gme::Operand GraphWriter::operandOf(const Operand& operand)
 {
     gme::Operand result;
     result.isRegister = operand.isRegister;
     if (operand.isRegister) {
-        result.reg = graph.registers[operand.value];
+        result.reg = registerOf(operand.value);
     } else {
         result.constant = operand.value;
     }
     return result;
+}
+
+const gme::Register& GraphWriter::registerOf(Register number)
+{
+    used.insert(number);
+    return graph.registers[number];
 }
 
 // "T($a, $b)" takes the number of the register $b for the largest number.
@@ -411,33 +426,10 @@ GraphWriter::registersOf(const std::map<uint16_t, std::vector<gme::ScriptLine>>&
         return game.registers;
     }
     gme::Registers registers;
-    std::set<std::pair<std::string, uint16_t>> used;
-    const auto note = [&used](const gme::Register& reg) { used.emplace(reg.name, reg.number); };
-    for (const auto& script : scripts) {
-        for (const gme::ScriptLine& line : script.second) {
-            registers.noteUseIn(line);
-            for (const gme::Condition& condition : line.conditions) {
-                for (const gme::Operand& operand : {condition.left, condition.right}) {
-                    if (operand.isRegister) {
-                        note(operand.reg);
-                    }
-                }
-            }
-            for (const gme::Command& command : line.commands) {
-                if (command.hasTarget) {
-                    note(command.target);
-                }
-                if (command.value.isRegister) {
-                    note(command.value.reg);
-                }
-            }
-        }
-    }
     for (size_t i = 0; i < graph.registers.size(); ++i) {
-        const gme::Register& reg = graph.registers[i];
-        const bool isThere = !reg.name.empty() || reg.number == i;
-        if (isThere && used.count({reg.name, reg.number}) != 0) {
-            registers.noteInitialValue({reg, graph.firstValues[i]});
+        if (used.has(static_cast<Register>(i))) {
+            registers.noteUse(graph.registers[i]);
+            registers.noteInitialValue({graph.registers[i], graph.firstValues[i]});
         }
     }
     registers.assignNumbers();

@@ -18,6 +18,27 @@ constexpr size_t kMostCommands = 8;  // that the pen runs in a line
 using Register = uint16_t;  // its number in the game that was there first
 using RegisterSet = SortedSet<Register>;
 
+// A set of many registers that is asked often.
+class RegisterFlags
+{
+public:
+    bool has(Register reg) const { return reg < flags.size() && flags[reg]; }
+    void insert(Register reg)
+    {
+        flags.resize(std::max(flags.size(), size_t{reg} + 1));
+        flags[reg] = true;
+    }
+    void erase(Register reg)
+    {
+        if (has(reg)) {
+            flags[reg] = false;
+        }
+    }
+
+private:
+    std::vector<bool> flags;
+};
+
 struct Operand
 {
     bool isRegister = false;
@@ -85,6 +106,7 @@ struct Node
     bool isKept = false;   // its lines stay as they are in the game
     size_t area = 0;       // the entry of the plain game whose script it is part of
     std::vector<Line> lines;
+    RegisterSet named = {};  // in the lines of a kept one
 };
 
 struct Graph
@@ -93,10 +115,10 @@ struct Graph
     std::map<uint16_t, size_t> byCode;     // the nodes that have had a code from the start
     std::vector<gme::Register> registers;  // by number; what they are called
     std::vector<uint16_t> firstValues;     // of the registers
-    std::set<Register> constants;          // the compiler's own that nothing changes
-    std::set<Register> temporaries;        // nobody but the scripts themselves reads them
+    RegisterSet constants;                 // the compiler's own that nothing changes
+    RegisterFlags temporaries;             // nobody but the scripts themselves reads them
     std::optional<size_t> rest;            // a node without commands, to end what is going on
-    std::set<Register> unsteady;           // they may change between a line and where it jumps to
+    RegisterFlags unsteady;                // they may change between a line and where it jumps to
 };
 
 // What the line takes of a game file.

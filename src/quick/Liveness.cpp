@@ -14,7 +14,7 @@ RegisterSet liveAt(const Node& node, const LiveSets& sets, const Graph& graph)
 {
     RegisterSet result;
     const auto read = [&](const Operand& operand) {
-        if (operand.isRegister && graph.temporaries.count(operand.value) != 0) {
+        if (operand.isRegister && graph.temporaries.has(operand.value)) {
             result.insert(operand.value);
         }
     };
@@ -23,9 +23,10 @@ RegisterSet liveAt(const Node& node, const LiveSets& sets, const Graph& graph)
             read(condition.left);
             read(condition.right);
         }
-        const RegisterSet behind = line.jump ? sets[*line.jump] : RegisterSet();
-        for (const Register reg : liveBefore(line.commands, {graph.temporaries, behind})) {
-            read({true, reg});
+        const RegisterSet live = liveBefore(
+            line.commands, {graph.temporaries, line.jump ? sets[*line.jump] : RegisterSet()});
+        for (const Register reg : live) {
+            result.insert(reg);
         }
     }
     return result;
@@ -47,13 +48,21 @@ std::vector<RegisterSet> liveAtBeginning(const Graph& graph)
         }
     }
     LiveSets sets(graph.nodes.size());
+    std::vector<bool> isWaiting(graph.nodes.size(), true);
     while (!waiting.empty()) {
         const size_t node = waiting.front();
         waiting.pop_front();
+        isWaiting[node] = false;
         RegisterSet live = liveAt(graph.nodes[node], sets, graph);
-        if (live != sets[node]) {
-            sets[node] = std::move(live);
-            waiting.insert(waiting.end(), jumpers[node].begin(), jumpers[node].end());
+        if (live == sets[node]) {
+            continue;
+        }
+        sets[node] = std::move(live);
+        for (const size_t jumper : jumpers[node]) {
+            if (!isWaiting[jumper]) {
+                isWaiting[jumper] = true;
+                waiting.push_back(jumper);
+            }
         }
     }
     return sets;

@@ -36,13 +36,15 @@ Graph changed(const Graph& plain, const Passes& passes, const std::set<size_t>& 
 }
 
 // Temporaries that are read before anything was put into them: what the last tap left there counts.
-std::set<Register> readAtOnce(const Graph& graph)
+RegisterSet readAtOnce(const Graph& graph)
 {
     const std::vector<RegisterSet> live = liveAtBeginning(graph);
-    std::set<Register> result;
+    RegisterSet result;
     for (size_t i = 0; i < graph.nodes.size(); ++i) {
         if (graph.nodes[i].isEntry) {
-            result.insert(live[i].begin(), live[i].end());
+            for (const Register reg : live[i]) {
+                result.insert(reg);
+            }
         }
     }
     return result;
@@ -76,7 +78,7 @@ using Areas = std::set<size_t>;
 Graph optimised(Graph& plain, const Passes& passes, const Areas& sparing)
 {
     Graph graph = changed(plain, passes, sparing);
-    for (std::set<Register> kept = readAtOnce(graph); !kept.empty(); kept = readAtOnce(graph)) {
+    for (RegisterSet kept = readAtOnce(graph); !kept.empty(); kept = readAtOnce(graph)) {
         for (const Register reg : kept) {
             plain.temporaries.erase(reg);
         }
@@ -148,10 +150,10 @@ gme::Game optimise(const gme::Game& game, const std::set<uint16_t>& inner, const
         return game;
     }
     const uint64_t most = passes.staysSmall ? gme::layOut(game).size : UINT64_MAX;
+    gme::Game result = game;  // its kept scripts stay in each attempt
     Areas sparing;
     for (int attempt = 1; attempt <= kAttempts; ++attempt) {
         const Graph graph = optimised(*plain, passes, sparing);
-        gme::Game result = game;
         const bool hasCodes = putGraph(graph, inner, result);
         if (hasCodes && gme::layOut(result).size <= most) {
             return result;

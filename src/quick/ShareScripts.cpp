@@ -9,14 +9,26 @@ namespace quick {
 
 namespace {
 
+// Numbers as bytes are written and compared sooner than as digits.
+void write(std::string& text, size_t number)
+{
+    constexpr size_t kByte = 0x100;
+    for (int i = 0; i < 3; ++i) {
+        text += static_cast<char>(number % kByte);
+        number /= kByte;
+    }
+}
+
 void write(std::string& text, const Operand& operand)
 {
-    text += (operand.isRegister ? "$" : "") + std::to_string(operand.value) + " ";
+    text += operand.isRegister ? '$' : ' ';
+    write(text, operand.value);
 }
 
 std::string textOf(const Condition& condition)
 {
-    std::string text = std::to_string(condition.comparison) + ",";
+    std::string text;
+    write(text, condition.comparison);
     write(text, condition.left);
     write(text, condition.right);
     return text;
@@ -113,10 +125,12 @@ void ScriptSharer::joinLines(std::vector<Line>& lines) const
 // Where the first of two lines runs, the second one would.
 bool ScriptSharer::isCovered(const Line& first, const Line& second) const
 {
+    if (first.commands.size() != second.commands.size() || actionsOf(first) != actionsOf(second)) {
+        return false;
+    }
     const std::vector<std::string> ofFirst = conditionsOf(first);
     const std::vector<std::string> ofSecond = conditionsOf(second);
-    return std::includes(ofFirst.begin(), ofFirst.end(), ofSecond.begin(), ofSecond.end()) &&
-           actionsOf(first) == actionsOf(second);
+    return std::includes(ofFirst.begin(), ofFirst.end(), ofSecond.begin(), ofSecond.end());
 }
 
 std::string ScriptSharer::textOfNode(const Node& node) const
@@ -124,7 +138,7 @@ std::string ScriptSharer::textOfNode(const Node& node) const
     std::string text;
     for (const Line& line : node.lines) {
         for (const Condition& condition : line.conditions) {
-            text += textOf(condition) + "?";
+            text += "?" + textOf(condition);
         }
         text += actionsOf(line) + ";";
     }
@@ -137,18 +151,24 @@ std::string ScriptSharer::actionsOf(const Line& line) const
 {
     std::string text;
     for (const Command& command : line.commands) {
-        text += std::to_string(command.target) + "," + std::to_string(command.opcode) + ",";
+        text += '=';
+        write(text, command.target);
+        write(text, command.opcode);
         write(text, command.value);
     }
     if (line.sound) {
-        text += "P" + std::to_string(line.sound->opcode) + "," + std::to_string(line.sound->value);
+        text += 'P';
+        write(text, line.sound->opcode);
+        write(text, line.sound->value);
         for (const std::string& name : line.sound->playList) {
-            text += "/" + name;
+            write(text, name.size());
+            text += name;
         }
     }
     if (line.jump) {
         const bool isDone = states[*line.jump] == State::isDone;
-        text += "J" + std::to_string(isDone ? same[*line.jump] : *line.jump);
+        text += 'J';
+        write(text, isDone ? same[*line.jump] : *line.jump);
     }
     return text;
 }

@@ -68,7 +68,6 @@ public:
         }
     }
     bool operator==(const SortedSet& other) const { return elements == other.elements; }
-    bool operator!=(const SortedSet& other) const { return elements != other.elements; }
 
 private:
     std::vector<T> elements;
