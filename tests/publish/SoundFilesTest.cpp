@@ -110,8 +110,8 @@ TEST_F(SoundFiles, EveryTextIsSpokenAndConverted)
     say("say_eve_Hi", "eve", "Hi");
     say("say_max_Gr_n", "max", "Grün, \\o/ \"so\" 100% 'sure'");
     EXPECT_EQ(create(), SpeechOutcome::complete);
-    const std::string eve = folder.path() + "/900-audio/say_eve_Hi";
-    const std::string max = folder.path() + "/900-audio/say_max_Gr_n";
+    const std::string eve = audio("say_eve_Hi");
+    const std::string max = audio("say_max_Gr_n");
     EXPECT_THAT(runner.commands,
                 ElementsAre(commandWords("Text2Speech.exe -q -v en -a 30 -g f -f \"" + eve +
                                          ".wav\" -t \"Hi\""),

@@ -352,7 +352,9 @@ TEST_F(StandInTest, FfmpegGetsTheFileAndSaysWhatItWritesTo)
 {
     EXPECT_EQ(adoptedWith("exit 1\n").done, Done::failed);
     const std::string calls = ffmpeg.calls();
-    EXPECT_NE(calls.find("-i\nfile:" + folder.file("moo.amr") + "\n"), std::string::npos) << calls;
+    EXPECT_NE(nativePath(calls).find("-i\nfile:" + folder.file("moo.amr") + "\n"),
+              std::string::npos)
+        << calls;
 }
 
 TEST_F(StandInTest, WithoutFfmpegThatIsTold)

@@ -206,8 +206,8 @@ TEST_F(OtherEngine, LanguagesThatTheFileDoesNotNameAreSpokenByEspeak)
 
 TEST_F(OtherEngine, TheFileBesideTheProgramCountsWhereTheUserHasNone)
 {
-    const std::string copy = tools.file("Text2Speech");
-    fs::copy_file(kProgram, copy);
+    const std::string copy = tools.file(programFile("Text2Speech"));
+    fs::copy_file(programFile(kProgram), copy);
     writeFile(tools.file("engines.ini"), "[en]\ncommand = beside\n[de]\ncommand = beside\n");
     set("[en]\ncommand = users\n");
     const std::string home = std::string(kUserSettings) + "=" + settings.path();
