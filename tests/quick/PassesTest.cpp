@@ -1,5 +1,7 @@
 // What each pass makes of the script lines that it is for.
+#include "pen/Pen.h"
 #include "quick/Quick.h"
+#include "tests/quick/Compiled.h"
 #include "tests/quick/GameText.h"
 
 #include <algorithm>
@@ -592,6 +594,58 @@ TEST(TapsThatPlayNothing, EndASoundAndWhatComesBehindItWithAJump)
               "hen: J(2) P(a)\n"
               "1:\n"
               "2: $c:=1\n");
+}
+
+namespace {
+
+// Whether the welcome, a sound and its replay go on when a script is tapped that only calculates.
+std::string goingOnBehindTap(const gme::Game& game, uint16_t tapped, uint16_t hen)
+{
+    pen::PenListener nobody;
+    pen::Pen pen(pen::gameForPen(game), {}, nobody);
+    const auto tap = [&](uint16_t code) {
+        pen.tap(code);
+        while (pen.step()) {}
+        return pen.isSounding() ? " goes on" : " ends";
+    };
+    pen.start();
+    std::string text = std::string("welcome") + tap(tapped);
+    tap(hen);
+    text += std::string(", sound") + tap(tapped);
+    tap(hen);
+    pen.soundEnded();
+    tap(game.codes.replay);
+    return text + ", replay" + tap(tapped);
+}
+
+}  // namespace
+
+// Why there is a second, empty step: the games side by side, and the quick one without it.
+TEST(TapsThatPlayNothing, WithoutTheEmptyStepWouldBeHeardDifferently)
+{
+    const Compiled book = compiled("product-id: 900\n"
+                                   "welcome: hello\n"
+                                   "scripts:\n"
+                                   "  cow:\n"
+                                   "  - J(asm1) $a := 1\n"
+                                   "  asm1:\n"
+                                   "  - $b := 2\n"
+                                   "  hen:\n"
+                                   "  - P(cluck)\n");
+    const uint16_t cow = book.game.codes.scripts.at("cow");
+    const uint16_t hen = book.game.codes.scripts.at("hen");
+    Passes passes;
+    passes.staysSmall = false;
+    const gme::Game quickGame = quick::optimise(book.game, book.inner, passes);
+    gme::Game withoutEmptyStep = quickGame;
+    std::vector<gme::Command>& commands = withoutEmptyStep.scripts.at(cow).front().commands;
+    ASSERT_EQ(commands.front().opcode, gme::Opcode::kJump);
+    commands.erase(commands.begin());
+
+    EXPECT_EQ(goingOnBehindTap(book.game, cow, hen), "welcome ends, sound ends, replay ends");
+    EXPECT_EQ(goingOnBehindTap(quickGame, cow, hen), "welcome ends, sound ends, replay ends");
+    EXPECT_EQ(goingOnBehindTap(withoutEmptyStep, cow, hen),
+              "welcome goes on, sound goes on, replay goes on");
 }
 
 // A tap on the pig does not end what is to come.
