@@ -63,7 +63,7 @@ QStringList askForPictures(QWidget* parent)
     setPictureFilter(dialog, MainWindow::tr("Picture files (*.png; *.jpg; *.jpeg; *.bmp)"));
     shrinkOntoScreen(dialog);
     QStringList files = dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
-    QCollator byNumbers(QLocale(QLocale::English));  // that of the locale "C" has no numbers
+    QCollator byNumbers{QLocale(QLocale::English)};  // that of the locale "C" has no numbers
     byNumbers.setNumericMode(true);
     std::sort(files.begin(), files.end(), byNumbers);
     return files;

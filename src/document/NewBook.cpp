@@ -189,7 +189,7 @@ QString NewBook::makeFiles(const Progress& progress) const
                                    : tr("%1 cannot be written.").arg(shown(projectFile())) + '\n' +
                                          cause(Platform::lastFileError());
     };
-    const QString unsaved = save();
+    QString unsaved = save();
     if (!unsaved.isEmpty()) {
         return unsaved;
     }
