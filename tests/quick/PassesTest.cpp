@@ -17,7 +17,7 @@ quick::Passes none()
 }
 
 // A pass with those that make the lines it works on.
-std::string with(std::vector<bool quick::Passes::*> passes, const std::string& scripts)
+std::string with(const std::vector<bool quick::Passes::*>& passes, const std::string& scripts)
 {
     quick::Passes chosen = none();
     for (bool quick::Passes::*const pass : passes) {
