@@ -349,12 +349,21 @@ bool SpeechIndex::save()
         return false;
     }
     now = State::good;
+    const bool isEmpty = entries.empty() && speech.empty() && numbers.empty();
+    changed = !(isEmpty ? removeFile() : writeFile());
+    return !changed;
+}
+
+bool SpeechIndex::removeFile() const
+{
+    const QString file = text(path());
+    return QFile::remove(file) || !QFileInfo::exists(file);
+}
+
+bool SpeechIndex::writeFile() const
+{
     Platform::FileReplacement file(path());
     const std::string bytes = asText();
-    if (file.file() == nullptr ||
-        fwrite(bytes.data(), 1, bytes.size(), file.file()) != bytes.size() || !file.commit()) {
-        return false;
-    }
-    changed = false;
-    return true;
+    return file.file() != nullptr &&
+           fwrite(bytes.data(), 1, bytes.size(), file.file()) == bytes.size() && file.commit();
 }

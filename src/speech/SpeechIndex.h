@@ -69,7 +69,8 @@ public:
     // True when something is noted that is not saved.
     bool isChanged() const { return changed; }
     // Writes the index, whole or not at all; a damaged one is kept beside it under another name. A
-    // folder that is not there is not made. False when it cannot be written.
+    // folder that is not there is not made. Where nothing is noted no file stays. False when it
+    // cannot be written.
     bool save();
 
 private:
@@ -88,6 +89,8 @@ private:
     bool readNumbers(const QJsonObject& sheet);
     void takeNumbersOver(const SheetNumbers& others);
     bool keepDamagedFile();
+    bool removeFile() const;
+    bool writeFile() const;
     std::string asText() const;
 
     std::string folder;  // native

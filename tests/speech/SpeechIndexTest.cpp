@@ -230,6 +230,7 @@ TEST_F(Index, OneThatCannotBeOpenedIsEmptyAndTold)
 TEST_F(Index, InAFolderThatIsNotThereCannotBeSaved)
 {
     SpeechIndex index(folder.file("nowhere"));
+    index.expectSpeech("moo");
     EXPECT_FALSE(index.save());
 }
 
@@ -276,6 +277,21 @@ TEST_F(Index, ForgetsASpeechFileThatIsGone)
     EXPECT_TRUE(index.remember("maeh", utterance("Mäh")));
     EXPECT_FALSE(index.isSpeechOurs("moo"));
     EXPECT_FALSE(index.isSpeechOurs("maeh"));
+}
+
+TEST_F(Index, LeavesNoFileWhereNothingIsNoted)
+{
+    speak();
+    SpeechIndex index(folder.path());
+    index.forget("moo");
+    EXPECT_TRUE(index.save());
+    EXPECT_FALSE(fs::exists(indexFile));
+    EXPECT_FALSE(index.isChanged());
+
+    index.expectSpeech("moo");
+    index.rememberSpeech("moo");  // none was written
+    EXPECT_TRUE(index.save());
+    EXPECT_FALSE(fs::exists(indexFile));
 }
 
 TEST_F(Index, KeepsTheNumbersOfSheets)
