@@ -4,7 +4,9 @@
 
 XDisplay::XDisplay(const QString& size)
 {
-    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", size + "x24"});
+    // Without -noreset the server begins anew when its last client goes, and a program that
+    // connects just then may wait for ever.
+    server.start("Xvfb", {"-displayfd", "1", "-noreset", "-screen", "0", size + "x24"});
     constexpr int kPatience = 60000;  // milliseconds, for a machine that is busy with other things
     if (!server.waitForReadyRead(kPatience)) {
         throw std::runtime_error("Xvfb did not start");
