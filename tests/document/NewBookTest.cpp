@@ -230,19 +230,6 @@ TEST_F(NewBooks, CannotLieBelowAFile)
     EXPECT_EQ(madeProblem(), book.problem().toStdString());
 }
 
-TEST_F(NewBooks, CannotLieWhereNothingCanBeWritten)
-{
-    fs::create_directory(folder.file("closed"));
-    fs::permissions(folder.file("closed"), fs::perms::owner_read | fs::perms::owner_exec);
-    book.folder = inFolder("closed/zoo");
-    if (QFileInfo(inFolder("closed")).isWritable()) {
-        GTEST_SKIP() << "this user may write everywhere";
-    }
-    EXPECT_EQ(problem(), "Nothing can be written into the folder closed.");
-    EXPECT_EQ(madeProblem(), book.problem().toStdString());
-    fs::permissions(folder.file("closed"), fs::perms::owner_all);
-}
-
 TEST_F(NewBooks, LeaveNothingBehindWhenAPictureIsNone)
 {
     writeFile(folder.file("letter.png"), "Dear reader");

@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include "document/Document.h"
+#include "document/NewBook.h"
 #include "document/UnsavedWork.h"
 #include "oid/OpenProject.h"
 #include "programs/TerminalRunner.h"
@@ -256,6 +257,28 @@ TEST_P(Writers, FollowALinkAndLeaveItThere)
     EXPECT_TRUE(write());
     EXPECT_TRUE(fs::is_symlink(folder.file(file())));
     EXPECT_NE(readFile(target), "");
+}
+
+TEST(NewBooks, CannotLieWhereNothingCanBeWritten)
+{
+    const TemporaryFolder folder;
+    allow(folder.path(), fs::perms(0755));
+    fs::create_directory(folder.file("closed"));
+    allow(folder.file("closed"), fs::perms(0555));
+    NewBook book;
+    book.name = "Zoo";
+    book.number = 917;
+    book.folder = QString::fromStdString(folder.file("closed/zoo"));
+    const QString expected = "Nothing can be written into the folder " +
+                             QString::fromStdString(folder.file("closed")) + ".";
+    {
+        const OrdinaryUser user;
+        EXPECT_EQ(book.problem(), expected);
+        const NewBook::Outcome outcome = book.make([](int /*pages*/) { return true; });
+        EXPECT_FALSE(outcome.made);
+        EXPECT_EQ(outcome.problem, expected);
+    }
+    EXPECT_TRUE(fs::is_empty(folder.file("closed")));
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, Writers,
