@@ -1036,8 +1036,8 @@
         <translation>Neues Buch...</translation>
     </message>
     <message>
-        <source>Makes a book with the pictures of its pages (%1)</source>
-        <translation>Legt ein Buch mit den Bildern seiner Seiten an (%1)</translation>
+        <source>Makes a book with the pictures of its pages</source>
+        <translation>Legt ein Buch mit den Bildern seiner Seiten an</translation>
     </message>
     <message>
         <source>Folder for your copy of the book</source>

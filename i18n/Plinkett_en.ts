@@ -1036,8 +1036,8 @@
         <translation>New book...</translation>
     </message>
     <message>
-        <source>Makes a book with the pictures of its pages (%1)</source>
-        <translation>Makes a book with the pictures of its pages (%1)</translation>
+        <source>Makes a book with the pictures of its pages</source>
+        <translation>Makes a book with the pictures of its pages</translation>
     </message>
     <message>
         <source>Folder for your copy of the book</source>

@@ -1036,8 +1036,8 @@
         <translation>Nouveau livre...</translation>
     </message>
     <message>
-        <source>Makes a book with the pictures of its pages (%1)</source>
-        <translation>Crée un livre avec les images de ses pages (%1)</translation>
+        <source>Makes a book with the pictures of its pages</source>
+        <translation>Crée un livre avec les images de ses pages</translation>
     </message>
     <message>
         <source>Folder for your copy of the book</source>

@@ -1036,8 +1036,8 @@
         <translation>Nieuw boek...</translation>
     </message>
     <message>
-        <source>Makes a book with the pictures of its pages (%1)</source>
-        <translation>Maakt een boek met de afbeeldingen van zijn pagina&apos;s (%1)</translation>
+        <source>Makes a book with the pictures of its pages</source>
+        <translation>Maakt een boek met de afbeeldingen van zijn pagina&apos;s</translation>
     </message>
     <message>
         <source>Folder for your copy of the book</source>

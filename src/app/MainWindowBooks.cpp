@@ -7,6 +7,7 @@
 #include "base/PlatformFiles.h"
 #include "document/BookNumbers.h"
 #include "page/PageScrollArea.h"
+#include "qtsync/ToolTip.h"
 #include "ui_MainWindow.h"
 
 #include <QAction>
@@ -19,8 +20,8 @@ void MainWindow::prepareWelcome()
     auto* const newBook = new QAction(QIcon(":/icons/new-book.svg"), tr("New book..."), this);
     newBook->setObjectName("actionNewBook");
     newBook->setShortcut(QKeySequence("Ctrl+N"));
-    newBook->setToolTip(tr("Makes a book with the pictures of its pages (%1)")
-                            .arg(newBook->shortcut().toString(QKeySequence::NativeText)));
+    newBook->setToolTip(tr("Makes a book with the pictures of its pages"));
+    tellKeyOf(*newBook);
     newBook->setPriority(QAction::LowPriority);  // its icon says it
     ui->editBar->addSeparator();
     ui->editBar->addAction(newBook);

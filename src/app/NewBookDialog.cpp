@@ -6,6 +6,7 @@
 #include "app/WorkProgress.h"
 #include "document/BookNumbers.h"
 #include "oid/PictureFile.h"
+#include "qtsync/ToolTip.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -180,8 +181,7 @@ QPushButton* NewBookDialog::addButton(QVBoxLayout& column, const char* buttonNam
 {
     auto* const button = new QPushButton(text);
     button->setObjectName(buttonName);
-    button->setToolTip(
-        keys.isEmpty() ? toolTip : toolTip + " (" + keys.toString(QKeySequence::NativeText) + ")");
+    button->setToolTip(keys.isEmpty() ? toolTip : withKey(toolTip, keys));
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, asked);
     column.addWidget(button);
